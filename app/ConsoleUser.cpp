@@ -1,0 +1,37 @@
+#include "app/ConsoleUser.h"
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace deckforge {
+
+Answer ConsoleUser::ShowMessage(const MessageBoxRequest& request)
+{
+    if (request.Style == BoxStyle::Critical)
+        m_toldOfFailure = true;
+    QString text = request.Text;
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    std::fprintf(stderr, "%s: %s\n", qUtf8Printable(request.Title), qUtf8Printable(text));
+    return request.Buttons == BoxButtons::Ok ? deckforge::Answer::Ok : deckforge::Answer::No;
+}
+
+std::optional<QString> ConsoleUser::AskOpenFile(const FileDialogRequest& /*request*/)
+{
+    return std::nullopt;
+}
+
+std::optional<QString> ConsoleUser::AskSaveFile(const FileDialogRequest& /*request*/)
+{
+    return std::nullopt;
+}
+
+void ConsoleUser::SetPointer(Pointer /*pointer*/) {}
+
+void ConsoleUser::ShowProgress(int done, int total)
+{
+    if (isatty(STDERR_FILENO) == 0)
+        return;
+    std::fprintf(stderr, "\r%d of %d%s", done, total, done == total ? "\n" : "");
+}
+
+} // namespace deckforge

@@ -1,0 +1,1 @@
+// The library holds resources alone; a library needs a source file to be one.

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/RunTimeError.h"
+
+namespace deckforge {
+
+/// Runs one step of a composition. One that fails is passed over without a word, and the next one runs.
+template <class Step>
+void Attempt(Step&& step)
+{
+    try {
+        step();
+    } catch (const RunTimeError&) {
+    }
+}
+
+} // namespace deckforge

@@ -1,0 +1,65 @@
+#include "compose/Box.h"
+
+#include "platform/Numbers.h"
+#include "platform/RunTimeError.h"
+#include "platform/Twips.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace deckforge {
+
+namespace {
+
+int CheckedExtent(int extent)
+{
+    if (extent < 0)
+        throw RunTimeError(ErrorNumber::InvalidPropertyValue);
+    return extent;
+}
+
+int WithinScreen(double pixels)
+{
+    constexpr double least = std::numeric_limits<int16>::min();
+    constexpr double most = std::numeric_limits<int16>::max();
+    return ToInt16(std::clamp(pixels, least, most));
+}
+
+} // namespace
+
+void Box::SetWidth(int width)
+{
+    Width = CheckedExtent(width);
+}
+
+void Box::SetHeight(int height)
+{
+    Height = CheckedExtent(height);
+}
+
+void Box::ShowAtNaturalSize(const Picture& picture, QSize withoutPicture)
+{
+    const QSize size = picture.IsEmpty() ? withoutPicture : picture.Size();
+    Width = size.width();
+    Height = size.height();
+    Surface->SetSize(size);
+    Surface->SetPicture(picture);
+}
+
+void Box::MoveToTwips(double left, double top)
+{
+    Left = PixelsFromTwipsX(left);
+    Top = PixelsFromTwipsY(top);
+}
+
+int PixelsFromTwipsX(double twips)
+{
+    return WithinScreen(twips / TwipsPerPixelX);
+}
+
+int PixelsFromTwipsY(double twips)
+{
+    return WithinScreen(twips / TwipsPerPixelY);
+}
+
+} // namespace deckforge

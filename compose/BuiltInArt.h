@@ -1,0 +1,28 @@
+#pragma once
+
+#include "imaging/Picture.h"
+
+#include <QHash>
+#include <QSize>
+
+namespace deckforge {
+
+/// The art that comes with the program: vector drawings, rendered at the scale of the surfaces when first
+/// shown.
+class BuiltInArt {
+public:
+    explicit BuiltInArt(int scale);
+
+    /// The back of row index + 1 of the table of card backs, 150 x 254. Error 9 outside 0 to 26.
+    [[nodiscard]] Picture imgCB(int index);
+    /// The back that a card shows before it has one of its own, 150 x 254.
+    [[nodiscard]] Picture picBack();
+
+private:
+    [[nodiscard]] Picture Rendered(const QString& name, QSize size);
+
+    int m_scale;
+    QHash<QString, Picture> m_rendered;
+};
+
+} // namespace deckforge

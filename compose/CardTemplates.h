@@ -1,0 +1,116 @@
+#pragma once
+
+#include "compose/Box.h"
+
+#include <array>
+
+namespace deckforge {
+
+// The templates of all kinds of card: the boxes that the preview shows and whose places the composers read.
+// The Show... routines lay them out from a record.
+
+/// A standard card: all boxes but the last two lie on picCard, picImage in picFrame.
+struct CardTemplate {
+    explicit CardTemplate(int scale);
+
+    Box picCard;
+    std::array<Box, 4> lblType; ///< upper line left and right, second line left and right
+    Box lblNumber;
+    Box lblTitle;
+    Box picFrame; ///< clip window of the picture
+    Box picImage;
+    Box lblPicSize; ///< the handle under the frame
+    Box lblBold;
+    Box lblInformation;
+    Box lblAutonumber;
+    Box lblWatermark;
+    Box picSymbol;
+    Box picArtistDest; ///< the artist's credit, turned on its side
+
+    Box picBack;
+};
+
+/// A large card: all boxes but the last lie on picCardLarge, picImageLarge in picFrameLarge.
+struct LargeCardTemplate {
+    explicit LargeCardTemplate(int scale);
+
+    Box picCardLarge;
+    Box picFrameLarge;
+    Box picImageLarge;
+    Box lblPicSizeLarge; ///< the handle at the frame's right side
+    Box lblTitleLarge;
+    Box lblInformationLarge;
+    Box lblAutonumberLarge;
+    Box lblWatermark;
+    Box picSymbolLarge;
+
+    Box picBackLarge;
+};
+
+/// A character card: the first group lies on picCharacter, the second on the panel picBackgroundChar.
+struct CharacterTemplate {
+    explicit CharacterTemplate(int scale);
+
+    Box picCharacter;
+    Box lblCharacter;
+    Box lblObjects;
+    Box lblFollowers;
+    std::array<Box, 4> picCharAttrDisp; ///< strength, craft, gold, lives
+
+    Box picBackgroundChar;
+    Box picFrameCharacter;
+    Box picImageCharacter;
+    Box lblPicSizeCharacter;
+    Box lblAlignmentTitle;
+    Box lblAlignment;
+    Box lblStartTitle;
+    Box lblStart;
+    Box lblSpecialTitle;
+    Box lblSpecial;
+    Box lblAutonumberCharacter;
+    Box lblWatermark;
+    Box picSymbolCharacter;
+
+    Box picCharacterBack;
+};
+
+/// The stand-up piece of a character. Its cut line is CutLine.
+struct PlayingPieceTemplate {
+    explicit PlayingPieceTemplate(int scale);
+
+    Box picPlayingPiece;
+    Box lblPlayingPieceName;
+    Box picPlayingPieceFrame;
+    Box picPlayingPieceImage;
+    Box lblWatermark;
+
+    static constexpr QPoint CutLineFrom = {8, 8};
+    static constexpr QPoint CutLineTo = {141, 246};
+};
+
+/// A user-designed back, drawn lying on its side.
+struct NewBackTemplate {
+    explicit NewBackTemplate(int scale);
+
+    Box picNewBack;
+    Box lblBackTitle; ///< as large as its text, centred on TitleCentre
+    Box lblWatermark;
+
+    static constexpr QPoint TitleCentre = {128, 76};
+};
+
+/// All of them, at the scale of the surfaces they are composed on.
+struct CardTemplates {
+    explicit CardTemplates(int scale);
+
+    CardTemplate Standard;
+    LargeCardTemplate Large;
+    CharacterTemplate Character;
+    PlayingPieceTemplate PlayingPiece;
+    NewBackTemplate NewBack;
+
+    /// The version marks of all kinds, in this order.
+    [[nodiscard]] std::array<Box*, 5> lblWatermark();
+};
+
+} // namespace deckforge

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "compose/CardTemplates.h"
+#include "core/Records.h"
+
+namespace deckforge {
+
+/// Dresses a work surface in a font of the scheme, colour included. A value that no font can have is passed
+/// over, and the surface keeps what it had of it.
+void UseFont(PictureBox& surface, const FontSpec& font);
+
+/// Dresses all labels of the previews from the thirteen fonts.
+void SetFont(CardTemplates& templates, const SetHeader& header);
+
+/// What an opened set dresses: the labels of the standard card, but lblType(2) and lblType(3), which keep
+/// their fonts until SetFont.
+void DressOpenedSet(CardTemplate& card, const SetHeader& header);
+
+} // namespace deckforge

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "compose/Workshop.h"
+
+namespace deckforge {
+
+/// Makes the set a new one and shows its card: at the start of the program, and for a new set.
+void InitForm(Workshop& workshop);
+
+/// Applies what holds for the whole set to the previews: symbol, fonts, numbers, and whether backs are made.
+/// A symbol that cannot be loaded is told to the user, and the set goes without.
+void ShowSet(Workshop& workshop);
+
+/// Brings the previews up to date with a set that has just been read, and makes the first cards current.
+void ShowOpenedSet(Workshop& workshop);
+
+} // namespace deckforge

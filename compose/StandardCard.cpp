@@ -1,0 +1,290 @@
+#include "compose/StandardCard.h"
+
+#include "compose/Attempt.h"
+#include "compose/CardPainting.h"
+#include "compose/FontScheme.h"
+#include "compose/TextFitting.h"
+#include "imaging/modRotatePic.h"
+#include "platform/Twips.h"
+
+namespace deckforge {
+
+namespace {
+
+constexpr int FrameLeft = 5;
+constexpr int FrameWidth = 139;
+constexpr QSize EmptyPictureSize = {139, 105};
+constexpr int InformationBottom = 241;
+
+// Preview
+
+void ShowTypeLines(CardTemplate& t, const Card& card)
+{
+    constexpr int oneLineWidth = 139;
+    constexpr int halfLineWidth = 57;
+    constexpr int numberTopBelowOneLine = 16;
+    constexpr int numberTop = 8;
+    t.lblType[0].SetWidth(card.OneLine ? oneLineWidth : halfLineWidth);
+    t.lblType[0].Align = card.OneLine ? Alignment::Centre : Alignment::Left;
+    for (std::size_t i = 1; i < t.lblType.size(); ++i)
+        t.lblType[i].Visible = !card.OneLine;
+    t.lblNumber.Top = card.OneLine ? numberTopBelowOneLine : numberTop;
+    t.lblType[0].Caption = card.OneLine ? card.Type + card.SubType : card.Type;
+    t.lblType[1].Caption = card.TypeReversed;
+    t.lblType[2].Caption = card.SubType;
+    t.lblType[3].Caption = card.SubTypeReversed;
+}
+
+void PlaceInformation(ShowRun& run, CardTemplate& t)
+{
+    t.lblInformation.Top = t.lblBold.Top + t.lblBold.Height;
+    run([&] { t.lblInformation.SetHeight(InformationBottom - t.lblInformation.Top); });
+}
+
+void ShowTexts(ShowRun& run, CardTemplate& t, const Card& card, int16 index)
+{
+    constexpr int emptyBoldHeight = 1;
+    constexpr int boldHeight = 12;
+    t.lblTitle.Caption = card.Title;
+    ShowTypeLines(t, card);
+    t.lblNumber.Caption = card.Number;
+    t.lblBold.Caption = card.BoldText;
+    t.lblBold.SetHeight(card.BoldText.isEmpty() ? emptyBoldHeight : boldHeight);
+    PlaceInformation(run, t);
+    t.lblInformation.Caption = card.Info;
+    t.lblAutonumber.Caption = QString::number(index);
+}
+
+void PlaceFrame(ShowRun& run, CardTemplate& t, const Card& card)
+{
+    constexpr int handleHeight = 3;
+    t.picFrame.Visible = card.ShowPicture;
+    t.picFrame.Border = card.Frame ? BorderStyle::Single : BorderStyle::None;
+    run([&] { t.picFrame.SetHeight(card.FrameHeight); });
+    t.lblPicSize.Top = t.picFrame.Top + t.picFrame.Height;
+    t.lblBold.Top = t.lblPicSize.Top + handleHeight;
+    PlaceInformation(run, t);
+}
+
+/// With Resize it is the frame that goes sideways, and it is as wide as the picture.
+void PlacePictureInFrame(CardTemplate& t, const Card& card)
+{
+    if (card.Resize) {
+        t.picFrame.Left = PixelsFromTwipsX(card.PictureLeft) + FrameLeft;
+        t.picFrame.SetWidth(t.picImage.Width);
+        t.picImage.MoveToTwips(0, card.PictureTop);
+    } else {
+        t.picFrame.Left = FrameLeft;
+        t.picFrame.SetWidth(FrameWidth);
+        t.picImage.MoveToTwips(card.PictureLeft, card.PictureTop);
+    }
+}
+
+void LoadCardPicture(ShowRun& run, Workshop& workshop, const Card& card)
+{
+    Box& picImage = workshop.Templates.Standard.picImage;
+    run.LoadsFor(picImage, card.Picture);
+    run([&] { picImage.ShowAtNaturalSize({}, EmptyPictureSize); });
+    run([&] { picImage.ShowAtNaturalSize(workshop.Pictures.LoadPicture(card.Picture), EmptyPictureSize); });
+    picImage.Surface->Refresh(); // what was told on it of a missing file goes with this
+}
+
+void LoadBackground(ShowRun& run, Workshop& workshop, const Card& card)
+{
+    Box& picCard = workshop.Templates.Standard.picCard;
+    run.LoadsFor(picCard, card.Background);
+    run([&] { picCard.Surface->SetPicture(workshop.Pictures.LoadPicture(card.Background)); });
+    picCard.Surface->SetBackColor(card.Color); // and so does this
+}
+
+void LoadBack(ShowRun& run, Workshop& workshop, Card& card)
+{
+    CardSet& set = workshop.Set;
+    if (card.CardBack > set.CardBackCount)
+        card.CardBack = 1;
+    const CardBack& back = set.CardBacks[card.CardBack];
+    Box& picBack = workshop.Templates.Standard.picBack;
+    run.LoadsFor(picBack, back.Picture);
+    run([&] {
+        picBack.Surface->SetPicture(back.BuiltIn ? workshop.Art.imgCB(card.CardBack - 1)
+                                                 : workshop.Pictures.LoadPicture(back.Picture));
+    });
+}
+
+/// Lays the card's own background pixels down on the strip for the credit, so that it has no bar of white.
+void ReadArtistBackground(Workshop& workshop, int16 index)
+{
+    const CardTemplate& t = workshop.Templates.Standard;
+    PictureBox& picArtist = workshop.Surfaces.picArtist;
+    const Card& card = workshop.Set.Cards[index];
+    picArtist.SetPicture({});
+    if (card.Background.isEmpty()) {
+        picArtist.SetBackColor(card.Color);
+        picArtist.Freeze();
+        return;
+    }
+    PictureBox strip(picArtist.Size().transposed(), picArtist.Scale());
+    strip.PaintPicture(t.picCard.Surface->Image(), 0, -t.picArtistDest.Top);
+    RotatePicture(strip, picArtist, Turn::CounterClockwise);
+}
+
+// Composition
+
+void PaintBackground(Workshop& workshop, const Card& card)
+{
+    const Box& picCard = workshop.Templates.Standard.picCard;
+    PictureBox& picACard = workshop.Surfaces.picACard;
+    picACard.SetSize({picCard.Width, picCard.Height});
+    picACard.SetPicture({});
+    Attempt([&] { picACard.SetPicture(workshop.Pictures.LoadPicture(card.Background)); });
+    picACard.SetBackColor(card.Color);
+}
+
+FramedPicture PictureOf(const CardTemplate& t, const Card& card)
+{
+    return {.Frame = t.picFrame,
+            .Image = t.picImage,
+            .Clip = {.Frame = {t.picFrame.Width, t.picFrame.Height},
+                     .Picture = {t.picImage.Width, t.picImage.Height},
+                     .PictureLeft = card.PictureLeft,
+                     .PictureTop = card.PictureTop,
+                     .FrameInset = card.Frame ? 1 : 0,
+                     .FrameHugsWidth = card.Resize},
+            .Origin = {0, 0},
+            .IsSet = !card.Picture.isEmpty()};
+}
+
+void PaintPictures(Workshop& workshop, const Card& card)
+{
+    const CardTemplate& t = workshop.Templates.Standard;
+    PictureBox& picACard = workshop.Surfaces.picACard;
+    if (card.ShowPicture)
+        Attempt([&] { PaintFramedPicture(picACard, workshop.Surfaces.picWhite, PictureOf(t, card)); });
+    if (card.Frame && card.ShowPicture)
+        OutlineFrame(picACard, t.picFrame, {0, 0});
+    if (!workshop.Set.Header.Symbol.isEmpty())
+        picACard.PaintPicture(t.picSymbol.Surface->Image(), t.picSymbol.Left, t.picSymbol.Top);
+    if (!card.Artist.isEmpty())
+        picACard.PaintPicture(t.picArtistDest.Surface->Image(), t.picArtistDest.Left, t.picArtistDest.Top);
+}
+
+/// The one text that is centred by the width it has in another font, that of the preview's own surface. Cards
+/// made so far have their titles there.
+void PrintTitle(Workshop& workshop, const Card& card)
+{
+    const CardTemplate& t = workshop.Templates.Standard;
+    PictureBox& picACard = workshop.Surfaces.picACard;
+    UseFont(picACard, workshop.Set.Header.FontTitle);
+    const double width = t.picCard.Surface->TextWidth(card.Title);
+    PrintAt(picACard, Centred(t.lblTitle, width), t.lblTitle.Top, card.Title);
+}
+
+void PrintType(Workshop& workshop, const Card& card)
+{
+    const auto& lblType = workshop.Templates.Standard.lblType;
+    PictureBox& picACard = workshop.Surfaces.picACard;
+    UseFont(picACard, workshop.Set.Header.FontType);
+    if (card.OneLine) {
+        // The composed line has the first part alone, and stands where its reversed twin would be centred.
+        const double width = picACard.TextWidth(card.TypeReversed);
+        PrintAt(picACard, Centred(lblType[0], width), lblType[0].Top, card.Type);
+        return;
+    }
+    const auto printRight = [&](const Box& box, const QString& text) {
+        PrintAt(picACard, RightAligned(box, picACard.TextWidth(text)), box.Top, text);
+    };
+    PrintAt(picACard, lblType[0].Left, lblType[0].Top, card.Type);
+    PrintAt(picACard, lblType[2].Left, lblType[2].Top, card.SubType);
+    printRight(lblType[1], card.TypeReversed);
+    printRight(lblType[3], card.SubTypeReversed);
+}
+
+void PrintTexts(Workshop& workshop, const Card& card, int16 index)
+{
+    const CardTemplate& t = workshop.Templates.Standard;
+    const SetHeader& header = workshop.Set.Header;
+    PictureBox& picACard = workshop.Surfaces.picACard;
+    PrintTitle(workshop, card);
+    PrintType(workshop, card);
+    UseFont(picACard, header.FontNumber);
+    PrintCentred(picACard, t.lblNumber, card.Number);
+    UseFont(picACard, header.FontBold);
+    PrintCentred(picACard, t.lblBold, card.BoldText);
+    UseFont(picACard, header.FontInformation);
+    WrapAndPrint(
+        picACard, card.Info,
+        {.Left = t.lblInformation.Left, .Top = t.lblInformation.Top, .Width = t.lblInformation.Width});
+    if (header.Autonumber) {
+        UseFont(picACard, header.FontAutonumber);
+        picACard.CurrentX = RightAligned(t.lblAutonumber, picACard.TextWidth(QString::number(index)));
+        picACard.CurrentY = t.lblAutonumber.Top;
+        picACard.PrintNumber(index);
+    }
+    PrintWatermark(picACard, t.lblWatermark);
+}
+
+/// Composes the card from the places of the boxes. Never fails: a step that does is passed over.
+void DrawCard(Workshop& workshop, int16 index)
+{
+    const Card& card = workshop.Set.Cards[index];
+    PaintBackground(workshop, card);
+    PaintPictures(workshop, card);
+    PrintTexts(workshop, card, index);
+    workshop.Surfaces.picACard.Freeze();
+}
+
+} // namespace
+
+bool ShowCard(Workshop& workshop, int16 index)
+{
+    try {
+        CardTemplate& t = workshop.Templates.Standard;
+        Card& card = workshop.Set.Cards[index];
+        ShowRun run;
+        ShowTexts(run, t, card, index);
+        PlaceFrame(run, t, card);
+        LoadCardPicture(run, workshop, card);
+        PlacePictureInFrame(t, card);
+        LoadBackground(run, workshop, card);
+        LoadBack(run, workshop, card);
+        DrawArtistCredit(workshop, card.Artist);
+        DrawCard(workshop, index);
+    } catch (const RunTimeError& error) {
+        TellCannotDraw(workshop.User, error);
+        return false;
+    }
+    return true;
+}
+
+void PlaceCardPicture(Workshop& workshop, int16 index)
+{
+    CardTemplate& t = workshop.Templates.Standard;
+    const Card& card = workshop.Set.Cards[index];
+    ShowRun run;
+    PlaceFrame(run, t, card);
+    t.picImage.Surface->Refresh();
+    PlacePictureInFrame(t, card);
+}
+
+void DrawArtistCredit(Workshop& workshop, const QString& artist)
+{
+    constexpr int cutAbove = -2; // the strip is five pixels high: this and the strip cut the text to its core
+    const CardSet& set = workshop.Set;
+    PictureBox& picArtist = workshop.Surfaces.picArtist;
+    Box& picArtistDest = workshop.Templates.Standard.picArtistDest;
+    picArtistDest.Visible = !set.Cards[set.CurrentCard].Artist.isEmpty();
+    if (!picArtistDest.Visible)
+        return;
+    ReadArtistBackground(workshop, set.CurrentCard);
+    picArtist.ForeColor = set.Header.ArtistColor;
+    PrintAt(picArtist, 0, cutAbove, artist);
+    picArtist.Freeze();
+    RotatePicture(picArtist, *picArtistDest.Surface, Turn::Clockwise);
+}
+
+QString FrameSizeText(const Box& frame)
+{
+    return QStringLiteral("%1W * %2H").arg(frame.Width).arg(frame.Height);
+}
+
+} // namespace deckforge

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "compose/Workshop.h"
+
+namespace deckforge {
+
+/// Lays the card out on the preview, and composes it. A card back past the table becomes row 1 in the record.
+///
+/// Missing files are told on the preview. Any other failure is told in a box and leaves the routine before
+/// the card is composed: the work surface keeps the card before it. Gives whether it came to its end.
+bool ShowCard(Workshop& workshop, int16 index);
+
+/// Lays out again only the frame and what follows it; the picture is not loaded anew.
+void PlaceCardPicture(Workshop& workshop, int16 index);
+
+/// Puts the credit of the current card on its side on the preview, over the card's own background; hides it
+/// when the current card has no artist.
+void DrawArtistCredit(Workshop& workshop, const QString& artist);
+
+/// "139W * 105H": the frame's size.
+[[nodiscard]] QString FrameSizeText(const Box& frame);
+
+} // namespace deckforge

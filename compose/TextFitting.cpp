@@ -1,0 +1,68 @@
+#include "compose/TextFitting.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace deckforge {
+
+namespace {
+
+constexpr QStringView BreakCharacters = u" .:,;-_!?()/&%<>+*@$[]{}";
+constexpr QStringView LineBreak = u"\r\n";
+
+} // namespace
+
+qsizetype BreakPosition(const PictureBox& surface, QStringView line, int width)
+{
+    qsizetype pos = 0;
+    qsizetype brk = 0;
+    while (pos < line.size()) {
+        ++pos;
+        // The break test comes first, so a break character that overflows stays on the line.
+        if (BreakCharacters.contains(line[pos - 1]))
+            brk = pos;
+        if (surface.TextWidth(line.first(pos)) >= width) {
+            --pos;
+            break;
+        }
+    }
+    if (pos == line.size() || brk == 0)
+        brk = pos;
+    return std::max<qsizetype>(brk, std::min<qsizetype>(1, line.size()));
+}
+
+void WrapAndPrint(PictureBox& surface, const QString& text, const TextColumn& column)
+{
+    int line = 0;
+    for (QStringView rest : QStringView(text).split(LineBreak)) {
+        if (rest.isEmpty())
+            ++line;
+        while (!rest.isEmpty()) {
+            const QString piece = rest.first(BreakPosition(surface, rest, column.Width)).toString();
+            const double centre = column.Width / 2.0 - surface.TextWidth(piece) / 2;
+            const double x = column.Left + (column.Form == LineForm::Centred ? centre : 0);
+            PrintAt(surface, x, column.Top + line * surface.TextHeight(piece), piece);
+            ++line;
+            rest = rest.sliced(piece.size());
+        }
+    }
+}
+
+double RightAligned(const Box& box, double textWidth)
+{
+    return box.Left + box.Width - textWidth;
+}
+
+double Centred(const Box& box, double textWidth)
+{
+    return std::floor(box.Width / 2.0 - textWidth / 2) + box.Left;
+}
+
+void PrintAt(PictureBox& surface, double x, double y, const QString& text)
+{
+    surface.CurrentX = x;
+    surface.CurrentY = y;
+    surface.Print(text);
+}
+
+} // namespace deckforge

@@ -1,0 +1,32 @@
+#include "compose/Workshop.h"
+
+namespace deckforge {
+
+namespace {
+
+constexpr QSize CardSurfaceSize = {152, 256};
+constexpr QSize ArtistStripSize = {180, 5};
+constexpr double ArtistPoints = 5.25;
+
+Picture WhitePicture()
+{
+    QImage white(16, 16, QImage::Format_RGB32);
+    white.fill(Qt::white);
+    return Picture(white);
+}
+
+} // namespace
+
+WorkSurfaces::WorkSurfaces(int scale)
+    : picACard(CardSurfaceSize, scale), picACardPP(CardSurfaceSize, scale), picWhite(WhitePicture()),
+      picArtist(ArtistStripSize, scale)
+{
+    picArtist.SetFontSize(ArtistPoints);
+}
+
+Workshop::Workshop(UserPort& user, int scale) : User(user), Templates(scale), Surfaces(scale), Art(scale)
+{
+    Templates.Standard.picBack.Surface->SetPicture(Art.picBack());
+}
+
+} // namespace deckforge

@@ -1,0 +1,153 @@
+#pragma once
+
+#include "platform/Types.h"
+
+#include <QString>
+
+namespace deckforge {
+
+// The records of a card set: plain data, copied whole. An empty text means that the field is not set.
+//
+// Picture fields hold the full path of a file as the user chose it. Offsets of pictures are in twips from the
+// top left corner of the frame and may be negative; extents of frames are in pixels of the card.
+
+/// One font of the font scheme; Size in points.
+struct FontSpec {
+    QString Name;
+    double Size = 0;
+    bool Bold = false;
+    bool Italic = false;
+    Colour Color = Black;
+
+    friend bool operator==(const FontSpec&, const FontSpec&) = default;
+};
+
+/// What holds for the whole set.
+struct SetHeader {
+    QString SetName;
+    QString FileName; ///< full path of the set file, as the save dialog gave it
+    QString SaveTo;   ///< folder of created images
+    bool Autonumber = false;
+    QString Symbol;
+    QString FilenamePrefix;
+    bool FileNr = false; ///< the card's number goes into file names
+    bool NoBack = false;
+    bool ReplaceSpace = false;
+    int16 SaveFormat = 0; ///< a row of SaveFormats(), from 0
+    FontSpec FontType;
+    FontSpec FontNumber;
+    FontSpec FontTitle;
+    FontSpec FontBold;
+    FontSpec FontInformation;
+    FontSpec FontAutonumber;
+    FontSpec FontTitleLarge;
+    FontSpec FontInformationLarge;
+    FontSpec FontCharacter;
+    FontSpec FontSpecialTitle;
+    FontSpec FontSpecial;
+    FontSpec FontAlignment;
+    FontSpec FontPlayingPiece;
+    Colour ArtistColor = Black;
+};
+
+/// One row of the table of card types.
+struct CardType {
+    QString Name;    ///< first part, on the upper type line
+    QString SubName; ///< second part
+    QString ReversedName;
+    QString ReversedSubName;
+    int16 Number = 0; ///< the number that a card of this type takes; -1 for none
+    bool BuiltIn = false;
+};
+
+/// One row of the table of card backs.
+struct CardBack {
+    QString Name;
+    QString Picture; ///< empty for built-in rows, whose art goes by the index of the row
+    bool BuiltIn = false;
+};
+
+/// A standard card.
+struct Card {
+    QString Title;
+    int16 Copies = 0;
+    QString Type;
+    QString SubType;
+    QString TypeReversed;
+    QString SubTypeReversed;
+    bool OneLine = false;
+    int16 TypeIndex = 0; ///< row of CardTypes; -1 for a type typed freely, 0 until one was chosen
+    QString Number;
+    bool ShowPicture = false;
+    QString Picture;
+    double PictureTop = 0;
+    double PictureLeft = 0;
+    int16 FrameHeight = 0;
+    bool Frame = false;
+    bool Resize = false; ///< the frame follows the picture's width and moves in its stead
+    QString Artist;
+    QString BoldText;
+    QString Info; ///< lines are parted by CR LF
+    QString Background;
+    int16 CardBack = 0; ///< row of CardBacks
+    Colour Color = Black;
+    QString Filename; ///< bare name of the image file last created, without folder and extension
+};
+
+/// A double-width card.
+struct LargeCard {
+    QString Title;
+    int16 Copies = 0;
+    bool ShowPicture = false;
+    QString Picture;
+    double PictureTop = 0;
+    double PictureLeft = 0;
+    int16 FrameHeight = 0; ///< the frame's width, whatever the name says
+    bool Frame = false;
+    bool Resize = false; ///< the frame follows the picture's height
+    QString Info;        ///< lines are parted by CR LF
+    QString Background;
+    QString CardBack; ///< picture file of the back
+    Colour Color = Black;
+    QString Filename;
+};
+
+/// A character card and its stand-up playing piece. The attributes are text, since they can read "---".
+struct Character {
+    QString Name;
+    QString StartArea;
+    QString Alignment;
+    QString Strength;
+    QString Craft;
+    QString Gold;
+    QString Lives;
+    QString SpecialAbilities; ///< lines are parted by CR LF
+    QString Picture;
+    double PictureTop = 0;
+    double PictureLeft = 0;
+    int16 FrameHeight = 0; ///< the frame's width, whatever the name says
+    bool ShowPicture = false;
+    bool Frame = false;
+    QString Background;
+    QString Filename;
+    int16 CardBack = 0; ///< a row of CharacterBackNames(), from 0
+    QString CardBackPicture;
+    QString PlayingPiece;
+    double PlayingPieceTop = 0;
+    double PlayingPieceLeft = 0;
+};
+
+/// A card back that the user designs.
+struct NewCardBack {
+    QString Name;
+    QString Filename;
+    QString BackText;
+    FontSpec Font;
+    Colour InnerColor = Black;
+    Colour FrameColor = Black;
+    Colour BackColor = Black;
+    bool UsePicture = false;
+    QString Picture;
+};
+
+} // namespace deckforge

@@ -1,0 +1,158 @@
+#include "core/Vocabulary.h"
+
+#include <array>
+
+namespace deckforge {
+
+namespace {
+
+struct TypeRow {
+    const char* Name;
+    const char* SubName;
+    const char* ReversedName;
+    const char* ReversedSubName;
+    int16 Number;
+};
+
+// The order is fixed: cards and files of older versions hold the row. A type printed in two parts keeps its
+// hyphen in the first.
+constexpr std::array<TypeRow, BuiltInTypeCount> TypeRows = {{
+    {"ENEMY-", "Alien", "-ENEMY", "Alien", 2},
+    {"ENEMY-", "Animal", "-ENEMY", "Animal", 2},
+    {"ENEMY-", "Dragon", "-ENEMY", "Dragon", 2},
+    {"ENEMY-Fey", "", "Fey-ENEMY", "", 2},
+    {"ENEMY-", "Monster", "-ENEMY", "Monster", 2},
+    {"ENEMY-", "Spirit", "-ENEMY", "Spirit", 3},
+    {"EVENT", "", "EVENT", "", 1},
+    {"EVENT-Law", "", "Law-EVENT", "", 1},
+    {"FOLLOWER", "", "FOLLOWER", "", 5},
+    {"OBJECT", "", "OBJECT", "", 5},
+    {"OBJECT-", "Magic", "-OBJECT", "Magic", 5},
+    {"PLACE", "", "PLACE", "", 6},
+    {"SPELL", "", "SPELL", "", -1},
+    {"STRANGER", "", "STRANGER", "", 4},
+    {"ENEMY-Troll", "", "Troll-ENEMY", "", 2},
+}};
+
+// A built-in back goes by its row: the art of row r is the picture of number r - 1.
+constexpr std::array<const char*, BuiltInBackCount> BackNames = {"Adventure",
+                                                                 "City",
+                                                                 "Dungeon 1",
+                                                                 "Dungeon 2",
+                                                                 "Loan",
+                                                                 "Purchase",
+                                                                 "Spell",
+                                                                 "Varnhelm",
+                                                                 "Timescape",
+                                                                 "Purchase Timescape",
+                                                                 "Warrant",
+                                                                 "Faeries",
+                                                                 "Island",
+                                                                 "Mystic Brew",
+                                                                 "Contract",
+                                                                 "Diablo II",
+                                                                 "Diablo II Artifact",
+                                                                 "Cursed Swamp",
+                                                                 "Transformations",
+                                                                 "Space Hulk",
+                                                                 "Realm Of Chaos",
+                                                                 "Trolls",
+                                                                 "Trolls Treasure",
+                                                                 "Sea Realm",
+                                                                 "Desert",
+                                                                 "Warlock's Maze",
+                                                                 "Blank"};
+
+constexpr int TypeOfNewCards = 2;
+
+QString Text(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+} // namespace
+
+CardType GetCardType(int row)
+{
+    if (row < 1 || row > BuiltInTypeCount)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    const TypeRow& entry = TypeRows[static_cast<std::size_t>(row) - 1];
+    return {.Name = Text(entry.Name),
+            .SubName = Text(entry.SubName),
+            .ReversedName = Text(entry.ReversedName),
+            .ReversedSubName = Text(entry.ReversedSubName),
+            .Number = entry.Number,
+            .BuiltIn = true};
+}
+
+void InitCardTypes(CardSet& set)
+{
+    set.CardTypeCount = BuiltInTypeCount;
+    set.CardTypes.Recreate(BuiltInTypeCount);
+    for (int row = 1; row <= BuiltInTypeCount; ++row)
+        set.CardTypes[row] = GetCardType(row);
+
+    const CardType& type = set.CardTypes[TypeOfNewCards];
+    set.LastType = type.Name;
+    set.LastTypeReversed = type.ReversedName;
+    set.LastSubType = type.SubName;
+    set.LastSubTypeReversed = type.ReversedSubName;
+    set.LastNumber = type.Number;
+}
+
+void InitCardBacks(CardSet& set)
+{
+    set.CardBackCount = BuiltInBackCount;
+    set.CardBacks.Recreate(BuiltInBackCount);
+    for (int row = 1; row <= BuiltInBackCount; ++row) {
+        set.CardBacks[row] = {
+            .Name = Text(BackNames[static_cast<std::size_t>(row) - 1]), .Picture = {}, .BuiltIn = true};
+    }
+    set.LastCardBack = 1;
+}
+
+const QStringList& CardNumbers()
+{
+    static const QStringList list = {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
+                                     QStringLiteral("4"), QStringLiteral("5"), QStringLiteral("6")};
+    return list;
+}
+
+const QStringList& CharacterBackNames()
+{
+    static const QStringList list = {QStringLiteral("STANDARD"), QStringLiteral("MASTER 1"),
+                                     QStringLiteral("MASTER 2"), UserDefinedBack()};
+    return list;
+}
+
+const QStringList& Alignments()
+{
+    static const QStringList list = {QStringLiteral("AS BEFORE"), QStringLiteral("GOOD"),
+                                     QStringLiteral("EVIL"), QStringLiteral("NEUTRAL")};
+    return list;
+}
+
+const QStringList& AttributeValues()
+{
+    static const QStringList list =
+        QStringLiteral("+9 +8 +7 +6 +5 +4 +3 +2 +1 +0 --- 1 2 3 4 5 6 7 8 9").split(QLatin1Char(' '));
+    return list;
+}
+
+const QStringList& SaveFormats()
+{
+    static const QStringList list = {QStringLiteral("BMP"), QStringLiteral("JPG"), QStringLiteral("GIF")};
+    return list;
+}
+
+QString UserDefinedBack()
+{
+    return QStringLiteral("User defined");
+}
+
+QString TypeListEntry(const CardType& type)
+{
+    return type.Name + type.SubName;
+}
+
+} // namespace deckforge

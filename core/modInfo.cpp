@@ -1,0 +1,152 @@
+#include "core/modInfo.h"
+
+#include "core/Vocabulary.h"
+#include "platform/Paths.h"
+
+namespace deckforge {
+
+namespace {
+
+constexpr Colour LightGrey = 0xC0C0C0;
+constexpr int16 NewFrameHeight = 105;
+constexpr int16 NewFrameWidth = 121;
+
+FontSpec SmallFont(double size, bool bold = false, Colour colour = Black)
+{
+    return {
+        .Name = QStringLiteral("Small Fonts"), .Size = size, .Bold = bold, .Italic = false, .Color = colour};
+}
+
+} // namespace
+
+void SetDefaultFont(SetHeader& header)
+{
+    header.FontType = SmallFont(7);
+    header.FontNumber = SmallFont(7);
+    header.FontTitle = SmallFont(7, true);
+    header.FontBold = SmallFont(7, true);
+    header.FontInformation = SmallFont(7);
+    header.FontAutonumber = SmallFont(5);
+    header.FontTitleLarge = SmallFont(7, true);
+    header.FontInformationLarge = SmallFont(7);
+    header.FontCharacter = SmallFont(7, true, White);
+    header.FontSpecialTitle = SmallFont(7, true);
+    header.FontSpecial = SmallFont(7);
+    header.FontAlignment = SmallFont(6, true);
+    header.FontPlayingPiece = SmallFont(7, true);
+}
+
+void NewSet(CardSet& set)
+{
+    set.Header = {};
+    set.Header.SetName = QStringLiteral("New set");
+    set.Header.SaveTo = ProgramFolder();
+    set.Header.ArtistColor = LightGrey;
+    SetDefaultFont(set.Header);
+}
+
+void InitSet(CardSet& set)
+{
+    InitCardTypes(set);
+    InitCardBacks(set);
+    set.LastBackground.clear();
+    NewSet(set);
+
+    set.CardCount = 1;
+    set.CurrentCard = 1;
+    set.Cards.Recreate(1);
+    InitCard(set, 1);
+
+    set.LargeCardCount = 0;
+    set.CurrentLargeCard = 0;
+    set.LargeCards.Recreate(0);
+    set.CharacterCount = 0;
+    set.CurrentCharacter = 0;
+    set.Characters.Recreate(0);
+}
+
+void InitCard(CardSet& set, int16 n)
+{
+    Card& card = set.Cards[n];
+    const int16 typeIndex = card.TypeIndex; // the one field that a new card leaves as it was
+    card = {};
+    card.TypeIndex = typeIndex;
+    card.Title = QStringLiteral("CARD %1").arg(n);
+    card.Copies = 1;
+    card.Type = set.LastType;
+    card.SubType = set.LastSubType;
+    card.TypeReversed = set.LastTypeReversed;
+    card.SubTypeReversed = set.LastSubTypeReversed;
+    card.Number = QString::number(set.LastNumber);
+    card.ShowPicture = true;
+    card.FrameHeight = NewFrameHeight;
+    card.Frame = true;
+    card.Background = set.LastBackground;
+    card.CardBack = set.LastCardBack;
+    card.Color = White;
+}
+
+void InitLargeCard(CardSet& set, int16 n)
+{
+    LargeCard& card = set.LargeCards[n];
+    card = {};
+    card.Title = QStringLiteral("LARGE CARD %1").arg(n);
+    card.Copies = 1;
+    card.ShowPicture = true;
+    card.FrameHeight = NewFrameWidth;
+    card.Frame = true;
+    card.Color = White;
+}
+
+void InitCharacter(CardSet& set, int16 n)
+{
+    Character& character = set.Characters[n];
+    character = {};
+    character.Name = QStringLiteral("CHARACTER %1").arg(n);
+    character.StartArea = QStringLiteral("VILLAGE");
+    character.Alignment = QStringLiteral("NEUTRAL");
+    character.Strength = QStringLiteral("3");
+    character.Craft = QStringLiteral("3");
+    character.Gold = QStringLiteral("---");
+    character.Lives = QStringLiteral("---");
+    character.FrameHeight = NewFrameWidth;
+    character.ShowPicture = true;
+}
+
+void InitNewCardBack(CardSet& set, int16 n)
+{
+    NewCardBack& back = set.NewCardBacks[n];
+    back = {};
+    back.Name = QStringLiteral("Back 1"); // every new back is called so, whatever its index
+    back.BackText = set.Header.SetName;
+    back.Font = {.Name = QStringLiteral("Arial"), .Size = 18, .Bold = true, .Italic = false, .Color = White};
+    back.InnerColor = Black;
+    back.FrameColor = White;
+    back.BackColor = White;
+}
+
+bool MayDelete(UserPort& user, int16 count, const char* question, const QString& name, bool tellsOfLast)
+{
+    if (count < 2) {
+        if (tellsOfLast) {
+            user.ShowMessage(
+                {.Text = QStringLiteral("You have only one card in your set. This can't be deleted."),
+                 .Title = {},
+                 .Style = BoxStyle::Information});
+        }
+        return false;
+    }
+    const Answer answer =
+        user.ShowMessage({.Text = QLatin1String(question) + QStringLiteral("\"%1\"?").arg(name),
+                          .Title = QStringLiteral("Confirm delete"),
+                          .Style = BoxStyle::Question,
+                          .Buttons = BoxButtons::YesNo});
+    return answer == Answer::Yes;
+}
+
+QString PositionText(int16 index, int16 count)
+{
+    return QStringLiteral("%1 (%2)").arg(index).arg(count);
+}
+
+} // namespace deckforge

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "core/CardSet.h"
+#include "platform/Numbers.h"
+#include "platform/UserPort.h"
+
+namespace deckforge {
+
+// The life of the set in memory. Nothing here touches a file.
+
+/// Puts back what holds for the whole set; cards and tables stay.
+void NewSet(CardSet& set);
+
+/// The thirteen fonts as a new set has them.
+void SetDefaultFont(SetHeader& header);
+
+/// Makes the set a new one with one standard card. User-designed backs of the set before stay in it.
+void InitSet(CardSet& set);
+
+// What a new element of each kind holds; n goes into its name. Error 9 when there is no element n.
+void InitCard(CardSet& set, int16 n);
+void InitLargeCard(CardSet& set, int16 n);
+void InitCharacter(CardSet& set, int16 n);
+void InitNewCardBack(CardSet& set, int16 n);
+
+/// Where a kind of card lies in the set, and what is peculiar to it.
+template <class Record>
+struct Kind {
+    int16 CardSet::*Count;
+    int16 CardSet::*Current;
+    OneBasedArray<Record> CardSet::*Records;
+    QString Record::*Name;
+    void (*Init)(CardSet&, int16);
+    const char* DeleteQuestion; ///< goes on with the name in quotes
+    bool TellsOfLast;           ///< says why the last one stays; the other kinds stay silent
+};
+
+inline constexpr Kind<Card> StandardKind = {&CardSet::CardCount,
+                                            &CardSet::CurrentCard,
+                                            &CardSet::Cards,
+                                            &Card::Title,
+                                            &InitCard,
+                                            "Are you sure you want to delete the card ",
+                                            true};
+inline constexpr Kind<LargeCard> LargeKind = {&CardSet::LargeCardCount,
+                                              &CardSet::CurrentLargeCard,
+                                              &CardSet::LargeCards,
+                                              &LargeCard::Title,
+                                              &InitLargeCard,
+                                              "Are you sure you want to delete the card ",
+                                              false};
+inline constexpr Kind<Character> CharacterKind = {&CardSet::CharacterCount,
+                                                  &CardSet::CurrentCharacter,
+                                                  &CardSet::Characters,
+                                                  &Character::Name,
+                                                  &InitCharacter,
+                                                  "Are you sure you want to delete the character ",
+                                                  false};
+inline constexpr Kind<NewCardBack> NewBackKind = {&CardSet::NewCardBackCount,
+                                                  &CardSet::CurrentNewCardBack,
+                                                  &CardSet::NewCardBacks,
+                                                  &NewCardBack::Name,
+                                                  &InitNewCardBack,
+                                                  "Are you sure you want to delete the card back ",
+                                                  false};
+
+/// Adds an element at the end and makes it the current one. Error 6 past 32767; the set is then as before.
+template <class Record>
+void AddElement(CardSet& set, const Kind<Record>& kind)
+{
+    const int16 count = CheckedAdd(set.*kind.Count, 1);
+    (set.*kind.Records).Resize(count);
+    set.*kind.Count = count;
+    kind.Init(set, count);
+    set.*kind.Current = count;
+}
+
+/// Whether the current element may go: it is not the only one, and the user says yes.
+[[nodiscard]] bool MayDelete(UserPort& user, int16 count, const char* question, const QString& name,
+                             bool tellsOfLast);
+
+/// Deletes the current element after a question. The next one moves to its index; behind the last one the
+/// index goes down by one. Gives whether the element is gone.
+template <class Record>
+bool DeleteElement(CardSet& set, UserPort& user, const Kind<Record>& kind)
+{
+    const int16 current = set.*kind.Current;
+    const QString name = (set.*kind.Records)[current].*kind.Name;
+    if (!MayDelete(user, set.*kind.Count, kind.DeleteQuestion, name, kind.TellsOfLast))
+        return false;
+    (set.*kind.Records).Remove(current);
+    if (current == set.*kind.Count)
+        set.*kind.Current = CheckedAdd(current, -1);
+    set.*kind.Count = CheckedAdd(set.*kind.Count, -1);
+    return true;
+}
+
+/// "3 (12)": where the current element stands.
+[[nodiscard]] QString PositionText(int16 index, int16 count);
+
+} // namespace deckforge

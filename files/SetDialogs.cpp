@@ -1,0 +1,33 @@
+#include "files/modFile.h"
+
+namespace deckforge {
+
+namespace {
+
+FileDialogRequest SetFileDialog(const char* title, const QString& fileName)
+{
+    return {.Title = QString::fromLatin1(title),
+            .FileName = fileName,
+            .Filter = QStringLiteral("All files(*.*)|*.*|Deck Foundry (*.dkf)|*.dkf"),
+            .FilterIndex = 2,
+            .DefaultExtension = QStringLiteral("dkf"),
+            .Folder = {}};
+}
+
+} // namespace
+
+void SaveSet(CardSet& set, UserPort& user)
+{
+    const std::optional<QString> path = user.AskSaveFile(SetFileDialog("Save Card Set", set.Header.FileName));
+    if (!path)
+        return;
+    set.Header.FileName = *path; // first, so that the path stands in the very file that is written
+    WriteDKF(set, *path, user, Report::Tell);
+}
+
+std::optional<QString> AskSetToOpen(UserPort& user)
+{
+    return user.AskOpenFile(SetFileDialog("Open card template", {}));
+}
+
+} // namespace deckforge

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Types.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace deckforge {
+
+/// Reads the lines of a set file, each by the type of its field. A line ends at CR LF; the last one may lack
+/// it.
+///
+/// Every call takes one line: error 62 behind the last, 13 where a number or a boolean word was due and the
+/// line holds none, 6 where the number does not fit the field.
+class SetReader {
+public:
+    explicit SetReader(const QString& path);
+
+    [[nodiscard]] QString Text();
+    [[nodiscard]] QString Flattened(); ///< every "|" becomes CR LF
+    [[nodiscard]] bool Boolean();
+    [[nodiscard]] int16 Int16();
+    [[nodiscard]] int32 Int32();
+    [[nodiscard]] double Real();
+
+    /// The line as it stands, valid as long as the reader.
+    QByteArrayView Line();
+
+private:
+    QByteArray m_bytes;
+    qsizetype m_at = 0;
+};
+
+} // namespace deckforge

@@ -1,0 +1,225 @@
+#include "core/Vocabulary.h"
+#include "files/SetFileFormat.h"
+#include "files/SetWriter.h"
+#include "files/modFile.h"
+#include "platform/Files.h"
+#include "platform/RunTimeError.h"
+
+namespace deckforge {
+
+namespace {
+
+void WriteFont(SetWriter& out, const FontSpec& font)
+{
+    out.Text(font.Name);
+    out.Real(font.Size);
+    out.Boolean(font.Bold);
+    out.Boolean(font.Italic);
+    out.Integer(font.Color);
+}
+
+void WriteHeader(SetWriter& out, const SetHeader& header)
+{
+    out.Literal(setFile::Signature);
+    out.Text(QStringLiteral("Version %1").arg(setFile::CurrentVersion));
+    out.Literal(setFile::Start);
+    out.Text(header.SetName);
+    out.Text(header.FileName);
+    out.Text(header.SaveTo);
+    out.Boolean(header.Autonumber);
+    out.Text(header.Symbol);
+    out.Text(header.FilenamePrefix);
+    out.Boolean(header.FileNr);
+    out.Boolean(header.NoBack);
+    out.Integer(header.SaveFormat);
+    out.Boolean(header.ReplaceSpace);
+    out.Integer(header.ArtistColor);
+    for (const auto font : setFile::Fonts)
+        WriteFont(out, header.*font);
+}
+
+void WriteCardType(SetWriter& out, const CardType& type)
+{
+    out.Text(type.Name);
+    out.Text(type.SubName);
+    out.Text(type.ReversedName);
+    out.Text(type.ReversedSubName);
+    out.Integer(type.Number);
+    out.Boolean(type.BuiltIn);
+}
+
+void WriteCardBack(SetWriter& out, const CardBack& back)
+{
+    out.Text(back.Name);
+    out.Text(back.Picture);
+    out.Boolean(back.BuiltIn);
+}
+
+void WriteNewCardBack(SetWriter& out, const NewCardBack& back)
+{
+    out.Text(back.BackText);
+    out.Text(back.Filename);
+    out.Integer(back.FrameColor);
+    out.Integer(back.InnerColor);
+    out.Text(back.Name);
+    out.Integer(back.BackColor);
+    out.Text(back.Picture);
+    out.Boolean(back.UsePicture);
+    WriteFont(out, back.Font);
+}
+
+void WriteCard(SetWriter& out, const Card& card)
+{
+    out.Text(card.Title);
+    out.Integer(card.Copies);
+    out.Text(card.Type);
+    out.Text(card.SubType);
+    out.Text(card.TypeReversed);
+    out.Text(card.SubTypeReversed);
+    out.Boolean(card.OneLine);
+    out.Integer(card.TypeIndex);
+    out.Text(card.Number);
+    out.Boolean(card.ShowPicture);
+    out.Text(card.Picture);
+    out.Real(card.PictureTop);
+    out.Integer(card.FrameHeight);
+    out.Real(card.PictureLeft);
+    out.Boolean(card.Frame);
+    out.Boolean(card.Resize);
+    out.Text(card.Artist);
+    out.Text(card.BoldText);
+    out.Flattened(card.Info);
+    out.Text(card.Background);
+    out.Integer(card.CardBack);
+    out.Integer(card.Color);
+    out.Text(card.Filename);
+}
+
+void WriteLargeCard(SetWriter& out, const LargeCard& card)
+{
+    out.Text(card.Title);
+    out.Integer(card.Copies);
+    out.Boolean(card.ShowPicture);
+    out.Text(card.Picture);
+    out.Real(card.PictureTop);
+    out.Real(card.PictureLeft);
+    out.Integer(card.FrameHeight);
+    out.Boolean(card.Frame);
+    out.Boolean(card.Resize);
+    out.Flattened(card.Info);
+    out.Text(card.Background);
+    out.Text(card.CardBack);
+    out.Integer(card.Color);
+    out.Text(card.Filename);
+}
+
+void WriteCharacter(SetWriter& out, const Character& character)
+{
+    out.Text(character.Name);
+    out.Flattened(character.SpecialAbilities);
+    out.Text(character.Alignment);
+    out.Text(character.Background);
+    out.Text(character.Craft);
+    out.Text(character.Filename);
+    out.Text(character.Gold);
+    out.Text(character.Lives);
+    out.Real(character.PictureLeft);
+    out.Real(character.PictureTop);
+    out.Text(character.Picture);
+    out.Integer(character.FrameHeight);
+    out.Text(character.StartArea);
+    out.Text(character.Strength);
+    out.Boolean(character.Frame);
+    out.Boolean(character.ShowPicture);
+    out.Integer(character.CardBack);
+    out.Text(character.CardBackPicture);
+    out.Text(character.PlayingPiece);
+    out.Real(character.PlayingPieceLeft);
+    out.Real(character.PlayingPieceTop);
+}
+
+/// A count line and a group of lines for each element behind the built-in ones.
+template <class Record>
+void WriteSection(SetWriter& out, const OneBasedArray<Record>& records, int16 count, int16 builtIn,
+                  void (*write)(SetWriter&, const Record&))
+{
+    out.Integer(count - builtIn);
+    for (int i = builtIn + 1; i <= count; ++i)
+        write(out, records[i]);
+}
+
+void WriteClosingLines(SetWriter& out, const CardSet& set)
+{
+    out.Integer(set.LastCardBack);
+    out.Text(set.LastType);
+    out.Text(set.LastTypeReversed);
+    out.Text(set.LastSubType);
+    out.Text(set.LastSubTypeReversed);
+    out.Integer(set.LastNumber);
+    out.Text(set.LastBackground);
+    out.Literal(setFile::End);
+}
+
+void WriteSet(SetWriter& out, const CardSet& set)
+{
+    WriteHeader(out, set.Header);
+    WriteSection(out, set.CardTypes, set.CardTypeCount, BuiltInTypeCount, WriteCardType);
+    WriteSection(out, set.CardBacks, set.CardBackCount, BuiltInBackCount, WriteCardBack);
+    WriteSection(out, set.NewCardBacks, set.NewCardBackCount, 0, WriteNewCardBack);
+    WriteSection(out, set.Cards, set.CardCount, 0, WriteCard);
+    WriteSection(out, set.LargeCards, set.LargeCardCount, 0, WriteLargeCard);
+    WriteSection(out, set.Characters, set.CharacterCount, 0, WriteCharacter);
+    WriteClosingLines(out, set);
+}
+
+QString SafeCopyOf(const QString& path)
+{
+    return path + QStringLiteral("~");
+}
+
+/// Whether the file is a set written to its end, and not what a failed write left.
+bool IsWholeSet(const QString& path)
+{
+    const QByteArray bytes = ReadWholeFile(path, std::numeric_limits<qint64>::max());
+    return bytes.startsWith(setFile::Signature) &&
+           bytes.endsWith(QByteArray(setFile::LineEnd) + setFile::End + setFile::LineEnd);
+}
+
+/// Sees to it that the old set has a copy before its file is replaced.
+void KeepCopy(const QString& path)
+{
+    if (!IsRegularFile(path))
+        return;
+    // A copy that is still there comes from a write that failed. The file may be the rest of that write, and
+    // the copy the only whole set: it stays until a whole set stands in its place.
+    if (IsRegularFile(SafeCopyOf(path)) && !IsWholeSet(path))
+        return;
+    CopyFileSafely(path, SafeCopyOf(path));
+}
+
+} // namespace
+
+bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report)
+{
+    try {
+        KeepCopy(path);
+        SetWriter out(path);
+        WriteSet(out, set);
+        out.Close();
+        RemoveFile(SafeCopyOf(path));
+    } catch (const RunTimeError& error) {
+        user.ShowMessage({.Text = QStringLiteral("The file is NOT saved due to an error.\r\n\r\n") +
+                                  error.NumberAndDescription(),
+                          .Title = QStringLiteral("Error"),
+                          .Style = BoxStyle::Critical});
+        return false;
+    }
+    if (report == Report::Tell) {
+        user.ShowMessage({.Text = QStringLiteral("The card set is saved."),
+                          .Title = QStringLiteral("Save file"),
+                          .Style = BoxStyle::Information});
+    }
+    return true;
+}
+
+} // namespace deckforge

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/CardSet.h"
+#include "platform/UserPort.h"
+
+namespace deckforge {
+
+// The set file: lines ended by CR LF in the single-byte code page, one field to a line, no keys. Counts in
+// the file say how long each section is. Version 10 is written; 1 to 10 are read.
+
+enum class Report { Silent, Tell };
+
+/// Writes the set to the path and gives whether it is all there.
+///
+/// Before a file that is there is replaced, a copy of it goes to the same name with "~" behind it; it goes
+/// away when the write has succeeded. After a failure, which is told in a box, the copy is the set as it was,
+/// and the file itself holds what had been written.
+bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report);
+
+/// Reads a set file into the set and gives whether it is read. What was read before a failure stays in the
+/// set: there is no way back. A refused file (no set, or of a newer version) changes nothing.
+[[nodiscard]] bool ReadDKF(CardSet& set, const QString& path, UserPort& user);
+
+/// The row of CardTypes that the type texts of a card from an old file belong to, or 0. The first row whose
+/// Name and SubName both occur in the texts wins, so "EVENT" comes before "EVENT-Law".
+[[nodiscard]] int16 FindCardType(const CardSet& set, const QString& typeText, const QString& reversedText);
+
+/// Asks where to, and writes the set there; always asks.
+void SaveSet(CardSet& set, UserPort& user);
+
+/// Asks for the set file to open; nothing on a cancel.
+[[nodiscard]] std::optional<QString> AskSetToOpen(UserPort& user);
+
+} // namespace deckforge

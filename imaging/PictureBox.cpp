@@ -1,0 +1,228 @@
+#include "imaging/PictureBox.h"
+
+#include "platform/RunTimeError.h"
+
+#include <QPainter>
+#include <vector>
+
+namespace deckforge {
+
+namespace {
+
+/// What a surface has before anything is set: the scheme's font, so that a text measured with it is nearly as
+/// wide as one set in the scheme's bold.
+const TextFont& FirstFont()
+{
+    static const TextFont font = {.Name = QStringLiteral("Small Fonts"), .Size = 7};
+    return font;
+}
+
+Colour ToColour(QRgb rgb)
+{
+    return (qBlue(rgb) << 16) | (qGreen(rgb) << 8) | qRed(rgb);
+}
+
+} // namespace
+
+QRgb ToRgb(Colour colour)
+{
+    return qRgb(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+}
+
+PictureBox::PictureBox(QSize size, int scale) : m_size(size), m_scale(scale), m_font(FirstFont())
+{
+    Clear();
+}
+
+void PictureBox::SetSize(QSize size)
+{
+    if (size == m_size)
+        return;
+    m_size = size;
+    Clear();
+}
+
+void PictureBox::SetPicture(const Picture& picture)
+{
+    m_picture = picture;
+    Clear();
+}
+
+Picture PictureBox::Image() const
+{
+    return Picture(m_image, m_scale);
+}
+
+void PictureBox::Freeze()
+{
+    m_picture = Image();
+}
+
+void PictureBox::SetBackColor(Colour colour)
+{
+    m_backColor = colour;
+    Clear();
+}
+
+void PictureBox::Refresh()
+{
+    Clear();
+}
+
+void PictureBox::Clear()
+{
+    const QSize memory = m_size * m_scale;
+    if (m_image.size() != memory || !m_image.isDetached())
+        m_image = QImage(memory, QImage::Format_RGB32);
+    m_image.fill(ToRgb(m_backColor));
+    if (!m_picture.IsEmpty())
+        PaintPicture(m_picture, 0, 0);
+}
+
+void PictureBox::SetFontName(const QString& name)
+{
+    if (name.isEmpty())
+        throw RunTimeError(ErrorNumber::InvalidPropertyValue);
+    m_font.Name = name;
+}
+
+void PictureBox::SetFontBold(bool bold)
+{
+    m_font.Bold = bold;
+}
+
+void PictureBox::SetFontItalic(bool italic)
+{
+    m_font.Italic = italic;
+}
+
+void PictureBox::SetFontSize(double points)
+{
+    if (!(points > 0 && points <= MostPoints))
+        throw RunTimeError(ErrorNumber::InvalidPropertyValue);
+    m_font.Size = points;
+}
+
+const FontMeasures& PictureBox::Measures() const
+{
+    auto& measures = m_measures[m_font];
+    if (!measures)
+        measures = std::make_shared<const FontMeasures>(m_font);
+    return *measures;
+}
+
+double PictureBox::TextWidth(QStringView text) const
+{
+    return Measures().Width(text);
+}
+
+double PictureBox::TextHeight(QStringView text) const
+{
+    return static_cast<double>(Measures().LineHeight()) * static_cast<double>(1 + text.count(u"\r\n"));
+}
+
+void PictureBox::PrintLine(QPainter& painter, const QString& line) const
+{
+    painter.drawText(QPointF(CurrentX, CurrentY + Measures().Ascent()), line);
+}
+
+void PictureBox::Print(const QString& text)
+{
+    QPainter painter(&m_image);
+    painter.scale(m_scale, m_scale);
+    painter.setFont(Measures().Font());
+    painter.setPen(QColor::fromRgb(ToRgb(ForeColor)));
+    for (const QString& line : text.split(QStringLiteral("\r\n"))) {
+        if (!line.isEmpty())
+            PrintLine(painter, line);
+        CurrentX = 0;
+        CurrentY += Measures().LineHeight();
+    }
+}
+
+void PictureBox::PrintNumber(int number)
+{
+    Print(QStringLiteral(" %1 ").arg(number));
+}
+
+QRect PictureBox::InMemory(const QRect& logical) const
+{
+    return {logical.topLeft() * m_scale, logical.size() * m_scale};
+}
+
+void PictureBox::PaintPicture(const Picture& picture, int x, int y)
+{
+    PaintPart(picture, {x, y}, QRect({0, 0}, picture.Size()));
+}
+
+void PictureBox::PaintStretched(const Picture& picture, const QRect& target)
+{
+    if (picture.IsEmpty() || target.isEmpty())
+        return;
+    QPainter painter(&m_image);
+    painter.drawImage(InMemory(target), picture.Pixels());
+}
+
+void PictureBox::PaintPart(const Picture& picture, QPoint target, const QRect& source)
+{
+    const QRect existing = source & QRect({0, 0}, picture.Size());
+    if (existing.isEmpty())
+        return;
+    const QPoint place = target + existing.topLeft() - source.topLeft();
+    const QRect pixels(existing.topLeft() * picture.Scale(), existing.size() * picture.Scale());
+    QPainter painter(&m_image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(InMemory({place, existing.size()}), picture.Pixels(), pixels);
+}
+
+void PictureBox::LineBox(int x1, int y1, int x2, int y2)
+{
+    const QRect outer(QPoint(std::min(x1, x2), std::min(y1, y2)), QPoint(std::max(x1, x2), std::max(y1, y2)));
+    const QColor colour = QColor::fromRgb(ToRgb(ForeColor));
+    QPainter painter(&m_image);
+    for (const QRect& side :
+         {QRect(outer.topLeft(), QSize(outer.width(), 1)), QRect(outer.bottomLeft(), QSize(outer.width(), 1)),
+          QRect(outer.topLeft(), QSize(1, outer.height())),
+          QRect(outer.topRight(), QSize(1, outer.height()))})
+        painter.fillRect(InMemory(side), colour);
+}
+
+Colour PictureBox::GetPixel(int x, int y) const
+{
+    if (!QRect({0, 0}, m_size).contains(x, y))
+        return InvalidColour;
+    return ToColour(m_image.pixel(x * m_scale, y * m_scale));
+}
+
+void PictureBox::SetPixel(int x, int y, Colour colour)
+{
+    if (!QRect({0, 0}, m_size).contains(x, y) || colour == InvalidColour)
+        return;
+    QPainter painter(&m_image);
+    painter.fillRect(InMemory({x, y, 1, 1}), QColor::fromRgb(ToRgb(colour)));
+}
+
+void PictureBox::ExtFloodFill(int x, int y, Colour areaColour)
+{
+    const QRgb area = ToRgb(areaColour);
+    const QRgb fill = ToRgb(FillColor);
+    const QRect bounds = m_image.rect();
+    const QPoint start = QPoint(x, y) * m_scale;
+    if (!bounds.contains(start) || m_image.pixel(start) != area || area == fill)
+        return;
+    std::vector<QPoint> open = {start};
+    m_image.setPixel(start, fill);
+    while (!open.empty()) {
+        const QPoint at = open.back();
+        open.pop_back();
+        for (const QPoint step : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)}) {
+            const QPoint next = at + step;
+            if (bounds.contains(next) && m_image.pixel(next) == area) {
+                m_image.setPixel(next, fill);
+                open.push_back(next);
+            }
+        }
+    }
+}
+
+} // namespace deckforge

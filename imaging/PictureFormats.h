@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QSize>
+#include <optional>
+
+namespace deckforge {
+
+enum class PictureFormat { Unknown, Bmp, Jpeg, Gif, Wmf };
+
+/// What a file is by its content. A file that breaks off before the end of its picture is Unknown: decoders
+/// take the half of a BMP or JPEG without a word.
+[[nodiscard]] PictureFormat FormatOf(QByteArrayView bytes);
+
+/// The size of a WMF in pixels at 96 to the inch, from the header that says where it is to be placed. Nothing
+/// where it has none.
+[[nodiscard]] std::optional<QSize> PlaceableWmfSize(QByteArrayView bytes);
+
+} // namespace deckforge

@@ -1,0 +1,99 @@
+#include "imaging/PictureLoader.h"
+
+#include "imaging/PictureFormats.h"
+#include "imaging/WmfConverter.h"
+#include "platform/Files.h"
+#include "platform/RunTimeError.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+namespace deckforge {
+
+namespace {
+
+constexpr qint64 MostDecodedBytes = qint64(128) << 20;
+/// A file of more bytes than its decoded picture may have is none that we can show.
+constexpr qint64 MostFileBytes = MostDecodedBytes + (qint64(1) << 20);
+constexpr qsizetype KeptBytes = qsizetype(32) << 20;
+constexpr int BytesPerPixel = 4;
+
+[[noreturn]] void RefusePicture()
+{
+    throw RunTimeError(ErrorNumber::InvalidPicture);
+}
+
+QByteArray ReadPictureFile(const QString& path)
+{
+    try {
+        return ReadWholeFile(path, MostFileBytes);
+    } catch (const RunTimeError& error) {
+        if (error.Number() == ErrorNumber::OutOfMemory)
+            RefusePicture();
+        throw;
+    }
+}
+
+/// One pixel format for opaque pictures and one for others: the two that are drawn without conversion.
+QImage ForDrawing(QImage image)
+{
+    return std::move(image).convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                                    : QImage::Format_RGB32);
+}
+
+QImage DecodeWithReader(QByteArray bytes, const QByteArray& format)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, format);
+    const QSize size = reader.size();
+    if (size.isEmpty() || qint64(size.width()) * size.height() * BytesPerPixel > MostDecodedBytes)
+        RefusePicture();
+    QImage image = reader.read();
+    if (image.isNull())
+        RefusePicture();
+    return ForDrawing(std::move(image));
+}
+
+bool IsSameFile(const FileAttributes& a, const FileAttributes& b)
+{
+    return a.Size == b.Size && a.LastWrite.tv_sec == b.LastWrite.tv_sec &&
+           a.LastWrite.tv_nsec == b.LastWrite.tv_nsec;
+}
+
+} // namespace
+
+Picture DecodePicture(const QString& path)
+{
+    const QByteArray bytes = ReadPictureFile(path);
+    switch (FormatOf(bytes)) {
+    case PictureFormat::Bmp:
+        return Picture(DecodeWithReader(bytes, "bmp"));
+    case PictureFormat::Jpeg:
+        return Picture(DecodeWithReader(bytes, "jpeg"));
+    case PictureFormat::Gif:
+        return Picture(DecodeWithReader(bytes, "gif"));
+    case PictureFormat::Wmf:
+        return Picture(DecodeWithReader(WmfToPng(bytes, MostDecodedBytes / BytesPerPixel), "png"));
+    case PictureFormat::Unknown:
+        break;
+    }
+    RefusePicture();
+}
+
+PictureLoader::PictureLoader() : m_kept(KeptBytes) {}
+
+Picture PictureLoader::LoadPicture(const QString& path)
+{
+    if (path.isEmpty())
+        return {};
+    const std::optional<FileAttributes> file = AttributesOf(path);
+    if (const Kept* kept = m_kept.object(path); kept != nullptr && file && IsSameFile(kept->File, *file))
+        return kept->Decoded;
+    Picture picture = DecodePicture(path);
+    if (file)
+        m_kept.insert(path, new Kept{picture, *file}, picture.Pixels().sizeInBytes());
+    return picture;
+}
+
+} // namespace deckforge

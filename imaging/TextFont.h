@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QHash>
+#include <QString>
+#include <array>
+
+namespace deckforge {
+
+/// What a surface keeps of its font; Size in points.
+struct TextFont {
+    QString Name;
+    double Size = 0;
+    bool Bold = false;
+    bool Italic = false;
+
+    friend bool operator==(const TextFont&, const TextFont&) = default;
+};
+
+size_t qHash(const TextFont& font, size_t seed = 0);
+
+/// Points as pixels at 96 to the inch, whole, whatever the screen: 7 points are 9 pixels.
+[[nodiscard]] int PixelSize(double points);
+
+/// The font as it is drawn here. The names "Small Fonts" and "Arial" stand for Liberation Sans, which also
+/// stands in for every font that this machine lacks. Unhinted, so that widths scale exactly, without kerning
+/// and ligatures, so that a text is as wide as its characters.
+[[nodiscard]] QFont DrawnFont(const TextFont& font);
+
+/// Measures of one font in logical pixels.
+class FontMeasures {
+public:
+    explicit FontMeasures(const TextFont& font);
+
+    [[nodiscard]] const QFont& Font() const { return m_font; }
+    [[nodiscard]] double Width(QStringView text) const;
+    /// From one line to the next: ascent, descent and leading, rounded up.
+    [[nodiscard]] int LineHeight() const { return m_lineHeight; }
+    /// From the top of a line to its base line, rounded up.
+    [[nodiscard]] int Ascent() const { return m_ascent; }
+
+private:
+    QFont m_font;
+    QFontMetricsF m_metrics;
+    int m_lineHeight;
+    int m_ascent;
+    std::array<double, 256> m_advances; ///< of the characters up to U+00FF
+};
+
+} // namespace deckforge

@@ -1,0 +1,71 @@
+#include "imaging/WmfConverter.h"
+
+#include "imaging/PictureFormats.h"
+#include "platform/Files.h"
+#include "platform/RunTimeError.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <sys/resource.h>
+
+namespace deckforge {
+
+namespace {
+
+constexpr int Seconds = 10;
+constexpr rlim_t MemoryBytes = rlim_t(512) << 20;
+constexpr rlim_t MostPngBytes = rlim_t(256) << 20;
+
+/// Runs between fork and exec: what the converter may use.
+void LimitProcess()
+{
+    const auto limit = [](auto resource, rlim_t value) {
+        const rlimit both = {value, value};
+        ::setrlimit(resource, &both);
+    };
+    limit(RLIMIT_CPU, Seconds);
+    limit(RLIMIT_AS, MemoryBytes);
+    limit(RLIMIT_FSIZE, MostPngBytes);
+    limit(RLIMIT_CORE, 0);
+}
+
+bool RunConverter(const QStringList& arguments)
+{
+    QProcess converter;
+    converter.setChildProcessModifier(LimitProcess);
+    converter.setStandardInputFile(QProcess::nullDevice());
+    converter.setStandardOutputFile(QProcess::nullDevice());
+    converter.setStandardErrorFile(QProcess::nullDevice());
+    converter.start(QStringLiteral("wmf2gd"), arguments);
+    if (!converter.waitForFinished(Seconds * 1000)) {
+        converter.kill();
+        converter.waitForFinished();
+        return false;
+    }
+    return converter.exitStatus() == QProcess::NormalExit && converter.exitCode() == 0;
+}
+
+} // namespace
+
+QByteArray WmfToPng(const QByteArray& wmf, qint64 mostPixels)
+{
+    const QTemporaryDir folder;
+    const QString source = folder.filePath(QStringLiteral("picture.wmf"));
+    const QString target = folder.filePath(QStringLiteral("picture.png"));
+    QStringList arguments = {QStringLiteral("-t"), QStringLiteral("png"), QStringLiteral("-o"), target};
+    if (const auto size = PlaceableWmfSize(wmf)) {
+        if (qint64(size->width()) * size->height() > mostPixels)
+            throw RunTimeError(ErrorNumber::InvalidPicture);
+        arguments << QStringLiteral("--maxwidth=%1").arg(size->width())
+                  << QStringLiteral("--maxheight=%1").arg(size->height()) << QStringLiteral("--maxsize");
+    }
+    {
+        OutputFile file(source);
+        file.Write(wmf);
+    }
+    if (!RunConverter(arguments << source) || !IsRegularFile(target))
+        throw RunTimeError(ErrorNumber::InvalidPicture);
+    return ReadWholeFile(target, static_cast<qint64>(MostPngBytes));
+}
+
+} // namespace deckforge

@@ -1,0 +1,66 @@
+#include "imaging/mIntelJPEGLibrary.h"
+
+#include "platform/Files.h"
+#include "platform/RunTimeError.h"
+
+#include <turbojpeg.h>
+
+namespace deckforge {
+
+namespace {
+
+/// The encoder with the bytes that it gave.
+class Encoder {
+public:
+    Encoder() : m_handle(tjInitCompress())
+    {
+        if (m_handle == nullptr)
+            throw Failure("Failed to initialise the IJL library: ");
+    }
+    ~Encoder()
+    {
+        tjFree(m_bytes);
+        tjDestroy(m_handle);
+    }
+    Encoder(const Encoder&) = delete;
+    Encoder& operator=(const Encoder&) = delete;
+
+    /// The bytes stay with the encoder.
+    [[nodiscard]] QByteArrayView Encode(const cDIBSection& surface, int quality)
+    {
+        const int result =
+            tjCompress2(m_handle, surface.DIBSectionBitsPtr(), surface.Width(), surface.BytesPerScanLine(),
+                        surface.Height(), TJPF_BGR, &m_bytes, &m_size, TJSAMP_420, quality, TJFLAG_BOTTOMUP);
+        if (result != 0)
+            throw Failure("Failed to save to JPG ");
+        return {m_bytes, static_cast<qsizetype>(m_size)};
+    }
+
+private:
+    [[nodiscard]] RunTimeError Failure(const char* what) const
+    {
+        return {ErrorNumber::JpegLibrary, QLatin1String(what) + QString::number(tjGetErrorCode(m_handle))};
+    }
+
+    tjhandle m_handle;
+    unsigned char* m_bytes = nullptr;
+    unsigned long m_size = 0;
+};
+
+} // namespace
+
+bool SaveJPG(const cDIBSection& surface, const QString& fileName, int32 quality)
+{
+    Encoder encoder;
+    const std::optional<FileAttributes> replaced = AttributesOf(fileName);
+    if (replaced)
+        RemoveFile(fileName);
+    const QByteArrayView bytes = encoder.Encode(surface, quality);
+    OutputFile file(fileName);
+    file.Write(bytes);
+    if (replaced)
+        file.TakeTimesAndPermissions(*replaced);
+    return true;
+}
+
+} // namespace deckforge

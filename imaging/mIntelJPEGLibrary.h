@@ -1,0 +1,13 @@
+#pragma once
+
+#include "imaging/cDIBSection.h"
+
+namespace deckforge {
+
+/// Writes a surface as a JPEG file; quality from 0 to 100, chroma at half the size in both directions.
+///
+/// A file that is replaced hands its access and change times and its permissions on to the new one. It is
+/// deleted before the new one is written. Failures: those of files, and error 26001 of the encoder.
+bool SaveJPG(const cDIBSection& surface, const QString& fileName, int32 quality);
+
+} // namespace deckforge

@@ -1,0 +1,77 @@
+#include "platform/CodePage.h"
+
+#include "platform/RunTimeError.h"
+
+#include <algorithm>
+#include <array>
+
+namespace deckforge {
+
+namespace {
+
+constexpr char16_t FirstSpecial = 0x80;
+constexpr char16_t LastSpecial = 0x9F;
+
+/// What the bytes 0x80 to 0x9F stand for; all others stand for the character of the same value.
+constexpr std::array<char16_t, LastSpecial - FirstSpecial + 1> Specials = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+bool IsSpecialByte(char16_t c)
+{
+    return c >= FirstSpecial && c <= LastSpecial;
+}
+
+[[noreturn]] void RefuseCharacter(QStringView text, qsizetype at)
+{
+    char32_t character = text[at].unicode();
+    qsizetype length = 1;
+    if (text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) {
+        character = QChar::surrogateToUcs4(text[at], text[at + 1]);
+        length = 2;
+    }
+    throw RunTimeError(
+        ErrorNumber::InvalidCall,
+        QStringLiteral("The character \"%1\" (U+%2) cannot be written in this file")
+            .arg(text.sliced(at, length))
+            .arg(QString::number(static_cast<uint>(character), 16).toUpper(), 4, QLatin1Char('0')));
+}
+
+} // namespace
+
+QString FromCodePage(QByteArrayView bytes)
+{
+    QString text = QString::fromLatin1(bytes);
+    const bool plain =
+        std::none_of(bytes.begin(), bytes.end(), [](char c) { return IsSpecialByte(static_cast<uchar>(c)); });
+    if (plain)
+        return text;
+    for (QChar& c : text) {
+        if (IsSpecialByte(c.unicode()))
+            c = QChar(Specials[c.unicode() - FirstSpecial]);
+    }
+    return text;
+}
+
+void AppendInCodePage(QByteArray& bytes, QStringView text)
+{
+    const qsizetype before = bytes.size();
+    bytes.resize(before + text.size());
+    char* out = bytes.data() + before;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if (c < FirstSpecial || (c > LastSpecial && c <= 0xFF)) {
+            *out++ = static_cast<char>(c);
+            continue;
+        }
+        const auto special = std::find(Specials.begin(), Specials.end(), c);
+        if (special == Specials.end()) {
+            bytes.truncate(before);
+            RefuseCharacter(text, i);
+        }
+        *out++ = static_cast<char>(FirstSpecial + (special - Specials.begin()));
+    }
+}
+
+} // namespace deckforge

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+#include <ctime>
+#include <optional>
+
+namespace deckforge {
+
+// Files with the failures that this program tells: 52, 53, 57, 61, 70, 75 and 76 by what the system says.
+// Nothing here waits: a fifo or a device is error 75 where it is read, and a fifo that nobody reads where it
+// is written. Paths may hold either separator.
+
+/// The whole of a regular file. A file of more than mostBytes is error 7.
+[[nodiscard]] QByteArray ReadWholeFile(const QString& path, qint64 mostBytes);
+
+struct FileAttributes {
+    qint64 Size = 0;
+    timespec LastAccess = {};
+    timespec LastWrite = {};
+    unsigned int Permissions = 0;
+};
+
+/// Nothing when there is no file.
+[[nodiscard]] std::optional<FileAttributes> AttributesOf(const QString& path);
+
+/// A file being written. The destructor closes it and keeps what was written.
+class OutputFile {
+public:
+    /// Empties the file that is there, or makes it.
+    explicit OutputFile(const QString& path);
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    void Write(QByteArrayView bytes);
+    void TakeTimesAndPermissions(const FileAttributes& from);
+
+    /// Waits until the bytes are on the disk, and closes. A late failure of the disk shows here.
+    void Close();
+
+private:
+    int m_handle;
+    QString m_path;
+};
+
+/// A copy of an existing regular file beside it that is safe on disk before this returns. It stands complete
+/// under its name or not at all.
+void CopyFileSafely(const QString& from, const QString& to);
+
+/// Whether there is a regular file at the path, links followed.
+[[nodiscard]] bool IsRegularFile(const QString& path);
+
+/// Takes a file away; no failure when it is not there.
+void RemoveFile(const QString& path);
+
+} // namespace deckforge

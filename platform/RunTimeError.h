@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+#include <exception>
+
+namespace deckforge {
+
+/// The numbers by which a failure is told to the user.
+enum class ErrorNumber {
+    InvalidCall = 5,
+    Overflow = 6,
+    OutOfMemory = 7,
+    SubscriptOutOfRange = 9,
+    TypeMismatch = 13,
+    BadFileName = 52,
+    FileNotFound = 53,
+    DeviceIo = 57,
+    DiskFull = 61,
+    InputPastEnd = 62,
+    PermissionDenied = 70,
+    PathFileAccess = 75,
+    PathNotFound = 76,
+    InvalidPropertyValue = 380,
+    InvalidPicture = 481,
+    PrinterError = 482,
+    JpegLibrary = 26001, ///< raised by the JPEG writer alone
+};
+
+/// A failure with a number and a description, thrown where it happens.
+class RunTimeError : public std::exception {
+public:
+    /// With the usual description of the number.
+    explicit RunTimeError(ErrorNumber number);
+    RunTimeError(ErrorNumber number, QString description);
+
+    [[nodiscard]] ErrorNumber Number() const { return m_number; }
+    [[nodiscard]] const QString& Description() const { return m_description; }
+    [[nodiscard]] const char* what() const noexcept override { return m_text.constData(); }
+
+    /// "53, File not found": how boxes tell a failure.
+    [[nodiscard]] QString NumberAndDescription() const;
+
+    /// A file or a folder on the way to it is not there.
+    [[nodiscard]] bool IsMissingFile() const;
+
+private:
+    ErrorNumber m_number;
+    QString m_description;
+    QByteArray m_text;
+};
+
+} // namespace deckforge

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/RunTimeError.h"
+
+#include <QString>
+#include <optional>
+
+namespace deckforge {
+
+enum class BoxStyle { Plain, Information, Question, Exclamation, Critical };
+enum class BoxButtons { Ok, YesNo, YesNoCancel };
+enum class Answer { Ok, Yes, No, Cancel };
+enum class Pointer { Default, Hourglass };
+
+struct MessageBoxRequest {
+    QString Text;
+    QString Title;
+    BoxStyle Style = BoxStyle::Information;
+    BoxButtons Buttons = BoxButtons::Ok;
+};
+
+/// An open or a save dialog. A filter is "description|pattern" pairs joined by "|"; FilterIndex counts the
+/// pairs from 1. Files to open must exist; before a file is replaced by a save the dialog asks.
+struct FileDialogRequest {
+    QString Title;
+    QString FileName;
+    QString Filter;
+    int FilterIndex = 1;
+    QString DefaultExtension;
+    QString Folder; ///< where the dialog starts; empty leaves it where the dialog has it
+};
+
+/// Everything that the program asks or tells its user, without a word about windows.
+class UserPort {
+public:
+    UserPort() = default;
+    virtual ~UserPort() = default;
+    UserPort(const UserPort&) = delete;
+    UserPort& operator=(const UserPort&) = delete;
+
+    virtual Answer ShowMessage(const MessageBoxRequest& request) = 0;
+
+    /// The full path chosen; nothing when the user cancels.
+    virtual std::optional<QString> AskOpenFile(const FileDialogRequest& request) = 0;
+    virtual std::optional<QString> AskSaveFile(const FileDialogRequest& request) = 0;
+
+    virtual void SetPointer(Pointer pointer) = 0;
+
+    /// How far a long run is: done of total. The last call of a run has done equal to total.
+    virtual void ShowProgress(int done, int total) = 0;
+};
+
+/// Tells a failure that nothing else has told; the program goes on with the set in memory.
+void TellUntrapped(UserPort& user, const RunTimeError& error);
+
+} // namespace deckforge
