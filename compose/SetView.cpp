@@ -46,19 +46,6 @@ void PlaceSymbols(Workshop& workshop)
     }
 }
 
-void ShowNumbers(Workshop& workshop)
-{
-    CardTemplates& templates = workshop.Templates;
-    const CardSet& set = workshop.Set;
-    const auto show = [&](Box& label, int16 current) {
-        label.Caption = QString::number(current);
-        label.Visible = set.Header.Autonumber;
-    };
-    show(templates.Standard.lblAutonumber, set.CurrentCard);
-    show(templates.Large.lblAutonumberLarge, set.CurrentLargeCard);
-    show(templates.Character.lblAutonumberCharacter, set.CurrentCharacter);
-}
-
 } // namespace
 
 void InitForm(Workshop& workshop)
@@ -78,6 +65,19 @@ void ShowSet(Workshop& workshop)
     DressOpenedSet(card, workshop.Set.Header);
     ShowNumbers(workshop);
     card.picBack.Visible = !workshop.Set.Header.NoBack;
+}
+
+void ShowNumbers(Workshop& workshop)
+{
+    CardTemplates& templates = workshop.Templates;
+    const CardSet& set = workshop.Set;
+    const auto show = [&](Box& label, int16 current) {
+        label.Caption = QString::number(current);
+        label.Visible = set.Header.Autonumber;
+    };
+    show(templates.Standard.lblAutonumber, set.CurrentCard);
+    show(templates.Large.lblAutonumberLarge, set.CurrentLargeCard);
+    show(templates.Character.lblAutonumberCharacter, set.CurrentCharacter);
 }
 
 void ShowOpenedSet(Workshop& workshop)

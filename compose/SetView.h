@@ -11,6 +11,9 @@ void InitForm(Workshop& workshop);
 /// A symbol that cannot be loaded is told to the user, and the set goes without.
 void ShowSet(Workshop& workshop);
 
+/// Puts the numbers of the current cards on the previews, where the set wants them.
+void ShowNumbers(Workshop& workshop);
+
 /// Brings the previews up to date with a set that has just been read, and makes the first cards current.
 void ShowOpenedSet(Workshop& workshop);
 

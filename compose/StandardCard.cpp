@@ -15,6 +15,7 @@ constexpr int FrameLeft = 5;
 constexpr int FrameWidth = 139;
 constexpr QSize EmptyPictureSize = {139, 105};
 constexpr int InformationBottom = 241;
+constexpr int HandleHeight = 3;
 
 // Preview
 
@@ -35,35 +36,32 @@ void ShowTypeLines(CardTemplate& t, const Card& card)
     t.lblType[3].Caption = card.SubTypeReversed;
 }
 
-void PlaceInformation(ShowRun& run, CardTemplate& t)
+/// Where no room is left for the text its box keeps the height it had.
+void PlaceInformation(CardTemplate& t)
 {
     t.lblInformation.Top = t.lblBold.Top + t.lblBold.Height;
-    run([&] { t.lblInformation.SetHeight(InformationBottom - t.lblInformation.Top); });
+    Attempt([&] { t.lblInformation.SetHeight(InformationBottom - t.lblInformation.Top); });
 }
 
-void ShowTexts(ShowRun& run, CardTemplate& t, const Card& card, int16 index)
+void ShowTexts(CardTemplate& t, const Card& card, int16 index)
 {
-    constexpr int emptyBoldHeight = 1;
-    constexpr int boldHeight = 12;
     t.lblTitle.Caption = card.Title;
     ShowTypeLines(t, card);
     t.lblNumber.Caption = card.Number;
     t.lblBold.Caption = card.BoldText;
-    t.lblBold.SetHeight(card.BoldText.isEmpty() ? emptyBoldHeight : boldHeight);
-    PlaceInformation(run, t);
+    PlaceBoldText(t);
     t.lblInformation.Caption = card.Info;
     t.lblAutonumber.Caption = QString::number(index);
 }
 
 void PlaceFrame(ShowRun& run, CardTemplate& t, const Card& card)
 {
-    constexpr int handleHeight = 3;
     t.picFrame.Visible = card.ShowPicture;
     t.picFrame.Border = card.Frame ? BorderStyle::Single : BorderStyle::None;
     run([&] { t.picFrame.SetHeight(card.FrameHeight); });
     t.lblPicSize.Top = t.picFrame.Top + t.picFrame.Height;
-    t.lblBold.Top = t.lblPicSize.Top + handleHeight;
-    PlaceInformation(run, t);
+    t.lblBold.Top = t.lblPicSize.Top + HandleHeight;
+    PlaceInformation(t);
 }
 
 /// With Resize it is the frame that goes sideways, and it is as wide as the picture.
@@ -163,7 +161,7 @@ void PaintPictures(Workshop& workshop, const Card& card)
     if (card.Frame && card.ShowPicture)
         OutlineFrame(picACard, t.picFrame, {0, 0});
     if (!workshop.Set.Header.Symbol.isEmpty())
-        picACard.PaintPicture(t.picSymbol.Surface->Image(), t.picSymbol.Left, t.picSymbol.Top);
+        picACard.PaintPicture(t.picSymbol.Surface->GetPicture(), t.picSymbol.Left, t.picSymbol.Top);
     if (!card.Artist.isEmpty())
         picACard.PaintPicture(t.picArtistDest.Surface->Image(), t.picArtistDest.Left, t.picArtistDest.Top);
 }
@@ -241,7 +239,7 @@ bool ShowCard(Workshop& workshop, int16 index)
         CardTemplate& t = workshop.Templates.Standard;
         Card& card = workshop.Set.Cards[index];
         ShowRun run;
-        ShowTexts(run, t, card, index);
+        ShowTexts(t, card, index);
         PlaceFrame(run, t, card);
         LoadCardPicture(run, workshop, card);
         PlacePictureInFrame(t, card);
@@ -264,6 +262,25 @@ void PlaceCardPicture(Workshop& workshop, int16 index)
     PlaceFrame(run, t, card);
     t.picImage.Surface->Refresh();
     PlacePictureInFrame(t, card);
+}
+
+void PlaceBoldText(CardTemplate& t)
+{
+    constexpr int emptyHeight = 1;
+    constexpr int lineHeight = 12;
+    t.lblBold.SetHeight(t.lblBold.Caption.isEmpty() ? emptyHeight : lineHeight);
+    PlaceInformation(t);
+}
+
+void ShowPictureFrame(CardTemplate& t, bool visible)
+{
+    t.picFrame.Visible = visible;
+    t.lblPicSize.Visible = visible;
+    const Box& above = visible ? t.picFrame : t.lblTitle;
+    t.lblBold.Top = above.Top + above.Height + HandleHeight;
+    PlaceInformation(t);
+    if (InformationBottom - t.lblInformation.Top < 1)
+        t.lblInformation.Top = InformationBottom + 1;
 }
 
 void DrawArtistCredit(Workshop& workshop, const QString& artist)

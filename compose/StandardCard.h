@@ -13,6 +13,12 @@ bool ShowCard(Workshop& workshop, int16 index);
 /// Lays out again only the frame and what follows it; the picture is not loaded anew.
 void PlaceCardPicture(Workshop& workshop, int16 index);
 
+/// Gives the bold line the height its caption needs, and the information what is left below it.
+void PlaceBoldText(CardTemplate& card);
+
+/// Shows or hides the picture with its frame and handle; the texts move up to where the frame was.
+void ShowPictureFrame(CardTemplate& card, bool visible);
+
 /// Puts the credit of the current card on its side on the preview, over the card's own background; hides it
 /// when the current card has no artist.
 void DrawArtistCredit(Workshop& workshop, const QString& artist);

@@ -2,6 +2,7 @@
 
 #include "core/Records.h"
 
+#include <QByteArrayView>
 #include <array>
 
 namespace deckforge::setFile {
@@ -13,9 +14,17 @@ inline constexpr char Start[] = "-- START --";
 inline constexpr char End[] = "-- END --";
 inline constexpr int16 CurrentVersion = 10;
 
-inline constexpr char LineEnd[] = "\r\n";
-inline constexpr QLatin1String LineBreak("\r\n"); ///< in a text of several lines ...
-inline constexpr QChar FlattenedBreak(u'|');      ///< ... and what it is on its one line in the file
+inline constexpr char LineEnd[] = "\r\n";   ///< of a line of the file, and in a text of several lines ...
+inline constexpr char FlattenedBreak = '|'; ///< ... which is this where such a text stands on one line
+
+/// Where the first line end of the bytes is; -1 where there is none.
+[[nodiscard]] inline qsizetype FindLineEnd(QByteArrayView bytes)
+{
+    qsizetype at = bytes.indexOf('\r');
+    while (at >= 0 && (at + 1 == bytes.size() || bytes[at + 1] != '\n'))
+        at = bytes.indexOf('\r', at + 1);
+    return at;
+}
 
 /// The fonts in the order of the file, which is not the one of the record.
 inline constexpr std::array<FontSpec SetHeader::*, 13> Fonts = {

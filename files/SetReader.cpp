@@ -22,7 +22,7 @@ QByteArrayView SetReader::Line()
     if (m_at >= m_bytes.size())
         throw RunTimeError(ErrorNumber::InputPastEnd);
     const QByteArrayView rest = QByteArrayView(m_bytes).sliced(m_at);
-    const qsizetype end = rest.indexOf(setFile::LineEnd);
+    const qsizetype end = setFile::FindLineEnd(rest);
     if (end < 0) {
         m_at = m_bytes.size();
         return rest;
@@ -39,7 +39,7 @@ QString SetReader::Text()
 
 QString SetReader::Flattened()
 {
-    return Text().replace(setFile::FlattenedBreak, setFile::LineBreak);
+    return Text().replace(QLatin1Char(setFile::FlattenedBreak), QLatin1String(setFile::LineEnd));
 }
 
 bool SetReader::Boolean()

@@ -36,17 +36,28 @@ void SetWriter::Literal(const char* text)
 
 void SetWriter::Text(const QString& text)
 {
-    if (text.contains(setFile::LineBreak)) {
+    const qsizetype start = m_gathered.size();
+    AppendInCodePage(m_gathered, text);
+    if (setFile::FindLineEnd(QByteArrayView(m_gathered).sliced(start)) >= 0) {
+        m_gathered.truncate(start);
         throw RunTimeError(ErrorNumber::InvalidCall,
                            QStringLiteral("The text \"%1\" holds a line break").arg(text));
     }
-    AppendInCodePage(m_gathered, text);
     EndLine();
 }
 
 void SetWriter::Flattened(const QString& text)
 {
-    AppendInCodePage(m_gathered, QString(text).replace(setFile::LineBreak, setFile::FlattenedBreak));
+    const qsizetype start = m_gathered.size();
+    AppendInCodePage(m_gathered, text);
+    qsizetype at = start;
+    for (;;) {
+        const qsizetype lineEnd = setFile::FindLineEnd(QByteArrayView(m_gathered).sliced(at));
+        if (lineEnd < 0)
+            break;
+        at += lineEnd;
+        m_gathered.replace(at, sizeof(setFile::LineEnd) - 1, QByteArrayView(&setFile::FlattenedBreak, 1));
+    }
     EndLine();
 }
 

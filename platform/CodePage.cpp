@@ -11,6 +11,7 @@ namespace {
 
 constexpr char16_t FirstSpecial = 0x80;
 constexpr char16_t LastSpecial = 0x9F;
+constexpr char16_t LastPlain = 0xFF;
 
 /// What the bytes 0x80 to 0x9F stand for; all others stand for the character of the same value.
 constexpr std::array<char16_t, LastSpecial - FirstSpecial + 1> Specials = {
@@ -58,19 +59,24 @@ void AppendInCodePage(QByteArray& bytes, QStringView text)
 {
     const qsizetype before = bytes.size();
     bytes.resize(before + text.size());
-    char* out = bytes.data() + before;
+    char* const out = bytes.data() + before;
+    const char16_t* const characters = text.utf16();
+    bool isPlain = true; // all characters so far have the value of their byte
     for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t c = text[i].unicode();
-        if (c < FirstSpecial || (c > LastSpecial && c <= 0xFF)) {
-            *out++ = static_cast<char>(c);
+        const char16_t c = characters[i];
+        isPlain = isPlain && c <= LastPlain && !IsSpecialByte(c);
+        out[i] = static_cast<char>(c);
+    }
+    for (qsizetype i = 0; !isPlain && i < text.size(); ++i) {
+        const char16_t c = characters[i];
+        if (c <= LastPlain && !IsSpecialByte(c))
             continue;
-        }
         const auto special = std::find(Specials.begin(), Specials.end(), c);
         if (special == Specials.end()) {
             bytes.truncate(before);
             RefuseCharacter(text, i);
         }
-        *out++ = static_cast<char>(FirstSpecial + (special - Specials.begin()));
+        out[i] = static_cast<char>(FirstSpecial + (special - Specials.begin()));
     }
 }
 

@@ -1,0 +1,119 @@
+#include "bench/SilentUser.h"
+#include "core/modInfo.h"
+#include "files/modFile.h"
+
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <fstream>
+#include <unistd.h>
+#include <vector>
+
+// Reading and writing a set beside the limit: the same bytes as bare lines, through the standard library and
+// with the same wait for the disk.
+
+namespace deckforge {
+
+namespace {
+
+CardSet SetOf(int count)
+{
+    CardSet set;
+    InitSet(set);
+    for (int i = 2; i <= count; ++i)
+        AddElement(set, StandardKind);
+    for (int i = 1; i <= count; ++i) {
+        Card& card = set.Cards[i];
+        card.Picture = QStringLiteral("/home/player/varnhelm/pictures/card %1.jpg").arg(i);
+        card.PictureLeft = -15 * (i % 40);
+        card.Info =
+            QStringLiteral("Roll one die for each follower.\r\nOn a 1 or 2 it leaves you; on a 6 you gain "
+                           "one strength and may move again in the next turn.");
+        card.BoldText = QStringLiteral("STRENGTH %1").arg(i % 12);
+    }
+    return set;
+}
+
+/// A set file in a folder of its own.
+struct Stored {
+    explicit Stored(int count) : Set(SetOf(count)), Path(Folder.filePath(QStringLiteral("set.dkf")))
+    {
+        WriteDKF(Set, Path, User, Report::Silent);
+    }
+
+    QTemporaryDir Folder;
+    SilentUser User;
+    CardSet Set;
+    QString Path;
+};
+
+std::vector<std::string> ReadLines(const std::string& path)
+{
+    std::vector<std::string> lines;
+    std::ifstream in(path, std::ios::binary);
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+void WriteLines(const std::string& path, const std::vector<std::string>& lines)
+{
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    for (const std::string& line : lines)
+        out << line << '\n';
+    out.close();
+    const int handle = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+    ::fsync(handle);
+    ::close(handle);
+}
+
+void ReadBareLines(benchmark::State& state)
+{
+    const Stored stored(static_cast<int>(state.range(0)));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(ReadLines(stored.Path.toStdString()));
+}
+
+void ReadSet(benchmark::State& state)
+{
+    Stored stored(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        CardSet set;
+        benchmark::DoNotOptimize(ReadDKF(set, stored.Path, stored.User));
+    }
+}
+
+void WriteBareLines(benchmark::State& state)
+{
+    const Stored stored(static_cast<int>(state.range(0)));
+    const std::string target = stored.Folder.filePath(QStringLiteral("lines")).toStdString();
+    const std::vector<std::string> lines = ReadLines(stored.Path.toStdString());
+    for (auto _ : state) {
+        ::unlink(target.c_str());
+        WriteLines(target, lines);
+    }
+}
+
+void WriteSet(benchmark::State& state)
+{
+    Stored stored(static_cast<int>(state.range(0)));
+    const QString target = stored.Folder.filePath(QStringLiteral("written.dkf"));
+    for (auto _ : state) {
+        ::unlink(target.toUtf8().constData());
+        WriteDKF(stored.Set, target, stored.User, Report::Silent);
+    }
+}
+
+void Sizes(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->Arg(100)->Arg(2000)->Arg(32767)->Unit(benchmark::kMillisecond)->UseRealTime();
+}
+
+BENCHMARK(ReadBareLines)->Apply(Sizes);
+BENCHMARK(ReadSet)->Apply(Sizes);
+BENCHMARK(WriteBareLines)->Apply(Sizes);
+BENCHMARK(WriteSet)->Apply(Sizes);
+
+} // namespace
+
+} // namespace deckforge

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/UserPort.h"
+
+namespace deckforge {
+
+/// A user who sees nothing and cancels every dialog.
+class SilentUser final : public UserPort {
+public:
+    Answer ShowMessage(const MessageBoxRequest& /*request*/) override { return deckforge::Answer::Ok; }
+    std::optional<QString> AskOpenFile(const FileDialogRequest& /*request*/) override { return std::nullopt; }
+    std::optional<QString> AskSaveFile(const FileDialogRequest& /*request*/) override { return std::nullopt; }
+    void SetPointer(Pointer /*pointer*/) override {}
+    void ShowProgress(int /*done*/, int /*total*/) override {}
+};
+
+} // namespace deckforge

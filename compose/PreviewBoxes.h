@@ -1,0 +1,28 @@
+#pragma once
+
+#include "compose/CardTemplates.h"
+
+#include <vector>
+
+namespace deckforge {
+
+enum class BoxLook {
+    Surface, ///< shows its pixels
+    Picture, ///< shows its pixels once it has a picture
+    Label,   ///< shows its caption
+    Frame,   ///< a window through which its child is seen
+};
+
+/// A box as a preview paints it. Its place counts from inside the border of its parent, which also cuts it
+/// off and hides it; a box without a parent stands on the preview itself.
+struct PreviewBox {
+    const Box* Shown;
+    const Box* Parent;
+    BoxLook Look;
+};
+
+/// The boxes in the order in which they are painted: parents before children, labels behind everything that
+/// has pixels, the symbol in front.
+[[nodiscard]] std::vector<PreviewBox> PreviewBoxes(const CardTemplate& card);
+
+} // namespace deckforge

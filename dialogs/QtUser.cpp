@@ -1,0 +1,189 @@
+#include "dialogs/QtUser.h"
+
+#include "platform/Paths.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace deckforge {
+
+namespace {
+
+QMessageBox::Icon IconOf(BoxStyle style)
+{
+    switch (style) {
+    case BoxStyle::Information:
+        return QMessageBox::Information;
+    case BoxStyle::Question:
+        return QMessageBox::Question;
+    case BoxStyle::Exclamation:
+        return QMessageBox::Warning;
+    case BoxStyle::Critical:
+        return QMessageBox::Critical;
+    case BoxStyle::Plain:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons)
+{
+    switch (buttons) {
+    case BoxButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case BoxButtons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+Answer AnswerOf(int button)
+{
+    switch (button) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Cancel:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+
+QString WithLineBreaks(QString text)
+{
+    return text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+} // namespace
+
+QStringList NameFilters(const QString& filter)
+{
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString description = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
+        QStringList patterns = parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts);
+        patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+        filters += QStringLiteral("%1 (%2)").arg(description, patterns.join(QLatin1Char(' ')));
+    }
+    return filters;
+}
+
+QtUser::~QtUser()
+{
+    SetPointer(Pointer::Default);
+}
+
+void QtUser::Serve(QWidget* window, std::function<void(int, int)> showProgress)
+{
+    m_window = window;
+    m_showProgress = std::move(showProgress);
+}
+
+Answer QtUser::ShowMessage(const MessageBoxRequest& request)
+{
+    QMessageBox box(IconOf(request.Style), request.Title, {}, ButtonsOf(request.Buttons), TopWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(WithLineBreaks(request.Text));
+    return AnswerOf(box.exec());
+}
+
+std::optional<QString> QtUser::AskOpenFile(const FileDialogRequest& request)
+{
+    QFileDialog dialog(TopWindow(), request.Title);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    Prepare(dialog, request);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return Remembered(dialog.selectedFiles().constFirst());
+}
+
+std::optional<QString> QtUser::AskSaveFile(const FileDialogRequest& request)
+{
+    QFileDialog dialog(TopWindow(), request.Title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    // Asked below: a dialog of the desktop does so for the name before the extension is appended.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setDefaultSuffix(request.DefaultExtension);
+    Prepare(dialog, request);
+    while (dialog.exec() == QDialog::Accepted) {
+        const QString path = dialog.selectedFiles().constFirst();
+        if (MayWrite(path, request.Title))
+            return Remembered(path);
+    }
+    return std::nullopt;
+}
+
+void QtUser::SetPointer(Pointer pointer)
+{
+    const bool isHourglass = pointer == Pointer::Hourglass;
+    if (isHourglass == m_isHourglass)
+        return;
+    m_isHourglass = isHourglass;
+    if (isHourglass)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void QtUser::ShowProgress(int done, int total)
+{
+    if (m_showProgress)
+        m_showProgress(done, total);
+}
+
+QWidget* QtUser::TopWindow() const
+{
+    QWidget* const modal = QApplication::activeModalWidget();
+    return modal ? modal : m_window;
+}
+
+void QtUser::Prepare(QFileDialog& dialog, const FileDialogRequest& request) const
+{
+    const QStringList filters = NameFilters(request.Filter);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(request.FilterIndex - 1));
+    const QString folder = request.Folder.isEmpty() ? m_lastFolder : request.Folder;
+    dialog.setDirectory(folder.isEmpty() ? QDir::homePath() : PathToOpen(folder));
+    if (request.FileName.isEmpty())
+        return;
+    // A name may hold a separator, as titles of cards do, or the folders of another machine.
+    const QString path = PathToOpen(request.FileName);
+    const bool isPath = QDir::isAbsolutePath(path) && QFileInfo(FolderPart(path)).isDir();
+    dialog.selectFile(isPath ? path : NamePart(path));
+}
+
+bool QtUser::MayWrite(const QString& path, const QString& title)
+{
+    const QFileInfo file(path);
+    if (!file.dir().exists()) {
+        ShowMessage({.Text = QStringLiteral("The folder does not exist:\n\n%1").arg(file.path()),
+                     .Title = title,
+                     .Style = BoxStyle::Exclamation});
+        return false;
+    }
+    if (!file.exists())
+        return true;
+    const Answer answer = ShowMessage(
+        {.Text = QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(file.fileName()),
+         .Title = title,
+         .Style = BoxStyle::Exclamation,
+         .Buttons = BoxButtons::YesNo});
+    return answer == Answer::Yes;
+}
+
+QString QtUser::Remembered(const QString& path)
+{
+    m_lastFolder = QFileInfo(path).path();
+    return path;
+}
+
+} // namespace deckforge

@@ -1,0 +1,377 @@
+#include "core/Vocabulary.h"
+#include "core/modInfo.h"
+#include "files/modFile.h"
+#include "support/Failures.h"
+#include "support/ScriptedUser.h"
+#include "support/TestFolder.h"
+
+#include <QFile>
+#include <csignal>
+#include <sys/resource.h>
+
+namespace deckforge {
+
+namespace {
+
+/// The lines of a set file as a test puts them together.
+class Lines {
+public:
+    Lines& operator<<(const char* line)
+    {
+        m_bytes += QByteArray(line) + "\r\n";
+        return *this;
+    }
+    Lines& Font(const char* name)
+    {
+        return *this << name << " 9 "
+                     << "True"
+                     << "False"
+                     << " 255 ";
+    }
+    Lines& Fonts(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            Font("Lettering");
+        return *this;
+    }
+    [[nodiscard]] QByteArray Bytes() const { return m_bytes; }
+
+private:
+    QByteArray m_bytes;
+};
+
+Lines HeadOf(const char* version)
+{
+    return Lines() << "Amber Gnome - Varnhelm Deck Foundry" << version << "-- START --";
+}
+
+/// A set of version 1 with one card; the type line and its row as given.
+QByteArray VersionOne(const char* type, const char* typeIndex, const char* ownTypes = "15")
+{
+    Lines lines = HeadOf("Version 1");
+    lines << "Old set"
+          << "C:\\old.dkf"
+          << "C:\\out\\"
+          << "True"
+          << "C:\\symbol.gif"
+          << "old"
+          << "True"
+          << "False";
+    lines.Fonts(6) << ownTypes << "27"
+                   << "1";
+    lines << "Bear" << type << typeIndex << "2"
+          << "True"
+          << "bear.bmp"
+          << "-150"
+          << "104.5"
+          << "7.5"
+          << "True"
+          << "False"
+          << "STRENGTH 4"
+          << "Line one|line two"
+          << ""
+          << "3"
+          << "16777215"
+          << "";
+    lines << "4"
+          << "SPELL"
+          << "back.bmp"
+          << "-- END --";
+    return lines.Bytes();
+}
+
+class SetFileTest : public testing::Test {
+protected:
+    SetFileTest() { InitSet(Set); }
+
+    bool Read(const QByteArray& bytes)
+    {
+        return ReadDKF(Set, Folder.Write(QStringLiteral("set.dkf"), bytes), User);
+    }
+    QByteArray Written()
+    {
+        EXPECT_TRUE(WriteDKF(Set, Folder.Path(QStringLiteral("written.dkf")), User, Report::Silent));
+        return Folder.Read(QStringLiteral("written.dkf"));
+    }
+
+    TestFolder Folder;
+    ScriptedUser User;
+    CardSet Set;
+};
+
+const QString ReadFailure = QStringLiteral("Error|Error while opening the Varnhelm Card Set.\r\n\r\n");
+
+} // namespace
+
+TEST_F(SetFileTest, ANewSetIsWrittenLineForLine)
+{
+    Set.Header.SaveTo = QStringLiteral("/out/");
+    Set.Header.FileName = QStringLiteral("/sets/new.dkf");
+    Lines expected = HeadOf("Version 10");
+    expected << "New set"
+             << "/sets/new.dkf"
+             << "/out/"
+             << "False"
+             << ""
+             << ""
+             << "False"
+             << "False"
+             << " 0 "
+             << "False"
+             << " 12632256 ";
+    const auto font = [&](const char* size, const char* bold, const char* colour) {
+        expected << "Small Fonts" << size << bold << "False" << colour;
+    };
+    font(" 7 ", "True", " 0 "); // title, before type
+    font(" 7 ", "False", " 0 ");
+    font(" 7 ", "False", " 0 ");
+    font(" 7 ", "True", " 0 ");
+    font(" 7 ", "False", " 0 ");
+    font(" 5 ", "False", " 0 ");
+    font(" 7 ", "True", " 0 ");
+    font(" 7 ", "False", " 0 ");
+    font(" 7 ", "True", " 16777215 ");
+    font(" 7 ", "True", " 0 ");
+    font(" 7 ", "False", " 0 ");
+    font(" 6 ", "True", " 0 ");
+    font(" 7 ", "True", " 0 ");
+    expected << " 0 "
+             << " 0 "
+             << " 0 "
+             << " 1 ";
+    expected << "CARD 1"
+             << " 1 "
+             << "ENEMY-"
+             << "Animal"
+             << "-ENEMY"
+             << "Animal"
+             << "False"
+             << " 0 "
+             << "2"
+             << "True"
+             << ""
+             << " 0 "
+             << " 105 "
+             << " 0 "
+             << "True"
+             << "False"
+             << ""
+             << ""
+             << ""
+             << ""
+             << " 1 "
+             << " 16777215 "
+             << "";
+    expected << " 0 "
+             << " 0 "
+             << " 1 "
+             << "ENEMY-"
+             << "-ENEMY"
+             << "Animal"
+             << "Animal"
+             << " 2 "
+             << ""
+             << "-- END --";
+    EXPECT_EQ(Written(), expected.Bytes());
+}
+
+TEST_F(SetFileTest, EveryKindOfRecordSurvivesARoundTrip)
+{
+    Set.CardTypeCount = 16;
+    Set.CardTypes.Resize(16);
+    Set.CardTypes[16] = {
+        .Name = QStringLiteral("QUEST"), .SubName = {}, .ReversedName = {}, .ReversedSubName = {}};
+    Set.CardBackCount = 28;
+    Set.CardBacks.Resize(28);
+    Set.CardBacks[28].Picture = QStringLiteral("C:\\own.bmp");
+    Set.Cards[1].TypeIndex = -1;
+    Set.Cards[1].PictureLeft = -12.25;
+    Set.Cards[1].Info = QStringLiteral("one\r\ntwo\rstill two\r\n");
+    AddElement(Set, LargeKind);
+    AddElement(Set, CharacterKind);
+    Set.Characters[1].PlayingPieceLeft = 30;
+    AddElement(Set, NewBackKind);
+    const QByteArray first = Written();
+    EXPECT_TRUE(first.contains("\r\none|two\rstill two|\r\n"));
+
+    Set = {};
+    InitSet(Set);
+    ASSERT_TRUE(Read(first));
+    EXPECT_EQ(Set.Cards[1].Info, QStringLiteral("one\r\ntwo\rstill two\r\n"));
+    EXPECT_EQ(Set.Cards[1].PictureLeft, -12.25);
+    EXPECT_EQ(Set.Characters[1].PlayingPieceLeft, 30);
+    EXPECT_EQ(Written(), first);
+}
+
+TEST_F(SetFileTest, AFileOfVersionOneBecomesACurrentSet)
+{
+    ASSERT_TRUE(Read(VersionOne("SPELL", "0")));
+    const Card& card = Set.Cards[1];
+    EXPECT_EQ(card.TypeReversed, QStringLiteral("SPELL"));
+    EXPECT_EQ(card.TypeIndex, 0);
+    EXPECT_EQ(card.Copies, 1);
+    EXPECT_EQ(card.FrameHeight, 104) << "halves go to the even neighbour";
+    EXPECT_EQ(card.PictureTop, -150);
+    EXPECT_EQ(card.Info, QStringLiteral("Line one\r\nline two"));
+    EXPECT_EQ(Set.Header.SaveFormat, 0);
+    EXPECT_EQ(Set.Header.ArtistColor, 0xC0C0C0);
+    EXPECT_EQ(Set.Header.FontAutonumber.Name, QStringLiteral("Lettering"));
+    EXPECT_EQ(Set.Header.FontPlayingPiece.Name, QStringLiteral("Small Fonts"))
+        << "not in the file, so not reset";
+    EXPECT_EQ(Set.LastTypeReversed, QStringLiteral("SPELL"));
+    EXPECT_EQ(Set.LastSubType, QString());
+    EXPECT_EQ(Set.LastNumber, 2);
+    EXPECT_EQ(
+        User.BoxTexts(),
+        (std::vector<QString>{QStringLiteral("Converting|The set you are opening is of an older version.\r\n"
+                                             "It will now be converted to the new version."),
+                              QStringLiteral("Open file|The card set is loaded.")}));
+}
+
+TEST_F(SetFileTest, OldTypesAreFoundByTheirRowOrElseByTheirText)
+{
+    struct Case {
+        const char* Text;
+        const char* Row;
+        const char* Type;
+        const char* SubType;
+    };
+    for (const Case& c :
+         {Case{"anything", "3", "ENEMY-", "Dragon"}, Case{"ENEMY-Animal", "0", "ENEMY-", "Animal"},
+          Case{"EVENT-Law", "0", "EVENT", ""}, Case{"event", "0", "event", ""},
+          Case{"SPELL", "-1", "SPELL", ""}, Case{"ENEMY-Animal", "16", "ENEMY-Animal", ""}}) {
+        ASSERT_TRUE(Read(VersionOne(c.Text, c.Row)));
+        EXPECT_EQ(Set.Cards[1].Type, QString::fromLatin1(c.Type)) << c.Text << c.Row;
+        EXPECT_EQ(Set.Cards[1].SubType, QString::fromLatin1(c.SubType)) << c.Text << c.Row;
+    }
+}
+
+TEST_F(SetFileTest, OldCountsHoldTheBuiltInRowsToo)
+{
+    QByteArray bytes = VersionOne("SPELL", "13", "16");
+    bytes.replace("\r\n16\r\n27\r\n", "\r\n16\r\nQUEST\r\nTSEUQ\r\n7\r\nFalse\r\n27\r\n");
+    ASSERT_TRUE(Read(bytes));
+    EXPECT_EQ(Set.CardTypeCount, 16);
+    EXPECT_EQ(Set.CardTypes[16].ReversedName, QStringLiteral("TSEUQ"));
+
+    ASSERT_TRUE(Read(VersionOne("SPELL", "13", "15")));
+    EXPECT_EQ(Set.CardTypeCount, 16) << "rows of the set before stay when the file has none";
+}
+
+TEST_F(SetFileTest, WhatIsNoSetChangesNothing)
+{
+    EXPECT_FALSE(Read("amber gnome - Varnhelm Deck Foundry\r\nVersion 10\r\n"));
+    EXPECT_EQ(User.BoxTexts().back(), QStringLiteral("Open File Error|This is not a correct card set file."));
+    EXPECT_FALSE(Read(HeadOf("Version 11").Bytes()));
+    EXPECT_EQ(User.BoxTexts().back(),
+              QStringLiteral("Version conflict|The set you are opening is from a newer "
+                             "version.\r\nIt can not be opened in this version."));
+    EXPECT_FALSE(Read(HeadOf("Version10").Bytes()));
+    EXPECT_EQ(User.BoxTexts().back(), ReadFailure + QStringLiteral("13, Type mismatch"));
+    EXPECT_FALSE(ReadDKF(Set, Folder.Path(QStringLiteral("none.dkf")), User));
+    EXPECT_EQ(User.BoxTexts().back(), ReadFailure + QStringLiteral("53, File not found"));
+    EXPECT_EQ(Set.Header.SetName, QStringLiteral("New set"));
+}
+
+TEST_F(SetFileTest, AFileCutAtAnyLineIsToldAndNeverTaken)
+{
+    const QByteArray whole = Written();
+    for (qsizetype end = whole.indexOf("\r\n"); end >= 0 && end + 2 < whole.size();
+         end = whole.indexOf("\r\n", end + 1)) {
+        EXPECT_FALSE(Read(whole.first(end + 2)));
+        EXPECT_EQ(User.BoxTexts().back(), ReadFailure + QStringLiteral("62, Input past end of file"));
+    }
+}
+
+TEST_F(SetFileTest, AnotherLineInPlaceOfTheEndIsToldAndTheSetIsRead)
+{
+    QByteArray bytes = Written();
+    bytes.replace("-- END --", "-- end --");
+    EXPECT_TRUE(Read(bytes));
+    EXPECT_EQ(User.BoxTexts(), (std::vector<QString>{QStringLiteral("Error|No final match!"),
+                                                     QStringLiteral("Open file|The card set is loaded.")}));
+    EXPECT_EQ(User.Boxes[0].Style, BoxStyle::Question);
+}
+
+TEST_F(SetFileTest, CountsThatCannotBeAreToldInBoundedTime)
+{
+    const QByteArray whole = Written();
+    const QByteArray counts = "\r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n";
+    ASSERT_TRUE(whole.contains(counts));
+    const auto readWith = [&](const char* count) {
+        QByteArray bytes = whole;
+        bytes.replace(counts, QByteArray("\r\n 0 \r\n 0 \r\n 0 \r\n") + count + "\r\n");
+        EXPECT_FALSE(Read(bytes));
+        return User.BoxTexts().back();
+    };
+    EXPECT_EQ(readWith(" 1000000000 "), ReadFailure + QStringLiteral("6, Overflow"));
+    EXPECT_EQ(readWith("-2 "), ReadFailure + QStringLiteral("9, Subscript out of range"));
+    EXPECT_EQ(readWith(" 32767 "), ReadFailure + QStringLiteral("13, Type mismatch"));
+}
+
+TEST_F(SetFileTest, SavingAsksEveryTimeAndThePathStandsInTheFile)
+{
+    const QString path = Folder.Path(QStringLiteral("chosen.dkf"));
+    User.WillChoose(path);
+    SaveSet(Set, User);
+    EXPECT_TRUE(Folder.Read(QStringLiteral("chosen.dkf")).contains(path.toUtf8()));
+    EXPECT_EQ(User.BoxTexts(), std::vector<QString>{QStringLiteral("Save file|The card set is saved.")});
+    User.WillCancelDialog();
+    SaveSet(Set, User);
+    ASSERT_EQ(User.SaveDialogs.size(), 2U);
+    EXPECT_EQ(User.SaveDialogs[1].FileName, path);
+    EXPECT_EQ(User.SaveDialogs[1].Title, QStringLiteral("Save Card Set"));
+    EXPECT_EQ(User.Boxes.size(), 1U);
+}
+
+TEST_F(SetFileTest, AFailedWriteLeavesTheOldSetBesideTheFile)
+{
+    const QString path = Folder.Path(QStringLiteral("written.dkf"));
+    const QByteArray old = Written();
+    EXPECT_FALSE(Folder.Has(QStringLiteral("written.dkf~"))) << "a good write leaves no copy";
+
+    Set.Header.SetName = QStringLiteral("Changed");
+    Set.Cards[1].Info = QStringLiteral("Łódź");
+    EXPECT_FALSE(WriteDKF(Set, path, User, Report::Tell));
+    EXPECT_EQ(User.LastBox().Title, QStringLiteral("Error"));
+    EXPECT_EQ(User.LastBox().Style, BoxStyle::Critical);
+    EXPECT_TRUE(
+        User.LastBox().Text.startsWith(QStringLiteral("The file is NOT saved due to an error.\r\n\r\n5, ")));
+    EXPECT_TRUE(User.LastBox().Text.contains(QStringLiteral("Ł")));
+    EXPECT_TRUE(Folder.Read(QStringLiteral("written.dkf")).endsWith("True\r\nFalse\r\n\r\n\r\n"))
+        << "what had been written stays, up to the line that failed";
+    EXPECT_EQ(Folder.Read(QStringLiteral("written.dkf~")), old);
+
+    EXPECT_FALSE(WriteDKF(Set, path, User, Report::Tell));
+    EXPECT_EQ(Folder.Read(QStringLiteral("written.dkf~")), old)
+        << "the rest of a write is no set worth a copy";
+
+    Set.Cards[1].Info.clear();
+    EXPECT_TRUE(WriteDKF(Set, path, User, Report::Tell));
+    EXPECT_FALSE(Folder.Has(QStringLiteral("written.dkf~")));
+}
+
+TEST_F(SetFileTest, AFullDiskIsToldAndTheOldSetStays)
+{
+    const QByteArray old = Written();
+    const QString path = Folder.Path(QStringLiteral("written.dkf"));
+    for (int i = 0; i < 200; ++i)
+        AddElement(Set, StandardKind);
+    rlimit before = {};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    ::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small = {static_cast<rlim_t>(old.size() + 1000), before.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_FALSE(WriteDKF(Set, path, User, Report::Tell));
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_TRUE(User.LastBox().Text.endsWith(QStringLiteral("61, Disk full")));
+    EXPECT_EQ(Folder.Read(QStringLiteral("written.dkf~")), old);
+}
+
+TEST_F(SetFileTest, ATextOfTwoLinesCannotBreakTheLinesOfTheFile)
+{
+    Set.Cards[1].Title = QStringLiteral("two\r\nlines");
+    EXPECT_FALSE(WriteDKF(Set, Folder.Path(QStringLiteral("written.dkf")), User, Report::Tell));
+}
+
+} // namespace deckforge

@@ -1,0 +1,153 @@
+#include "imaging/PictureBox.h"
+#include "imaging/modRotatePic.h"
+#include "support/Failures.h"
+#include "support/PixelText.h"
+
+namespace deckforge {
+
+TEST(PictureBox, PicturesAreCutAtItsEdgesAndTheRestStays)
+{
+    const Picture picture = PictureOf({"rgb", "###"});
+    struct Case {
+        QPoint Target;
+        QRect Source;
+        PixelRows Expected;
+    };
+    for (const Case& c : {
+             Case{{1, 1}, {0, 0, 3, 2}, {"....", ".rgb", ".###"}},
+             Case{{-1, 0}, {0, 0, 3, 2}, {"gb..", "##..", "...."}},
+             Case{{2, 2}, {0, 0, 3, 2}, {"....", "....", "..rg"}},
+             Case{{0, 0}, {1, 0, 5, 1}, {"gb..", "....", "...."}}, // the source reaches past the picture
+             Case{{0, 0}, {-1, 0, 2, 1}, {".r..", "....", "...."}},
+             Case{{0, 0}, {3, 0, 2, 2}, {"....", "....", "...."}},
+         }) {
+        PictureBox surface(QSize(4, 3));
+        surface.PaintPart(picture, c.Target, c.Source);
+        EXPECT_EQ(RowsOf(surface), c.Expected);
+    }
+}
+
+TEST(PictureBox, OutlinesHoldBothCornersAndBlanksFillTheirArea)
+{
+    PictureBox surface(QSize(5, 4));
+    surface.PaintStretched(PictureOf({"b"}), {0, 0, 4, 3});
+    surface.LineBox(1, 1, 4, 3);
+    EXPECT_EQ(RowsOf(surface), (PixelRows{"bbbb.", "b####", "b#bb#", ".####"}));
+}
+
+TEST(PictureBox, BackColourAndPictureClearWhatWasDrawn)
+{
+    PictureBox surface(QSize(3, 1));
+    surface.SetPicture(PictureOf({"r"}));
+    surface.SetPixel(2, 0, Black);
+    surface.SetBackColor(0x00FF00);
+    EXPECT_EQ(RowsOf(surface), PixelRows{"rgg"}) << "the picture stays on top of the colour";
+    surface.SetPixel(1, 0, Black);
+    surface.Freeze();
+    surface.Refresh();
+    EXPECT_EQ(RowsOf(surface), PixelRows{"r#g"});
+    EXPECT_EQ(surface.GetPixel(3, 0), InvalidColour);
+    surface.SetPixel(-1, 0, Black);
+}
+
+TEST(PictureBox, AnImageTakenBeforeIsNotDrawnOver)
+{
+    PictureBox surface(QSize(2, 1));
+    const Picture before = surface.Image();
+    surface.SetPixel(0, 0, Black);
+    EXPECT_EQ(RowsOf(before), PixelRows{".."});
+}
+
+TEST(PictureBox, FloodFillKeepsToTheConnectedAreaOfItsColour)
+{
+    PictureBox surface = SurfaceOf({"..#..", "..#.#", "###..", "....."});
+    surface.FillColor = 0x0000FF;
+    surface.ExtFloodFill(0, 0, White);
+    EXPECT_EQ(RowsOf(surface), (PixelRows{"rr#..", "rr#.#", "###..", "....."}));
+    surface.ExtFloodFill(2, 0, White); // the seed has another colour
+    surface.ExtFloodFill(9, 9, White);
+    EXPECT_EQ(RowsOf(surface), (PixelRows{"rr#..", "rr#.#", "###..", "....."}));
+}
+
+TEST(PictureBox, AtAScaleThePlacesAreTheSame)
+{
+    PictureBox fine(QSize(4, 3), 3);
+    fine.PaintPart(PictureOf({"rrr", "rrr"}), {2, 1}, {0, 0, 3, 2});
+    fine.LineBox(0, 0, 2, 2);
+    EXPECT_EQ(RowsOf(fine), (PixelRows{"###.", "#.#r", "###r"}));
+    EXPECT_EQ(fine.Image().Pixels().size(), QSize(12, 9));
+    EXPECT_EQ(fine.Image().Size(), QSize(4, 3));
+    // A picture of the finer surface is as large as it was on it.
+    PictureBox coarse(QSize(4, 3));
+    coarse.PaintPicture(fine.Image(), 0, 0);
+    EXPECT_EQ(coarse.GetPixel(3, 2), 0x0000FF);
+}
+
+TEST(PictureBox, RefusesFontsThatCannotBeAndKeepsTheOneItHad)
+{
+    PictureBox surface(QSize(10, 10));
+    const TextFont before = surface.Font();
+    EXPECT_EQ(FailureOf([&] { surface.SetFontName(QString()); }), 380);
+    for (const double size : {0.0, -7.0, 10000.0})
+        EXPECT_EQ(FailureOf([&] { surface.SetFontSize(size); }), 380) << size;
+    EXPECT_TRUE(surface.Font() == before);
+}
+
+TEST(TextFont, HasThePlatformsMeasures)
+{
+    EXPECT_EQ(PixelSize(5), 7);
+    EXPECT_EQ(PixelSize(5.25), 7);
+    EXPECT_EQ(PixelSize(6), 8);
+    EXPECT_EQ(PixelSize(6.75), 9);
+    EXPECT_EQ(PixelSize(7), 9);
+    EXPECT_EQ(PixelSize(18), 24);
+    const FontMeasures measures({.Name = QStringLiteral("Small Fonts"), .Size = 7});
+    EXPECT_EQ(measures.LineHeight(), 11);
+    EXPECT_NEAR(
+        measures.Width(u"The quick brown fox jumps over the lazy dog while the old wizard looks on and on"),
+        312, 15);
+    EXPECT_DOUBLE_EQ(measures.Width(u"AV fi"), measures.Width(u"A") + measures.Width(u"V") +
+                                                   measures.Width(u" ") + measures.Width(u"f") +
+                                                   measures.Width(u"i"));
+}
+
+TEST(TextFont, TextStandsInItsLineAtEveryScale)
+{
+    for (const int scale : {1, 4}) {
+        PictureBox surface(QSize(60, 30), scale);
+        surface.CurrentX = 10;
+        surface.CurrentY = 8;
+        surface.Print(QStringLiteral("ÅHg"));
+        const QImage image = surface.Image().Pixels();
+        QRect ink;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                EXPECT_TRUE(qGray(image.pixel(x, y)) == qRed(image.pixel(x, y)))
+                    << "text has no colour of its own";
+                if (qGray(image.pixel(x, y)) < 128)
+                    ink |= QRect(x, y, 1, 1);
+            }
+        }
+        EXPECT_TRUE(QRect(10 * scale, 8 * scale, 30 * scale, 11 * scale).contains(ink)) << scale;
+        EXPECT_EQ(surface.CurrentY, 19);
+        EXPECT_EQ(surface.CurrentX, 0);
+    }
+}
+
+TEST(RotatePicture, TurnsBothWaysAndShiftsTheClockwiseTurnOfBacks)
+{
+    const PictureBox source = SurfaceOf({"r...", "#..b"});
+    PictureBox target(QSize(1, 1));
+    RotatePicture(source, target, Turn::Clockwise);
+    EXPECT_EQ(RowsOf(target), (PixelRows{"#r", "..", "..", "b."}));
+    RotatePicture(source, target, Turn::CounterClockwise);
+    EXPECT_EQ(RowsOf(target.GetPicture()), (PixelRows{".b", "..", "..", "r#"}));
+
+    const PictureBox tall = SurfaceOf({"r.", "g.", "b.", "#."});
+    RotatePictureShifted(tall, target, Turn::Clockwise);
+    EXPECT_EQ(RowsOf(target), (PixelRows{"gr..", "...."}));
+    RotatePictureShifted(tall, target, Turn::CounterClockwise);
+    EXPECT_EQ(RowsOf(target), (PixelRows{"....", "rgb#"}));
+}
+
+} // namespace deckforge

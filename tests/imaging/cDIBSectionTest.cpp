@@ -1,0 +1,143 @@
+#include "imaging/cDIBSection.h"
+#include "support/Failures.h"
+#include "support/PixelText.h"
+#include "support/ScriptedUser.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <algorithm>
+
+namespace deckforge {
+
+namespace {
+
+cDIBSection SectionOf(const PixelRows& rows)
+{
+    cDIBSection section;
+    section.CreateFromPicture(PictureOf(rows));
+    return section;
+}
+
+PixelRows RowsOf(const cDIBSection& section)
+{
+    PictureBox surface(QSize(section.Width(), section.Height()));
+    const DrawingContext context = section.hdc();
+    for (int y = 0; y < context.Height; ++y) {
+        for (int x = 0; x < context.Width; ++x) {
+            const std::uint8_t* pixel = context.Row(y) + 3 * x;
+            surface.SetPixel(x, y, pixel[0] << 16 | pixel[1] << 8 | pixel[2]);
+        }
+    }
+    return RowsOf(surface);
+}
+
+std::vector<int> BytesOf(const cDIBSection& section)
+{
+    return {section.hDib().begin(), section.hDib().end()};
+}
+
+} // namespace
+
+TEST(cDIBSection, RowsAreFilledUpToFourBytes)
+{
+    for (const auto& [width, bytes] :
+         {std::pair{1, 4}, {4, 12}, {7, 24}, {151, 456}, {152, 456}, {153, 460}}) {
+        cDIBSection section;
+        ASSERT_TRUE(section.Create(width, 2));
+        EXPECT_EQ(section.BytesPerScanLine(), bytes);
+        EXPECT_EQ(section.hDib().size(), static_cast<std::size_t>(2 * bytes));
+    }
+}
+
+TEST(cDIBSection, MemoryRunsBottomUpInBlueGreenRed)
+{
+    const cDIBSection section = SectionOf({"r", "b"});
+    EXPECT_EQ(BytesOf(section), (std::vector<int>{255, 0, 0, 0, 0, 0, 255, 0}));
+}
+
+TEST(cDIBSection, WhatCannotBeMadeLeavesItEmpty)
+{
+    cDIBSection section = SectionOf({"r"});
+    EXPECT_FALSE(section.Create(0, 5));
+    EXPECT_FALSE(section.Create(5, -1));
+    EXPECT_FALSE(section.Create(2000000000, 2000000000));
+    section.CreateFromPicture(Picture());
+    EXPECT_TRUE(section.hdc().IsEmpty());
+    EXPECT_EQ(section.Width(), 0);
+    EXPECT_EQ(section.Resample(2, 0), nullptr);
+}
+
+TEST(cDIBSection, CopiesAreCutToBothSurfaces)
+{
+    const cDIBSection source = SectionOf({"rg", "b#"});
+    struct Case {
+        int X, Y, Width, Height, SourceX, SourceY;
+        PixelRows Expected;
+    };
+    for (const Case& c : {
+             Case{0, 0, -1, -1, 0, 0, {"rg.", "b#."}},
+             Case{0, 0, -1, 1, 0, 0, {"rg.", "..."}}, // the full width of a strip
+             Case{2, 1, -1, -1, 0, 0, {"...", "..r"}},
+             Case{-1, 0, -1, -1, 0, 0, {"g..", "#.."}},
+             Case{0, 0, -1, -1, 1, 1, {"#..", "..."}},
+             Case{0, 0, -1, -1, -1, 0, {".r.", ".b."}},
+             Case{5, 0, -1, -1, 0, 0, {"...", "..."}},
+         }) {
+        const cDIBSection target = SectionOf({"...", "..."});
+        source.PaintPicture(target.hdc(), c.X, c.Y, c.Width, c.Height, c.SourceX, c.SourceY);
+        EXPECT_EQ(RowsOf(target), c.Expected);
+    }
+    cDIBSection taken = SectionOf({"...", "..."});
+    taken.LoadPictureBlt(source.hdc(), 1, 0);
+    EXPECT_EQ(RowsOf(taken), (PixelRows{"g..", "#.."}));
+}
+
+TEST(cDIBSection, ResampleBlendsBetweenNeighboursAndNeverReachesTheLast)
+{
+    cDIBSection section;
+    ASSERT_TRUE(section.Create(2, 1));
+    std::uint8_t* bits = section.hdc().Row(0);
+    std::fill_n(bits, 3, std::uint8_t{0});
+    std::fill_n(bits + 3, 3, std::uint8_t{101});
+    const auto wider = section.Resample(1, 4);
+    ASSERT_NE(wider, nullptr);
+    // Steps of (2 - 1) / 4: 0, 25.25, 50.5 to the even neighbour, 75.75.
+    EXPECT_EQ(BytesOf(*wider), (std::vector<int>{0, 0, 0, 25, 25, 25, 50, 50, 50, 76, 76, 76}));
+    const auto same = SectionOf({"rg", "b#"}).Resample(2, 2);
+    EXPECT_EQ(RowsOf(*same), (PixelRows{"rg", "b#"}));
+    const auto fromOnePixel = SectionOf({"r"}).Resample(2, 3);
+    EXPECT_EQ(RowsOf(*fromOnePixel), (PixelRows{"rrr", "rrr"}));
+}
+
+TEST(cDIBSection, TestPatternsHaveTheirChannels)
+{
+    cDIBSection section;
+    ASSERT_TRUE(section.Create(32, 32));
+    section.RandomiseBits(false);
+    int differing = 0;
+    for (int y = 0; y < 32; ++y) {
+        for (int x = 0; x < 32; ++x) {
+            const std::uint8_t* pixel = section.hdc().Row(y) + 3 * x;
+            EXPECT_EQ(pixel[0], 0);
+            differing += pixel[1] != pixel[2] ? 1 : 0;
+        }
+    }
+    EXPECT_GT(differing, 900);
+    section.RandomiseBits(true);
+    const std::uint8_t* pixel = section.hdc().Row(5);
+    EXPECT_TRUE(pixel[0] == pixel[1] && pixel[1] == pixel[2]);
+}
+
+TEST(cDIBSection, GoesToTheClipboardAsABitmapOnly)
+{
+    ScriptedUser user;
+    const cDIBSection section = SectionOf({"rg"});
+    EXPECT_FALSE(section.CopyToClipboard(true, user));
+    EXPECT_EQ(user.LastBox().Text,
+              QStringLiteral("I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!"));
+    ASSERT_TRUE(section.CopyToClipboard(false, user));
+    EXPECT_EQ(RowsOf(Picture(QGuiApplication::clipboard()->image())), PixelRows{"rg"});
+    EXPECT_FALSE(cDIBSection().CopyToClipboard(false, user));
+}
+
+} // namespace deckforge

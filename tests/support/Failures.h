@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/RunTimeError.h"
+
+#include <gtest/gtest.h>
+#include <ostream>
+
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+namespace deckforge {
+
+/// The number of the failure that the step ends in; 0 when it ends in none.
+template <class Step>
+int FailureOf(Step&& step)
+{
+    try {
+        step();
+    } catch (const RunTimeError& error) {
+        return static_cast<int>(error.Number());
+    }
+    return 0;
+}
+
+} // namespace deckforge

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/UserPort.h"
+
+#include <QStringList>
+#include <deque>
+#include <vector>
+
+namespace deckforge {
+
+/// A user who answers from a script and keeps all that was asked and told.
+///
+/// Boxes with nothing but OK need no script. Every other question needs an answer queued for it: one without
+/// fails at once, and an answer that no question took fails at the end.
+class ScriptedUser final : public UserPort {
+public:
+    ScriptedUser() = default;
+    ~ScriptedUser() override;
+
+    void WillAnswer(deckforge::Answer answer) { m_answers.push_back(answer); }
+    void WillChoose(const QString& path) { m_paths.append(path); }
+    void WillCancelDialog() { m_paths.append(QString()); }
+
+    Answer ShowMessage(const MessageBoxRequest& request) override;
+    std::optional<QString> AskOpenFile(const FileDialogRequest& request) override;
+    std::optional<QString> AskSaveFile(const FileDialogRequest& request) override;
+    void SetPointer(Pointer pointer) override { Pointers.push_back(pointer); }
+    void ShowProgress(int done, int total) override;
+
+    std::vector<MessageBoxRequest> Boxes;
+    std::vector<FileDialogRequest> OpenDialogs;
+    std::vector<FileDialogRequest> SaveDialogs;
+    std::vector<Pointer> Pointers;
+    int ProgressSteps = 0;
+
+    /// "TITLE|text" of each box, for comparing all of them at once.
+    [[nodiscard]] std::vector<QString> BoxTexts() const;
+    [[nodiscard]] MessageBoxRequest LastBox() const;
+
+private:
+    std::optional<QString> NextPath(const QString& title);
+
+    std::deque<deckforge::Answer> m_answers;
+    QStringList m_paths; ///< a null text stands for a cancel
+};
+
+} // namespace deckforge
