@@ -19,7 +19,7 @@ Picture WhitePicture()
 
 WorkSurfaces::WorkSurfaces(int scale)
     : picACard(CardSurfaceSize, scale), picACardPP(CardSurfaceSize, scale), picWhite(WhitePicture()),
-      picArtist(ArtistStripSize, scale)
+      picArtist(ArtistStripSize, scale), picDone(CardSurfaceSize, scale)
 {
     picArtist.SetFontSize(ArtistPoints);
 }

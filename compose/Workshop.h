@@ -17,6 +17,7 @@ struct WorkSurfaces {
     PictureBox picACardPP; ///< the playing piece and the new back
     Picture picWhite;      ///< all white; stretched over a frame it blanks it
     PictureBox picArtist;  ///< the artist's credit before it is turned, 180 x 5
+    PictureBox picDone;    ///< the final picture of a card, with its outline and back
 };
 
 /// What every operation works on, with or without a window: the set, its templates and surfaces, the art, and

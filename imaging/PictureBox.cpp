@@ -22,6 +22,24 @@ Colour ToColour(QRgb rgb)
     return (qBlue(rgb) << 16) | (qGreen(rgb) << 8) | qRed(rgb);
 }
 
+/// A rectangle of logical pixels in the memory.
+QRect InMemory(const QRect& logical, int scale)
+{
+    return {logical.topLeft() * scale, logical.size() * scale};
+}
+
+void PaintOn(QImage& image, int scale, const Picture& picture, QPoint target, const QRect& source)
+{
+    const QRect existing = source & QRect({0, 0}, picture.Size());
+    if (existing.isEmpty())
+        return;
+    const QPoint place = target + existing.topLeft() - source.topLeft();
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(InMemory({place, existing.size()}, scale), picture.Pixels(),
+                      InMemory(existing, picture.Scale()));
+}
+
 } // namespace
 
 QRgb ToRgb(Colour colour)
@@ -50,7 +68,7 @@ void PictureBox::SetPicture(const Picture& picture)
 
 Picture PictureBox::Image() const
 {
-    return Picture(m_image, m_scale);
+    return Picture(Pixels(), m_scale);
 }
 
 void PictureBox::Freeze()
@@ -71,12 +89,22 @@ void PictureBox::Refresh()
 
 void PictureBox::Clear()
 {
+    m_needsClearing = true;
+}
+
+/// The memory, cleared first if that is still to be done: a surface is often cleared several times before the
+/// first drawing, and that of a preview may never be looked at.
+QImage& PictureBox::Pixels() const
+{
+    if (!m_needsClearing)
+        return m_image;
+    m_needsClearing = false;
     const QSize memory = m_size * m_scale;
     if (m_image.size() != memory || !m_image.isDetached())
         m_image = QImage(memory, QImage::Format_RGB32);
     m_image.fill(ToRgb(m_backColor));
-    if (!m_picture.IsEmpty())
-        PaintPicture(m_picture, 0, 0);
+    PaintOn(m_image, m_scale, m_picture, {0, 0}, QRect({0, 0}, m_picture.Size()));
+    return m_image;
 }
 
 void PictureBox::SetFontName(const QString& name)
@@ -128,7 +156,7 @@ void PictureBox::PrintLine(QPainter& painter, const QString& line) const
 
 void PictureBox::Print(const QString& text)
 {
-    QPainter painter(&m_image);
+    QPainter painter(&Pixels());
     painter.scale(m_scale, m_scale);
     painter.setFont(Measures().Font());
     painter.setPen(QColor::fromRgb(ToRgb(ForeColor)));
@@ -145,11 +173,6 @@ void PictureBox::PrintNumber(int number)
     Print(QStringLiteral(" %1 ").arg(number));
 }
 
-QRect PictureBox::InMemory(const QRect& logical) const
-{
-    return {logical.topLeft() * m_scale, logical.size() * m_scale};
-}
-
 void PictureBox::PaintPicture(const Picture& picture, int x, int y)
 {
     PaintPart(picture, {x, y}, QRect({0, 0}, picture.Size()));
@@ -159,66 +182,60 @@ void PictureBox::PaintStretched(const Picture& picture, const QRect& target)
 {
     if (picture.IsEmpty() || target.isEmpty())
         return;
-    QPainter painter(&m_image);
-    painter.drawImage(InMemory(target), picture.Pixels());
+    QPainter painter(&Pixels());
+    painter.drawImage(InMemory(target, m_scale), picture.Pixels());
 }
 
 void PictureBox::PaintPart(const Picture& picture, QPoint target, const QRect& source)
 {
-    const QRect existing = source & QRect({0, 0}, picture.Size());
-    if (existing.isEmpty())
-        return;
-    const QPoint place = target + existing.topLeft() - source.topLeft();
-    const QRect pixels(existing.topLeft() * picture.Scale(), existing.size() * picture.Scale());
-    QPainter painter(&m_image);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(InMemory({place, existing.size()}), picture.Pixels(), pixels);
+    PaintOn(Pixels(), m_scale, picture, target, source);
 }
 
 void PictureBox::LineBox(int x1, int y1, int x2, int y2)
 {
     const QRect outer(QPoint(std::min(x1, x2), std::min(y1, y2)), QPoint(std::max(x1, x2), std::max(y1, y2)));
     const QColor colour = QColor::fromRgb(ToRgb(ForeColor));
-    QPainter painter(&m_image);
+    QPainter painter(&Pixels());
     for (const QRect& side :
          {QRect(outer.topLeft(), QSize(outer.width(), 1)), QRect(outer.bottomLeft(), QSize(outer.width(), 1)),
           QRect(outer.topLeft(), QSize(1, outer.height())),
           QRect(outer.topRight(), QSize(1, outer.height()))})
-        painter.fillRect(InMemory(side), colour);
+        painter.fillRect(InMemory(side, m_scale), colour);
 }
 
 Colour PictureBox::GetPixel(int x, int y) const
 {
     if (!QRect({0, 0}, m_size).contains(x, y))
         return InvalidColour;
-    return ToColour(m_image.pixel(x * m_scale, y * m_scale));
+    return ToColour(Pixels().pixel(x * m_scale, y * m_scale));
 }
 
 void PictureBox::SetPixel(int x, int y, Colour colour)
 {
     if (!QRect({0, 0}, m_size).contains(x, y) || colour == InvalidColour)
         return;
-    QPainter painter(&m_image);
-    painter.fillRect(InMemory({x, y, 1, 1}), QColor::fromRgb(ToRgb(colour)));
+    QPainter painter(&Pixels());
+    painter.fillRect(InMemory({x, y, 1, 1}, m_scale), QColor::fromRgb(ToRgb(colour)));
 }
 
 void PictureBox::ExtFloodFill(int x, int y, Colour areaColour)
 {
     const QRgb area = ToRgb(areaColour);
     const QRgb fill = ToRgb(FillColor);
-    const QRect bounds = m_image.rect();
+    QImage& image = Pixels();
+    const QRect bounds = image.rect();
     const QPoint start = QPoint(x, y) * m_scale;
-    if (!bounds.contains(start) || m_image.pixel(start) != area || area == fill)
+    if (!bounds.contains(start) || image.pixel(start) != area || area == fill)
         return;
     std::vector<QPoint> open = {start};
-    m_image.setPixel(start, fill);
+    image.setPixel(start, fill);
     while (!open.empty()) {
         const QPoint at = open.back();
         open.pop_back();
         for (const QPoint step : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)}) {
             const QPoint next = at + step;
-            if (bounds.contains(next) && m_image.pixel(next) == area) {
-                m_image.setPixel(next, fill);
+            if (bounds.contains(next) && image.pixel(next) == area) {
+                image.setPixel(next, fill);
                 open.push_back(next);
             }
         }

@@ -73,16 +73,17 @@ public:
 
 private:
     [[nodiscard]] const FontMeasures& Measures() const;
-    [[nodiscard]] QRect InMemory(const QRect& logical) const;
     void PrintLine(QPainter& painter, const QString& line) const;
     void Clear();
+    [[nodiscard]] QImage& Pixels() const;
 
     QSize m_size;
     int m_scale;
     Picture m_picture;
     Colour m_backColor = White;
     TextFont m_font;
-    QImage m_image; ///< opaque; null for a surface without area
+    mutable bool m_needsClearing = false;
+    mutable QImage m_image;         ///< opaque; null for a surface without area
     mutable QHash<TextFont, std::shared_ptr<const FontMeasures>> m_measures; ///< of the fonts used so far
 };
 

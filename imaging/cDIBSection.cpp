@@ -117,10 +117,10 @@ void cDIBSection::CreateFromPicture(const Picture& picture)
         return;
     // Straight into the bottom-up rows: a conversion by the library and a copy take four times as long.
     const DrawingContext target = hdc();
-    for (int y = 0; y < image.height(); ++y) {
+    for (int y = 0; y < target.Height; ++y) {
         const auto* read = reinterpret_cast<const QRgb*>(image.constScanLine(y));
         std::uint8_t* write = target.Row(y);
-        for (int x = 0; x < image.width(); ++x, write += BytesPerPixel) {
+        for (int x = 0; x < target.Width; ++x, write += BytesPerPixel) {
             write[0] = static_cast<std::uint8_t>(qBlue(read[x]));
             write[1] = static_cast<std::uint8_t>(qGreen(read[x]));
             write[2] = static_cast<std::uint8_t>(qRed(read[x]));

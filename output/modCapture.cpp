@@ -24,12 +24,14 @@ void OutlineCards(PictureBox& picDone)
 }
 
 /// The card and at its right its back, each shifted by a pixel into its outline.
-Picture BuildCardPicture(const Workshop& workshop)
+Picture BuildCardPicture(Workshop& workshop)
 {
     const PictureBox& picACard = workshop.Surfaces.picACard;
+    PictureBox& picDone = workshop.Surfaces.picDone;
     const bool hasBack = !workshop.Set.Header.NoBack;
     const int width = picACard.Width();
-    PictureBox picDone(QSize(hasBack ? 2 * width : width, picACard.Height()), picACard.Scale());
+    picDone.SetPicture({});
+    picDone.SetSize({hasBack ? 2 * width : width, picACard.Height()});
     if (hasBack)
         picDone.PaintPicture(workshop.Templates.Standard.picBack.Surface->GetPicture(), width + 1, 1);
     picDone.PaintPicture(picACard.Image(), 1, 1);
