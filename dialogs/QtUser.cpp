@@ -56,9 +56,15 @@ Answer AnswerOf(int button)
     }
 }
 
-QString WithLineBreaks(QString text)
+/// With NoButton the box chooses the button that Enter stands for.
+int RunBox(const MessageBoxRequest& request, QMessageBox::StandardButton usual, QWidget* window)
 {
-    return text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    QMessageBox box(IconOf(request.Style), request.Title, {}, ButtonsOf(request.Buttons), window);
+    QString text = request.Text;
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text.replace(QLatin1String("\r\n"), QLatin1String("\n")));
+    box.setDefaultButton(usual);
+    return box.exec();
 }
 
 } // namespace
@@ -89,10 +95,7 @@ void QtUser::Serve(QWidget* window, std::function<void(int, int)> showProgress)
 
 Answer QtUser::ShowMessage(const MessageBoxRequest& request)
 {
-    QMessageBox box(IconOf(request.Style), request.Title, {}, ButtonsOf(request.Buttons), TopWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.setText(WithLineBreaks(request.Text));
-    return AnswerOf(box.exec());
+    return AnswerOf(RunBox(request, QMessageBox::NoButton, TopWindow()));
 }
 
 std::optional<QString> QtUser::AskOpenFile(const FileDialogRequest& request)
@@ -172,12 +175,11 @@ bool QtUser::MayWrite(const QString& path, const QString& title)
     }
     if (!file.exists())
         return true;
-    const Answer answer = ShowMessage(
-        {.Text = QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(file.fileName()),
-         .Title = title,
-         .Style = BoxStyle::Exclamation,
-         .Buttons = BoxButtons::YesNo});
-    return answer == Answer::Yes;
+    const QString question =
+        QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(file.fileName());
+    const MessageBoxRequest box = {
+        .Text = question, .Title = title, .Style = BoxStyle::Exclamation, .Buttons = BoxButtons::YesNo};
+    return RunBox(box, QMessageBox::No, TopWindow()) == QMessageBox::Yes;
 }
 
 QString QtUser::Remembered(const QString& path)

@@ -4,7 +4,6 @@
 
 #include <QHash>
 #include <QPainter>
-#include <cmath>
 
 namespace deckforge {
 
@@ -95,13 +94,6 @@ void PaintBox(QPainter& painter, const PreviewBox& row, const QRect& place)
     }
 }
 
-/// Lines of a card stay sharp where every one of its pixels takes whole pixels of the screen.
-bool NeedsSmoothing(const QPainter& painter)
-{
-    const double ratio = painter.device()->devicePixelRatioF();
-    return ratio != std::floor(ratio);
-}
-
 } // namespace
 
 CardPreview::CardPreview(std::vector<PreviewBox> boxes, QWidget* parent)
@@ -113,7 +105,8 @@ CardPreview::CardPreview(std::vector<PreviewBox> boxes, QWidget* parent)
 
 QSize CardPreview::sizeHint() const
 {
-    return UsualZoom * Bounds().size();
+    constexpr QMargins slack = {8, 8, 8, 8}; // a layout that gives a little less must not halve the zoom
+    return (UsualZoom * Bounds().size()).grownBy(slack);
 }
 
 QSize CardPreview::minimumSizeHint() const
@@ -123,17 +116,18 @@ QSize CardPreview::minimumSizeHint() const
 
 int CardPreview::Zoom() const
 {
+    const QSize pixels = size() * devicePixelRatioF();
     const QRect bounds = Bounds();
-    return std::max(1, std::min(width() / bounds.width(), height() / bounds.height()));
+    return std::max(1, std::min(pixels.width() / bounds.width(), pixels.height() / bounds.height()));
 }
 
 void CardPreview::paintEvent(QPaintEvent* /*event*/)
 {
     const QRect bounds = Bounds();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, NeedsSmoothing(painter));
-    painter.translate(0, height() - Zoom() * bounds.height());
-    painter.scale(Zoom(), Zoom());
+    const double scale = Zoom() / devicePixelRatioF();
+    painter.translate(0, height() - scale * bounds.height());
+    painter.scale(scale, scale);
     painter.translate(-bounds.topLeft());
 
     QHash<const Box*, Inside> insides;

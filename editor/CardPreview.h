@@ -20,7 +20,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
-    /// Pixels of the window to one of the card.
+    /// Pixels of the screen to one of the card, so that its lines are sharp on every screen.
     [[nodiscard]] int Zoom() const;
 
 protected:

@@ -44,7 +44,8 @@ frmQDW::frmQDW(UserPort& user)
     BindCards();
     Guarded([this] { InitForm(); });
     m_card->txtTitle->setFocus();
-    resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
+    constexpr QSize windowFrame = {32, 64};
+    resize(sizeHint().boundedTo(screen()->availableSize() - windowFrame));
 }
 
 frmQDW::~frmQDW() = default;
@@ -134,6 +135,7 @@ void frmQDW::BuildLayout()
     pane->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     auto* const card = new QHBoxLayout(pane);
     card->addWidget(m_preview);
+    card->addSpacing(card->spacing());
     card->addWidget(fraCard);
 
     auto* const tabs = new QVBoxLayout;
@@ -144,9 +146,11 @@ void frmQDW::BuildLayout()
     auto* const all = new QHBoxLayout;
     all->addLayout(tabs, 1);
     all->addWidget(fraSet);
-
     setCentralWidget(new QWidget(this));
     centralWidget()->setLayout(all);
+    QMargins margins = all->contentsMargins();
+    margins.setBottom(0); // the status bar is margin enough
+    all->setContentsMargins(margins);
 }
 
 void frmQDW::BuildStatusBar()

@@ -1,0 +1,198 @@
+#include "editor/frmQDW.h"
+
+#include "core/modInfo.h"
+#include "files/modFile.h"
+#include "support/ScriptedUser.h"
+#include "support/TestFolder.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace deckforge {
+
+namespace {
+
+/// The window over a new set, with a user who answers from a script.
+class frmQDWTest : public testing::Test {
+protected:
+    template <class Control>
+    Control& Find(const char* name)
+    {
+        auto* const control = window.findChild<Control*>(QString::fromLatin1(name));
+        EXPECT_NE(control, nullptr) << name;
+        return *control;
+    }
+
+    QString Text(const char* name) { return Find<QLineEdit>(name).text(); }
+    void Type(const char* name, const QString& text)
+    {
+        auto& box = Find<QLineEdit>(name);
+        box.selectAll();
+        QTest::keyClicks(&box, text);
+    }
+    void Click(const char* name) { QTest::mouseClick(&Find<QPushButton>(name), Qt::LeftButton); }
+    QString Position() { return Find<QLabel>("lblCurrentCard").text(); }
+    const CardSet& Set() const { return window.Works().Set; }
+    const CardTemplate& Preview() const { return window.Works().Templates.Standard; }
+
+    /// Opens a copy of the set that the window holds now, under another name and with its cards changed.
+    template <class Change>
+    void OpenChangedSet(Change&& change)
+    {
+        CardSet changed = Set();
+        change(changed);
+        const QString path = folder.Path(QStringLiteral("set.dkf"));
+        ScriptedUser silent;
+        ASSERT_TRUE(WriteDKF(changed, path, silent, Report::Silent));
+        window.Start(path);
+    }
+
+    TestFolder folder;
+    ScriptedUser user;
+    frmQDW window{user};
+};
+
+TEST_F(frmQDWTest, OpenedSetFillsFieldsAndTitle)
+{
+    OpenChangedSet([](CardSet& set) {
+        set.Header.SetName = QStringLiteral("Caves");
+        set.Header.NoBack = true;
+        set.Header.SaveFormat = 2;
+        AddElement(set, StandardKind);
+        Card& card = set.Cards[1];
+        card.Title = QStringLiteral("Troll");
+        card.BoldText = QStringLiteral("STRENGTH 6");
+        card.Info = QStringLiteral("One\r\n\u00A0two");
+        card.Picture = QStringLiteral("C:\\cards\\troll.bmp");
+        card.Frame = false;
+    });
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Caves - Varnhelm Deck Forge"));
+    EXPECT_EQ(Text("txtTitle"), QStringLiteral("Troll"));
+    EXPECT_EQ(Text("txtBold"), QStringLiteral("STRENGTH 6"));
+    EXPECT_EQ(Find<QPlainTextEdit>("txtInfo").blockCount(), 2);
+    EXPECT_EQ(Text("txtPicture"), QStringLiteral("troll.bmp"));
+    EXPECT_FALSE(Find<QCheckBox>("chkFrame").isChecked());
+    EXPECT_FALSE(Preview().picBack.Visible);
+    EXPECT_EQ(Position(), QStringLiteral("1 (2)"));
+    EXPECT_EQ(user.LastBox().Text, QStringLiteral("The card set is loaded."));
+}
+
+TEST_F(frmQDWTest, ShowingCardsLeavesTheirTextsAsTheyWere)
+{
+    const QString info = QStringLiteral("One\r\n\u00A0two  ");
+    OpenChangedSet([&](CardSet& set) {
+        AddElement(set, StandardKind);
+        set.Cards[1].Info = info;
+        set.Cards[1].Artist = QStringLiteral("A. Painter");
+    });
+    Find<QScrollBar>("hsbCard").setValue(2);
+    Find<QScrollBar>("hsbCard").setValue(1);
+    EXPECT_EQ(Set().Cards[1].Info, info);
+    EXPECT_EQ(Set().Cards[1].Artist, QStringLiteral("A. Painter"));
+    EXPECT_EQ(Set().Cards[2].Info, QString());
+    EXPECT_EQ(Set().Cards[2].Artist, QString());
+}
+
+TEST_F(frmQDWTest, UnreadableSetLeavesTheNewOne)
+{
+    window.Start(folder.Path(QStringLiteral("none.dkf")));
+    EXPECT_EQ(user.LastBox().Style, BoxStyle::Critical);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("New set - Varnhelm Deck Forge"));
+    EXPECT_EQ(Text("txtTitle"), QStringLiteral("CARD 1"));
+}
+
+TEST_F(frmQDWTest, TypedTextGoesToRecordAndPreview)
+{
+    Type("txtTitle", QStringLiteral("Sword & Shield"));
+    auto& txtInfo = Find<QPlainTextEdit>("txtInfo");
+    QTest::keyClick(&txtInfo, 'a');
+    QTest::keyClick(&txtInfo, Qt::Key_Return);
+    QTest::keyClick(&txtInfo, 'b');
+    Type("txtArtist", QStringLiteral("A. Painter"));
+    Type("txtSetname", QStringLiteral("Mine"));
+    EXPECT_EQ(Set().Cards[1].Title, QStringLiteral("Sword & Shield"));
+    EXPECT_EQ(Preview().lblTitle.Caption, QStringLiteral("Sword & Shield"));
+    EXPECT_EQ(Set().Cards[1].Info, QStringLiteral("a\r\nb"));
+    EXPECT_EQ(Set().Cards[1].Artist, QStringLiteral("A. Painter"));
+    EXPECT_TRUE(Preview().picArtistDest.Visible);
+    EXPECT_EQ(Set().Header.SetName, QStringLiteral("Mine"));
+}
+
+TEST_F(frmQDWTest, FirstLetterOfAttributeIsCompletedAndTypedOver)
+{
+    const int emptyTop = Preview().lblInformation.Top;
+    Type("txtBold", QStringLiteral("S"));
+    EXPECT_EQ(Set().Cards[1].BoldText, QStringLiteral("STRENGTH "));
+    EXPECT_EQ(Preview().lblInformation.Top, emptyTop + 11);
+    QTest::keyClicks(&Find<QLineEdit>("txtBold"), QStringLiteral("pell"));
+    EXPECT_EQ(Set().Cards[1].BoldText, QStringLiteral("Spell"));
+    Type("txtBold", QStringLiteral("s"));
+    EXPECT_EQ(Set().Cards[1].BoldText, QStringLiteral("s"));
+}
+
+TEST_F(frmQDWTest, TextsMoveUpWhereThePictureIsHidden)
+{
+    const int top = Preview().lblBold.Top;
+    Find<QCheckBox>("chkShowPicture").click();
+    EXPECT_FALSE(Set().Cards[1].ShowPicture);
+    EXPECT_EQ(Preview().lblBold.Top, 28 + 13 + 3);
+    Find<QCheckBox>("chkShowPicture").click();
+    EXPECT_EQ(Preview().lblBold.Top, top);
+}
+
+TEST_F(frmQDWTest, SliderTellsOfTheCardBeforeItIsShown)
+{
+    Click("cmdCardAdd");
+    auto& slider = Find<QScrollBar>("hsbCard");
+    slider.setSliderDown(true);
+    slider.setSliderPosition(1);
+    EXPECT_EQ(Position(), QStringLiteral("1 (2)"));
+    EXPECT_EQ(Find<QLabel>("lblCardTitle").text(), QStringLiteral("CARD 1 (ENEMY- Animal)"));
+    EXPECT_EQ(Set().CurrentCard, 2);
+    slider.setSliderDown(false);
+    EXPECT_EQ(Set().CurrentCard, 1);
+    EXPECT_EQ(Find<QLabel>("lblCardTitle").text(), QString());
+    EXPECT_EQ(Text("txtTitle"), QStringLiteral("CARD 1"));
+}
+
+TEST_F(frmQDWTest, NewCardTakesTheNextKeysAsItsTitle)
+{
+    window.show();
+    window.activateWindow();
+    Click("cmdCardAdd");
+    QTest::keyClicks(&Find<QLineEdit>("txtTitle"), QStringLiteral("Imp"));
+    EXPECT_EQ(Set().Cards[2].Title, QStringLiteral("Imp"));
+    EXPECT_EQ(Set().Cards[1].Title, QStringLiteral("CARD 1"));
+    EXPECT_EQ(Position(), QStringLiteral("2 (2)"));
+    EXPECT_EQ(Find<QScrollBar>("hsbCard").value(), 2);
+}
+
+TEST_F(frmQDWTest, LastCardOfThreeGivesWayToTheOneBeforeIt)
+{
+    Click("cmdCardAdd");
+    Click("cmdCardAdd");
+    user.WillAnswer(Answer::Yes);
+    Click("cmdCardDelete");
+    EXPECT_EQ(user.LastBox().Text, QStringLiteral("Are you sure you want to delete the card \"CARD 3\"?"));
+    EXPECT_EQ(Position(), QStringLiteral("2 (2)"));
+    EXPECT_EQ(Text("txtTitle"), QStringLiteral("CARD 2"));
+    EXPECT_EQ(Find<QScrollBar>("hsbCard").maximum(), 2);
+}
+
+TEST_F(frmQDWTest, OnlyCardStays)
+{
+    Click("cmdCardDelete");
+    EXPECT_EQ(user.LastBox().Text,
+              QStringLiteral("You have only one card in your set. This can't be deleted."));
+    EXPECT_EQ(Set().CardCount, 1);
+}
+
+} // namespace
+
+} // namespace deckforge
