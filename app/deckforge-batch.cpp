@@ -1,4 +1,4 @@
-#include "app/BatchCommands.h"
+#include "batch/BatchCommands.h"
 
 #include <QGuiApplication>
 #include <QLoggingCategory>

@@ -26,7 +26,9 @@ QImage Scene(QSize size, double phase)
     QImage image(size, QImage::Format_RGB32);
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
-            const auto wave = [&](double period) { return qRound(110 + 90 * std::sin(phase + (x + 0.7 * y) / period)); };
+            const auto wave = [&](double period) {
+                return qRound(110 + 90 * std::sin(phase + (x + 0.7 * y) / period));
+            };
             const int grain = (x * 7919 + y * 104729) % 17;
             image.setPixel(x, y, qRgb(wave(23) + grain, wave(31) + grain, wave(17) + grain));
         }
@@ -52,8 +54,9 @@ struct OneCard {
         card.Background = background;
         card.Artist = QStringLiteral("Ada Brushwood");
         card.BoldText = QStringLiteral("STRENGTH 7");
-        card.Info = QStringLiteral("The dragon sleeps on a hoard older than the hills. Roll one die: on a 1 it wakes "
-                                   "and you must fight it at once. On any other roll you may take one Object.");
+        card.Info =
+            QStringLiteral("The dragon sleeps on a hoard older than the hills. Roll one die: on a 1 it wakes "
+                           "and you must fight it at once. On any other roll you may take one Object.");
         Write();
     }
 

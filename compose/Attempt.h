@@ -9,7 +9,7 @@ template <class Step>
 void Attempt(Step&& step)
 {
     try {
-        step();
+        WithMemoryAsFailure(step);
     } catch (const RunTimeError&) {
     }
 }

@@ -9,11 +9,12 @@ namespace deckforge {
 
 namespace {
 
+constexpr qsizetype KeptBytes = qsizetype(32) << 20;
 constexpr QSize CardArtSize = {150, 254};
 
 } // namespace
 
-BuiltInArt::BuiltInArt(int scale) : m_scale(scale) {}
+BuiltInArt::BuiltInArt(int scale) : m_scale(scale), m_rendered(KeptBytes) {}
 
 Picture BuiltInArt::imgCB(int index)
 {
@@ -29,15 +30,15 @@ Picture BuiltInArt::picBack()
 
 Picture BuiltInArt::Rendered(const QString& name, QSize size)
 {
-    Picture& picture = m_rendered[name];
-    if (picture.IsEmpty()) {
-        QImage image(size * m_scale, QImage::Format_RGB32);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        QSvgRenderer(QStringLiteral(":/deckforge/") + name).render(&painter);
-        painter.end();
-        picture = Picture(image, m_scale);
-    }
+    if (const Picture* kept = m_rendered.object(name))
+        return *kept;
+    QImage image(size * m_scale, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QSvgRenderer(QStringLiteral(":/deckforge/") + name).render(&painter);
+    painter.end();
+    const Picture picture(image, m_scale);
+    m_rendered.insert(name, new Picture(picture), image.sizeInBytes());
     return picture;
 }
 

@@ -2,13 +2,13 @@
 
 #include "imaging/Picture.h"
 
-#include <QHash>
+#include <QCache>
 #include <QSize>
 
 namespace deckforge {
 
 /// The art that comes with the program: vector drawings, rendered at the scale of the surfaces when first
-/// shown.
+/// shown and kept up to a bound in bytes.
 class BuiltInArt {
 public:
     explicit BuiltInArt(int scale);
@@ -22,7 +22,7 @@ private:
     [[nodiscard]] Picture Rendered(const QString& name, QSize size);
 
     int m_scale;
-    QHash<QString, Picture> m_rendered;
+    QCache<QString, Picture> m_rendered;
 };
 
 } // namespace deckforge

@@ -2,13 +2,13 @@
 
 #include "compose/Attempt.h"
 #include "compose/FontScheme.h"
-#include "compose/TextFitting.h"
 
 namespace deckforge {
 
-void PaintFramedPicture(PictureBox& surface, const Picture& white, const FramedPicture& picture)
+namespace {
+
+void PaintClipped(PictureBox& surface, const Picture& white, const FramedPicture& picture, const QRect& frame)
 {
-    const QRect frame = picture.Frame.Place().translated(picture.Origin);
     surface.PaintStretched(white, frame);
     if (!picture.IsSet)
         return;
@@ -16,39 +16,91 @@ void PaintFramedPicture(PictureBox& surface, const Picture& white, const FramedP
         surface.PaintPart(picture.Image.Surface->GetPicture(), frame.topLeft() + clip->Target, clip->Source);
 }
 
-void OutlineFrame(PictureBox& surface, const Box& frame, QPoint origin)
+} // namespace
+
+void PaintPictureBlock(PictureBox& surface, const Picture& white, const FramedPicture& picture)
 {
-    const int left = frame.Left + origin.x();
-    const int top = frame.Top + origin.y();
-    surface.LineBox(left, top, left + frame.Width - 1, top + frame.Height - 1);
+    if (!picture.IsShown)
+        return;
+    const QRect frame = picture.Frame.Place().translated(picture.Origin);
+    Attempt([&] { PaintClipped(surface, white, picture, frame); });
+    if (picture.Clip.FrameInset > 0) {
+        surface.LineBox(frame.left(), frame.top(), frame.left() + frame.width() - 1,
+                        frame.top() + frame.height() - 1);
+    }
 }
 
-void PrintCentred(PictureBox& surface, const Box& box, const QString& text)
+void BeginCard(PictureBox& surface, const Box& preview)
 {
-    PrintAt(surface, Centred(box, surface.TextWidth(text)), box.Top, text);
+    surface.SetSize({preview.Width, preview.Height});
+    surface.SetPicture({});
 }
 
-void PrintWatermark(PictureBox& surface, const Box& watermark)
+void PaintBackground(Workshop& workshop, const Box& preview, const QString& path, Colour colour)
+{
+    PictureBox& picACard = workshop.Surfaces.picACard;
+    BeginCard(picACard, preview);
+    Attempt([&] { picACard.SetPicture(workshop.Pictures.LoadPicture(path)); });
+    picACard.SetBackColor(colour);
+}
+
+void PaintSymbol(Workshop& workshop, const Box& symbol, QPoint origin)
+{
+    if (workshop.Set.Header.Symbol.isEmpty())
+        return;
+    const QPoint place = symbol.Place().topLeft() + origin;
+    workshop.Surfaces.picACard.PaintPicture(symbol.Surface->GetPicture(), place.x(), place.y());
+}
+
+void PrintCentred(PictureBox& surface, const Box& box, const QString& text, QPoint origin)
+{
+    PrintAt(surface, Centred(box, surface.TextWidth(text)) + origin.x(), box.Top + origin.y(), text);
+}
+
+void PrintWrapped(PictureBox& surface, const Box& box, const QString& text, LineForm form, QPoint origin)
+{
+    const TextColumn column = {
+        .Left = box.Left + origin.x(), .Top = box.Top + origin.y(), .Width = box.Width, .Form = form};
+    Attempt([&] { WrapAndPrint(surface, text, column); });
+}
+
+void PrintIndex(PictureBox& surface, double x, double y, int16 index)
+{
+    surface.CurrentX = x;
+    surface.CurrentY = y;
+    surface.PrintNumber(index);
+}
+
+void PrintWatermark(PictureBox& surface, const Box& watermark, QPoint origin)
 {
     UseFont(surface, watermark.Font);
-    PrintCentred(surface, watermark, watermark.Caption);
+    PrintCentred(surface, watermark, watermark.Caption, origin);
 }
 
-void ShowRun::LoadsFor(Box& box, const QString& path)
+void ShowRun::LoadsFor(Box& tells, const QString& path, const char* message)
 {
-    m_box = &box;
-    m_path = path;
+    m_tells = &tells;
+    m_message = QLatin1String(message) + QStringLiteral("\r\n") + path;
 }
 
 void ShowRun::Answer(const RunTimeError& error)
 {
-    if (error.IsMissingFile() && m_box != nullptr) {
-        PictureBox& surface = *m_box->Surface;
+    if (error.IsMissingFile() && m_tells != nullptr) {
+        PictureBox& surface = *m_tells->Surface;
         surface.SetPicture({});
-        PrintAt(surface, 0, 0, QStringLiteral("Missing picture.\r\n") + m_path);
+        PrintAt(surface, 0, 0, m_message);
     } else if (error.Number() != ErrorNumber::InvalidPropertyValue) {
         throw error;
     }
+}
+
+void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QString& path,
+                       QSize withoutPicture)
+{
+    run([&] { image.ShowAtNaturalSize(workshop.Pictures.LoadPicture(path), withoutPicture); });
+    if (image.Surface->GetPicture().IsEmpty())
+        image.ShowAtNaturalSize({}, withoutPicture);
+    image.Surface->Refresh();
 }
 
 void TellCannotDraw(UserPort& user, const RunTimeError& error)

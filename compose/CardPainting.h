@@ -1,46 +1,80 @@
 #pragma once
 
-#include "compose/Box.h"
 #include "compose/ClipRule.h"
-#include "platform/UserPort.h"
+#include "compose/TextFitting.h"
+#include "compose/Workshop.h"
 
 namespace deckforge {
 
-// What the composers of all kinds of card share.
+// What the kinds of card share. A parent's origin is where it lies on the surface: (0, 0) but for the panel
+// of a character card.
 
 /// A picture behind its frame, as a record and its template have it.
 struct FramedPicture {
     const Box& Frame;
     const Box& Image;
     ClipInput Clip;
-    QPoint Origin; ///< where the parent of the frame lies on the surface
-    bool IsSet;    ///< the record names a picture
+    bool IsShown; ///< without it there is no white field either
+    bool IsSet;   ///< the record names a picture
+    QPoint Origin = {};
 };
 
-/// Blanks the frame in white, and paints the part of the picture that it shows.
-void PaintFramedPicture(PictureBox& surface, const Picture& white, const FramedPicture& picture);
+/// That of a record with the fields that all kinds name alike. An outline takes the picture a pixel in.
+template <class Record>
+FramedPicture FramedPictureOf(const Record& record, const Box& frame, const Box& image)
+{
+    return {.Frame = frame,
+            .Image = image,
+            .Clip = {.Frame = {frame.Width, frame.Height},
+                     .Picture = {image.Width, image.Height},
+                     .PictureLeft = record.PictureLeft,
+                     .PictureTop = record.PictureTop,
+                     .FrameInset = record.Frame ? 1 : 0},
+            .IsShown = record.ShowPicture,
+            .IsSet = !record.Picture.isEmpty()};
+}
 
-/// Outlines the frame in the colour that the composition before left on the surface: nothing sets one here.
-void OutlineFrame(PictureBox& surface, const Box& frame, QPoint origin);
+/// Blanks the frame in white, paints the part of the picture that it shows, and outlines it in the colour
+/// that the composition before left on the surface: nothing sets one here.
+void PaintPictureBlock(PictureBox& surface, const Picture& white, const FramedPicture& picture);
+
+/// Gives the surface the size of the preview it mirrors, and nothing on it.
+void BeginCard(PictureBox& surface, const Box& preview);
+
+/// The background of a card over its colour. A file that has vanished leaves the colour.
+void PaintBackground(Workshop& workshop, const Box& preview, const QString& path, Colour colour);
+
+/// The symbol of the set, where it has one.
+void PaintSymbol(Workshop& workshop, const Box& symbol, QPoint origin);
 
 /// Prints a line centred in its box.
-void PrintCentred(PictureBox& surface, const Box& box, const QString& text);
+void PrintCentred(PictureBox& surface, const Box& box, const QString& text, QPoint origin = {});
+
+/// Breaks a text to the width of its box, from the top of the box.
+void PrintWrapped(PictureBox& surface, const Box& box, const QString& text, LineForm form = LineForm::Plain,
+                  QPoint origin = {});
+
+/// Prints a card's number in the set.
+void PrintIndex(PictureBox& surface, double x, double y, int16 index);
 
 /// Prints the caption of a version mark in the mark's own font.
-void PrintWatermark(PictureBox& surface, const Box& watermark);
+void PrintWatermark(PictureBox& surface, const Box& watermark, QPoint origin = {});
+
+/// Tells a failure that left a Show... routine.
+void TellCannotDraw(UserPort& user, const RunTimeError& error);
 
 /// A Show... routine step by step. A missing file is told on the preview and the next step runs; a value that
 /// a box cannot take is passed over. Anything else leaves the routine.
 class ShowRun {
 public:
-    /// Which box tells that the file at the path is missing, from here on.
-    void LoadsFor(Box& box, const QString& path);
+    /// From here on a missing file is told by this box, in these words and with its path.
+    void LoadsFor(Box& tells, const QString& path, const char* message = "Missing picture.");
 
     template <class Step>
     void operator()(Step&& step)
     {
         try {
-            step();
+            WithMemoryAsFailure(step);
         } catch (const RunTimeError& error) {
             Answer(error);
         }
@@ -49,11 +83,27 @@ public:
 private:
     void Answer(const RunTimeError& error);
 
-    Box* m_box = nullptr;
-    QString m_path;
+    Box* m_tells = nullptr;
+    QString m_message;
 };
 
-/// Tells a failure that left a Show... routine.
-void TellCannotDraw(UserPort& user, const RunTimeError& error);
+/// Loads the picture of a frame, and repaints its box at once: what was told on that box of a missing file
+/// goes with it.
+void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QString& path,
+                       QSize withoutPicture);
+
+/// Runs a Show... routine to its end. A failure that leaves it is told in a box, and the result is false.
+template <class Routine>
+bool ShowOrTell(UserPort& user, Routine&& routine)
+{
+    try {
+        ShowRun run;
+        WithMemoryAsFailure([&] { routine(run); });
+    } catch (const RunTimeError& error) {
+        TellCannotDraw(user, error);
+        return false;
+    }
+    return true;
+}
 
 } // namespace deckforge

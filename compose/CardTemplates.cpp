@@ -4,15 +4,8 @@ namespace deckforge {
 
 namespace {
 
-constexpr Colour WatermarkGrey = 0xC0C0C0;
-constexpr double WatermarkPoints = 5.25;
+constexpr double TinyPoints = 5.25;
 constexpr double LabelPoints = 6.75;
-
-FontSpec SmallFont(double size, bool bold, Colour colour)
-{
-    return {
-        .Name = QStringLiteral("Small Fonts"), .Size = size, .Bold = bold, .Italic = false, .Color = colour};
-}
 
 Box Label(const char* name, QRect place, Alignment align = Alignment::Left)
 {
@@ -21,7 +14,7 @@ Box Label(const char* name, QRect place, Alignment align = Alignment::Left)
     box.Top = place.y();
     box.Width = place.width();
     box.Height = place.height();
-    box.Font = SmallFont(LabelPoints, false, Black);
+    box.Font = SmallFont(LabelPoints);
     box.Align = align;
     return box;
 }
@@ -31,6 +24,15 @@ Box Caption(const char* name, QRect place, const char* text, Alignment align = A
 {
     Box box = Label(name, place, align);
     box.Caption = QString::fromLatin1(text);
+    return box;
+}
+
+/// The number of the card in the set.
+Box Number(const char* name, QRect place, Alignment align = Alignment::Left)
+{
+    Box box = Label(name, place, align);
+    box.Font = SmallFont(TinyPoints);
+    box.Visible = false;
     return box;
 }
 
@@ -68,7 +70,7 @@ Box CardSurface(const char* name, QRect place, int scale)
 Box Watermark(QRect place)
 {
     Box box = Label("lblWatermark", place, Alignment::Centre);
-    box.Font = SmallFont(WatermarkPoints, false, WatermarkGrey);
+    box.Font = SmallFont(TinyPoints, false, LightGrey);
     return box;
 }
 
@@ -102,7 +104,7 @@ CardTemplate::CardTemplate(int scale)
       lblPicSize(Label("lblPicSize", {5, 144, 138, 3})),
       lblBold(Label("lblBold", {5, 148, 139, 1}, Alignment::Centre)),
       lblInformation(Label("lblInformation", {5, 151, 139, 90})),
-      lblAutonumber(Hidden(Label("lblAutonumber", {134, 245, 13, 9}, Alignment::Right))),
+      lblAutonumber(Number("lblAutonumber", {134, 245, 13, 9}, Alignment::Right)),
       lblWatermark(Watermark({55, 245, 40, 9})),
       picSymbol(Hidden(PictureAt("picSymbol", {0, 245, 5, 5}, scale))),
       picArtistDest(Hidden(PictureAt("picArtistDest", {0, 40, 5, 180}, scale))),
@@ -117,7 +119,7 @@ LargeCardTemplate::LargeCardTemplate(int scale)
       lblPicSizeLarge(Label("lblPicSizeLarge", {128, 8, 5, 238})),
       lblTitleLarge(Label("lblTitleLarge", {134, 8, 162, 25}, Alignment::Centre)),
       lblInformationLarge(Label("lblInformationLarge", {134, 32, 162, 212})),
-      lblAutonumberLarge(Hidden(Label("lblAutonumberLarge", {0, 246, 13, 9}))),
+      lblAutonumberLarge(Number("lblAutonumberLarge", {0, 246, 13, 9})),
       lblWatermark(Watermark({132, 246, 40, 9})),
       picSymbolLarge(Hidden(PictureAt("picSymbolLarge", {294, 246, 9, 9}, scale))),
       picBackLarge(Hidden(CardSurface("picBackLarge", {8, 267, 304, 256}, scale)))
@@ -126,7 +128,7 @@ LargeCardTemplate::LargeCardTemplate(int scale)
 
 CharacterTemplate::CharacterTemplate(int scale)
     : picCharacter(Hidden(CardSurface("picCharacter", {8, 267, 304, 256}, scale))),
-      lblCharacter(Label("lblCharacter", {80, 0, 140, 13}, Alignment::Centre)),
+      lblCharacter(WhiteCaption("lblCharacter", {80, 0, 140, 13}, "")),
       lblObjects(WhiteCaption("lblObjects", {46, 242, 71, 12}, "OBJECTS")),
       lblFollowers(WhiteCaption("lblFollowers", {185, 242, 71, 12}, "FOLLOWERS")),
       picCharAttrDisp{{BlackStrip("picCharAttrDisp(0)", {0, 44, 12, 52}, scale),
@@ -143,7 +145,7 @@ CharacterTemplate::CharacterTemplate(int scale)
       lblStart(Label("lblStart", {169, 15, 103, 12})),
       lblSpecialTitle(Caption("lblSpecialTitle", {128, 28, 144, 11}, "SPECIAL ABILITIES", Alignment::Centre)),
       lblSpecial(Label("lblSpecial", {128, 43, 144, 177})),
-      lblAutonumberCharacter(Hidden(Label("lblAutonumberCharacter", {2, 220, 13, 9}))),
+      lblAutonumberCharacter(Number("lblAutonumberCharacter", {2, 220, 13, 9})),
       lblWatermark(Watermark({113, 220, 40, 9})),
       picSymbolCharacter(Hidden(PictureAt("picSymbolCharacter", {265, 218, 9, 9}, scale))),
       picCharacterBack(Hidden(CardSurface("picCharacterBack", {8, 267, 304, 256}, scale)))

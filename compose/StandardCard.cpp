@@ -68,7 +68,7 @@ void PlaceFrame(ShowRun& run, CardTemplate& t, const Card& card)
 void PlacePictureInFrame(CardTemplate& t, const Card& card)
 {
     if (card.Resize) {
-        t.picFrame.Left = PixelsFromTwipsX(card.PictureLeft) + FrameLeft;
+        t.picFrame.Left = PixelsFromTwipsX(card.PictureLeft + FrameLeft * TwipsPerPixelX);
         t.picFrame.SetWidth(t.picImage.Width);
         t.picImage.MoveToTwips(0, card.PictureTop);
     } else {
@@ -76,15 +76,6 @@ void PlacePictureInFrame(CardTemplate& t, const Card& card)
         t.picFrame.SetWidth(FrameWidth);
         t.picImage.MoveToTwips(card.PictureLeft, card.PictureTop);
     }
-}
-
-void LoadCardPicture(ShowRun& run, Workshop& workshop, const Card& card)
-{
-    Box& picImage = workshop.Templates.Standard.picImage;
-    run.LoadsFor(picImage, card.Picture);
-    run([&] { picImage.ShowAtNaturalSize({}, EmptyPictureSize); });
-    run([&] { picImage.ShowAtNaturalSize(workshop.Pictures.LoadPicture(card.Picture), EmptyPictureSize); });
-    picImage.Surface->Refresh(); // what was told on it of a missing file goes with this
 }
 
 void LoadBackground(ShowRun& run, Workshop& workshop, const Card& card)
@@ -128,40 +119,14 @@ void ReadArtistBackground(Workshop& workshop, int16 index)
 
 // Composition
 
-void PaintBackground(Workshop& workshop, const Card& card)
-{
-    const Box& picCard = workshop.Templates.Standard.picCard;
-    PictureBox& picACard = workshop.Surfaces.picACard;
-    picACard.SetSize({picCard.Width, picCard.Height});
-    picACard.SetPicture({});
-    Attempt([&] { picACard.SetPicture(workshop.Pictures.LoadPicture(card.Background)); });
-    picACard.SetBackColor(card.Color);
-}
-
-FramedPicture PictureOf(const CardTemplate& t, const Card& card)
-{
-    return {.Frame = t.picFrame,
-            .Image = t.picImage,
-            .Clip = {.Frame = {t.picFrame.Width, t.picFrame.Height},
-                     .Picture = {t.picImage.Width, t.picImage.Height},
-                     .PictureLeft = card.PictureLeft,
-                     .PictureTop = card.PictureTop,
-                     .FrameInset = card.Frame ? 1 : 0,
-                     .FrameHugsWidth = card.Resize},
-            .Origin = {0, 0},
-            .IsSet = !card.Picture.isEmpty()};
-}
-
 void PaintPictures(Workshop& workshop, const Card& card)
 {
     const CardTemplate& t = workshop.Templates.Standard;
     PictureBox& picACard = workshop.Surfaces.picACard;
-    if (card.ShowPicture)
-        Attempt([&] { PaintFramedPicture(picACard, workshop.Surfaces.picWhite, PictureOf(t, card)); });
-    if (card.Frame && card.ShowPicture)
-        OutlineFrame(picACard, t.picFrame, {0, 0});
-    if (!workshop.Set.Header.Symbol.isEmpty())
-        picACard.PaintPicture(t.picSymbol.Surface->GetPicture(), t.picSymbol.Left, t.picSymbol.Top);
+    FramedPicture picture = FramedPictureOf(card, t.picFrame, t.picImage);
+    picture.Clip.FrameHugsWidth = card.Resize;
+    PaintPictureBlock(picACard, workshop.Surfaces.picWhite, picture);
+    PaintSymbol(workshop, t.picSymbol, {0, 0});
     if (!card.Artist.isEmpty())
         picACard.PaintPicture(t.picArtistDest.Surface->Image(), t.picArtistDest.Left, t.picArtistDest.Top);
 }
@@ -209,14 +174,11 @@ void PrintTexts(Workshop& workshop, const Card& card, int16 index)
     UseFont(picACard, header.FontBold);
     PrintCentred(picACard, t.lblBold, card.BoldText);
     UseFont(picACard, header.FontInformation);
-    WrapAndPrint(
-        picACard, card.Info,
-        {.Left = t.lblInformation.Left, .Top = t.lblInformation.Top, .Width = t.lblInformation.Width});
+    PrintWrapped(picACard, t.lblInformation, card.Info);
     if (header.Autonumber) {
         UseFont(picACard, header.FontAutonumber);
-        picACard.CurrentX = RightAligned(t.lblAutonumber, picACard.TextWidth(QString::number(index)));
-        picACard.CurrentY = t.lblAutonumber.Top;
-        picACard.PrintNumber(index);
+        const double width = picACard.TextWidth(QString::number(index));
+        PrintIndex(picACard, RightAligned(t.lblAutonumber, width), t.lblAutonumber.Top, index);
     }
     PrintWatermark(picACard, t.lblWatermark);
 }
@@ -225,7 +187,7 @@ void PrintTexts(Workshop& workshop, const Card& card, int16 index)
 void DrawCard(Workshop& workshop, int16 index)
 {
     const Card& card = workshop.Set.Cards[index];
-    PaintBackground(workshop, card);
+    PaintBackground(workshop, workshop.Templates.Standard.picCard, card.Background, card.Color);
     PaintPictures(workshop, card);
     PrintTexts(workshop, card, index);
     workshop.Surfaces.picACard.Freeze();
@@ -235,23 +197,19 @@ void DrawCard(Workshop& workshop, int16 index)
 
 bool ShowCard(Workshop& workshop, int16 index)
 {
-    try {
+    return ShowOrTell(workshop.User, [&](ShowRun& run) {
         CardTemplate& t = workshop.Templates.Standard;
         Card& card = workshop.Set.Cards[index];
-        ShowRun run;
         ShowTexts(t, card, index);
         PlaceFrame(run, t, card);
-        LoadCardPicture(run, workshop, card);
+        run.LoadsFor(t.picImage, card.Picture);
+        LoadFramedPicture(run, workshop, t.picImage, card.Picture, EmptyPictureSize);
         PlacePictureInFrame(t, card);
         LoadBackground(run, workshop, card);
         LoadBack(run, workshop, card);
         DrawArtistCredit(workshop, card.Artist);
         DrawCard(workshop, index);
-    } catch (const RunTimeError& error) {
-        TellCannotDraw(workshop.User, error);
-        return false;
-    }
-    return true;
+    });
 }
 
 void PlaceCardPicture(Workshop& workshop, int16 index)

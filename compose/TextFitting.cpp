@@ -1,5 +1,7 @@
 #include "compose/TextFitting.h"
 
+#include "platform/Numbers.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -16,12 +18,14 @@ qsizetype BreakPosition(const PictureBox& surface, QStringView line, int width)
 {
     qsizetype pos = 0;
     qsizetype brk = 0;
+    double printed = 0;
     while (pos < line.size()) {
         ++pos;
         // The break test comes first, so a break character that overflows stays on the line.
         if (BreakCharacters.contains(line[pos - 1]))
             brk = pos;
-        if (surface.TextWidth(line.first(pos)) >= width) {
+        printed += surface.TextWidth(line.sliced(pos - 1, 1));
+        if (printed >= width) {
             --pos;
             break;
         }
@@ -33,16 +37,16 @@ qsizetype BreakPosition(const PictureBox& surface, QStringView line, int width)
 
 void WrapAndPrint(PictureBox& surface, const QString& text, const TextColumn& column)
 {
-    int line = 0;
+    int16 line = 0;
     for (QStringView rest : QStringView(text).split(LineBreak)) {
         if (rest.isEmpty())
-            ++line;
+            line = CheckedAdd(line, 1);
         while (!rest.isEmpty()) {
             const QString piece = rest.first(BreakPosition(surface, rest, column.Width)).toString();
             const double centre = column.Width / 2.0 - surface.TextWidth(piece) / 2;
             const double x = column.Left + (column.Form == LineForm::Centred ? centre : 0);
             PrintAt(surface, x, column.Top + line * surface.TextHeight(piece), piece);
-            ++line;
+            line = CheckedAdd(line, 1);
             rest = rest.sliced(piece.size());
         }
     }

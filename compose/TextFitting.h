@@ -18,7 +18,8 @@ struct TextColumn {
 ///
 /// A printed line is narrower than the width, but that a break character which overflows stays on the line it
 /// ends. A word longer than the line is cut where it overflows. Nothing is clipped at the bottom: a long text
-/// runs on below its box. In a column narrower than one character each line takes one character.
+/// runs on below its box. In a column narrower than one character each line takes one character. Error 6
+/// behind 32,767 lines.
 void WrapAndPrint(PictureBox& surface, const QString& text, const TextColumn& column);
 
 /// How many characters of the line are printed before it breaks; at least one, if there is one.

@@ -31,18 +31,22 @@ struct CardSet {
     int16 CardCount = 0;
     int16 CurrentCard = 0;
     OneBasedArray<Card> Cards;
+    Card ClipCard; ///< the copied card; the other kinds have theirs
 
     int16 LargeCardCount = 0;
     int16 CurrentLargeCard = 0;
     OneBasedArray<LargeCard> LargeCards;
+    LargeCard ClipLargeCard;
 
     int16 CharacterCount = 0;
     int16 CurrentCharacter = 0;
     OneBasedArray<Character> Characters;
+    Character ClipCharacter;
 
     int16 NewCardBackCount = 0;
     int16 CurrentNewCardBack = 0;
     OneBasedArray<NewCardBack> NewCardBacks;
+    NewCardBack ClipNewCardBack;
 };
 
 } // namespace deckforge

@@ -22,6 +22,13 @@ struct FontSpec {
     friend bool operator==(const FontSpec&, const FontSpec&) = default;
 };
 
+/// The font that the program uses unless the user chose another, upright.
+[[nodiscard]] inline FontSpec SmallFont(double size, bool bold = false, Colour colour = Black)
+{
+    return {
+        .Name = QStringLiteral("Small Fonts"), .Size = size, .Bold = bold, .Italic = false, .Color = colour};
+}
+
 /// What holds for the whole set.
 struct SetHeader {
     QString SetName;

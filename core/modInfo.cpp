@@ -7,15 +7,8 @@ namespace deckforge {
 
 namespace {
 
-constexpr Colour LightGrey = 0xC0C0C0;
 constexpr int16 NewFrameHeight = 105;
 constexpr int16 NewFrameWidth = 121;
-
-FontSpec SmallFont(double size, bool bold = false, Colour colour = Black)
-{
-    return {
-        .Name = QStringLiteral("Small Fonts"), .Size = size, .Bold = bold, .Italic = false, .Color = colour};
-}
 
 } // namespace
 

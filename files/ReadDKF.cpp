@@ -9,7 +9,6 @@ namespace deckforge {
 
 namespace {
 
-constexpr Colour ArtistColourOfOldFiles = 0xC0C0C0;
 constexpr int16 NumberOfOldFiles = 2;
 
 void ReadFont(SetReader& in, FontSpec& font)
@@ -33,7 +32,7 @@ void ReadHeader(SetReader& in, int16 version, SetHeader& header)
     header.NoBack = in.Boolean();
     header.SaveFormat = version >= 2 ? in.Int16() : int16{0};
     header.ReplaceSpace = version >= 5 ? in.Boolean() : false;
-    header.ArtistColor = version >= 8 ? in.Int32() : ArtistColourOfOldFiles;
+    header.ArtistColor = version >= 8 ? in.Int32() : LightGrey;
     // Fonts that an old file lacks keep what the set before had.
     const std::size_t fontCount = version >= 9 ? setFile::Fonts.size() : setFile::FontsOfOldFiles;
     for (std::size_t i = 0; i < fontCount; ++i)
@@ -259,6 +258,19 @@ std::optional<int16> ReadVersion(SetReader& in, UserPort& user)
     return version;
 }
 
+/// False for a file that is refused.
+bool ReadFile(CardSet& set, const QString& path, UserPort& user)
+{
+    SetReader in(path);
+    const std::optional<int16> version = ReadVersion(in, user);
+    if (!version)
+        return false;
+    ReadSet(in, *version, set);
+    if (in.Line() != setFile::End)
+        Tell(user, BoxStyle::Question, "Error", "No final match!");
+    return true;
+}
+
 } // namespace
 
 int16 FindCardType(const CardSet& set, const QString& typeText, const QString& reversedText)
@@ -274,21 +286,17 @@ int16 FindCardType(const CardSet& set, const QString& typeText, const QString& r
 
 bool ReadDKF(CardSet& set, const QString& path, UserPort& user)
 {
+    bool isRead = false;
     try {
-        SetReader in(path);
-        const std::optional<int16> version = ReadVersion(in, user);
-        if (!version)
-            return false;
-        ReadSet(in, *version, set);
-        if (in.Line() != setFile::End)
-            Tell(user, BoxStyle::Question, "Error", "No final match!");
+        WithMemoryAsFailure([&] { isRead = ReadFile(set, path, user); });
     } catch (const RunTimeError& error) {
         user.ShowMessage({.Text = QStringLiteral("Error while opening the Varnhelm Card Set.\r\n\r\n") +
                                   error.NumberAndDescription(),
                           .Title = QStringLiteral("Error"),
                           .Style = BoxStyle::Critical});
-        return false;
     }
+    if (!isRead)
+        return false;
     Tell(user, BoxStyle::Information, "Open file", "The card set is loaded.");
     set.CurrentCard = 1;
     return true;

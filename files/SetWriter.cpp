@@ -5,6 +5,9 @@
 #include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
 
+#include <QScopeGuard>
+#include <cstring>
+
 namespace deckforge {
 
 namespace {
@@ -50,14 +53,22 @@ void SetWriter::Flattened(const QString& text)
 {
     const qsizetype start = m_gathered.size();
     AppendInCodePage(m_gathered, text);
-    qsizetype at = start;
-    for (;;) {
-        const qsizetype lineEnd = setFile::FindLineEnd(QByteArrayView(m_gathered).sliced(at));
-        if (lineEnd < 0)
-            break;
-        at += lineEnd;
-        m_gathered.replace(at, sizeof(setFile::LineEnd) - 1, QByteArrayView(&setFile::FlattenedBreak, 1));
+    // In one pass: what stands behind a line break moves down over it.
+    qsizetype write = start;
+    for (qsizetype read = start; read < m_gathered.size();) {
+        const QByteArrayView rest = QByteArrayView(m_gathered).sliced(read);
+        const qsizetype lineEnd = setFile::FindLineEnd(rest);
+        const qsizetype length = lineEnd < 0 ? rest.size() : lineEnd;
+        if (write != read)
+            std::memmove(m_gathered.data() + write, rest.data(), static_cast<std::size_t>(length));
+        write += length;
+        read += length;
+        if (lineEnd >= 0) {
+            m_gathered[write++] = setFile::FlattenedBreak;
+            read += sizeof(setFile::LineEnd) - 1;
+        }
     }
+    m_gathered.truncate(write);
     EndLine();
 }
 
@@ -81,7 +92,7 @@ void SetWriter::Real(double value)
 void SetWriter::Close()
 {
     Flush();
-    m_file.Close();
+    m_file.CloseOnDisk();
 }
 
 void SetWriter::EndLine()
@@ -93,9 +104,9 @@ void SetWriter::EndLine()
 
 void SetWriter::Flush()
 {
-    const QByteArrayView bytes(m_gathered);
-    m_file.Write(bytes);
-    m_gathered.resize(0); // keeps the room
+    // Also when it fails: what was written in part must not be written again.
+    const auto clear = qScopeGuard([this] { m_gathered.resize(0); });
+    m_file.Write(m_gathered);
 }
 
 } // namespace deckforge

@@ -177,24 +177,49 @@ QString SafeCopyOf(const QString& path)
     return path + QStringLiteral("~");
 }
 
-/// Whether the file is a set written to its end, and not what a failed write left.
+/// Whether the file is a set with its end, and not what a failed write left.
 bool IsWholeSet(const QString& path)
 {
-    const QByteArray bytes = ReadWholeFile(path, std::numeric_limits<qint64>::max());
+    constexpr qint64 mostBytes = qint64(1) << 30;
+    QByteArray bytes = ReadWholeFile(path, mostBytes);
+    if (bytes.endsWith(setFile::LineEnd))
+        bytes.chop(sizeof(setFile::LineEnd) - 1);
     return bytes.startsWith(setFile::Signature) &&
-           bytes.endsWith(QByteArray(setFile::LineEnd) + setFile::End + setFile::LineEnd);
+           bytes.endsWith(QByteArray(setFile::LineEnd) + setFile::End);
 }
 
-/// Sees to it that the old set has a copy before its file is replaced.
-void KeepCopy(const QString& path)
+/// Sees to it that the old set has a copy before its file is replaced; gives whether there was one to copy.
+bool KeepCopy(const QString& path)
 {
     if (!IsRegularFile(path))
-        return;
-    // A copy that is still there comes from a write that failed. The file may be the rest of that write, and
-    // the copy the only whole set: it stays until a whole set stands in its place.
-    if (IsRegularFile(SafeCopyOf(path)) && !IsWholeSet(path))
-        return;
-    CopyFileSafely(path, SafeCopyOf(path));
+        return false;
+    CheckWritable(path);
+    // A whole set beside one that is not is the copy that a failed write left behind: it is worth more than
+    // the rest of that write.
+    const QString copy = SafeCopyOf(path);
+    const bool isRestOfFailure = IsRegularFile(copy) && IsWholeSet(copy) && !IsWholeSet(path);
+    if (!isRestOfFailure)
+        CopyFileSafely(path, copy);
+    return true;
+}
+
+/// The set is on the disk; a copy that cannot be taken away takes nothing from that.
+void DropCopy(const QString& path)
+{
+    try {
+        RemoveFile(SafeCopyOf(path));
+    } catch (const RunTimeError&) {
+    }
+}
+
+void WriteSafely(const CardSet& set, const QString& path)
+{
+    const bool hasCopy = KeepCopy(path);
+    SetWriter out(path);
+    WriteSet(out, set);
+    out.Close();
+    if (hasCopy)
+        DropCopy(path);
 }
 
 } // namespace
@@ -202,11 +227,7 @@ void KeepCopy(const QString& path)
 bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report)
 {
     try {
-        KeepCopy(path);
-        SetWriter out(path);
-        WriteSet(out, set);
-        out.Close();
-        RemoveFile(SafeCopyOf(path));
+        WithMemoryAsFailure([&] { WriteSafely(set, path); });
     } catch (const RunTimeError& error) {
         user.ShowMessage({.Text = QStringLiteral("The file is NOT saved due to an error.\r\n\r\n") +
                                   error.NumberAndDescription(),

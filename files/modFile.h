@@ -13,8 +13,9 @@ enum class Report { Silent, Tell };
 /// Writes the set to the path and gives whether it is all there.
 ///
 /// Before a file that is there is replaced, a copy of it goes to the same name with "~" behind it; it goes
-/// away when the write has succeeded. After a failure, which is told in a box, the copy is the set as it was,
-/// and the file itself holds what had been written.
+/// away when the write has succeeded. Without that copy nothing is replaced. A failure is told in a box; the
+/// old set is then the copy, and the file holds what had been written, or no copy was made, and the file is
+/// the old set.
 bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report);
 
 /// Reads a set file into the set and gives whether it is read. What was read before a failure stays in the

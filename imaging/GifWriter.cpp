@@ -118,9 +118,12 @@ QByteArray Encode(IndexedImage image)
 std::optional<QString> ConvertBmpToGif(const QString& bmpPath, const QString& gifPath)
 {
     try {
-        const QByteArray gif = Encode(Reduce(DecodePicture(bmpPath).Pixels()));
-        OutputFile file(gifPath);
-        file.Write(gif);
+        WithMemoryAsFailure([&] {
+            const QByteArray gif = Encode(Reduce(DecodePicture(bmpPath).Pixels()));
+            OutputFile file(gifPath);
+            file.Write(gif);
+            file.Close();
+        });
     } catch (const RunTimeError& error) {
         return error.Description();
     }

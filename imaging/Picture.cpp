@@ -33,6 +33,7 @@ void SavePicture(const Picture& picture, const QString& path)
         throw RunTimeError(ErrorNumber::InvalidPicture);
     OutputFile file(path);
     file.Write(buffer.data());
+    file.Close();
 }
 
 } // namespace deckforge

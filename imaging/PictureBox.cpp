@@ -151,7 +151,7 @@ double PictureBox::TextHeight(QStringView text) const
 
 void PictureBox::PrintLine(QPainter& painter, const QString& line) const
 {
-    painter.drawText(QPointF(CurrentX, CurrentY + Measures().Ascent()), line);
+    painter.drawText(QPointF(CurrentX, CurrentY + Measures().Ascent()), Printable(line));
 }
 
 void PictureBox::Print(const QString& text)

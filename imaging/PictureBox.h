@@ -83,7 +83,7 @@ private:
     Colour m_backColor = White;
     TextFont m_font;
     mutable bool m_needsClearing = false;
-    mutable QImage m_image;         ///< opaque; null for a surface without area
+    mutable QImage m_image; ///< opaque; null for a surface without area
     mutable QHash<TextFont, std::shared_ptr<const FontMeasures>> m_measures; ///< of the fonts used so far
 };
 

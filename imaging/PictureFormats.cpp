@@ -62,7 +62,9 @@ bool IsWholeBmp(QByteArrayView bytes)
     const qint64 bits = in.LittleEndian16();
     const quint32 compression = isOld ? uncompressed : in.LittleEndian32();
     const qint64 imageSize = isOld ? 0 : in.LittleEndian32();
-    if (in.IsPastEnd() || width <= 0)
+    constexpr qint64 mostPixels = 1 << 20; // along one side, far more than could be decoded
+    constexpr qint64 mostBits = 32;
+    if (in.IsPastEnd() || width <= 0 || width > mostPixels || qAbs(height) > mostPixels || bits > mostBits)
         return false;
     const bool hasRows = compression == uncompressed || compression == bitFields;
     const qint64 rowBytes = (width * bits + 31) / 32 * 4;

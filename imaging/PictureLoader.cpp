@@ -88,9 +88,19 @@ Picture PictureLoader::LoadPicture(const QString& path)
     if (path.isEmpty())
         return {};
     const std::optional<FileAttributes> file = AttributesOf(path);
-    if (const Kept* kept = m_kept.object(path); kept != nullptr && file && IsSameFile(kept->File, *file))
+    if (const Kept* kept = m_kept.object(path); kept != nullptr && file && IsSameFile(kept->File, *file)) {
+        if (kept->Decoded.IsEmpty())
+            RefusePicture();
         return kept->Decoded;
-    Picture picture = DecodePicture(path);
+    }
+    Picture picture;
+    try {
+        picture = DecodePicture(path);
+    } catch (const RunTimeError& error) {
+        if (error.Number() == ErrorNumber::InvalidPicture && file)
+            m_kept.insert(path, new Kept{{}, *file}); // to find that out can take seconds
+        throw;
+    }
     if (file)
         m_kept.insert(path, new Kept{picture, *file}, picture.Pixels().sizeInBytes());
     return picture;

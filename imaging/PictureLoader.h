@@ -27,7 +27,7 @@ public:
 
 private:
     struct Kept {
-        Picture Decoded;
+        Picture Decoded; ///< empty for a file that is refused
         FileAttributes File;
     };
     QCache<QString, Kept> m_kept;

@@ -20,11 +20,6 @@ bool IsSubstituted(const QString& name)
     return name == QLatin1String("Small Fonts") || name == QLatin1String("Arial");
 }
 
-bool NeedsShaping(QStringView text)
-{
-    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() > 0xFF; });
-}
-
 } // namespace
 
 size_t qHash(const TextFont& font, size_t seed)
@@ -54,23 +49,45 @@ QFont DrawnFont(const TextFont& font)
     return drawn;
 }
 
+QString Printable(QStringView text)
+{
+    QString printable = text.toString();
+    for (QChar& c : printable) {
+        const QChar::Category category = c.category();
+        if (category == QChar::Other_Control || category == QChar::Separator_Line ||
+            category == QChar::Separator_Paragraph)
+            c = QLatin1Char(' ');
+        else if (c == QChar::SoftHyphen)
+            c = QLatin1Char('-');
+    }
+    return printable;
+}
+
 FontMeasures::FontMeasures(const TextFont& font)
     : m_font(DrawnFont(font)), m_metrics(m_font),
       m_lineHeight(
           static_cast<int>(std::ceil(m_metrics.ascent() + m_metrics.descent() + m_metrics.leading()))),
       m_ascent(static_cast<int>(std::ceil(m_metrics.ascent())))
 {
-    for (std::size_t c = 0; c < m_advances.size(); ++c)
-        m_advances[c] = m_metrics.horizontalAdvance(QChar(static_cast<char16_t>(c)));
+    for (std::size_t c = 0; c < m_advances.size(); ++c) {
+        const QChar character(static_cast<char16_t>(c));
+        m_advances[c] = m_metrics.horizontalAdvance(Printable(QStringView(&character, 1)));
+    }
 }
 
 double FontMeasures::Width(QStringView text) const
 {
-    if (NeedsShaping(text))
-        return m_metrics.horizontalAdvance(text.toString());
     double width = 0;
-    for (const QChar c : text)
-        width += m_advances[c.unicode()];
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if (c < m_advances.size()) {
+            width += m_advances[c];
+        } else {
+            const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size();
+            width += m_metrics.horizontalAdvance(Printable(text.sliced(i, isPair ? 2 : 1)));
+            i += isPair ? 1 : 0;
+        }
+    }
     return width;
 }
 

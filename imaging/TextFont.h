@@ -28,6 +28,11 @@ size_t qHash(const TextFont& font, size_t seed = 0);
 /// and ligatures, so that a text is as wide as its characters.
 [[nodiscard]] QFont DrawnFont(const TextFont& font);
 
+/// The text as it is measured and drawn: a control character, a tab among them, takes the room of a blank,
+/// and a soft hyphen is a hyphen. So every character has a width of its own, and a text is as wide as their
+/// sum.
+[[nodiscard]] QString Printable(QStringView text);
+
 /// Measures of one font in logical pixels.
 class FontMeasures {
 public:

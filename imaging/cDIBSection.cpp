@@ -91,7 +91,7 @@ bool cDIBSection::CopyToClipboard(bool asDIB, UserPort& user) const
     return true;
 }
 
-bool cDIBSection::CreateDIB(int32 width, int32 height, std::vector<std::uint8_t>& hDib)
+bool cDIBSection::CreateDIB(int32 width, int32 height)
 {
     if (width < 1 || height < 1 || width > std::numeric_limits<int32>::max() / BytesPerPixel - 1)
         return false;
@@ -99,7 +99,7 @@ bool cDIBSection::CreateDIB(int32 width, int32 height, std::vector<std::uint8_t>
     if (bytes > std::numeric_limits<int32>::max())
         return false;
     try {
-        hDib.assign(static_cast<std::size_t>(bytes), 0);
+        m_bits.assign(static_cast<std::size_t>(bytes), 0);
     } catch (const std::bad_alloc&) {
         return false;
     }
@@ -131,7 +131,7 @@ void cDIBSection::CreateFromPicture(const Picture& picture)
 bool cDIBSection::Create(int32 width, int32 height)
 {
     ClearUp();
-    return CreateDIB(width, height, m_bits);
+    return CreateDIB(width, height);
 }
 
 void cDIBSection::LoadPictureBlt(const DrawingContext& source, int32 srcX, int32 srcY, int32 width,

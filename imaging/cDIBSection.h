@@ -46,8 +46,8 @@ public:
     /// and the result is false. False as well where there is no clipboard.
     bool CopyToClipboard(bool asDIB, UserPort& user) const;
 
-    /// Memory for the size, all black. False when there is none, or when a measure is below 1.
-    [[nodiscard]] bool CreateDIB(int32 width, int32 height, std::vector<std::uint8_t>& hDib);
+    /// Takes memory for the size, all black. False when there is none, or when a measure is below 1.
+    [[nodiscard]] bool CreateDIB(int32 width, int32 height);
     /// A surface of the picture's memory size with its pixels; empty when the picture cannot be taken.
     void CreateFromPicture(const Picture& picture);
     /// Gives up what was there, and makes an empty surface of the size. False on failure.

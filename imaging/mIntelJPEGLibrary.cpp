@@ -53,13 +53,16 @@ bool SaveJPG(const cDIBSection& surface, const QString& fileName, int32 quality)
 {
     Encoder encoder;
     const std::optional<FileAttributes> replaced = AttributesOf(fileName);
-    if (replaced)
+    if (replaced) {
+        CheckWritable(fileName); // a file may be deleted from its folder though it may not be written
         RemoveFile(fileName);
+    }
     const QByteArrayView bytes = encoder.Encode(surface, quality);
     OutputFile file(fileName);
     file.Write(bytes);
     if (replaced)
         file.TakeTimesAndPermissions(*replaced);
+    file.Close();
     return true;
 }
 

@@ -7,6 +7,8 @@
 #include "output/ImageNames.h"
 #include "platform/Paths.h"
 
+#include <QLockFile>
+
 namespace deckforge {
 
 namespace {
@@ -50,6 +52,9 @@ void TellWriteFailure(UserPort& user, const char* title, const QString& reason =
 void WriteGif(UserPort& user, const Picture& picture, const QString& path, const char* failureTitle)
 {
     const QString temporary = ProgramFolder() + QStringLiteral("qdwtemp.bmp");
+    // All runs of the program share the file; another one waits until the picture in it is converted.
+    QLockFile lock(temporary + QStringLiteral(".lock"));
+    lock.lock();
     SavePicture(picture, temporary);
     if (const auto failure = ConvertBmpToGif(temporary, path))
         TellWriteFailure(user, failureTitle, *failure);
@@ -142,8 +147,10 @@ void WriteCard(Workshop& workshop, const ImagePath& path)
 {
     constexpr char failureTitle[] = "Saving the card";
     try {
-        workshop.Surfaces.picACard.Freeze();
-        WriteFormat(workshop, BuildCardPicture(workshop), path, failureTitle);
+        WithMemoryAsFailure([&] {
+            workshop.Surfaces.picACard.Freeze();
+            WriteFormat(workshop, BuildCardPicture(workshop), path, failureTitle);
+        });
     } catch (const RunTimeError&) {
         TellWriteFailure(workshop.User, failureTitle);
     }
@@ -168,17 +175,18 @@ void SaveCard(Workshop& workshop, int16 index, Ask ask, Tell tell)
 void CreateCards(Workshop& workshop)
 {
     CardSet& set = workshop.Set;
-    workshop.User.SetPointer(Pointer::Hourglass);
-    const int16 remembered = set.CurrentCard;
-    for (int i = 1; i <= set.CardCount; ++i) {
-        set.CurrentCard = static_cast<int16>(i);
-        ShowCard(workshop, set.CurrentCard);
-        SaveCard(workshop, set.CurrentCard, Ask::No, Tell::No);
-        workshop.User.ShowProgress(i, set.CardCount);
+    {
+        const HourglassScope hourglass(workshop.User);
+        const int16 remembered = set.CurrentCard;
+        for (int i = 1; i <= set.CardCount; ++i) {
+            set.CurrentCard = static_cast<int16>(i);
+            ShowCard(workshop, set.CurrentCard);
+            SaveCard(workshop, set.CurrentCard, Ask::No, Tell::No);
+            workshop.User.ShowProgress(i, set.CardCount);
+        }
+        set.CurrentCard = remembered;
+        ShowCard(workshop, remembered);
     }
-    set.CurrentCard = remembered;
-    ShowCard(workshop, remembered);
-    workshop.User.SetPointer(Pointer::Default);
     workshop.User.ShowMessage({.Text = QString::number(set.CardCount) +
                                        (set.CardCount == 1 ? QStringLiteral(" card is created.")
                                                            : QStringLiteral(" cards are created.")),

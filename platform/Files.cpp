@@ -64,6 +64,15 @@ int OpenHandle(const QString& path, int flags)
     return handle;
 }
 
+/// Sees to it that a new name in a folder is on the disk as well.
+void SyncFolderOf(const QString& path)
+{
+    const QString folder = FolderPart(path);
+    const int handle = OpenHandle(folder.isEmpty() ? QStringLiteral(".") : folder, O_RDONLY | O_DIRECTORY);
+    ::fsync(handle); // some file systems have no such thing, and nothing to lose by it
+    ::close(handle);
+}
+
 /// Reads until the bytes are full or the file ends; gives how many came.
 qint64 ReadInto(int handle, char* bytes, qint64 size, const QString& path)
 {
@@ -143,31 +152,43 @@ void OutputFile::TakeTimesAndPermissions(const FileAttributes& from)
 
 void OutputFile::Close()
 {
-    // Devices and pipes have nothing to wait for, and say so.
-    if (::fsync(m_handle) != 0 && errno != EINVAL && errno != EROFS)
-        throw FailureOf(errno, m_path);
     const int handle = m_handle;
     m_handle = -1;
     if (::close(handle) != 0 && errno != EINTR)
         throw FailureOf(errno, m_path);
 }
 
+void OutputFile::CloseOnDisk()
+{
+    // Devices and pipes have nothing to wait for, and say so.
+    if (::fsync(m_handle) != 0 && errno != EINVAL && errno != EROFS)
+        throw FailureOf(errno, m_path);
+    Close();
+}
+
+void CheckWritable(const QString& path)
+{
+    ::close(OpenHandle(path, O_WRONLY));
+}
+
 void CopyFileSafely(const QString& from, const QString& to)
 {
     constexpr qint64 chunkBytes = 1 << 20;
     const QString unfinished = to + QStringLiteral("~");
+    RemoveFile(unfinished);
     auto removeUnfinished = qScopeGuard([&] { ::unlink(NameForSystem(unfinished).constData()); });
     const int source = OpenHandle(from, O_RDONLY);
     const auto close = qScopeGuard([source] { ::close(source); });
     OutputFile copy(unfinished);
-    copy.TakeTimesAndPermissions(AttributesOf(from).value());
     QByteArray chunk(chunkBytes, Qt::Uninitialized);
     while (const qint64 size = ReadInto(source, chunk.data(), chunk.size(), from))
         copy.Write(QByteArrayView(chunk).first(size));
-    copy.Close();
+    copy.TakeTimesAndPermissions(AttributesOf(from).value());
+    copy.CloseOnDisk();
     if (std::rename(NameForSystem(unfinished).constData(), NameForSystem(to).constData()) != 0)
         throw FailureOf(errno, to);
     removeUnfinished.dismiss();
+    SyncFolderOf(to);
 }
 
 bool IsRegularFile(const QString& path)

@@ -25,7 +25,8 @@ struct FileAttributes {
 /// Nothing when there is no file.
 [[nodiscard]] std::optional<FileAttributes> AttributesOf(const QString& path);
 
-/// A file being written. The destructor closes it and keeps what was written.
+/// A file being written. The destructor closes it and keeps what was written; only a closing tells of a late
+/// failure.
 class OutputFile {
 public:
     /// Empties the file that is there, or makes it.
@@ -37,16 +38,19 @@ public:
     void Write(QByteArrayView bytes);
     void TakeTimesAndPermissions(const FileAttributes& from);
 
-    /// Waits until the bytes are on the disk, and closes. A late failure of the disk shows here.
     void Close();
+    void CloseOnDisk(); ///< waits until the bytes are on the disk
 
 private:
     int m_handle;
     QString m_path;
 };
 
-/// A copy of an existing regular file beside it that is safe on disk before this returns. It stands complete
-/// under its name or not at all.
+/// Fails as opening an existing file for writing would, and leaves it alone.
+void CheckWritable(const QString& path);
+
+/// A copy of an existing regular file, with its time and permissions, that is on the disk before this
+/// returns. It stands complete under its name or not at all. On the way it has the name with another "~".
 void CopyFileSafely(const QString& from, const QString& to);
 
 /// Whether there is a regular file at the path, links followed.

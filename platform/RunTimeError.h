@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <exception>
+#include <new>
 
 namespace deckforge {
 
@@ -48,5 +49,16 @@ private:
     QString m_description;
     QByteArray m_text;
 };
+
+/// Runs the step with a lack of memory told as error 7, for those who trap failures.
+template <class Step>
+void WithMemoryAsFailure(Step&& step)
+{
+    try {
+        step();
+    } catch (const std::bad_alloc&) {
+        throw RunTimeError(ErrorNumber::OutOfMemory);
+    }
+}
 
 } // namespace deckforge

@@ -13,6 +13,7 @@ using Colour = int32;
 
 inline constexpr Colour Black = 0x000000;
 inline constexpr Colour White = 0xFFFFFF;
+inline constexpr Colour LightGrey = 0xC0C0C0;
 inline constexpr Colour InvalidColour = -1; ///< what a pixel outside a surface gives
 
 } // namespace deckforge

@@ -50,6 +50,18 @@ public:
     virtual void ShowProgress(int done, int total) = 0;
 };
 
+/// The hourglass for the time of a long run, however it ends.
+class HourglassScope {
+public:
+    explicit HourglassScope(UserPort& user) : m_user(user) { m_user.SetPointer(Pointer::Hourglass); }
+    ~HourglassScope() { m_user.SetPointer(Pointer::Default); }
+    HourglassScope(const HourglassScope&) = delete;
+    HourglassScope& operator=(const HourglassScope&) = delete;
+
+private:
+    UserPort& m_user;
+};
+
 /// Tells a failure that nothing else has told; the program goes on with the set in memory.
 void TellUntrapped(UserPort& user, const RunTimeError& error);
 

@@ -351,6 +351,24 @@ TEST_F(SetFileTest, AFailedWriteLeavesTheOldSetBesideTheFile)
     EXPECT_FALSE(Folder.Has(QStringLiteral("written.dkf~")));
 }
 
+TEST_F(SetFileTest, OnlyACopyOfAWholeSetIsKeptBeforeAnotherAndOnlyTheProgramsOwnGoes)
+{
+    // The reader takes a file without its last line end, so it is worth a copy, whatever has the copy's name.
+    const QString path = Folder.Path(QStringLiteral("written.dkf"));
+    QByteArray old = Written();
+    old.chop(2);
+    Folder.Write(QStringLiteral("written.dkf"), old);
+    Folder.Write(QStringLiteral("written.dkf~"), "notes of somebody");
+    Set.Cards[1].Title = QStringLiteral("ж");
+    EXPECT_FALSE(WriteDKF(Set, path, User, Report::Tell));
+    EXPECT_EQ(Folder.Read(QStringLiteral("written.dkf~")), old);
+
+    Set.Cards[1].Title.clear();
+    Folder.Write(QStringLiteral("new.dkf~"), "notes of somebody");
+    EXPECT_TRUE(WriteDKF(Set, Folder.Path(QStringLiteral("new.dkf")), User, Report::Silent));
+    EXPECT_TRUE(Folder.Has(QStringLiteral("new.dkf~")));
+}
+
 TEST_F(SetFileTest, AFullDiskIsToldAndTheOldSetStays)
 {
     const QByteArray old = Written();

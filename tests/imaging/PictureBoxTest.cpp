@@ -111,6 +111,19 @@ TEST(TextFont, HasThePlatformsMeasures)
                                                    measures.Width(u"i"));
 }
 
+TEST(TextFont, EveryCharacterIsDrawnAsWideAsItIsMeasured)
+{
+    PictureBox surface(QSize(400, 20));
+    const QString text = QStringLiteral("a\tb\u00ADc\u2028d\x01|");
+    surface.Print(text);
+    int last = 0;
+    for (int x = 0; x < surface.Width(); ++x) {
+        for (int y = 0; y < surface.Height(); ++y)
+            last = surface.GetPixel(x, y) != White ? x : last;
+    }
+    EXPECT_NEAR(last, surface.TextWidth(text), 3);
+}
+
 TEST(TextFont, TextStandsInItsLineAtEveryScale)
 {
     for (const int scale : {1, 4}) {

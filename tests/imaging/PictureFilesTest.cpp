@@ -103,6 +103,10 @@ TEST(PictureLoader, RefusesWhatIsCutDamagedTooLargeOrNoPicture)
     qToLittleEndian<qint32>(30000, huge.data() + 18);
     qToLittleEndian<qint32>(30000, huge.data() + 22);
     EXPECT_EQ(failure(huge), 481);
+    qToLittleEndian<qint32>(0x7FFFFFFF, huge.data() + 18);
+    qToLittleEndian<qint32>(-0x7FFFFFFF, huge.data() + 22);
+    qToLittleEndian<qint16>(-1, huge.data() + 28);
+    EXPECT_EQ(failure(huge), 481) << "measures whose product no number holds";
     QByteArray hugeMetafile = Metafile();
     qToLittleEndian<qint16>(30000, hugeMetafile.data() + 10);
     qToLittleEndian<qint16>(30000, hugeMetafile.data() + 12);

@@ -61,6 +61,13 @@ TEST(ImageNames, FollowPrefixNumberAndKind)
     }
 }
 
+TEST(ImageNames, LoseBlanksAtTheirEndsAndNoOtherCharacter)
+{
+    SetHeader header;
+    EXPECT_EQ(ImageName(header, QString(), QStringLiteral("  \u00A0Sword"), 1, 1),
+              QStringLiteral("\u00A0Sword.bmp"));
+}
+
 TEST(ImageNames, UnderlinesReplaceBlanksInTheNameAlone)
 {
     const ImagePath path = {QStringLiteral("/my cards/"), QStringLiteral("set 7 Sword.bmp")};

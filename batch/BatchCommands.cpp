@@ -1,6 +1,6 @@
-#include "app/BatchCommands.h"
+#include "batch/BatchCommands.h"
 
-#include "app/ConsoleUser.h"
+#include "batch/ConsoleUser.h"
 #include "compose/SetView.h"
 #include "core/Vocabulary.h"
 #include "files/modFile.h"

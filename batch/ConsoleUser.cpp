@@ -1,4 +1,4 @@
-#include "app/ConsoleUser.h"
+#include "batch/ConsoleUser.h"
 
 #include <cstdio>
 #include <unistd.h>
