@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Draws the built-in card backs: backs/imgCB-00.svg to imgCB-26.svg and backs/picBack.svg.
+"""Draws the built-in card backs: backs/imgCB-00.svg to imgCB-26.svg and backs/picBack.svg
+for standard cards, backs/imgChB-0.svg to imgChB-3.svg for character cards and large cards.
 
 All backs are one family. They share the border, the place of the emblem and the
 plate with the name; each has a palette, a field (the quiet pattern behind the
 emblem) and an emblem of its own. The order of BACKS is the order of the built-in
-card backs, since a back is found by its index alone.
+card backs, since a back is found by its index alone; so it is with WIDE_BACKS.
 
 Only what a small SVG renderer knows is used: paths, basic shapes, transforms,
 gradients and text.
@@ -13,11 +14,27 @@ Run it without arguments; it writes beside itself.
 """
 
 import math
+from dataclasses import dataclass
 from pathlib import Path
 
-WIDTH, HEIGHT = 150, 254
-PANEL = (19, 19, 131, 235)  # left, top, right, bottom of the field
-CENTRE = (75, 105)  # where an emblem has its origin
+
+@dataclass(frozen=True)
+class Shape:
+    """The size of a back and what follows from it."""
+    width: int
+    height: int
+    centre: tuple[float, float]  # where an emblem has its origin, and rays come from
+    across: int  # lozenges of the border along the top, and along a side
+    down: int
+
+    @property
+    def panel(self):  # left, top, right, bottom of the field
+        return 19, 19, self.width - 19, self.height - 19
+
+
+STANDARD = Shape(150, 254, (75, 105), 7, 13)
+CHARACTER = Shape(302, 254, (151, 105), 16, 13)
+LARGE = Shape(304, 256, (152, 128), 16, 13)
 
 # Advance widths of the lettering's capitals, in thousandths of the font size.
 ADVANCE = dict(zip("ABCDEFGHIJKLMNOPQRSTUVWXYZ '12",
@@ -52,14 +69,14 @@ def mirrored(shapes):
 
 # ---------------------------------------------------------------- fields
 
-def field_plain(p):
+def field_plain(p, shape):
     return ""
 
 
-def field_rays(p):
+def field_rays(p, shape):
     """Rays from the emblem to the edge of the field."""
-    left, top, right, bottom = PANEL
-    cx, cy = CENTRE
+    left, top, right, bottom = shape.panel
+    cx, cy = shape.centre
 
     def edge(degrees):
         dx, dy = polar(1, degrees)
@@ -67,12 +84,12 @@ def field_rays(p):
         reach = min(reach, ((bottom if dy > 0 else top) - cy) / dy if abs(dy) > 1e-9 else 1e9)
         return cx + dx * reach, cy + dy * reach
 
-    rays = "".join(f'<polygon points="{points([CENTRE, edge(a - 5), edge(a + 5)])}"/>' for a in range(0, 360, 20))
+    rays = "".join(f'<polygon points="{points([(cx, cy), edge(a - 5), edge(a + 5)])}"/>' for a in range(0, 360, 20))
     return f'<g fill="{p["r"]}" fill-opacity="0.22">{rays}</g>'
 
 
-def field_waves(p):
-    left, top, right, bottom = PANEL
+def field_waves(p, shape):
+    left, top, right, bottom = shape.panel
     rows = []
     for y in range(top + 10, bottom - 4, 12):
         path = f"M{left},{y}" + "".join(f"q3.5,{-5 if i % 2 == 0 else 5} 7,0" for i in range(16))
@@ -80,8 +97,8 @@ def field_waves(p):
     return f'<g fill="none" stroke="{p["r"]}" stroke-width="1.4" stroke-opacity="0.32">{"".join(rows)}</g>'
 
 
-def field_bricks(p):
-    left, top, right, bottom = PANEL
+def field_bricks(p, shape):
+    left, top, right, bottom = shape.panel
     path = ""
     for y in range(top + 12, bottom, 12):
         path += f"M{left},{y}H{right}"
@@ -91,18 +108,19 @@ def field_bricks(p):
     return f'<path d="{path}" fill="none" stroke="{p["r"]}" stroke-width="1.2" stroke-opacity="0.3"/>'
 
 
-def field_lozengy(p):
-    left, top, right, bottom = PANEL
+def field_lozengy(p, shape):
+    left, top, right, bottom = shape.panel
     path = ""
-    for row, y in enumerate(range(top + 12, bottom, 12)):
-        for x in range(left + (14 if row % 2 else 0), right + 1, 28):
-            if x in (left, right):
+    for row, y in enumerate(range(top + 12, bottom - 4, 12)):
+        middle = int(shape.centre[0]) + (14 if row % 2 else 0)
+        for x in range(middle - 140, middle + 141, 28):
+            if not left + 8 < x < right - 8:
                 continue
             path += f"M{x},{y - 4}l4,4l-4,4l-4,-4z"
     return f'<path d="{path}" fill="{p["r"]}" fill-opacity="0.35"/>'
 
 
-def field_stars(p):
+def field_stars(p, shape):
     spots = [(32, 40, 3.4), (116, 34, 2.6), (60, 32, 2), (94, 46, 2), (28, 78, 2.2), (122, 72, 3.2), (30, 120, 2.6),
              (120, 118, 2), (34, 156, 3.2), (116, 158, 3), (76, 168, 2), (54, 160, 1.8), (98, 164, 1.8), (126, 138, 1.8),
              (25, 100, 1.6), (125, 95, 1.6), (42, 58, 1.6), (110, 56, 1.6)]
@@ -110,37 +128,37 @@ def field_stars(p):
     return f'<g fill="{p["r"]}" fill-opacity="0.75">{shapes}</g>'
 
 
-def field_bend(p):
+def field_bend(p, shape):
     """Two broad diagonal stripes."""
-    left, top, right, bottom = PANEL
+    left, top, right, bottom = shape.panel
     stripes = "".join(f'<polygon points="{points([(left, y), (right, y - 112), (right, y - 84), (left, y + 28)])}"/>'
                       for y in (131, 187))
     return f'<g fill="{p["r"]}" fill-opacity="0.28">{stripes}</g>'
 
 
-def field_chevrons(p):
-    left, top, right, bottom = PANEL
+def field_chevrons(p, shape):
+    left, top, right, bottom = shape.panel
     path = ""
     for y in range(top + 56, bottom - 12, 28):
         path += f"M{left},{y}L75,{y - 56}L{right},{y}V{y + 12}L75,{y - 44}L{left},{y + 12}z"
     return f'<path d="{path}" fill="{p["r"]}" fill-opacity="0.22"/>'
 
 
-def field_quarterly(p):
-    left, top, right, bottom = PANEL
-    cx, cy = CENTRE
+def field_quarterly(p, shape):
+    left, top, right, bottom = shape.panel
+    cx, cy = shape.centre
     return (f'<g fill="{p["r"]}" fill-opacity="0.3"><rect x="{cx}" y="{top}" width="{right - cx}" height="{cy - top}"/>'
             f'<rect x="{left}" y="{cy}" width="{cx - left}" height="{bottom - cy}"/></g>')
 
 
-def field_pale(p):
-    left, top, right, bottom = PANEL
+def field_pale(p, shape):
+    left, top, right, bottom = shape.panel
     stripes = "".join(f'<rect x="{left + 32 * i}" y="{top}" width="16" height="{bottom - top}"/>' for i in range(4))
     return f'<g fill="{p["r"]}" fill-opacity="0.2">{stripes}</g>'
 
 
-def field_scales(p):
-    left, top, right, bottom = PANEL
+def field_scales(p, shape):
+    left, top, right, bottom = shape.panel
     path = ""
     for row, y in enumerate(range(top, bottom - 8, 10)):
         start = left if row % 2 == 0 else left + 8
@@ -487,6 +505,77 @@ def varnhelm_seal():
             f'<g transform="translate(0,3) scale(0.72)">{winged_helm()}</g>')
 
 
+# The emblems and the ornaments of the wide backs. An ornament stands on both sides of its emblem.
+
+def arms():
+    """The helm on a shield; the back's ornaments are the sword and the staff."""
+    return ('<path d="M-46,-52Q-22,-46 0,-58Q22,-46 46,-52V-4Q44,36 0,60Q-44,36 -46,-4z" fill="{b}" stroke="{d}" stroke-width="1.8" stroke-linejoin="round"/>'
+            '<path d="M-40,-45Q-18,-41 0,-51Q18,-41 40,-45V-4Q38,31 0,53Q-38,31 -40,-4z" fill="{f}" stroke="{d}" stroke-width="1"/>'
+            f'<g transform="translate(0,1) scale(0.68)">{winged_helm()}</g>')
+
+
+def crown():
+    prong = ('<path d="M0,-44l9,20l13,-14l4,18l17,-9l-7,49H0z" fill="{a}" stroke="none"/><path d="M26,-20l17,-9l-7,49H22z" fill="{b}" stroke="none"/>'
+             '<path d="M0,-44l9,20l13,-14l4,18l17,-9l-7,49H0" fill="none"/>')
+    return ('<g stroke="{d}" stroke-width="1.6" stroke-linejoin="round">'
+            '<path d="M-34,16Q-36,-22 -14,-28Q0,-34 14,-28Q36,-22 34,16z" fill="{f}"/>' + mirrored(prong)
+            + '<path d="M-39,18Q0,8 39,18L37,36Q0,26 -37,36z" fill="{e}"/>'
+            '<path d="M-40,36Q0,26 40,36V44Q0,34 -40,44z" fill="{a}"/>'
+            '<circle cy="-47" r="5" fill="{e}"/><circle cx="-22" cy="-41" r="3.6" fill="{e}"/><circle cx="22" cy="-41" r="3.6" fill="{e}"/>'
+            '<circle cx="-44" cy="-31" r="3.6" fill="{e}"/><circle cx="44" cy="-31" r="3.6" fill="{e}"/>'
+            '<path d="M0,14l6,7l-6,7l-6,-7z" fill="{f}"/><path d="M-22,17l5,6l-5,6l-5,-6zM22,17l5,6l-5,6l-5,-6z" fill="{b}"/>'
+            f'<polygon points="{star(4, 8, 3, 0, -6)}" fill="{{e}}" stroke-width="1"/></g>')
+
+
+def orb():
+    ticks = "".join(f'<circle cx="{num(x)}" cy="{num(y)}" r="1.7" fill="{{a}}"/>' for x, y in (polar(44.5, a, 0, 8) for a in range(0, 360, 20)))
+    return ('<g stroke="{d}" stroke-width="1.6" stroke-linejoin="round">'
+            f'<polygon points="{star(16, 60, 46, 0, 2)}" fill="{{e}}" fill-opacity="0.55" stroke="none"/>'
+            '<circle cy="8" r="48" fill="{e}"/><circle cy="8" r="41" fill="{f}"/></g>' + ticks
+            + '<path d="M-30,-14Q-20,-28 -4,-30Q-22,-18 -26,-2Q-30,-6 -30,-14z" fill="{a}" fill-opacity="0.7"/>'
+            '<g stroke="{d}" stroke-width="1.4" stroke-linejoin="round">'
+            '<path d="M-41,4Q0,-8 41,4V14Q0,2 -41,14z" fill="{b}"/><path d="M-5,-33H5V2H-5z" fill="{b}"/>'
+            '<path d="M-4,-58H4V-50H12V-42H4V-32H-4V-42H-12V-50H-4z" fill="{a}"/>'
+            f'<polygon points="{star(8, 13, 6, 0, 6)}" fill="{{a}}"/><circle cy="6" r="4" fill="{{e}}"/></g>')
+
+
+def great_seal():
+    return f'<g transform="scale(1.32)">{varnhelm_seal()}</g>'
+
+
+def sword_and_staff():
+    sword = ('<g transform="translate(-88,0)"><path d="M0,-66L6,-56V20H-6V-56z" fill="{a}"/><path d="M0,-66L6,-56V20H0z" fill="{b}" stroke="none"/>'
+             '<path d="M0,-60V20" stroke-width="1"/><path d="M-22,20Q-22,14 -16,16H16Q22,14 22,20Q20,28 12,25H-12Q-20,28 -22,20z" fill="{e}"/>'
+             '<path d="M-4,26H4V50H-4z" fill="{f}"/><path d="M-4,32H4M-4,38H4M-4,44H4" stroke-width="1"/><circle cy="55" r="6.5" fill="{e}"/></g>')
+    staff = ('<g transform="translate(88,0)"><path d="M-3.5,-30H3.5L3,62H-3z" fill="{b}"/><path d="M-5,-18H5V-10H-5zM-5,20H5V28H-5z" fill="{e}"/>'
+             '<path d="M0,-24Q-20,-28 -19,-48Q-16,-60 -8,-64Q-12,-50 -9,-42Q-6,-34 0,-33Q6,-34 9,-42Q12,-50 8,-64Q16,-60 19,-48Q20,-28 0,-24z" fill="{e}"/>'
+             '<circle cy="-50" r="8.5" fill="{a}"/></g>')
+    sparks = "".join(f'<polygon points="{star(4, r, r * 0.3, x, y)}" fill="{{e}}"/>' for x, y, r in
+                     ((116, -40, 5), (62, -58, 4), (112, 30, 4), (-116, -40, 5), (-62, -58, 4), (-112, 30, 4), (64, 52, 3.5), (-64, 52, 3.5)))
+    return f'<g stroke="{{d}}" stroke-width="1.5" stroke-linejoin="round">{sword}{staff}</g>{sparks}'
+
+
+def laurel():
+    """A branch that rises on each side, leaf by leaf."""
+    leaves, stem = "", []
+    for i in range(9):
+        x, y = polar(80, 150 - i * 13.5, 6, 0)
+        stem.append((x, y))
+        size = 1.05 - i * 0.05
+        for side in (-1, 1):
+            turn = 150 - i * 13.5 - 90 + side * 38
+            leaves += (f'<g transform="translate({num(x)},{num(y)}) rotate({num(turn)}) scale({num(size)})">'
+                       f'<path d="M0,0Q-7,-10 0,-24Q7,-10 0,0z" fill="{"{a}" if side > 0 else "{b}"}"/></g>')
+    curve = "M" + "L".join(f"{num(x)},{num(y)}" for x, y in stem)
+    berries = "".join(f'<circle cx="{num(x)}" cy="{num(y)}" r="2.6" fill="{{f}}"/>' for x, y in stem[1:-1:2])
+    branch = (f'<path d="{curve}" fill="none" stroke="{{d}}" stroke-width="4"/><g stroke="{{d}}" stroke-width="1.2" stroke-linejoin="round">{leaves}{berries}</g>')
+    return mirrored(branch)
+
+
+def wide_laurel():
+    return f'<g transform="scale(1.22,1.16)">{laurel()}</g>'
+
+
 # ---------------------------------------------------------------- the table
 
 def palette(o, n, r, p, q, a, b, d, e, f):
@@ -529,45 +618,59 @@ DEFAULT = (None, field_lozengy, varnhelm_seal,
            palette("#160d06", "#3d2413", "#d8b04a", "#6d4526", "#2e1a0d", "#f6e2a6", "#b98d3c", "#120a04", "#8a2a20", "#4d1712"))
 
 
+#     title               shape      name         field          emblem      ornament         palette
+WIDE_BACKS = [
+    ("Character",         CHARACTER, "STANDARD",  field_rays,    arms,       sword_and_staff, palette("#0c1730", "#20386c", "#d9c58a", "#3f66ad", "#182a57", "#f3f1e6", "#b9c2cf", "#0a1122", "#e8bf56", "#8a2434")),
+    ("Master character",  CHARACTER, "MASTER 1",  field_lozengy, crown,      laurel,          palette("#2a070b", "#74161f", "#f0cf74", "#a92a34", "#5c0f18", "#ffe9a0", "#d9a53c", "#220507", "#f4f0e2", "#3a6a8f")),
+    ("Master character",  CHARACTER, "MASTER 2",  field_lozengy, orb,        laurel,          palette("#081c14", "#17503a", "#e6d79a", "#2f8a62", "#0f4230", "#f4efd6", "#b7c79a", "#061510", "#ecc255", "#5a2f78")),
+    ("Varnhelm",          LARGE,     None,        field_lozengy, great_seal, wide_laurel,     DEFAULT[3]),
+]
+
+
 # ---------------------------------------------------------------- the parts of a back
 
-def border(p):
+def border(p, shape):
     """The outer edge, the band with its row of lozenges and beads, and the four corner roses."""
-    band = [f'<rect width="{WIDTH}" height="{HEIGHT}" fill="{p["o"]}"/>',
-            f'<rect x="4" y="4" width="142" height="246" fill="{p["n"]}"/>',
-            f'<rect x="4.5" y="4.5" width="141" height="245" fill="none" stroke="{p["r"]}"/>',
-            f'<rect x="17" y="17" width="116" height="220" fill="{p["o"]}"/>']
+    width, height = shape.width, shape.height
+    band = [f'<rect width="{width}" height="{height}" fill="{p["o"]}"/>',
+            f'<rect x="4" y="4" width="{width - 8}" height="{height - 8}" fill="{p["n"]}"/>',
+            f'<rect x="4.5" y="4.5" width="{width - 9}" height="{height - 9}" fill="none" stroke="{p["r"]}"/>',
+            f'<rect x="17" y="17" width="{width - 34}" height="{height - 34}" fill="{p["o"]}"/>']
     lozenges = beads = ""
-    for i in range(7):  # along the top and the bottom
-        x = 27 + 16 * i
-        for y in (11, 243):
-            lozenges += f"M{x - 5},{y}l5,-3.6l5,3.6l-5,3.6z"
-            if i < 6:
-                beads += f'<circle cx="{x + 8}" cy="{y}" r="1.6"/>'
-    for i in range(13):  # along the sides
-        y = num(27 + 200 / 12 * i)
-        for x in (11, 139):
+    step = (width - 54) / (shape.across - 1)
+    for i in range(shape.across):  # along the top and the bottom
+        x = 27 + step * i
+        for y in (11, height - 11):
+            lozenges += f"M{num(x - 5)},{y}l5,-3.6l5,3.6l-5,3.6z"
+            if i < shape.across - 1:
+                beads += f'<circle cx="{num(x + step / 2)}" cy="{y}" r="1.6"/>'
+    step = (height - 54) / (shape.down - 1)
+    for i in range(shape.down):  # along the sides
+        y = num(27 + step * i)
+        for x in (11, width - 11):
             lozenges += f"M{x},{num(float(y) - 5)}l3.6,5l-3.6,5l-3.6,-5z"
-            if i < 12:
-                beads += f'<circle cx="{x}" cy="{num(float(y) + 100 / 12)}" r="1.6"/>'
+            if i < shape.down - 1:
+                beads += f'<circle cx="{x}" cy="{num(float(y) + step / 2)}" r="1.6"/>'
     band.append(f'<path d="{lozenges}" fill="{p["r"]}"/><g fill="{p["r"]}">{beads}</g>')
-    for x in (11, 139):
-        for y in (11, 243):
+    for x in (11, width - 11):
+        for y in (11, height - 11):
             band.append(f'<g transform="translate({x},{y})"><rect x="-9" y="-9" width="18" height="18" fill="{p["o"]}" stroke="{p["r"]}" stroke-width="1"/>'
                         f'<polygon points="{star(8, 7.6, 3.4)}" fill="{p["r"]}"/><circle r="2.4" fill="{p["n"]}"/></g>')
     return "\n".join(band)
 
 
-def panel(p):
+def panel(p, shape):
     """The field with its inner line, whose corners are cut."""
-    left, top, right, bottom = PANEL
-    return (f'<defs><radialGradient id="field" gradientUnits="userSpaceOnUse" cx="75" cy="105" r="130">'
+    left, top, right, bottom = shape.panel
+    return (f'<defs><radialGradient id="field" gradientUnits="userSpaceOnUse" cx="{shape.centre[0]}" cy="105" r="{130 if shape is STANDARD else 170}">'
             f'<stop offset="0" stop-color="{p["p"]}"/><stop offset="1" stop-color="{p["q"]}"/></radialGradient></defs>\n'
             f'<rect x="{left}" y="{top}" width="{right - left}" height="{bottom - top}" fill="url(#field)"/>')
 
 
-def inner_line(p):
-    return (f'<path d="M28,23H122Q122,28 127,28V226Q122,226 122,231H28Q28,226 23,226V28Q28,28 28,23z" fill="none" '
+def inner_line(p, shape):
+    right, bottom = shape.width - 23, shape.height - 23
+    return (f'<path d="M28,23H{right - 5}Q{right - 5},28 {right},28V{bottom - 5}Q{right - 5},{bottom - 5} {right - 5},{bottom}'
+            f'H28Q28,{bottom - 5} 23,{bottom - 5}V28Q28,28 28,23z" fill="none" '
             f'stroke="{p["r"]}" stroke-width="1" stroke-opacity="0.85"/>')
 
 
@@ -595,28 +698,52 @@ def name_plate(name, p):
             f'{text}')
 
 
-def card_back(name, field, emblem, p):
-    drawing = emblem()
+def coloured(drawing, p):
     for key, colour in p.items():
         drawing = drawing.replace("{" + key + "}", colour)
-    centre = CENTRE if name else (75, 127)
-    parts = ['<?xml version="1.0" encoding="UTF-8"?>',
-             f'<svg xmlns="http://www.w3.org/2000/svg" version="1.2" baseProfile="tiny" width="{WIDTH}" height="{HEIGHT}" viewBox="0 0 {WIDTH} {HEIGHT}">',
-             f'<title>{name or "Varnhelm"}</title>', border(p), panel(p), field(p), inner_line(p)]
+    return drawing
+
+
+def document(title, shape, parts):
+    head = ['<?xml version="1.0" encoding="UTF-8"?>',
+            f'<svg xmlns="http://www.w3.org/2000/svg" version="1.2" baseProfile="tiny" width="{shape.width}" height="{shape.height}" '
+            f'viewBox="0 0 {shape.width} {shape.height}">', f'<title>{title}</title>']
+    return "\n".join(part for part in head + parts + ["</svg>"] if part) + "\n"
+
+
+def card_back(name, field, emblem, p):
+    drawing = coloured(emblem(), p)
+    centre = STANDARD.centre if name else (75, 127)
+    parts = [border(p, STANDARD), panel(p, STANDARD), field(p, STANDARD), inner_line(p, STANDARD)]
     if drawing:
         parts.append(f'<g transform="translate({centre[0]},{centre[1]})">{drawing}</g>')
     if name and emblem is not blank:
         parts.append(name_plate(name, p))
-    parts.append("</svg>")
-    return "\n".join(part for part in parts if part) + "\n"
+    return document(name or "Varnhelm", STANDARD, parts)
+
+
+def wide_back(title, shape, name, field, emblem, side, p):
+    """A back of double width: the emblem between two ornaments, and the plate if the back has a name."""
+    x, y = shape.centre
+    parts = [border(p, shape), panel(p, shape), field(p, shape), inner_line(p, shape),
+             f'<g transform="translate({num(x)},{num(y)})">{coloured(side(), p)}{coloured(emblem(), p)}</g>']
+    if name:
+        parts.append(f'<g transform="translate({num(x - 75)},0)">{name_plate(name, p)}</g>')
+    return document(title, shape, parts)
 
 
 def main():
     folder = Path(__file__).resolve().parent / "backs"
     folder.mkdir(exist_ok=True)
+
+    def save(name, drawing):
+        (folder / name).write_text(drawing, encoding="utf-8", newline="\n")
+
     for index, row in enumerate(BACKS):
-        (folder / f"imgCB-{index:02}.svg").write_text(card_back(*row), encoding="utf-8", newline="\n")
-    (folder / "picBack.svg").write_text(card_back(*DEFAULT), encoding="utf-8", newline="\n")
+        save(f"imgCB-{index:02}.svg", card_back(*row))
+    save("picBack.svg", card_back(*DEFAULT))
+    for index, row in enumerate(WIDE_BACKS):
+        save(f"imgChB-{index}.svg", wide_back(*row))
 
 
 if __name__ == "__main__":

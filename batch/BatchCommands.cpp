@@ -4,6 +4,9 @@
 #include "compose/SetView.h"
 #include "core/Vocabulary.h"
 #include "files/modFile.h"
+#include "output/HtmlSheets.h"
+#include "output/Statistics.h"
+#include "output/frmCardSheet.h"
 #include "output/modCapture.h"
 #include "platform/Paths.h"
 #include "platform/Version.h"
@@ -24,36 +27,136 @@ struct WrongUse {
     QString Text;
 };
 
-/// The options of `images`, for this run only.
-struct ImageOptions {
-    std::optional<QString> SaveTo;
-    std::optional<int16> SaveFormat;
-    int Scale = 1;
-    bool Save = false;
-};
-
 constexpr char Usage[] = R"(Usage:
   deckforge-batch new OUT.dkf
   deckforge-batch convert SET.dkf OUT.dkf
-  deckforge-batch images SET.dkf [--kind card|all] [--to DIR] [--format bmp|jpg|gif] [--scale N] [--save]
+  deckforge-batch images SET.dkf [--kind card|large|character|back|all] [--to DIR] [--format bmp|jpg|gif]
+                         [--scale N] [--save]
+  deckforge-batch sheets SET.dkf --kind card|large --columns C --rows R [--to DIR] [--format bmp|jpg|gif]
+  deckforge-batch html SET.dkf [--kind card|large|character|piece|all] [--to DIR]
+  deckforge-batch text SET.dkf OUT.txt
+  deckforge-batch statistics SET.dkf
+  deckforge-batch backs DIR
   deckforge-batch --help | --version
 
-  new      writes a new card set with one card
-  convert  reads a card set of any version and writes it in the current one
-  images   writes the image of every card to the folder that the set names
+  new         writes a new card set with one card
+  convert     reads a card set of any version and writes it in the current one
+  images      writes the image of every card to the folder that the set names
+  sheets      writes sheets of 1 to 6 columns and 1 to 8 rows of cards there, each card with its copies
+  html        writes pages there that show the images of the cards; the cards need file names, see --save
+  text        writes a listing of the set's texts
+  statistics  prints how many cards of each type and back there are
+  backs       writes the built-in card backs to a folder
 
-  --kind    the kind of card; all where it is not given
-  --to      the folder of the images, for this run; it is made if it is not there
-  --format  the format of the images, for this run
-  --scale   how many pixels an image has for each pixel of the card in both directions, from 1 to 16
-  --save    writes the set back with the file names that the run gave to its cards
+  --kind      the kind of card; all where it is not given
+  --to        the folder to write to, for this run; it is made if it is not there
+  --format    the format of the images, for this run
+  --scale     how many pixels an image has for each pixel of the card in both directions, from 1 to 16
+  --save      writes the set back with the file names that the run gave to its cards
 
 Boxes of the program go to standard error. Exit status: 0 done, 1 a failure was reported, 2 wrong use.
 )";
 
+// Options
+
 QString AbsolutePath(const QString& path)
 {
     return QFileInfo(path).absoluteFilePath();
+}
+
+int NumberOption(const QCommandLineParser& parser, const char* name, int most)
+{
+    bool isNumber = false;
+    const int number = parser.value(QString::fromLatin1(name)).toInt(&isNumber);
+    if (!isNumber || number < 1 || number > most)
+        throw WrongUse{QStringLiteral("--%1 takes a number from 1 to %2.").arg(name).arg(most)};
+    return number;
+}
+
+int16 FormatNamed(const QString& name)
+{
+    const qsizetype row = SaveFormats().indexOf(name.toUpper());
+    if (row < 0)
+        throw WrongUse{QStringLiteral("There is no image format \"%1\".").arg(name)};
+    return static_cast<int16>(row);
+}
+
+/// What stands for settings of the set in this run.
+struct RunSettings {
+    std::optional<QString> SaveTo;
+    std::optional<int16> SaveFormat;
+};
+
+RunSettings SettingsFrom(const QCommandLineParser& parser)
+{
+    RunSettings settings;
+    if (parser.isSet(QStringLiteral("format")))
+        settings.SaveFormat = FormatNamed(parser.value(QStringLiteral("format")));
+    if (parser.isSet(QStringLiteral("to"))) {
+        settings.SaveTo = WithSeparator(AbsolutePath(parser.value(QStringLiteral("to"))));
+        QDir().mkpath(*settings.SaveTo); // where it cannot be made, writing into it tells so
+    }
+    return settings;
+}
+
+/// The kinds that the option names, among those of the command; all of them where it is not given.
+template <class Row, std::size_t size>
+std::vector<const Row*> KindsFrom(const QCommandLineParser& parser, const Row (&rows)[size])
+{
+    const QString kind = parser.value(QStringLiteral("kind"));
+    std::vector<const Row*> kinds;
+    for (const Row& row : rows) {
+        if (kind == QLatin1String("all") || kind == QLatin1String(row.Kind))
+            kinds.push_back(&row);
+    }
+    if (kinds.empty())
+        throw WrongUse{QStringLiteral("There is no kind \"%1\" here.").arg(kind)};
+    return kinds;
+}
+
+// Running
+
+/// Carries out a task on a new set. A failure that the task does not tell itself is told here.
+template <class Task>
+ExitStatus RunOnNewSet(int scale, Task&& task)
+{
+    ConsoleUser user;
+    bool done = false;
+    try {
+        WithMemoryAsFailure([&] {
+            Workshop workshop(user, scale);
+            InitForm(workshop);
+            done = task(workshop);
+        });
+    } catch (const RunTimeError& error) {
+        TellUntrapped(user, error);
+    }
+    return done && !user.WasToldOfFailure() ? ExitStatus::Done : ExitStatus::FailureReported;
+}
+
+/// Carries out a task on the set of a file.
+template <class Task>
+ExitStatus RunOnSet(const QString& path, int scale, Task&& task)
+{
+    return RunOnNewSet(scale, [&](Workshop& workshop) {
+        if (!ReadDKF(workshop.Set, path, workshop.User))
+            return false;
+        ShowOpenedSet(workshop);
+        return task(workshop);
+    });
+}
+
+/// The settings hold for the time of the task, and are not stored.
+template <class Task>
+void WithSettings(SetHeader& header, const RunSettings& settings, Task&& task)
+{
+    const QString saveTo = header.SaveTo;
+    const int16 saveFormat = header.SaveFormat;
+    header.SaveTo = settings.SaveTo.value_or(saveTo);
+    header.SaveFormat = settings.SaveFormat.value_or(saveFormat);
+    task();
+    header.SaveTo = saveTo;
+    header.SaveFormat = saveFormat;
 }
 
 /// Writes the set as its save command does, once the path is chosen.
@@ -64,23 +167,44 @@ bool WriteSetTo(Workshop& workshop, const QString& path)
     return WriteDKF(workshop.Set, header.FileName, workshop.User, Report::Tell);
 }
 
-/// Carries out a task on a new set. A failure that the task does not tell itself is told here.
-template <class Task>
-ExitStatus RunOnNewSet(int scale, Task&& task)
+/// The images of the user-designed backs, one after the other; the window makes them one by one.
+void CreateNewCardBacks(Workshop& workshop)
 {
-    ConsoleUser user;
-    bool done = false;
-    try {
-        Workshop workshop(user, scale);
-        InitForm(workshop);
-        done = task(workshop);
-    } catch (const RunTimeError& error) {
-        TellUntrapped(user, error);
-    } catch (const std::bad_alloc&) {
-        TellUntrapped(user, RunTimeError(ErrorNumber::OutOfMemory));
+    CardSet& set = workshop.Set;
+    for (int i = 1; i <= set.NewCardBackCount; ++i) {
+        set.CurrentNewCardBack = static_cast<int16>(i);
+        SaveNewCardBack(workshop, set.CurrentNewCardBack, Ask::No, Tell::No);
     }
-    return done && !user.WasToldOfFailure() ? ExitStatus::Done : ExitStatus::FailureReported;
 }
+
+struct ImageKind {
+    const char* Kind;
+    void (*Create)(Workshop&);
+};
+
+constexpr ImageKind ImageKinds[] = {{"card", CreateCards},
+                                    {"large", CreateLargeCards},
+                                    {"character", CreateCharacters},
+                                    {"back", CreateNewCardBacks}};
+
+struct SheetKind {
+    const char* Kind;
+    void (*Create)(Workshop&, std::optional<SheetGrid>);
+};
+
+constexpr SheetKind SheetKinds[] = {{"card", CreateCardSheets}, {"large", CreateLargeCardSheets}};
+
+struct HtmlKind {
+    const char* Kind;
+    bool (*Create)(const CardSet&, UserPort&);
+};
+
+constexpr HtmlKind HtmlKinds[] = {{"card", CreateHtmlCards},
+                                  {"large", CreateHtmlLargeCards},
+                                  {"character", CreateHtmlCharacters},
+                                  {"piece", CreateHtmlPieces}};
+
+// Commands
 
 ExitStatus RunNew(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
@@ -94,74 +218,91 @@ ExitStatus RunConvert(const QStringList& paths, const QCommandLineParser& /*pars
     });
 }
 
-bool CreateImages(Workshop& workshop, const QString& path, const ImageOptions& options)
-{
-    if (!ReadDKF(workshop.Set, path, workshop.User))
-        return false;
-    SetHeader& header = workshop.Set.Header;
-    const SetHeader stored = header;
-    header.SaveTo = options.SaveTo.value_or(stored.SaveTo);
-    header.SaveFormat = options.SaveFormat.value_or(stored.SaveFormat);
-    ShowOpenedSet(workshop);
-    CreateCards(workshop);
-    header.SaveTo = stored.SaveTo;
-    header.SaveFormat = stored.SaveFormat;
-    return !options.Save || WriteSetTo(workshop, path);
-}
-
-std::optional<int16> FormatNamed(const QString& name)
-{
-    const qsizetype row = SaveFormats().indexOf(name.toUpper());
-    if (row < 0)
-        throw WrongUse{QStringLiteral("There is no image format \"%1\".").arg(name)};
-    return static_cast<int16>(row);
-}
-
-int ScaleFrom(const QString& text)
-{
-    bool isNumber = false;
-    const int scale = text.toInt(&isNumber);
-    if (!isNumber || scale < 1 || scale > MostScale)
-        throw WrongUse{QStringLiteral("The scale must be a number from 1 to %1.").arg(MostScale)};
-    return scale;
-}
-
-ImageOptions OptionsFrom(const QCommandLineParser& parser)
-{
-    const QString kind = parser.value(QStringLiteral("kind"));
-    if (kind != QLatin1String("card") && kind != QLatin1String("all"))
-        throw WrongUse{QStringLiteral("There is no kind \"%1\".").arg(kind)};
-    ImageOptions options;
-    options.Scale = ScaleFrom(parser.value(QStringLiteral("scale")));
-    options.Save = parser.isSet(QStringLiteral("save"));
-    if (parser.isSet(QStringLiteral("to")))
-        options.SaveTo = WithSeparator(AbsolutePath(parser.value(QStringLiteral("to"))));
-    if (parser.isSet(QStringLiteral("format")))
-        options.SaveFormat = FormatNamed(parser.value(QStringLiteral("format")));
-    return options;
-}
-
 ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
 {
-    const ImageOptions options = OptionsFrom(parser);
-    if (options.SaveTo)
-        QDir().mkpath(*options.SaveTo); // where it cannot be made, writing the images tells so
-    return RunOnNewSet(options.Scale,
-                       [&](Workshop& workshop) { return CreateImages(workshop, paths[0], options); });
+    const auto kinds = KindsFrom(parser, ImageKinds);
+    const int scale = NumberOption(parser, "scale", MostScale);
+    const RunSettings settings = SettingsFrom(parser);
+    return RunOnSet(paths[0], scale, [&](Workshop& workshop) {
+        WithSettings(workshop.Set.Header, settings, [&] {
+            for (const ImageKind* kind : kinds)
+                kind->Create(workshop);
+        });
+        return !parser.isSet(QStringLiteral("save")) || WriteSetTo(workshop, paths[0]);
+    });
+}
+
+ExitStatus RunSheets(const QStringList& paths, const QCommandLineParser& parser)
+{
+    const auto kinds = KindsFrom(parser, SheetKinds);
+    if (kinds.size() > 1) // after a run over one kind the flag of the last card stays set
+        throw WrongUse{QStringLiteral("\"sheets\" takes one kind.")};
+    SheetGrid grid;
+    grid.Cols = static_cast<int16>(NumberOption(parser, "columns", SheetGrid::MostCols));
+    grid.Rows = static_cast<int16>(NumberOption(parser, "rows", SheetGrid::MostRows));
+    const RunSettings settings = SettingsFrom(parser);
+    return RunOnSet(paths[0], 1, [&](Workshop& workshop) {
+        WithSettings(workshop.Set.Header, settings, [&] { kinds.front()->Create(workshop, grid); });
+        return true;
+    });
+}
+
+ExitStatus RunHtml(const QStringList& paths, const QCommandLineParser& parser)
+{
+    const auto kinds = KindsFrom(parser, HtmlKinds);
+    const RunSettings settings = SettingsFrom(parser);
+    return RunOnSet(paths[0], 1, [&](Workshop& workshop) {
+        bool done = true;
+        WithSettings(workshop.Set.Header, settings, [&] {
+            for (const HtmlKind* kind : kinds)
+                done = kind->Create(workshop.Set, workshop.User) && done;
+        });
+        return done;
+    });
+}
+
+ExitStatus RunText(const QStringList& paths, const QCommandLineParser& /*parser*/)
+{
+    return RunOnSet(paths[0], 1,
+                    [&](Workshop& workshop) { return ExportSetText(workshop.Set, paths[1], workshop.User); });
+}
+
+ExitStatus RunStatistics(const QStringList& paths, const QCommandLineParser& /*parser*/)
+{
+    return RunOnSet(paths[0], 1, [](Workshop& workshop) {
+        const QString text =
+            StatisticsText(workshop.Set).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+        std::printf("%s\n", qUtf8Printable(text));
+        return true;
+    });
+}
+
+ExitStatus RunBacks(const QStringList& paths, const QCommandLineParser& /*parser*/)
+{
+    return RunOnNewSet(1, [&](Workshop& workshop) {
+        QDir().mkpath(paths[0]);
+        WriteCardBacks(workshop, AbsolutePath(paths[0]));
+        return true;
+    });
 }
 
 /// A command and what it takes.
 struct Command {
     const char* Name;
     int PathCount;
-    bool TakesOptions;
+    const char* Options; ///< their names, a blank between them
     ExitStatus (*Run)(const QStringList& paths, const QCommandLineParser& parser);
 };
 
 constexpr Command Commands[] = {
-    {"new", 1, false, RunNew},
-    {"convert", 2, false, RunConvert},
-    {"images", 1, true, RunImages},
+    {"new", 1, "", RunNew},
+    {"convert", 2, "", RunConvert},
+    {"images", 1, "kind to format scale save", RunImages},
+    {"sheets", 1, "kind columns rows to format", RunSheets},
+    {"html", 1, "kind to", RunHtml},
+    {"text", 2, "", RunText},
+    {"statistics", 1, "", RunStatistics},
+    {"backs", 1, "", RunBacks},
 };
 
 const Command& CommandNamed(const QString& name)
@@ -183,10 +324,21 @@ void AddOptions(QCommandLineParser& parser)
     option("help", "", "");
     option("version", "", "");
     option("kind", "KIND", "all");
+    option("columns", "C", "");
+    option("rows", "R", "");
     option("to", "DIR", "");
     option("format", "FORMAT", "");
     option("scale", "N", "1");
     option("save", "", "");
+}
+
+void CheckOptions(const Command& command, const QCommandLineParser& parser)
+{
+    const QStringList known = QString::fromLatin1(command.Options).split(QLatin1Char(' '));
+    for (const QString& option : parser.optionNames()) {
+        if (!known.contains(option))
+            throw WrongUse{QStringLiteral("\"%1\" takes no --%2.").arg(QLatin1String(command.Name), option)};
+    }
 }
 
 ExitStatus RunCommand(const QCommandLineParser& parser)
@@ -195,8 +347,7 @@ ExitStatus RunCommand(const QCommandLineParser& parser)
     const Command& command = CommandNamed(paths.isEmpty() ? QString() : paths.takeFirst());
     if (paths.size() != command.PathCount || paths.contains(QString()))
         throw WrongUse{QStringLiteral("\"%1\" takes %2 path(s).").arg(command.Name).arg(command.PathCount)};
-    if (!command.TakesOptions && !parser.optionNames().isEmpty())
-        throw WrongUse{QStringLiteral("\"%1\" takes no options.").arg(command.Name)};
+    CheckOptions(command, parser);
     return command.Run(paths, parser);
 }
 

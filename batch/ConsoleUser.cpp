@@ -25,6 +25,11 @@ std::optional<QString> ConsoleUser::AskSaveFile(const FileDialogRequest& /*reque
     return std::nullopt;
 }
 
+std::optional<QString> ConsoleUser::BrowseForFolder()
+{
+    return std::nullopt;
+}
+
 void ConsoleUser::SetPointer(Pointer /*pointer*/) {}
 
 void ConsoleUser::ShowProgress(int done, int total)

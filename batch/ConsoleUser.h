@@ -11,6 +11,7 @@ public:
     Answer ShowMessage(const MessageBoxRequest& request) override;
     std::optional<QString> AskOpenFile(const FileDialogRequest& request) override;
     std::optional<QString> AskSaveFile(const FileDialogRequest& request) override;
+    std::optional<QString> BrowseForFolder() override;
     void SetPointer(Pointer pointer) override;
     void ShowProgress(int done, int total) override;
 

@@ -10,6 +10,7 @@ public:
     Answer ShowMessage(const MessageBoxRequest& /*request*/) override { return deckforge::Answer::Ok; }
     std::optional<QString> AskOpenFile(const FileDialogRequest& /*request*/) override { return std::nullopt; }
     std::optional<QString> AskSaveFile(const FileDialogRequest& /*request*/) override { return std::nullopt; }
+    std::optional<QString> BrowseForFolder() override { return std::nullopt; }
     void SetPointer(Pointer /*pointer*/) override {}
     void ShowProgress(int /*done*/, int /*total*/) override {}
 };

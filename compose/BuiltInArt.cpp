@@ -11,6 +11,10 @@ namespace {
 
 constexpr qsizetype KeptBytes = qsizetype(32) << 20;
 constexpr QSize CardArtSize = {150, 254};
+constexpr QSize DoubleArtSize = {302, 254};
+constexpr QSize LargeBackArtSize = {304, 256};
+constexpr QSize BackTemplateSize = {254, 150};
+constexpr int LargeCardBack = 3;
 
 } // namespace
 
@@ -21,6 +25,24 @@ Picture BuiltInArt::imgCB(int index)
     if (index < 0 || index >= BuiltInBackCount)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     return Rendered(QStringLiteral("backs/imgCB-%1.svg").arg(index, 2, 10, QLatin1Char('0')), CardArtSize);
+}
+
+Picture BuiltInArt::imgChB(int index)
+{
+    if (index < 0 || index > LargeCardBack)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    return Rendered(QStringLiteral("backs/imgChB-%1.svg").arg(index),
+                    index == LargeCardBack ? LargeBackArtSize : DoubleArtSize);
+}
+
+Picture BuiltInArt::picCharacter()
+{
+    return Rendered(QStringLiteral("picCharacter.svg"), DoubleArtSize);
+}
+
+Picture BuiltInArt::picBackTemplate()
+{
+    return Rendered(QStringLiteral("picBackTemplate.svg"), BackTemplateSize);
 }
 
 Picture BuiltInArt::picBack()

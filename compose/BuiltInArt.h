@@ -15,6 +15,13 @@ public:
 
     /// The back of row index + 1 of the table of card backs, 150 x 254. Error 9 outside 0 to 26.
     [[nodiscard]] Picture imgCB(int index);
+    /// The backs of character cards, 0 to 2, 302 x 254; 3 is the usual back of large cards, 304 x 256. Error
+    /// 9 for any other.
+    [[nodiscard]] Picture imgChB(int index);
+    /// The front of a character card, 302 x 254.
+    [[nodiscard]] Picture picCharacter();
+    /// The template of a user-designed back, 254 x 150, of black and white alone.
+    [[nodiscard]] Picture picBackTemplate();
     /// The back that a card shows before it has one of its own, 150 x 254.
     [[nodiscard]] Picture picBack();
 

@@ -6,7 +6,9 @@ namespace {
 
 constexpr QSize CardSurfaceSize = {152, 256};
 constexpr QSize ArtistStripSize = {180, 5};
+constexpr QSize AttributeStripSize = {52, 12};
 constexpr double ArtistPoints = 5.25;
+constexpr double AttributePoints = 6;
 
 Picture WhitePicture()
 {
@@ -19,14 +21,18 @@ Picture WhitePicture()
 
 WorkSurfaces::WorkSurfaces(int scale)
     : picACard(CardSurfaceSize, scale), picACardPP(CardSurfaceSize, scale), picWhite(WhitePicture()),
-      picArtist(ArtistStripSize, scale), picDone(CardSurfaceSize, scale)
+      picArtist(ArtistStripSize, scale), picCharAttribute(AttributeStripSize, scale),
+      picDone(CardSurfaceSize, scale), picLargeSheet(CardSurfaceSize, scale), picStore(CardSurfaceSize, scale)
 {
     picArtist.SetFontSize(ArtistPoints);
+    picCharAttribute.SetFontSize(AttributePoints);
+    picCharAttribute.SetBackColor(Black);
 }
 
 Workshop::Workshop(UserPort& user, int scale) : User(user), Templates(scale), Surfaces(scale), Art(scale)
 {
     Templates.Standard.picBack.Surface->SetPicture(Art.picBack());
+    Templates.Character.picCharacter.Surface->SetPicture(Art.picCharacter());
 }
 
 } // namespace deckforge

@@ -13,11 +13,25 @@ namespace deckforge {
 struct WorkSurfaces {
     explicit WorkSurfaces(int scale);
 
-    PictureBox picACard;   ///< standard, large and character cards, and the turned new back
-    PictureBox picACardPP; ///< the playing piece and the new back
-    Picture picWhite;      ///< all white; stretched over a frame it blanks it
-    PictureBox picArtist;  ///< the artist's credit before it is turned, 180 x 5
-    PictureBox picDone;    ///< the final picture of a card, with its outline and back
+    PictureBox picACard;         ///< standard, large and character cards, and the turned new back
+    PictureBox picACardPP;       ///< the playing piece and the new back
+    Picture picWhite;            ///< all white; stretched over a frame it blanks it
+    PictureBox picArtist;        ///< the artist's credit before it is turned, 180 x 5
+    PictureBox picCharAttribute; ///< an attribute before it is turned, 52 x 12, black
+    PictureBox picDone;       ///< the final picture of a card with its outline and back, or a sheet of cards
+    PictureBox picLargeSheet; ///< the sheet of large cards being filled
+    PictureBox picStore;      ///< a large card with its back below it
+};
+
+/// Where a run of card sheets stands.
+struct SheetState {
+    int16 SheetCols = 0;
+    int16 SheetRows = 0;
+    int16 SheetCol = 0; ///< the cell of the card being placed, from 1
+    int16 SheetRow = 0;
+    bool SheetLast = false;    ///< set with the last copy of the last card, and never cleared again
+    int16 SheetCardHeight = 0; ///< of a cell, in pixels
+    int16 SheetCardWidth = 0;
 };
 
 /// What every operation works on, with or without a window: the set, its templates and surfaces, the art, and
@@ -33,6 +47,7 @@ struct Workshop {
     WorkSurfaces Surfaces;
     BuiltInArt Art;
     PictureLoader Pictures;
+    SheetState Sheet;
 };
 
 } // namespace deckforge

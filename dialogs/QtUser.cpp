@@ -125,6 +125,16 @@ std::optional<QString> QtUser::AskSaveFile(const FileDialogRequest& request)
     return std::nullopt;
 }
 
+std::optional<QString> QtUser::BrowseForFolder()
+{
+    const QString folder = QFileDialog::getExistingDirectory(
+        TopWindow(), QStringLiteral("Choose a directory from the list."), m_lastFolder);
+    if (folder.isEmpty())
+        return std::nullopt;
+    m_lastFolder = folder;
+    return WithSeparator(folder);
+}
+
 void QtUser::SetPointer(Pointer pointer)
 {
     const bool isHourglass = pointer == Pointer::Hourglass;

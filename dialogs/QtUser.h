@@ -24,6 +24,7 @@ public:
     std::optional<QString> AskOpenFile(const FileDialogRequest& request) override;
     /// The file's folder exists, and the user has agreed to replace a file that is there.
     std::optional<QString> AskSaveFile(const FileDialogRequest& request) override;
+    std::optional<QString> BrowseForFolder() override;
     void SetPointer(Pointer pointer) override;
     void ShowProgress(int done, int total) override;
 

@@ -224,15 +224,20 @@ void WriteSafely(const CardSet& set, const QString& path)
 
 } // namespace
 
+void TellNotSaved(UserPort& user, const RunTimeError& error)
+{
+    user.ShowMessage({.Text = QStringLiteral("The file is NOT saved due to an error.\r\n\r\n") +
+                              error.NumberAndDescription(),
+                      .Title = QStringLiteral("Error"),
+                      .Style = BoxStyle::Critical});
+}
+
 bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report)
 {
     try {
         WithMemoryAsFailure([&] { WriteSafely(set, path); });
     } catch (const RunTimeError& error) {
-        user.ShowMessage({.Text = QStringLiteral("The file is NOT saved due to an error.\r\n\r\n") +
-                                  error.NumberAndDescription(),
-                          .Title = QStringLiteral("Error"),
-                          .Style = BoxStyle::Critical});
+        TellNotSaved(user, error);
         return false;
     }
     if (report == Report::Tell) {

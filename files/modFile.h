@@ -32,4 +32,11 @@ void SaveSet(CardSet& set, UserPort& user);
 /// Asks for the set file to open; nothing on a cancel.
 [[nodiscard]] std::optional<QString> AskSetToOpen(UserPort& user);
 
+/// Writes a plain listing of the set's texts for reading, and gives whether it is all there. Pictures, fonts
+/// and user-designed backs are no part of it. A failure is told in a box, and what was written stays.
+bool ExportSetText(const CardSet& set, const QString& path, UserPort& user);
+
+/// Tells a failure that ended a write.
+void TellNotSaved(UserPort& user, const RunTimeError& error);
+
 } // namespace deckforge

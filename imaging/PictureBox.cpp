@@ -223,20 +223,32 @@ void PictureBox::ExtFloodFill(int x, int y, Colour areaColour)
     const QRgb area = ToRgb(areaColour);
     const QRgb fill = ToRgb(FillColor);
     QImage& image = Pixels();
-    const QRect bounds = image.rect();
-    const QPoint start = QPoint(x, y) * m_scale;
-    if (!bounds.contains(start) || image.pixel(start) != area || area == fill)
+    const auto row = [&](int at) { return reinterpret_cast<QRgb*>(image.scanLine(at)); };
+    const QPoint seed = QPoint(x, y) * m_scale;
+    if (!image.rect().contains(seed) || area == fill)
         return;
-    std::vector<QPoint> open = {start};
-    image.setPixel(start, fill);
-    while (!open.empty()) {
-        const QPoint at = open.back();
-        open.pop_back();
-        for (const QPoint step : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)}) {
-            const QPoint next = at + step;
-            if (bounds.contains(next) && image.pixel(next) == area) {
-                image.setPixel(next, fill);
-                open.push_back(next);
+    // Span by span: each is filled whole, and the rows beside it are looked through for more.
+    std::vector<QPoint> seeds = {seed};
+    while (!seeds.empty()) {
+        const QPoint at = seeds.back();
+        seeds.pop_back();
+        QRgb* const pixels = row(at.y());
+        if (pixels[at.x()] != area)
+            continue; // filled since it was found
+        int left = at.x();
+        int right = at.x();
+        while (left > 0 && pixels[left - 1] == area)
+            --left;
+        while (right < image.width() && pixels[right] == area)
+            ++right;
+        std::fill(pixels + left, pixels + right, fill);
+        for (const int beside : {at.y() - 1, at.y() + 1}) {
+            if (beside < 0 || beside >= image.height())
+                continue;
+            const QRgb* const others = row(beside);
+            for (int i = left; i < right; ++i) {
+                if (others[i] == area && (i == left || others[i - 1] != area))
+                    seeds.emplace_back(i, beside);
             }
         }
     }

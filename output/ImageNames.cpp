@@ -1,6 +1,7 @@
 #include "output/ImageNames.h"
 
 #include "core/Vocabulary.h"
+#include "platform/Paths.h"
 
 namespace deckforge {
 
@@ -20,6 +21,20 @@ QString WithoutOuterBlanks(const QString& text)
 
 } // namespace
 
+QString FixFileName(const SetHeader& header, const QString& path)
+{
+    if (!header.ReplaceSpace)
+        return path;
+    return FolderPart(path) + NamePart(path).replace(QLatin1Char(' '), QLatin1Char('_'));
+}
+
+QString PathToWrite(const SetHeader& header, const FilePath& path)
+{
+    if (HoldsSeparator(path.Name))
+        throw RunTimeError(ErrorNumber::BadFileName);
+    return FixFileName(header, path.Full());
+}
+
 QString ImageExtension(int16 saveFormat)
 {
     return SaveFormats().value(saveFormat).toLower();
@@ -27,8 +42,7 @@ QString ImageExtension(int16 saveFormat)
 
 QString PaddedNumber(int number, int count)
 {
-    const qsizetype length = QString::number(count).size();
-    return (QStringLiteral("00000") + QString::number(number)).right(length);
+    return (QStringLiteral("00000") + QString::number(number)).right(QString::number(count).size());
 }
 
 QString ImageName(const SetHeader& header, const QString& kind, const QString& fileName, int index, int count)
@@ -36,6 +50,14 @@ QString ImageName(const SetHeader& header, const QString& kind, const QString& f
     const QString number = header.FileNr ? PaddedNumber(index, count) + QLatin1Char(' ') : QString();
     return WithoutOuterBlanks(kind + header.FilenamePrefix + QLatin1Char(' ') + number + fileName +
                               QLatin1Char('.') + ImageExtension(header.SaveFormat));
+}
+
+QString SheetName(const SetHeader& header, const QString& sheet, int sheetNumber, int cardCount,
+                  int cardsPerSheet)
+{
+    const QString base = header.FilenamePrefix.isEmpty() ? header.SetName : header.FilenamePrefix;
+    return base + sheet + PaddedNumber(sheetNumber, cardCount / cardsPerSheet + 1) + QLatin1Char('.') +
+           ImageExtension(header.SaveFormat);
 }
 
 } // namespace deckforge

@@ -1,104 +1,94 @@
 #include "output/modCapture.h"
 
 #include "compose/Attempt.h"
-#include "compose/StandardCard.h"
-#include "imaging/GifWriter.h"
-#include "imaging/mIntelJPEGLibrary.h"
-#include "output/ImageNames.h"
+#include "compose/NewBack.h"
+#include "output/CardWalk.h"
+#include "output/ImageWriters.h"
+#include "output/frmCardSheet.h"
 #include "platform/Paths.h"
-
-#include <QLockFile>
 
 namespace deckforge {
 
 namespace {
 
-constexpr int32 JpegQuality = 90;
-
-enum SaveFormat : int16 { Bmp = 0, Jpeg = 1, Gif = 2 };
-
-/// The boxes of black that stand round a card and round its back.
-void OutlineCards(PictureBox& picDone)
-{
-    picDone.ForeColor = Black;
-    picDone.LineBox(0, 0, 151, 255);
-    picDone.LineBox(152, 0, 303, 255);
-}
-
-/// The card and at its right its back, each shifted by a pixel into its outline.
-Picture BuildCardPicture(Workshop& workshop)
-{
-    const PictureBox& picACard = workshop.Surfaces.picACard;
-    PictureBox& picDone = workshop.Surfaces.picDone;
-    const bool hasBack = !workshop.Set.Header.NoBack;
-    const int width = picACard.Width();
-    picDone.SetPicture({});
-    picDone.SetSize({hasBack ? 2 * width : width, picACard.Height()});
-    if (hasBack)
-        picDone.PaintPicture(workshop.Templates.Standard.picBack.Surface->GetPicture(), width + 1, 1);
-    picDone.PaintPicture(picACard.Image(), 1, 1);
-    OutlineCards(picDone);
-    return picDone.Image();
-}
-
-void TellWriteFailure(UserPort& user, const char* title, const QString& reason = {})
-{
-    user.ShowMessage({.Text = QStringLiteral("Something went wrong.") +
-                              (reason.isEmpty() ? QString() : QStringLiteral("\r\n\r\n") + reason),
-                      .Title = QString::fromLatin1(title),
-                      .Style = BoxStyle::Critical});
-}
-
-void WriteGif(UserPort& user, const Picture& picture, const QString& path, const char* failureTitle)
-{
-    const QString temporary = ProgramFolder() + QStringLiteral("qdwtemp.bmp");
-    // All runs of the program share the file; another one waits until the picture in it is converted.
-    QLockFile lock(temporary + QStringLiteral(".lock"));
-    lock.lock();
-    SavePicture(picture, temporary);
-    if (const auto failure = ConvertBmpToGif(temporary, path))
-        TellWriteFailure(user, failureTitle, *failure);
-}
-
-void WriteJpeg(const Picture& picture, const QString& path)
-{
-    cDIBSection surface;
-    surface.CreateFromPicture(picture);
-    SaveJPG(surface, path, JpegQuality);
-}
-
-void WriteFormat(Workshop& workshop, const Picture& picture, const ImagePath& path,
-                 const char* gifFailureTitle)
-{
-    const SetHeader& header = workshop.Set.Header;
-    const QString target = FixFileName(path, header.ReplaceSpace);
-    switch (header.SaveFormat) {
-    case SaveFormat::Bmp:
-        SavePicture(picture, target);
-        break;
-    case SaveFormat::Jpeg:
-        WriteJpeg(picture, target);
-        break;
-    case SaveFormat::Gif:
-        WriteGif(workshop.User, picture, target, gifFailureTitle);
-        break;
-    default: // a format that there is not writes nothing
-        break;
-    }
-}
-
-/// What the save dialogs of the kinds differ in.
-struct SaveTexts {
+/// What the images of the kinds differ in.
+template <class Record>
+struct ImageRow {
+    const Kind<Record>& Cards;
+    QString Record::*Filename;
+    const char* NamePrefix;
+    const char* SheetPart;      ///< of a sheet's name
+    int16 CardSet::*SheetCount; ///< by which sheets are numbered
+    void (*Write)(Workshop&, int16, const FilePath&);
+    void (*PlaceOnSheet)(Workshop&, const FilePath&); ///< null for a kind that has no sheets
     const char* DialogTitle;
     const char* BoxTitle;
     const char* Saved;
 };
 
-constexpr SaveTexts CardTexts = {"Save Card", "Save card", "The card is saved to the filename:"};
-
-FileDialogRequest ImageDialog(const SaveTexts& texts, const QString& title, const QString& extension)
+void WriteStandardImage(Workshop& workshop, int16 /*index*/, const FilePath& path)
 {
-    return {.Title = QString::fromLatin1(texts.DialogTitle),
+    WriteCard(workshop, path);
+}
+
+void WriteLargeImage(Workshop& workshop, int16 /*index*/, const FilePath& path)
+{
+    WriteLargeCard(workshop, path);
+}
+
+void WriteCharacterImages(Workshop& workshop, int16 index, const FilePath& path)
+{
+    WriteCharacter(workshop, path);
+    const CardSet& set = workshop.Set;
+    const QString piece = ImageName(set.Header, QStringLiteral("Character Piece "),
+                                    set.Characters[index].Filename, index, set.CharacterCount);
+    WritePlayingPiece(workshop, {path.Folder, piece});
+}
+
+void WriteNewBackImage(Workshop& workshop, int16 index, const FilePath& path)
+{
+    ShowNewCardBack(workshop, index);
+    DrawNewCardBack(workshop, index);
+    WriteNewCardBack(workshop, path);
+}
+
+constexpr ImageRow<Card> StandardImage = {
+    StandardKind,       &Card::Filename, "",          " Sheet ",   &CardSet::CardCount,
+    WriteStandardImage, SaveCardSheet,   "Save Card", "Save card", "The card is saved to the filename:"};
+constexpr ImageRow<LargeCard> LargeImage = {LargeKind,
+                                            &LargeCard::Filename,
+                                            "Large ",
+                                            " Sheet Large ",
+                                            &CardSet::LargeCardCount,
+                                            WriteLargeImage,
+                                            SaveLargeCardSheet,
+                                            "Save Large Card",
+                                            "Save large card",
+                                            "The large card is saved to the filename:"};
+constexpr ImageRow<Character> CharacterImage = {CharacterKind,
+                                                &Character::Filename,
+                                                "Character ",
+                                                " Sheet Large ",
+                                                &CardSet::CharacterCount,
+                                                WriteCharacterImages,
+                                                nullptr,
+                                                "Save Character Card",
+                                                "Save character card",
+                                                "The character card is saved to the filename:"};
+constexpr ImageRow<NewCardBack> NewBackImage = {NewBackKind,
+                                                &NewCardBack::Filename,
+                                                "",
+                                                " Sheet ",
+                                                &CardSet::CardCount,
+                                                WriteNewBackImage,
+                                                nullptr,
+                                                "Save New Card Back",
+                                                "Save card",
+                                                "The card is saved to the filename:"};
+
+FileDialogRequest ImageDialog(const char* dialogTitle, const QString& title, const QString& extension)
+{
+    return {.Title = QString::fromLatin1(dialogTitle),
             .FileName = title + QLatin1Char('.') + extension,
             .Filter = QStringLiteral("All files(*.*)|*.*|Picture (*.%1)|*.%1").arg(extension),
             .FilterIndex = 2,
@@ -107,7 +97,7 @@ FileDialogRequest ImageDialog(const SaveTexts& texts, const QString& title, cons
 }
 
 /// The folder that the image goes to; the card's file name is set on the way. Nothing on a cancel.
-std::optional<QString> ChooseFolder(Workshop& workshop, const SaveTexts& texts, const QString& title,
+std::optional<QString> ChooseFolder(Workshop& workshop, const char* dialogTitle, const QString& title,
                                     QString& fileName, Ask ask, Tell tell)
 {
     const SetHeader& header = workshop.Set.Header;
@@ -117,80 +107,123 @@ std::optional<QString> ChooseFolder(Workshop& workshop, const SaveTexts& texts, 
         return header.SaveTo;
     }
     const auto chosen =
-        workshop.User.AskSaveFile(ImageDialog(texts, title, ImageExtension(header.SaveFormat)));
+        workshop.User.AskSaveFile(ImageDialog(dialogTitle, title, ImageExtension(header.SaveFormat)));
     if (!chosen)
         return std::nullopt;
     fileName = NamePart(*chosen).section(QLatin1Char('.'), 0, 0);
     return FolderPart(*chosen);
 }
 
-void TellSaved(UserPort& user, const SaveTexts& texts, const ImagePath& path)
+void TellSaved(UserPort& user, const char* boxTitle, const char* saved, const FilePath& path)
 {
-    user.ShowMessage({.Text = QLatin1String(texts.Saved) + QStringLiteral("\r\n\r\n") + path.Full(),
-                      .Title = QString::fromLatin1(texts.BoxTitle),
+    user.ShowMessage({.Text = QLatin1String(saved) + QStringLiteral("\r\n\r\n") + path.Full(),
+                      .Title = QString::fromLatin1(boxTitle),
                       .Style = BoxStyle::Information});
+}
+
+template <class Record>
+void SaveElement(Workshop& workshop, const ImageRow<Record>& row, int16 index, Ask ask, Tell tell,
+                 SheetNumber sheet)
+{
+    CardSet& set = workshop.Set;
+    Record& record = (set.*row.Cards.Records)[index];
+    const auto folder =
+        ChooseFolder(workshop, row.DialogTitle, record.*row.Cards.Name, record.*row.Filename, ask, tell);
+    if (!folder)
+        return;
+    const FilePath path = {*folder, ImageName(set.Header, QString::fromLatin1(row.NamePrefix),
+                                              record.*row.Filename, index, set.*row.Cards.Count)};
+    if (!sheet) {
+        row.Write(workshop, index, path);
+    } else if (row.PlaceOnSheet != nullptr) {
+        const int cardsPerSheet = workshop.Sheet.SheetRows * workshop.Sheet.SheetCols;
+        row.PlaceOnSheet(workshop, {*folder, SheetName(set.Header, QString::fromLatin1(row.SheetPart), *sheet,
+                                                       set.*row.SheetCount, cardsPerSheet)});
+    }
+    if (tell == Tell::Yes)
+        TellSaved(workshop.User, row.BoxTitle, row.Saved, path);
+}
+
+/// The box at the end of a run over all cards of a kind.
+void TellCreated(UserPort& user, const char* title, int count, const char* one, const char* others)
+{
+    user.ShowMessage({.Text = QString::number(count) + QLatin1String(count == 1 ? one : others),
+                      .Title = QString::fromLatin1(title),
+                      .Style = BoxStyle::Information});
+}
+
+template <class Record>
+void CreateImages(Workshop& workshop, const CardWalk<Record>& walk)
+{
+    ForEachShown(workshop, walk,
+                 [&](int16 index) { walk.Save(workshop, index, Ask::No, Tell::No, std::nullopt); });
 }
 
 } // namespace
 
-QString FixFileName(const ImagePath& path, bool replaceSpace)
+void SaveCard(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet)
 {
-    if (HoldsSeparator(path.Name))
-        throw RunTimeError(ErrorNumber::BadFileName);
-    ImagePath fixed = path;
-    if (replaceSpace)
-        fixed.Name.replace(QLatin1Char(' '), QLatin1Char('_'));
-    return fixed.Full();
+    Attempt([&] { SaveElement(workshop, StandardImage, index, ask, tell, sheet); });
 }
 
-void WriteCard(Workshop& workshop, const ImagePath& path)
+void SaveLargeCard(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet)
 {
-    constexpr char failureTitle[] = "Saving the card";
-    try {
-        WithMemoryAsFailure([&] {
-            workshop.Surfaces.picACard.Freeze();
-            WriteFormat(workshop, BuildCardPicture(workshop), path, failureTitle);
-        });
-    } catch (const RunTimeError&) {
-        TellWriteFailure(workshop.User, failureTitle);
-    }
+    Attempt([&] { SaveElement(workshop, LargeImage, index, ask, tell, sheet); });
 }
 
-void SaveCard(Workshop& workshop, int16 index, Ask ask, Tell tell)
+void SaveCharacter(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet)
 {
-    // A failure in naming ends it without a word; the writer tells its own.
-    Attempt([&] {
-        CardSet& set = workshop.Set;
-        Card& card = set.Cards[index];
-        const auto folder = ChooseFolder(workshop, CardTexts, card.Title, card.Filename, ask, tell);
-        if (!folder)
-            return;
-        const ImagePath path = {*folder, ImageName(set.Header, {}, card.Filename, index, set.CardCount)};
-        WriteCard(workshop, path);
-        if (tell == Tell::Yes)
-            TellSaved(workshop.User, CardTexts, path);
-    });
+    Attempt([&] { SaveElement(workshop, CharacterImage, index, ask, tell, sheet); });
+}
+
+void SaveNewCardBack(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet)
+{
+    Attempt([&] { SaveElement(workshop, NewBackImage, index, ask, tell, sheet); });
 }
 
 void CreateCards(Workshop& workshop)
 {
-    CardSet& set = workshop.Set;
-    {
-        const HourglassScope hourglass(workshop.User);
-        const int16 remembered = set.CurrentCard;
-        for (int i = 1; i <= set.CardCount; ++i) {
-            set.CurrentCard = static_cast<int16>(i);
-            ShowCard(workshop, set.CurrentCard);
-            SaveCard(workshop, set.CurrentCard, Ask::No, Tell::No);
-            workshop.User.ShowProgress(i, set.CardCount);
-        }
-        set.CurrentCard = remembered;
-        ShowCard(workshop, remembered);
+    CreateImages(workshop, StandardWalk);
+    TellCreated(workshop.User, "Create cards", workshop.Set.CardCount, " card is created.",
+                " cards are created.");
+}
+
+void CreateLargeCards(Workshop& workshop)
+{
+    CreateImages(workshop, LargeWalk);
+    TellCreated(workshop.User, "Create large cards", workshop.Set.LargeCardCount, " large card is created.",
+                " large cards are created.");
+}
+
+void CreateCharacters(Workshop& workshop)
+{
+    CreateImages(workshop, CharacterWalk);
+    TellCreated(workshop.User, "Create large cards", workshop.Set.CharacterCount,
+                " character card is created.", " characters cards are created.");
+}
+
+void WriteCardBacks(Workshop& workshop, const QString& folder)
+{
+    constexpr int lastBack = 26; // the blank one behind it is left out
+    constexpr int characterBacks = 3;
+    const QString start = folder + QLatin1Char('/');
+    for (int i = 1; i <= lastBack; ++i) {
+        const CardBack& back = workshop.Set.CardBacks[i];
+        if (back.BuiltIn)
+            SavePicture(workshop.Art.imgCB(i - 1), start + back.Name + QStringLiteral(".bmp"));
     }
-    workshop.User.ShowMessage({.Text = QString::number(set.CardCount) +
-                                       (set.CardCount == 1 ? QStringLiteral(" card is created.")
-                                                           : QStringLiteral(" cards are created.")),
-                               .Title = QStringLiteral("Create cards"),
+    for (int j = 0; j < characterBacks; ++j)
+        SavePicture(workshop.Art.imgChB(j), start + QStringLiteral("character back %1.bmp").arg(j));
+}
+
+void ExportCardBacks(Workshop& workshop)
+{
+    const std::optional<QString> folder = workshop.User.BrowseForFolder();
+    if (!folder)
+        return;
+    WriteCardBacks(workshop, *folder);
+    workshop.User.ShowMessage({.Text = QStringLiteral("All card backs are exported."),
+                               .Title = QStringLiteral("Export"),
                                .Style = BoxStyle::Information});
 }
 

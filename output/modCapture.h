@@ -4,34 +4,33 @@
 
 namespace deckforge {
 
-// Image files of composed cards.
-
-/// Where an image goes: the folder with its separator, and the bare name with its extension.
-struct ImagePath {
-    QString Folder;
-    QString Name;
-
-    [[nodiscard]] QString Full() const { return Folder + Name; }
-};
-
-/// The full path to write, with the blanks of the name as underlines where the set wants that; those of the
-/// folder stay. A name that holds a separator is error 52: a set from a stranger cannot write outside its
-/// folder.
-[[nodiscard]] QString FixFileName(const ImagePath& path, bool replaceSpace);
+// Image files of composed cards, one by one and all of a kind.
 
 enum class Ask { No, Yes };
 enum class Tell { No, Yes };
 
-/// Names the composed standard card of the index, asks where wanted, and writes its image. A card without a
-/// file name is asked for where the result is told; elsewhere it takes its title. A cancel ends it with
-/// nothing changed.
-void SaveCard(Workshop& workshop, int16 index, Ask ask, Tell tell);
+/// The sheet that a card is placed on; none for an image of its own.
+using SheetNumber = std::optional<int>;
 
-/// Builds the picture of the composed standard card, with its back unless the set goes without, and writes it
-/// in the set's format. A failure is told in a box; the caller goes on.
-void WriteCard(Workshop& workshop, const ImagePath& path);
+// Each names the composed card of the index, asks where wanted, and writes its image, or places it on a
+// sheet. A card without a file name is asked for where the result is told; elsewhere it takes its title. A
+// cancel, or a failure before the writing, ends it without a word. A character's playing piece goes with its
+// card; characters and user-designed backs on a sheet write nothing. A user-designed back is shown and
+// composed anew.
+void SaveCard(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet = {});
+void SaveLargeCard(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet = {});
+void SaveCharacter(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet = {});
+void SaveNewCardBack(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet = {});
 
-/// Writes the images of all standard cards without a question, and tells how many they are.
+// All images of a kind without a question, and a box that tells how many they are.
 void CreateCards(Workshop& workshop);
+void CreateLargeCards(Workshop& workshop);
+void CreateCharacters(Workshop& workshop);
+
+/// The built-in backs as BMP files, but the blank one, and those of characters. A failure is thrown.
+void WriteCardBacks(Workshop& workshop, const QString& folder);
+
+/// The same in a folder that the user chooses, and a box that tells so; nothing on a cancel.
+void ExportCardBacks(Workshop& workshop);
 
 } // namespace deckforge

@@ -44,6 +44,9 @@ public:
     virtual std::optional<QString> AskOpenFile(const FileDialogRequest& request) = 0;
     virtual std::optional<QString> AskSaveFile(const FileDialogRequest& request) = 0;
 
+    /// The folder chosen, with its separator; nothing when the user cancels.
+    virtual std::optional<QString> BrowseForFolder() = 0;
+
     virtual void SetPointer(Pointer pointer) = 0;
 
     /// How far a long run is: done of total. The last call of a run has done equal to total.

@@ -1,7 +1,7 @@
 #include "output/modCapture.h"
 #include "compose/SetView.h"
 #include "core/modInfo.h"
-#include "output/ImageNames.h"
+#include "output/ImageWriters.h"
 #include "platform/Paths.h"
 #include "support/Failures.h"
 #include "support/PixelText.h"
@@ -70,14 +70,26 @@ TEST(ImageNames, LoseBlanksAtTheirEndsAndNoOtherCharacter)
 
 TEST(ImageNames, UnderlinesReplaceBlanksInTheNameAlone)
 {
-    const ImagePath path = {QStringLiteral("/my cards/"), QStringLiteral("set 7 Sword.bmp")};
-    EXPECT_EQ(FixFileName(path, true), QStringLiteral("/my cards/set_7_Sword.bmp"));
-    EXPECT_EQ(FixFileName(path, false), QStringLiteral("/my cards/set 7 Sword.bmp"));
-    for (const char* name : {"../a.bmp", "a\\b.bmp"})
-        EXPECT_EQ(FailureOf([&] {
-                      (void)FixFileName({QStringLiteral("/out/"), QString::fromLatin1(name)}, false);
-                  }),
-                  52);
+    SetHeader header;
+    const FilePath path = {QStringLiteral("/my cards/"), QStringLiteral("set 7 Sword.bmp")};
+    EXPECT_EQ(PathToWrite(header, path), QStringLiteral("/my cards/set 7 Sword.bmp"));
+    header.ReplaceSpace = true;
+    EXPECT_EQ(PathToWrite(header, path), QStringLiteral("/my cards/set_7_Sword.bmp"));
+    EXPECT_EQ(FixFileName(header, QStringLiteral("a b")), QStringLiteral("a_b"));
+    for (const char* name : {"../a.bmp", "a\\b.bmp"}) {
+        const FilePath outside = {QStringLiteral("/out/"), QString::fromLatin1(name)};
+        EXPECT_EQ(FailureOf([&] { (void)PathToWrite(header, outside); }), 52);
+    }
+}
+
+TEST(ImageNames, SheetsAreNumberedByTheCardsAndNamedByPrefixOrSet)
+{
+    SetHeader header;
+    header.SetName = QStringLiteral("Sea");
+    EXPECT_EQ(SheetName(header, QStringLiteral(" Sheet "), 2, 59, 6), QStringLiteral("Sea Sheet 02.bmp"));
+    header.FilenamePrefix = QStringLiteral("s");
+    EXPECT_EQ(SheetName(header, QStringLiteral(" Sheet Large "), 2, 53, 6),
+              QStringLiteral("s Sheet Large 2.bmp"));
 }
 
 TEST_F(ImageTest, ACardAndItsBackStandSideBySideInTheirOutlines)

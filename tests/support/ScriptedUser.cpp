@@ -36,6 +36,11 @@ std::optional<QString> ScriptedUser::AskSaveFile(const FileDialogRequest& reques
     return NextPath(request.Title);
 }
 
+std::optional<QString> ScriptedUser::BrowseForFolder()
+{
+    return NextPath(QStringLiteral("Choose a directory from the list."));
+}
+
 void ScriptedUser::ShowProgress(int done, int total)
 {
     ++ProgressSteps;

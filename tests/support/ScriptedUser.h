@@ -24,6 +24,7 @@ public:
     Answer ShowMessage(const MessageBoxRequest& request) override;
     std::optional<QString> AskOpenFile(const FileDialogRequest& request) override;
     std::optional<QString> AskSaveFile(const FileDialogRequest& request) override;
+    std::optional<QString> BrowseForFolder() override;
     void SetPointer(Pointer pointer) override { Pointers.push_back(pointer); }
     void ShowProgress(int done, int total) override;
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "compose/Workshop.h"
+
+namespace deckforge {
+
+/// Lays the character out on its previews, and composes its card on picACard and its playing piece on
+/// picACardPP.
+///
+/// Missing files are told on the boxes of the standard card, which also lose their pictures; the character's
+/// own boxes keep what they showed. Any other failure is told in a box and leaves the routine before the card
+/// is composed. Gives whether it came to its end.
+bool ShowCharacter(Workshop& workshop, int16 index);
+
+/// Lays out again the frame and the text beside it; the picture is not loaded anew.
+void PlaceCharacterPicture(Workshop& workshop, int16 index);
+
+/// Shows or hides frame and handle, and lays the text beside them out.
+void ShowCharacterFrame(CharacterTemplate& t, bool visible);
+
+/// Draws one attribute, from 0 strength, craft, gold, lives, on its side into its strip of the preview. "---"
+/// gives the word alone; a value without "+" is set off by a blank.
+void DrawCharAttribute(Workshop& workshop, int index, const QString& value);
+
+} // namespace deckforge

@@ -1,0 +1,139 @@
+#include "compose/LargeCard.h"
+
+#include "compose/CardPainting.h"
+#include "compose/FontScheme.h"
+#include "platform/Twips.h"
+
+namespace deckforge {
+
+namespace {
+
+constexpr int FrameTop = 8;
+constexpr int FrameHeight = 238;
+constexpr int HandleLeftWithoutPicture = 5;
+constexpr int TextRight = 296;
+constexpr QSize EmptyPictureSize = {121, 238};
+
+/// The picture of the back where the card names none.
+constexpr int DefaultBack = 3;
+
+// Preview
+
+void PlaceFrame(ShowRun& run, LargeCardTemplate& t, const LargeCard& card)
+{
+    t.picFrameLarge.Visible = card.ShowPicture;
+    t.picFrameLarge.Border = card.Frame ? BorderStyle::Single : BorderStyle::None;
+    run([&] { t.picFrameLarge.SetWidth(card.FrameHeight); });
+}
+
+int HandleLeftAtFrame(const LargeCardTemplate& t)
+{
+    return t.picFrameLarge.Left + t.picFrameLarge.Width;
+}
+
+/// Title and information stand at the right of the handle.
+void PlaceTexts(ShowRun& run, LargeCardTemplate& t)
+{
+    for (Box* label : {&t.lblTitleLarge, &t.lblInformationLarge}) {
+        label->Left = t.lblPicSizeLarge.Left + t.lblPicSizeLarge.Width;
+        run([&] { label->SetWidth(TextRight - label->Left); });
+    }
+}
+
+/// With Resize it is the frame that goes up and down, and it is as high as the picture.
+void PlacePictureInFrame(LargeCardTemplate& t, const LargeCard& card)
+{
+    if (card.Resize) {
+        t.picFrameLarge.Top = PixelsFromTwipsY(card.PictureTop + FrameTop * TwipsPerPixelY);
+        t.picFrameLarge.SetHeight(t.picImageLarge.Height);
+        t.picImageLarge.MoveToTwips(card.PictureLeft, 0);
+    } else {
+        t.picFrameLarge.Top = FrameTop;
+        t.picFrameLarge.SetHeight(FrameHeight);
+        t.picImageLarge.MoveToTwips(card.PictureLeft, card.PictureTop);
+    }
+}
+
+void LoadPictures(ShowRun& run, Workshop& workshop, const LargeCard& card)
+{
+    CardTemplate& standard = workshop.Templates.Standard;
+    LargeCardTemplate& t = workshop.Templates.Large;
+    run.LoadsFor(standard.picImage, card.Picture);
+    LoadFramedPicture(run, workshop, t.picImageLarge, card.Picture, EmptyPictureSize);
+    PlacePictureInFrame(t, card);
+
+    run.LoadsFor(standard.picCard, card.Background);
+    run([&] { t.picCardLarge.Surface->SetPicture(workshop.Pictures.LoadPicture(card.Background)); });
+    t.picCardLarge.Surface->SetBackColor(card.Color);
+
+    run.LoadsFor(standard.picBack, card.CardBack);
+    run([&] {
+        t.picBackLarge.Surface->SetPicture(card.CardBack.isEmpty()
+                                               ? workshop.Art.imgChB(DefaultBack)
+                                               : workshop.Pictures.LoadPicture(card.CardBack));
+    });
+}
+
+// Composition
+
+void PrintTexts(Workshop& workshop, const LargeCard& card, int16 index)
+{
+    const LargeCardTemplate& t = workshop.Templates.Large;
+    const SetHeader& header = workshop.Set.Header;
+    PictureBox& picACard = workshop.Surfaces.picACard;
+    UseFont(picACard, header.FontTitleLarge);
+    PrintWrapped(picACard, t.lblTitleLarge, card.Title, LineForm::Centred);
+    UseFont(picACard, header.FontInformationLarge);
+    // From the top of its box, also where the title takes more lines than it has room for.
+    PrintWrapped(picACard, t.lblInformationLarge, card.Info);
+    if (header.Autonumber) {
+        UseFont(picACard, header.FontAutonumber);
+        // At the height of the standard card's number, a pixel above the large card's own box.
+        PrintIndex(picACard, t.lblAutonumberLarge.Left, workshop.Templates.Standard.lblAutonumber.Top, index);
+    }
+    PrintWatermark(picACard, t.lblWatermark);
+}
+
+/// Composes the card from the places of the boxes. Never fails: a step that does is passed over.
+void DrawLargeCard(Workshop& workshop, int16 index)
+{
+    const LargeCardTemplate& t = workshop.Templates.Large;
+    const LargeCard& card = workshop.Set.LargeCards[index];
+    PaintBackground(workshop, t.picCardLarge, card.Background, card.Color);
+    FramedPicture picture = FramedPictureOf(card, t.picFrameLarge, t.picImageLarge);
+    picture.Clip.FrameHugsHeight = card.Resize;
+    PaintPictureBlock(workshop.Surfaces.picACard, workshop.Surfaces.picWhite, picture);
+    PaintSymbol(workshop, t.picSymbolLarge, {0, 0});
+    PrintTexts(workshop, card, index);
+}
+
+} // namespace
+
+bool ShowLargeCard(Workshop& workshop, int16 index)
+{
+    return ShowOrTell(workshop.User, [&](ShowRun& run) {
+        LargeCardTemplate& t = workshop.Templates.Large;
+        const LargeCard& card = workshop.Set.LargeCards[index];
+        t.lblTitleLarge.Caption = card.Title;
+        t.lblInformationLarge.Caption = card.Info;
+        PlaceFrame(run, t, card);
+        t.lblPicSizeLarge.Left = card.ShowPicture ? HandleLeftAtFrame(t) : HandleLeftWithoutPicture;
+        PlaceTexts(run, t);
+        t.lblAutonumberLarge.Caption = QString::number(index);
+        LoadPictures(run, workshop, card);
+        DrawLargeCard(workshop, index);
+    });
+}
+
+void PlaceLargePicture(Workshop& workshop, int16 index)
+{
+    LargeCardTemplate& t = workshop.Templates.Large;
+    const LargeCard& card = workshop.Set.LargeCards[index];
+    ShowRun run;
+    PlaceFrame(run, t, card);
+    t.lblPicSizeLarge.Left = HandleLeftAtFrame(t);
+    t.picImageLarge.Surface->Refresh();
+    PlacePictureInFrame(t, card);
+}
+
+} // namespace deckforge

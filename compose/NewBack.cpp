@@ -1,0 +1,171 @@
+#include "compose/NewBack.h"
+
+#include "compose/CardPainting.h"
+#include "compose/FontScheme.h"
+#include "imaging/modRotatePic.h"
+#include "platform/Numbers.h"
+
+#include <QRandomGenerator>
+#include <cmath>
+
+namespace deckforge {
+
+namespace {
+
+constexpr QPoint InnerSeed = {50, 50};
+constexpr QPoint OuterSeed = {1, 1};
+/// A point in each piece of the ornament.
+constexpr std::array<QPoint, 18> FrameSeeds = {{{17, 15},
+                                                {54, 13},
+                                                {88, 13},
+                                                {124, 13},
+                                                {160, 13},
+                                                {191, 13},
+                                                {232, 13},
+                                                {15, 56},
+                                                {237, 54},
+                                                {15, 92},
+                                                {237, 91},
+                                                {16, 133},
+                                                {54, 133},
+                                                {92, 133},
+                                                {123, 133},
+                                                {164, 133},
+                                                {194, 133},
+                                                {226, 133}}};
+
+void Fill(PictureBox& surface, QPoint seed, Colour newColour, Colour oldColour)
+{
+    surface.FillColor = newColour;
+    surface.ExtFloodFill(seed.x(), seed.y(), oldColour);
+}
+
+void FillBackInner(PictureBox& picNewBack, Colour newColour, Colour oldColour)
+{
+    Fill(picNewBack, InnerSeed, newColour, oldColour);
+}
+
+void FillBackFrame(PictureBox& picNewBack, Colour newColour, Colour oldColour)
+{
+    for (const QPoint seed : FrameSeeds)
+        Fill(picNewBack, seed, newColour, oldColour);
+}
+
+void FillBackOuter(PictureBox& picNewBack, Colour newColour, Colour oldColour)
+{
+    Fill(picNewBack, OuterSeed, newColour, oldColour);
+}
+
+Colour RandomColour()
+{
+    const auto channel = [] { return static_cast<Colour>(QRandomGenerator::global()->bounded(255)); };
+    const Colour red = channel();
+    const Colour green = channel();
+    return channel() << 16 | green << 8 | red;
+}
+
+/// Colours that no region has before its turn to be filled: margin and ornament are both white in the
+/// template, and the user may pick equal colours.
+struct TemporaryColours {
+    Colour Inner = RandomColour();
+    Colour Outer = RandomColour();
+    Colour Frame = RandomColour();
+
+    [[nodiscard]] bool AreUsable() const
+    {
+        return Inner != Black && Outer != White && Frame != White && Inner != Outer && Inner != Frame;
+    }
+};
+
+TemporaryColours UsableColours()
+{
+    TemporaryColours colours;
+    while (!colours.AreUsable())
+        colours = {};
+    return colours;
+}
+
+/// In two passes: each fill of the second replaces exactly one temporary colour.
+void ColourTemplate(PictureBox& picNewBack, const NewCardBack& back)
+{
+    const TemporaryColours temporary = UsableColours();
+    FillBackOuter(picNewBack, temporary.Outer, White);
+    FillBackInner(picNewBack, temporary.Inner, Black);
+    FillBackFrame(picNewBack, temporary.Frame, White);
+    FillBackOuter(picNewBack, back.BackColor, temporary.Outer);
+    FillBackInner(picNewBack, back.InnerColor, temporary.Inner);
+    FillBackFrame(picNewBack, back.FrameColor, temporary.Frame);
+}
+
+/// The label is as large as its text.
+void SizeBackTitle(Box& lblBackTitle, const PictureBox& measure)
+{
+    double width = 0;
+    for (const QString& line : lblBackTitle.Caption.split(QStringLiteral("\r\n")))
+        width = std::max(width, measure.TextWidth(line));
+    lblBackTitle.SetWidth(static_cast<int>(std::ceil(width)));
+    lblBackTitle.SetHeight(static_cast<int>(measure.TextHeight(lblBackTitle.Caption)));
+}
+
+void CenterBackTitle(Box& lblBackTitle)
+{
+    lblBackTitle.Left = ToInt16(NewBackTemplate::TitleCentre.x() - lblBackTitle.Width / 2.0);
+    lblBackTitle.Top = ToInt16(NewBackTemplate::TitleCentre.y() - lblBackTitle.Height / 2.0);
+}
+
+/// In a text of several lines a "|" that the user typed breaks a line as well; in one line it is printed.
+QStringList BackLines(QString text)
+{
+    const QString lineBreak = QStringLiteral("\r\n");
+    if (!text.contains(lineBreak))
+        return {text};
+    return text.replace(lineBreak, QStringLiteral("|")).split(QLatin1Char('|'));
+}
+
+void PrintBackText(PictureBox& picACardPP, const Box& lblBackTitle, const QString& text)
+{
+    int line = 0;
+    for (const QString& piece : BackLines(text)) {
+        const double x = std::floor(picACardPP.Width() / 2.0 - picACardPP.TextWidth(piece) / 2);
+        PrintAt(picACardPP, x, lblBackTitle.Top + picACardPP.TextHeight(piece) * line, piece);
+        ++line;
+    }
+}
+
+} // namespace
+
+void ShowNewCardBack(Workshop& workshop, int16 index)
+{
+    NewBackTemplate& t = workshop.Templates.NewBack;
+    const NewCardBack& back = workshop.Set.NewCardBacks[index];
+    PictureBox& picNewBack = *t.picNewBack.Surface;
+    t.lblBackTitle.Font = back.Font;
+    t.lblBackTitle.Caption = back.BackText;
+    PictureBox measure;
+    UseFont(measure, back.Font);
+    SizeBackTitle(t.lblBackTitle, measure);
+    CenterBackTitle(t.lblBackTitle);
+    if (back.UsePicture) {
+        picNewBack.SetPicture(workshop.Pictures.LoadPicture(back.Picture));
+    } else {
+        picNewBack.SetPicture(workshop.Art.picBackTemplate());
+        ColourTemplate(picNewBack, back);
+    }
+    picNewBack.Freeze();
+}
+
+void DrawNewCardBack(Workshop& workshop, int16 index)
+{
+    const NewBackTemplate& t = workshop.Templates.NewBack;
+    const NewCardBack& back = workshop.Set.NewCardBacks[index];
+    PictureBox& picACardPP = workshop.Surfaces.picACardPP;
+    BeginCard(picACardPP, t.picNewBack);
+    picACardPP.SetPicture(t.picNewBack.Surface->GetPicture());
+    UseFont(picACardPP, back.Font);
+    PrintBackText(picACardPP, t.lblBackTitle, back.BackText);
+    PrintWatermark(picACardPP, t.lblWatermark);
+    picACardPP.Freeze();
+    RotatePictureShifted(picACardPP, workshop.Surfaces.picACard, Turn::Clockwise);
+}
+
+} // namespace deckforge

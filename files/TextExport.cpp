@@ -1,0 +1,113 @@
+#include "files/modFile.h"
+#include "platform/LineWriter.h"
+#include "platform/Version.h"
+
+namespace deckforge {
+
+namespace {
+
+/// An attribute as the listing has it: "---" is left out.
+QString DashToEmpty(const QString& value)
+{
+    return value == QLatin1String("---") ? QString() : value;
+}
+
+class Listing {
+public:
+    explicit Listing(const QString& path) : m_lines(path) {}
+
+    void Line(const char* label, const QString& text = {}) { m_lines.Line(QLatin1String(label) + text); }
+    void Separator() { Line(" "); }
+    void Count(int count, const char* what)
+    {
+        m_lines.Line(QString::number(count) + QLatin1String(what));
+        Separator();
+    }
+    void Title(int index, const QString& title) { m_lines.Line(QStringLiteral("%1. ").arg(index) + title); }
+    void Close() { m_lines.Close(); }
+
+private:
+    LineWriter m_lines;
+};
+
+void ListCard(Listing& out, int index, const Card& card)
+{
+    out.Title(index, card.Title);
+    out.Line("Type: ", card.Type + card.SubType);
+    out.Line("Nr:   ", card.Number);
+    if (!card.BoldText.isEmpty())
+        out.Line("Bold: ", card.BoldText);
+    out.Line("Text: ", card.Info);
+    out.Separator();
+}
+
+void ListLargeCard(Listing& out, int index, const LargeCard& card)
+{
+    out.Title(index, card.Title);
+    out.Line("Text: ", card.Info);
+    out.Separator();
+}
+
+void ListCharacter(Listing& out, int index, const Character& character)
+{
+    out.Title(index, character.Name);
+    out.Line("Strength:   ", DashToEmpty(character.Strength));
+    out.Line("Craft:      ", DashToEmpty(character.Craft));
+    out.Line("Gold:       ", DashToEmpty(character.Gold));
+    out.Line("Lives:      ", DashToEmpty(character.Lives));
+    out.Line("Alignment:  ", character.Alignment);
+    out.Line("Start area: ", character.StartArea);
+    out.Line("Abilities:  ", character.SpecialAbilities);
+    out.Separator();
+}
+
+template <class Record>
+void ListAll(Listing& out, const OneBasedArray<Record>& records, int16 count,
+             void (*list)(Listing&, int, const Record&))
+{
+    for (int i = 1; i <= count; ++i)
+        list(out, i, records[i]);
+}
+
+void WriteListing(const CardSet& set, const QString& path)
+{
+    Listing out(path);
+    out.Line("Created with Varnhelm Deck Forge");
+    out.Line(WebAddress);
+    out.Separator();
+    out.Line("Set: ", set.Header.SetName);
+    out.Separator();
+    if (set.CardCount > 0) {
+        out.Count(set.CardCount, " Cards");
+        ListAll(out, set.Cards, set.CardCount, ListCard);
+    }
+    if (set.LargeCardCount > 0) {
+        out.Separator();
+        out.Count(set.LargeCardCount, " Large Cards");
+        ListAll(out, set.LargeCards, set.LargeCardCount, ListLargeCard);
+    }
+    if (set.CharacterCount > 0) {
+        out.Separator();
+        out.Count(set.CharacterCount, " Characters");
+        ListAll(out, set.Characters, set.CharacterCount, ListCharacter);
+    }
+    out.Close();
+}
+
+} // namespace
+
+bool ExportSetText(const CardSet& set, const QString& path, UserPort& user)
+{
+    try {
+        WithMemoryAsFailure([&] { WriteListing(set, path); });
+    } catch (const RunTimeError& error) {
+        TellNotSaved(user, error);
+        return false;
+    }
+    user.ShowMessage({.Text = QStringLiteral("The card set text is exported."),
+                      .Title = QStringLiteral("Save text"),
+                      .Style = BoxStyle::Information});
+    return true;
+}
+
+} // namespace deckforge

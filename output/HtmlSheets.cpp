@@ -1,0 +1,311 @@
+#include "output/HtmlSheets.h"
+
+#include "compose/Attempt.h"
+#include "core/modInfo.h"
+#include "output/ImageNames.h"
+#include "platform/LineWriter.h"
+
+#include <array>
+
+namespace deckforge {
+
+namespace {
+
+constexpr int MostSlots = 6;
+
+/// One page: its place among the others, and its images, empty where a slot has none.
+struct Page {
+    const SetHeader& Header;
+    const char* NamePrefix;
+    QString Title;
+    std::array<QString, MostSlots> Images;
+    int Number = 0;
+    int Count = 0;
+};
+
+QString PageName(const Page& page, int number)
+{
+    const QString digits =
+        (QStringLiteral("000") + QString::number(number)).right(QString::number(page.Count).size());
+    return QLatin1String(page.NamePrefix) + page.Title + QLatin1Char(' ') + digits + QStringLiteral(".htm");
+}
+
+QString PageList(const Page& page)
+{
+    QString list;
+    for (int i = 1; i <= page.Count; ++i) {
+        const QString number = QString::number(i);
+        if (i == page.Number)
+            list += QStringLiteral("<B>") + number + QStringLiteral("</B>&nbsp;&nbsp;");
+        else
+            list += QStringLiteral("<A HREF=\"") + FixFileName(page.Header, PageName(page, i)) +
+                    QStringLiteral("\">") + number + QStringLiteral("</A>&nbsp;&nbsp;");
+    }
+    return list;
+}
+
+void WriteLines(LineWriter& out, std::initializer_list<const char*> lines)
+{
+    for (const char* line : lines)
+        out.Line(QString::fromLatin1(line));
+}
+
+void WriteHead(LineWriter& out, const Page& page)
+{
+    WriteLines(out, {"<HTML>", "<HEAD>"});
+    out.Line(QStringLiteral("   <TITLE>") + page.Title + QStringLiteral("</TITLE>"));
+    WriteLines(out, {"</HEAD>", "<BODY>", "", "<CENTER>"});
+    out.Line(QStringLiteral("<P>Pages:&nbsp;&nbsp;") + PageList(page) + QStringLiteral("</P>"));
+    WriteLines(out, {"<TABLE BORDER=0 BORDERCOLOR=\"#000000\" CELLPADDING=0 CELLSPACING=0>"});
+}
+
+void WriteFoot(LineWriter& out)
+{
+    WriteLines(out, {"</TABLE>", "</CENTER>", "", "</BODY>", "</HTML>"});
+}
+
+void WriteImage(LineWriter& out, const Page& page, const QString& image)
+{
+    WriteLines(out,
+               {"   <TABLE BORDER=0 BORDERCOLOR=\"#000000\" CELLPADDING=0 CELLSPACING=0>", "       <TR>"});
+    out.Line(QStringLiteral("           <TD><IMG SRC=\"") + FixFileName(page.Header, image) +
+             QStringLiteral("\"></TD>"));
+    WriteLines(out, {"       </TR>", "   </TABLE>"});
+}
+
+/// Three rows of two images; where a slot is empty the lines round it stay. The gaps between the rows differ.
+void WriteSix(LineWriter& out, const Page& page)
+{
+    const auto image = [&](std::size_t slot) {
+        if (slot == 0 || !page.Images[slot].isEmpty())
+            WriteImage(out, page, page.Images[slot]);
+    };
+    const auto row = [&](std::size_t first) {
+        WriteLines(out, {"<TR>", "<TD>"});
+        image(first);
+        WriteLines(out, {"</TD>", "<TD>&nbsp;&nbsp;</TD>", "<TD>"});
+        image(first + 1);
+        WriteLines(out, {"</TD>", "</TR>"});
+    };
+    row(0);
+    WriteLines(out, {"", "<TR><TD COLSPAN=3>&nbsp;&nbsp;</TD></TR>", ""});
+    row(2);
+    WriteLines(out, {"<TR><TD COLSPAN=3>&nbsp;</TD></TR>"});
+    row(4);
+    WriteLines(out, {""});
+}
+
+/// Up to three images, one below the other; an empty slot is left out whole.
+void WriteThree(LineWriter& out, const Page& page)
+{
+    constexpr std::size_t slots = 3;
+    for (std::size_t slot = 0; slot < slots; ++slot) {
+        if (slot > 0 && page.Images[slot].isEmpty())
+            continue;
+        WriteLines(out, {"<TR>", "<TD>"});
+        WriteImage(out, page, page.Images[slot]);
+        WriteLines(out, {"</TD>", "</TR><TR><TD><BR>&nbsp;</TD></TR>"});
+    }
+}
+
+/// What the pages of the kinds differ in.
+template <class Record>
+struct HtmlRow {
+    const Kind<Record>& Cards;
+    QString Record::*Filename;
+    int (*Copies)(const Record&);
+    int Slots;
+    void (*WriteBody)(LineWriter&, const Page&);
+    const char* PagePrefix;  ///< in front of the set's name in the name of a page
+    const char* TitlePrefix; ///< in front of it in the title, too
+    QString (*Image)(const SetHeader&, const QString& fileName, int index, int count);
+    const char* Missing;
+    const char* OnePage;
+    const char* Pages;
+};
+
+/// The prefix and, where the set wants it, the number, as the pages have them in front of a name.
+QString NumberPrefix(const SetHeader& header, int index, int count)
+{
+    if (!header.FileNr)
+        return header.FilenamePrefix;
+    return header.FilenamePrefix + QLatin1Char(' ') + PaddedNumber(index, count);
+}
+
+QString WithExtension(const SetHeader& header, const QString& name)
+{
+    return name + QLatin1Char('.') + ImageExtension(header.SaveFormat);
+}
+
+/// Without the number no blank parts prefix and name, unlike in the name of the saved image.
+QString StandardImageName(const SetHeader& header, const QString& fileName, int index, int count)
+{
+    const QString gap = header.FileNr ? QStringLiteral(" ") : QString();
+    return WithExtension(header, NumberPrefix(header, index, count) + gap + fileName);
+}
+
+template <const char* KindOfImage>
+QString KindImageName(const SetHeader& header, const QString& fileName, int index, int count)
+{
+    return WithExtension(header, QLatin1String(KindOfImage) + NumberPrefix(header, index, count) +
+                                     QLatin1Char(' ') + fileName);
+}
+
+constexpr char LargeImages[] = "Large ";
+constexpr char CharacterImages[] = "Character ";
+constexpr char PieceImages[] = "Character Piece ";
+
+constexpr int OneCopy(const Character& /*character*/)
+{
+    return 1;
+}
+
+constexpr HtmlRow<Card> CardPages = {
+    StandardKind,
+    &Card::Filename,
+    [](const Card& card) { return int{card.Copies}; },
+    6,
+    WriteSix,
+    "",
+    "",
+    StandardImageName,
+    "Some cards are missing their filenames. Please save all cards before creating the HTML sheets.",
+    "1 HTML sheet is created.",
+    " HTML sheets are created."};
+constexpr HtmlRow<LargeCard> LargePages = {LargeKind,
+                                           &LargeCard::Filename,
+                                           [](const LargeCard& card) { return int{card.Copies}; },
+                                           3,
+                                           WriteThree,
+                                           "Large ",
+                                           "",
+                                           KindImageName<LargeImages>,
+                                           "Some large cards are missing their filenames. Please save all "
+                                           "large cards before creating the HTML sheets.",
+                                           "1 large HTML sheet is created.",
+                                           " large HTML sheets are created."};
+constexpr char MissingCharacters[] =
+    "Some character cards are missing their filenames. Please save all character "
+    "cards before creating the HTML sheets.";
+constexpr HtmlRow<Character> CharacterPages = {CharacterKind,
+                                               &Character::Filename,
+                                               OneCopy,
+                                               3,
+                                               WriteThree,
+                                               "Character ",
+                                               "",
+                                               KindImageName<CharacterImages>,
+                                               MissingCharacters,
+                                               "1 character HTML sheet is created.",
+                                               " character HTML sheets are created."};
+constexpr HtmlRow<Character> PiecePages = {CharacterKind,
+                                           &Character::Filename,
+                                           OneCopy,
+                                           6,
+                                           WriteSix,
+                                           "",
+                                           "Character Piece ",
+                                           KindImageName<PieceImages>,
+                                           MissingCharacters,
+                                           "1 character playing piece HTML sheet is created.",
+                                           " character playing piece HTML sheets are created."};
+
+void WritePage(const Page& page, void (*writeBody)(LineWriter&, const Page&))
+{
+    // A page that cannot be written is left without a word.
+    Attempt([&] {
+        LineWriter out(PathToWrite(page.Header, {page.Header.SaveTo, PageName(page, page.Number)}));
+        WriteHead(out, page);
+        writeBody(out, page);
+        WriteFoot(out);
+        out.Close();
+    });
+}
+
+/// How many images there are with all copies; nothing when a card has no file name yet.
+template <class Record>
+std::optional<int> ImageCount(const CardSet& set, const HtmlRow<Record>& row)
+{
+    int sum = 0;
+    for (int i = 1; i <= set.*row.Cards.Count; ++i) {
+        const Record& record = (set.*row.Cards.Records)[i];
+        if ((record.*row.Filename).isEmpty())
+            return std::nullopt;
+        sum += row.Copies(record);
+    }
+    return sum;
+}
+
+/// Writes all pages; gives how many.
+template <class Record>
+int WritePages(const CardSet& set, const HtmlRow<Record>& row, int imageCount)
+{
+    const int count = set.*row.Cards.Count;
+    Page page{.Header = set.Header,
+              .NamePrefix = row.PagePrefix,
+              .Title = QLatin1String(row.TitlePrefix) + set.Header.SetName,
+              .Images = {},
+              .Number = 0,
+              .Count = imageCount / row.Slots + 1};
+    int slot = 0;
+    for (int i = 1; i <= count; ++i) {
+        const Record& record = (set.*row.Cards.Records)[i];
+        const int copies = row.Copies(record);
+        for (int k = 1; k <= copies; ++k) {
+            ++slot;
+            if (slot == 1) {
+                ++page.Number;
+                page.Images = {};
+            }
+            page.Images[static_cast<std::size_t>(slot) - 1] =
+                row.Image(set.Header, record.*row.Filename, i, count);
+            if (slot == row.Slots || (i == count && k == copies)) {
+                WritePage(page, row.WriteBody);
+                slot = 0;
+            }
+        }
+    }
+    return page.Number;
+}
+
+template <class Record>
+bool CreatePages(const CardSet& set, UserPort& user, const HtmlRow<Record>& row)
+{
+    const std::optional<int> imageCount = ImageCount(set, row);
+    if (!imageCount) {
+        user.ShowMessage({.Text = QString::fromLatin1(row.Missing),
+                          .Title = QStringLiteral("Missing information"),
+                          .Style = BoxStyle::Exclamation});
+        return false;
+    }
+    const int pages = WritePages(set, row, *imageCount);
+    user.ShowMessage({.Text = pages == 1 ? QString::fromLatin1(row.OnePage)
+                                         : QString::number(pages) + QLatin1String(row.Pages),
+                      .Title = QStringLiteral("Save HTML"),
+                      .Style = BoxStyle::Information});
+    return true;
+}
+
+} // namespace
+
+bool CreateHtmlCards(const CardSet& set, UserPort& user)
+{
+    return CreatePages(set, user, CardPages);
+}
+
+bool CreateHtmlLargeCards(const CardSet& set, UserPort& user)
+{
+    return CreatePages(set, user, LargePages);
+}
+
+bool CreateHtmlCharacters(const CardSet& set, UserPort& user)
+{
+    return CreatePages(set, user, CharacterPages);
+}
+
+bool CreateHtmlPieces(const CardSet& set, UserPort& user)
+{
+    return CreatePages(set, user, PiecePages);
+}
+
+} // namespace deckforge

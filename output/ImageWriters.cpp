@@ -1,0 +1,175 @@
+#include "output/ImageWriters.h"
+
+#include "imaging/GifWriter.h"
+#include "imaging/mIntelJPEGLibrary.h"
+#include "platform/Paths.h"
+
+#include <QLockFile>
+
+namespace deckforge {
+
+namespace {
+
+constexpr int32 JpegQuality = 90;
+
+enum SaveFormat : int16 { Bmp = 0, Jpeg = 1, Gif = 2 };
+
+/// What stands at the right of a card.
+enum class Beside { Back, SameAgain, Nothing };
+
+/// What the final pictures of the kinds differ in.
+struct FinalPicture {
+    PictureBox WorkSurfaces::*Source;
+    int OutlineWidth; ///< of the box round the card, in pixels; the one beside it is as wide
+    Beside Companion;
+    const Box* (*Back)(const CardTemplates&); ///< null where no back stands beside
+    WriteFailureTitles Failure;               ///< mixed as they are
+};
+
+constexpr FinalPicture StandardPicture = {&WorkSurfaces::picACard,
+                                          152,
+                                          Beside::Back,
+                                          [](const CardTemplates& t) { return &t.Standard.picBack; },
+                                          {"Saving the card", "Saving the card"}};
+constexpr FinalPicture LargePicture = {&WorkSurfaces::picACard,
+                                       304,
+                                       Beside::Back,
+                                       [](const CardTemplates& t) { return &t.Large.picBackLarge; },
+                                       {"Saving the large card", "Saving the large card"}};
+constexpr FinalPicture CharacterPicture = {
+    &WorkSurfaces::picACard,
+    304,
+    Beside::Back,
+    [](const CardTemplates& t) { return &t.Character.picCharacterBack; },
+    {"Saving the character card", "Saving the large card"}};
+constexpr FinalPicture PiecePicture = {&WorkSurfaces::picACardPP,
+                                       152,
+                                       Beside::SameAgain,
+                                       nullptr,
+                                       {"Saving the playing piece card", "Saving the large card"}};
+constexpr FinalPicture NewBackPicture = {
+    &WorkSurfaces::picACard, 152, Beside::Nothing, nullptr, {"Saving the card", "Saving the card"}};
+
+constexpr int OutlineBottom = 255;
+
+/// What is painted beside the card; the empty picture for nothing.
+Picture CompanionOf(const Workshop& workshop, const FinalPicture& kind)
+{
+    switch (kind.Companion) {
+    case Beside::Back:
+        return kind.Back(workshop.Templates)->Surface->GetPicture();
+    case Beside::SameAgain:
+        return (workshop.Surfaces.*kind.Source).Image();
+    case Beside::Nothing:
+        break;
+    }
+    return {};
+}
+
+bool HasCompanion(const Workshop& workshop, const FinalPicture& kind)
+{
+    return kind.Companion == Beside::SameAgain ||
+           (kind.Companion == Beside::Back && !workshop.Set.Header.NoBack);
+}
+
+/// The card and what stands at its right, each shifted by a pixel into its outline.
+Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
+{
+    const PictureBox& source = workshop.Surfaces.*kind.Source;
+    PictureBox& picDone = workshop.Surfaces.picDone;
+    const bool hasCompanion = HasCompanion(workshop, kind);
+    const int width = source.Width();
+    picDone.SetPicture({});
+    picDone.SetSize({hasCompanion ? 2 * width : width, source.Height()});
+    if (hasCompanion)
+        picDone.PaintPicture(CompanionOf(workshop, kind), width + 1, 1);
+    picDone.PaintPicture(source.Image(), 1, 1);
+    picDone.ForeColor = Black;
+    picDone.LineBox(0, 0, kind.OutlineWidth - 1, OutlineBottom);
+    if (kind.Companion != Beside::Nothing)
+        picDone.LineBox(kind.OutlineWidth, 0, 2 * kind.OutlineWidth - 1, OutlineBottom);
+    return picDone.Image();
+}
+
+void WriteFinalPicture(Workshop& workshop, const FinalPicture& kind, const FilePath& path)
+{
+    WriteOrTell(workshop, kind.Failure, path, [&] {
+        (workshop.Surfaces.*kind.Source).Freeze();
+        return BuildFinalPicture(workshop, kind);
+    });
+}
+
+void WriteGif(UserPort& user, const Picture& picture, const QString& path, const char* failureTitle)
+{
+    const QString temporary = ProgramFolder() + QStringLiteral("qdwtemp.bmp");
+    // All runs of the program share the file; another one waits until the picture in it is converted.
+    QLockFile lock(temporary + QStringLiteral(".lock"));
+    lock.lock();
+    SavePicture(picture, temporary);
+    if (const auto failure = ConvertBmpToGif(temporary, path))
+        TellWriteFailure(user, failureTitle, *failure);
+}
+
+void WriteJpeg(const Picture& picture, const QString& path)
+{
+    cDIBSection surface;
+    surface.CreateFromPicture(picture);
+    SaveJPG(surface, path, JpegQuality);
+}
+
+} // namespace
+
+void WriteCard(Workshop& workshop, const FilePath& path)
+{
+    WriteFinalPicture(workshop, StandardPicture, path);
+}
+
+void WriteLargeCard(Workshop& workshop, const FilePath& path)
+{
+    WriteFinalPicture(workshop, LargePicture, path);
+}
+
+void WriteCharacter(Workshop& workshop, const FilePath& path)
+{
+    WriteFinalPicture(workshop, CharacterPicture, path);
+}
+
+void WritePlayingPiece(Workshop& workshop, const FilePath& path)
+{
+    WriteFinalPicture(workshop, PiecePicture, path);
+}
+
+void WriteNewCardBack(Workshop& workshop, const FilePath& path)
+{
+    WriteFinalPicture(workshop, NewBackPicture, path);
+}
+
+void WriteInFormat(Workshop& workshop, const Picture& picture, const FilePath& path,
+                   const char* gifFailureTitle)
+{
+    const SetHeader& header = workshop.Set.Header;
+    const QString target = PathToWrite(header, path);
+    switch (header.SaveFormat) {
+    case SaveFormat::Bmp:
+        SavePicture(picture, target);
+        break;
+    case SaveFormat::Jpeg:
+        WriteJpeg(picture, target);
+        break;
+    case SaveFormat::Gif:
+        WriteGif(workshop.User, picture, target, gifFailureTitle);
+        break;
+    default:
+        break;
+    }
+}
+
+void TellWriteFailure(UserPort& user, const char* title, const QString& reason)
+{
+    user.ShowMessage({.Text = QStringLiteral("Something went wrong.") +
+                              (reason.isEmpty() ? QString() : QStringLiteral("\r\n\r\n") + reason),
+                      .Title = QString::fromLatin1(title),
+                      .Style = BoxStyle::Critical});
+}
+
+} // namespace deckforge

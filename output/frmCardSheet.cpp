@@ -1,0 +1,244 @@
+#include "output/frmCardSheet.h"
+
+#include "imaging/cDIBSection.h"
+#include "output/CardWalk.h"
+#include "output/ImageWriters.h"
+#include "platform/Numbers.h"
+
+namespace deckforge {
+
+namespace {
+
+constexpr WriteFailureTitles SheetFailure = {"Saving the cardsheet", "Saving the card"};
+
+QPoint CellCorner(const SheetState& sheet)
+{
+    return {(sheet.SheetCol - 1) * sheet.SheetCardWidth, (sheet.SheetRow - 1) * sheet.SheetCardHeight};
+}
+
+/// The grid is full, or nothing more comes.
+bool IsDue(const SheetState& sheet)
+{
+    const bool isFull = sheet.SheetCol == sheet.SheetCols && sheet.SheetRow == sheet.SheetRows;
+    return isFull || sheet.SheetLast;
+}
+
+void PlaceCardOnSheet(Workshop& workshop)
+{
+    const SheetState& sheet = workshop.Sheet;
+    const QPoint cell = CellCorner(sheet);
+    PictureBox& picDone = workshop.Surfaces.picDone;
+    picDone.PaintPicture(workshop.Surfaces.picACard.GetPicture(), cell.x(), cell.y());
+    if (!workshop.Set.Header.NoBack) {
+        picDone.PaintPicture(workshop.Templates.Standard.picBack.Surface->GetPicture(),
+                             cell.x() + sheet.SheetCardWidth / 2, cell.y());
+    }
+}
+
+void SizeCardSheet(Workshop& workshop)
+{
+    SheetState& sheet = workshop.Sheet;
+    const PictureBox& picACard = workshop.Surfaces.picACard;
+    const int cellWidth = workshop.Set.Header.NoBack ? picACard.Width() : 2 * picACard.Width();
+    sheet.SheetCardHeight = ToInt16(workshop.Templates.Standard.picCard.Height);
+    sheet.SheetCardWidth = ToInt16(cellWidth);
+    workshop.Surfaces.picDone.SetSize({sheet.SheetCols * cellWidth, sheet.SheetRows * picACard.Height()});
+}
+
+/// The grid lies on the outer pixels of the cards.
+void DrawGrid(Workshop& workshop)
+{
+    const SheetState& sheet = workshop.Sheet;
+    PictureBox& picDone = workshop.Surfaces.picDone;
+    picDone.ForeColor = Black;
+    for (int row = 0; row < sheet.SheetRows; ++row) {
+        for (int col = 0; col < sheet.SheetCols; ++col) {
+            const int x = col * sheet.SheetCardWidth - 1;
+            const int y = row * sheet.SheetCardHeight - 1;
+            picDone.LineBox(x, y, x + 152, y + sheet.SheetCardHeight);
+            if (!workshop.Set.Header.NoBack)
+                picDone.LineBox(x + 153, y, x + 304, y + sheet.SheetCardHeight);
+        }
+    }
+}
+
+void PrepareLargeSheet(Workshop& workshop, const Box& card)
+{
+    SheetState& sheet = workshop.Sheet;
+    sheet.SheetCardWidth = ToInt16(workshop.Set.Header.NoBack ? card.Width : 2 * card.Width);
+    sheet.SheetCardHeight = ToInt16(card.Height);
+    PictureBox& picLargeSheet = workshop.Surfaces.picLargeSheet;
+    picLargeSheet.SetSize({sheet.SheetCols * sheet.SheetCardWidth, sheet.SheetRows * sheet.SheetCardHeight});
+    picLargeSheet.SetPicture({});
+}
+
+/// The composed card on picDone; the clipboard gets it as well, where there is one.
+void TakeLargeCard(Workshop& workshop, QSize size)
+{
+    PictureBox& picDone = workshop.Surfaces.picDone;
+    picDone.SetPicture({});
+    picDone.SetSize(size);
+    picDone.PaintPicture(workshop.Surfaces.picACard.Image(), 0, 0);
+    picDone.Freeze();
+    cDIBSection card;
+    card.CreateFromPicture(picDone.Image());
+    card.CopyToClipboard(false, workshop.User);
+}
+
+/// The card, and below it its back in four lines of black.
+void StackLargeCard(Workshop& workshop, QSize size)
+{
+    PictureBox& picStore = workshop.Surfaces.picStore;
+    const bool hasBack = !workshop.Set.Header.NoBack;
+    const int w = size.width();
+    const int h = size.height();
+    picStore.SetPicture({});
+    picStore.SetSize({w, hasBack ? 2 * h : h});
+    if (hasBack) {
+        picStore.PaintPicture(workshop.Templates.Large.picBackLarge.Surface->GetPicture(), 0, h);
+        picStore.ForeColor = Black;
+        picStore.LineBox(0, h, w - 1, 2 * h - 1);
+    }
+    picStore.PaintPicture(workshop.Surfaces.picDone.GetPicture(), 0, 0);
+    picStore.Freeze();
+}
+
+/// What the runs of the kinds differ in.
+template <class Record>
+struct SheetRow {
+    const CardWalk<Record>& Walk;
+    int (*Copies)(const Record&);
+    const Box* (*LargeSheetCard)(const CardTemplates&); ///< whose size the large sheet goes by; null for none
+    const char* BoxTitle;
+    const char* One;
+    const char* Others;
+};
+
+constexpr SheetRow<Card> StandardSheets = {StandardWalk,
+                                           [](const Card& card) { return int{card.Copies}; },
+                                           nullptr,
+                                           "Create cardsheets",
+                                           " cardsheet is created.",
+                                           " cardsheets are created."};
+constexpr SheetRow<LargeCard> LargeSheets = {LargeWalk,
+                                             [](const LargeCard& card) { return int{card.Copies}; },
+                                             [](const CardTemplates& t) { return &t.Large.picCardLarge; },
+                                             "Create large cardsheets",
+                                             " large cardsheet is created.",
+                                             " large cardsheets are created."};
+constexpr SheetRow<Character> CharacterSheets = {
+    CharacterWalk,
+    [](const Character&) { return 1; },
+    [](const CardTemplates& t) { return &t.Character.picCharacter; },
+    "Create large cardsheets",
+    " character cardsheet is created.",
+    " character cardsheets are created."};
+
+/// Goes to the next cell; gives the number of the sheet it is on.
+int NextCell(SheetState& sheet, int number)
+{
+    ++sheet.SheetCol;
+    if (sheet.SheetCol > sheet.SheetCols) {
+        sheet.SheetCol = 1;
+        ++sheet.SheetRow;
+    }
+    if (sheet.SheetRow <= sheet.SheetRows)
+        return number;
+    sheet.SheetRow = 1;
+    return number + 1;
+}
+
+/// Drops what the surfaces of a run hold, before it and after it.
+void DropSheets(Workshop& workshop)
+{
+    WorkSurfaces& surfaces = workshop.Surfaces;
+    for (PictureBox* surface : {&surfaces.picDone, &surfaces.picLargeSheet, &surfaces.picStore}) {
+        surface->SetPicture({});
+        surface->SetSize({1, 1});
+    }
+}
+
+template <class Record>
+int PlaceAll(Workshop& workshop, const SheetRow<Record>& row, SheetGrid grid)
+{
+    CardSet& set = workshop.Set;
+    SheetState& sheet = workshop.Sheet;
+    sheet.SheetCols = grid.Cols;
+    sheet.SheetRows = grid.Rows;
+    sheet.SheetCol = 0;
+    sheet.SheetRow = 1;
+    DropSheets(workshop);
+    if (row.LargeSheetCard != nullptr)
+        PrepareLargeSheet(workshop, *row.LargeSheetCard(workshop.Templates));
+    int number = 1;
+    ForEachShown(workshop, row.Walk, [&](int16 index) {
+        const int copies = row.Copies((set.*row.Walk.Cards.Records)[index]);
+        for (int k = 1; k <= copies; ++k) {
+            number = NextCell(sheet, number);
+            if (index == set.*row.Walk.Cards.Count && k == copies)
+                sheet.SheetLast = true;
+            row.Walk.Save(workshop, index, Ask::No, Tell::No, number);
+        }
+    });
+    DropSheets(workshop);
+    return number;
+}
+
+template <class Record>
+void CreateSheets(Workshop& workshop, const SheetRow<Record>& row, std::optional<SheetGrid> grid)
+{
+    const int number = grid ? PlaceAll(workshop, row, *grid) : 0;
+    workshop.User.ShowMessage(
+        {.Text = QString::number(number) + QLatin1String(number == 1 ? row.One : row.Others),
+         .Title = QString::fromLatin1(row.BoxTitle),
+         .Style = BoxStyle::Information});
+}
+
+} // namespace
+
+void CreateCardSheets(Workshop& workshop, std::optional<SheetGrid> grid)
+{
+    CreateSheets(workshop, StandardSheets, grid);
+}
+
+void CreateLargeCardSheets(Workshop& workshop, std::optional<SheetGrid> grid)
+{
+    CreateSheets(workshop, LargeSheets, grid);
+}
+
+void CreateCharacterSheets(Workshop& workshop, std::optional<SheetGrid> grid)
+{
+    CreateSheets(workshop, CharacterSheets, grid);
+}
+
+void SaveCardSheet(Workshop& workshop, const FilePath& path)
+{
+    PictureBox& picDone = workshop.Surfaces.picDone;
+    SizeCardSheet(workshop);
+    workshop.Surfaces.picACard.Refresh();
+    PlaceCardOnSheet(workshop);
+    if (!IsDue(workshop.Sheet))
+        return;
+    DrawGrid(workshop);
+    picDone.Freeze();
+    WriteOrTell(workshop, SheetFailure, path, [&] { return picDone.GetPicture(); });
+    picDone.SetPicture({});
+}
+
+void SaveLargeCardSheet(Workshop& workshop, const FilePath& path)
+{
+    const Box& picCardLarge = workshop.Templates.Large.picCardLarge;
+    const QSize size(picCardLarge.Width, picCardLarge.Height);
+    PictureBox& picLargeSheet = workshop.Surfaces.picLargeSheet;
+    TakeLargeCard(workshop, size);
+    StackLargeCard(workshop, size);
+    const QPoint cell = CellCorner(workshop.Sheet);
+    picLargeSheet.PaintPicture(workshop.Surfaces.picStore.GetPicture(), cell.x(), cell.y());
+    picLargeSheet.Freeze();
+    if (!IsDue(workshop.Sheet))
+        return;
+    WriteOrTell(workshop, SheetFailure, path, [&] { return picLargeSheet.GetPicture(); });
+    picLargeSheet.SetPicture({});
+}
+
+} // namespace deckforge

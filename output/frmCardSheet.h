@@ -1,0 +1,36 @@
+#pragma once
+
+#include "compose/Workshop.h"
+#include "output/ImageNames.h"
+
+namespace deckforge {
+
+// Card sheets: images with many cards in a grid, for printing. Each copy of a card takes a cell; a sheet is
+// written when its grid is full, and when the last copy of the last card is placed.
+
+/// What the user picks: 1 to 6 columns and 1 to 8 rows.
+struct SheetGrid {
+    int16 Cols = 2;
+    int16 Rows = 3;
+
+    static constexpr int16 MostCols = 6;
+    static constexpr int16 MostRows = 8;
+};
+
+// A run over all cards of a kind and their copies, and a box that tells how many sheets they take; without a
+// grid, which is a cancel, the box alone. The flag of the last card stays set when a run is over: another run
+// of the same program writes at every card, and each of its sheets ends up with its last card only.
+// Characters are walked through and no file results.
+void CreateCardSheets(Workshop& workshop, std::optional<SheetGrid> grid);
+void CreateLargeCardSheets(Workshop& workshop, std::optional<SheetGrid> grid);
+void CreateCharacterSheets(Workshop& workshop, std::optional<SheetGrid> grid);
+
+/// Places the composed card and its back on the sheet, and writes the sheet when that is due. A failure is
+/// told.
+void SaveCardSheet(Workshop& workshop, const FilePath& path);
+
+/// The same for a large card, which stands above its back, though the cell is as wide as both. The clipboard
+/// is given each card.
+void SaveLargeCardSheet(Workshop& workshop, const FilePath& path);
+
+} // namespace deckforge

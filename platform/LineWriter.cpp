@@ -1,0 +1,63 @@
+#include "platform/LineWriter.h"
+
+#include "platform/CodePage.h"
+#include "platform/RunTimeError.h"
+
+#include <QScopeGuard>
+
+namespace deckforge {
+
+namespace {
+
+constexpr qsizetype PieceBytes = 1 << 18;
+constexpr qsizetype RoomForOneLine = 1 << 12;
+
+} // namespace
+
+LineWriter::LineWriter(const QString& path) : m_file(path)
+{
+    m_gathered.reserve(PieceBytes + RoomForOneLine);
+}
+
+LineWriter::~LineWriter()
+{
+    try {
+        Flush();
+    } catch (const RunTimeError&) {
+        // The failure that ended the writing is already told; this one adds nothing to it.
+    }
+}
+
+void LineWriter::Line(const QString& text)
+{
+    AppendInCodePage(m_gathered, text);
+    EndLine();
+}
+
+void LineWriter::EndLine()
+{
+    m_gathered.append("\r\n", 2);
+    if (m_gathered.size() >= PieceBytes)
+        Flush();
+}
+
+void LineWriter::Close()
+{
+    Flush();
+    m_file.Close();
+}
+
+void LineWriter::CloseOnDisk()
+{
+    Flush();
+    m_file.CloseOnDisk();
+}
+
+void LineWriter::Flush()
+{
+    // Also when it fails: what was written in part must not be written again.
+    const auto clear = qScopeGuard([this] { m_gathered.resize(0); });
+    m_file.Write(m_gathered);
+}
+
+} // namespace deckforge
