@@ -52,6 +52,34 @@ TEST(Batch, MakesConvertsAndDrawsASet)
         << "the folder is for this run only";
 }
 
+TEST(Batch, WritesEveryOutputOfASet)
+{
+    const TestFolder folder;
+    const QString set = folder.Path(QStringLiteral("a.dkf"));
+    const QString to = folder.Path(QStringLiteral("out"));
+    Batch({QStringLiteral("new"), set});
+    EXPECT_EQ(Batch({QStringLiteral("html"), set, QStringLiteral("--to"), to}).Status, 1)
+        << "no file names yet";
+    EXPECT_EQ(
+        Batch({QStringLiteral("images"), set, QStringLiteral("--to"), to, QStringLiteral("--save")}).Status,
+        0);
+    EXPECT_EQ(Batch({QStringLiteral("html"), set, QStringLiteral("--to"), to}).Status, 0);
+    EXPECT_EQ(Batch({QStringLiteral("sheets"), set, QStringLiteral("--kind"), QStringLiteral("card"),
+                     QStringLiteral("--columns"), QStringLiteral("2"), QStringLiteral("--rows"),
+                     QStringLiteral("1"), QStringLiteral("--to"), to})
+                  .Status,
+              0);
+    EXPECT_EQ(Batch({QStringLiteral("text"), set, folder.Path(QStringLiteral("a.txt"))}).Status, 0);
+    EXPECT_EQ(Batch({QStringLiteral("backs"), to}).Status, 0);
+    for (const char* name : {"out/CARD 1.bmp", "out/New set 1.htm", "out/New set Sheet 1.bmp", "a.txt",
+                             "out/Warlock's Maze.bmp", "out/character back 2.bmp"})
+        EXPECT_TRUE(folder.Has(QString::fromLatin1(name))) << name;
+    EXPECT_FALSE(folder.Has(QStringLiteral("out/Blank.bmp")));
+    const Outcome statistics = Batch({QStringLiteral("statistics"), set});
+    EXPECT_TRUE(statistics.Output.startsWith(
+        QStringLiteral("Number of cards used/type:\n1 - ENEMY- Animal (100%)\n")));
+}
+
 TEST(Batch, TellsAFailureInItsStatus)
 {
     const TestFolder folder;
@@ -82,6 +110,11 @@ TEST(Batch, RefusesAWrongCommandLineAndShowsItsUse)
              QStringList{QStringLiteral("images"), set, QStringLiteral("--format"), QStringLiteral("png")},
              QStringList{QStringLiteral("images"), set, QStringLiteral("--kind"), QStringLiteral("box")},
              QStringList{QStringLiteral("images"), set, QStringLiteral("--colour")},
+             QStringList{QStringLiteral("sheets"), set, QStringLiteral("--columns"), QStringLiteral("2")},
+             QStringList{QStringLiteral("sheets"), set, QStringLiteral("--kind"), QStringLiteral("card"),
+                         QStringLiteral("--columns"), QStringLiteral("7"), QStringLiteral("--rows"),
+                         QStringLiteral("1")},
+             QStringList{QStringLiteral("html"), set, QStringLiteral("--kind"), QStringLiteral("back")},
          }) {
         const Outcome run = Batch(wrong);
         EXPECT_EQ(run.Status, 2) << wrong.join(QLatin1Char(' ')).toStdString();
