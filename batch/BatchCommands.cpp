@@ -1,6 +1,7 @@
 #include "batch/BatchCommands.h"
 
 #include "batch/ConsoleUser.h"
+#include "compose/NewBack.h"
 #include "compose/SetView.h"
 #include "core/Vocabulary.h"
 #include "files/modFile.h"
@@ -167,13 +168,19 @@ bool WriteSetTo(Workshop& workshop, const QString& path)
     return WriteDKF(workshop.Set, header.FileName, workshop.User, Report::Tell);
 }
 
-/// The images of the user-designed backs, one after the other; the window makes them one by one.
+/// The images of the user-designed backs, one after the other; the window makes them one by one. A back that
+/// cannot be shown is told, since saving it would end without a word.
 void CreateNewCardBacks(Workshop& workshop)
 {
     CardSet& set = workshop.Set;
     for (int i = 1; i <= set.NewCardBackCount; ++i) {
         set.CurrentNewCardBack = static_cast<int16>(i);
-        SaveNewCardBack(workshop, set.CurrentNewCardBack, Ask::No, Tell::No);
+        try {
+            ShowNewCardBack(workshop, set.CurrentNewCardBack);
+            SaveNewCardBack(workshop, set.CurrentNewCardBack, Ask::No, Tell::No);
+        } catch (const RunTimeError& error) {
+            TellUntrapped(workshop.User, error);
+        }
     }
 }
 

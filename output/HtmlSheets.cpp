@@ -4,7 +4,9 @@
 #include "core/modInfo.h"
 #include "output/ImageNames.h"
 #include "platform/LineWriter.h"
+#include "platform/Numbers.h"
 
+#include <QStringList>
 #include <array>
 
 namespace deckforge {
@@ -21,6 +23,7 @@ struct Page {
     std::array<QString, MostSlots> Images;
     int Number = 0;
     int Count = 0;
+    QStringList Links = {}; ///< to each page, from the first
 };
 
 QString PageName(const Page& page, int number)
@@ -30,18 +33,24 @@ QString PageName(const Page& page, int number)
     return QLatin1String(page.NamePrefix) + page.Title + QLatin1Char(' ') + digits + QStringLiteral(".htm");
 }
 
+QStringList LinksOf(const Page& page)
+{
+    QStringList links;
+    for (int i = 1; i <= page.Count; ++i) {
+        links += QStringLiteral("<A HREF=\"") + FixFileName(page.Header, PageName(page, i)) +
+                 QStringLiteral("\">") + QString::number(i) + QStringLiteral("</A>&nbsp;&nbsp;");
+    }
+    return links;
+}
+
 QString PageList(const Page& page)
 {
-    QString list;
-    for (int i = 1; i <= page.Count; ++i) {
-        const QString number = QString::number(i);
-        if (i == page.Number)
-            list += QStringLiteral("<B>") + number + QStringLiteral("</B>&nbsp;&nbsp;");
-        else
-            list += QStringLiteral("<A HREF=\"") + FixFileName(page.Header, PageName(page, i)) +
-                    QStringLiteral("\">") + number + QStringLiteral("</A>&nbsp;&nbsp;");
+    QStringList list = page.Links;
+    if (page.Number <= list.size()) { // copies below 0 can announce fewer pages than there are
+        list[page.Number - 1] =
+            QStringLiteral("<B>") + QString::number(page.Number) + QStringLiteral("</B>&nbsp;&nbsp;");
     }
-    return list;
+    return list.join(QString());
 }
 
 void WriteLines(LineWriter& out, std::initializer_list<const char*> lines)
@@ -210,23 +219,26 @@ constexpr HtmlRow<Character> PiecePages = {CharacterKind,
                                            "1 character playing piece HTML sheet is created.",
                                            " character playing piece HTML sheets are created."};
 
-void WritePage(const Page& page, void (*writeBody)(LineWriter&, const Page&))
+/// A page that cannot be written is left without a word; gives whether it is there.
+bool WritePage(const Page& page, void (*writeBody)(LineWriter&, const Page&))
 {
-    // A page that cannot be written is left without a word.
+    bool isWritten = false;
     Attempt([&] {
         LineWriter out(PathToWrite(page.Header, {page.Header.SaveTo, PageName(page, page.Number)}));
         WriteHead(out, page);
         writeBody(out, page);
         WriteFoot(out);
         out.Close();
+        isWritten = true;
     });
+    return isWritten;
 }
 
 /// How many images there are with all copies; nothing when a card has no file name yet.
 template <class Record>
-std::optional<int> ImageCount(const CardSet& set, const HtmlRow<Record>& row)
+std::optional<qint64> ImageCount(const CardSet& set, const HtmlRow<Record>& row)
 {
-    int sum = 0;
+    qint64 sum = 0;
     for (int i = 1; i <= set.*row.Cards.Count; ++i) {
         const Record& record = (set.*row.Cards.Records)[i];
         if ((record.*row.Filename).isEmpty())
@@ -236,9 +248,13 @@ std::optional<int> ImageCount(const CardSet& set, const HtmlRow<Record>& row)
     return sum;
 }
 
-/// Writes all pages; gives how many.
+struct WrittenPages {
+    int Count = 0;
+    bool AreAllThere = true;
+};
+
 template <class Record>
-int WritePages(const CardSet& set, const HtmlRow<Record>& row, int imageCount)
+WrittenPages WritePages(const CardSet& set, const HtmlRow<Record>& row, qint64 imageCount)
 {
     const int count = set.*row.Cards.Count;
     Page page{.Header = set.Header,
@@ -246,7 +262,9 @@ int WritePages(const CardSet& set, const HtmlRow<Record>& row, int imageCount)
               .Title = QLatin1String(row.TitlePrefix) + set.Header.SetName,
               .Images = {},
               .Number = 0,
-              .Count = imageCount / row.Slots + 1};
+              .Count = ToInt16(static_cast<double>(imageCount / row.Slots + 1))};
+    page.Links = LinksOf(page);
+    WrittenPages written;
     int slot = 0;
     for (int i = 1; i <= count; ++i) {
         const Record& record = (set.*row.Cards.Records)[i];
@@ -260,30 +278,31 @@ int WritePages(const CardSet& set, const HtmlRow<Record>& row, int imageCount)
             page.Images[static_cast<std::size_t>(slot) - 1] =
                 row.Image(set.Header, record.*row.Filename, i, count);
             if (slot == row.Slots || (i == count && k == copies)) {
-                WritePage(page, row.WriteBody);
+                written.AreAllThere = WritePage(page, row.WriteBody) && written.AreAllThere;
                 slot = 0;
             }
         }
     }
-    return page.Number;
+    written.Count = page.Number;
+    return written;
 }
 
 template <class Record>
 bool CreatePages(const CardSet& set, UserPort& user, const HtmlRow<Record>& row)
 {
-    const std::optional<int> imageCount = ImageCount(set, row);
+    const std::optional<qint64> imageCount = ImageCount(set, row);
     if (!imageCount) {
         user.ShowMessage({.Text = QString::fromLatin1(row.Missing),
                           .Title = QStringLiteral("Missing information"),
                           .Style = BoxStyle::Exclamation});
         return false;
     }
-    const int pages = WritePages(set, row, *imageCount);
-    user.ShowMessage({.Text = pages == 1 ? QString::fromLatin1(row.OnePage)
-                                         : QString::number(pages) + QLatin1String(row.Pages),
+    const WrittenPages pages = WritePages(set, row, *imageCount);
+    user.ShowMessage({.Text = pages.Count == 1 ? QString::fromLatin1(row.OnePage)
+                                               : QString::number(pages.Count) + QLatin1String(row.Pages),
                       .Title = QStringLiteral("Save HTML"),
                       .Style = BoxStyle::Information});
-    return true;
+    return pages.AreAllThere;
 }
 
 } // namespace

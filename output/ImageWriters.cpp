@@ -23,32 +23,34 @@ struct FinalPicture {
     int OutlineWidth; ///< of the box round the card, in pixels; the one beside it is as wide
     Beside Companion;
     const Box* (*Back)(const CardTemplates&); ///< null where no back stands beside
-    WriteFailureTitles Failure;               ///< mixed as they are
+    const char* FailureTitle;
+    const char* GifFailureTitle; ///< mixed as they are
 };
 
 constexpr FinalPicture StandardPicture = {&WorkSurfaces::picACard,
                                           152,
                                           Beside::Back,
                                           [](const CardTemplates& t) { return &t.Standard.picBack; },
-                                          {"Saving the card", "Saving the card"}};
+                                          "Saving the card",
+                                          "Saving the card"};
 constexpr FinalPicture LargePicture = {&WorkSurfaces::picACard,
                                        304,
                                        Beside::Back,
                                        [](const CardTemplates& t) { return &t.Large.picBackLarge; },
-                                       {"Saving the large card", "Saving the large card"}};
+                                       "Saving the large card",
+                                       "Saving the large card"};
 constexpr FinalPicture CharacterPicture = {
     &WorkSurfaces::picACard,
     304,
     Beside::Back,
     [](const CardTemplates& t) { return &t.Character.picCharacterBack; },
-    {"Saving the character card", "Saving the large card"}};
-constexpr FinalPicture PiecePicture = {&WorkSurfaces::picACardPP,
-                                       152,
-                                       Beside::SameAgain,
-                                       nullptr,
-                                       {"Saving the playing piece card", "Saving the large card"}};
+    "Saving the character card",
+    "Saving the large card"};
+constexpr FinalPicture PiecePicture = {
+    &WorkSurfaces::picACardPP, 152, Beside::SameAgain, nullptr, "Saving the playing piece card",
+    "Saving the large card"};
 constexpr FinalPicture NewBackPicture = {
-    &WorkSurfaces::picACard, 152, Beside::Nothing, nullptr, {"Saving the card", "Saving the card"}};
+    &WorkSurfaces::picACard, 152, Beside::Nothing, nullptr, "Saving the card", "Saving the card"};
 
 constexpr int OutlineBottom = 255;
 
@@ -93,9 +95,9 @@ Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
 
 void WriteFinalPicture(Workshop& workshop, const FinalPicture& kind, const FilePath& path)
 {
-    WriteOrTell(workshop, kind.Failure, path, [&] {
+    WriteOrTell(workshop.User, kind.FailureTitle, [&] {
         (workshop.Surfaces.*kind.Source).Freeze();
-        return BuildFinalPicture(workshop, kind);
+        WriteInFormat(workshop, BuildFinalPicture(workshop, kind), path, kind.GifFailureTitle);
     });
 }
 

@@ -14,31 +14,22 @@ void WriteCharacter(Workshop& workshop, const FilePath& path);
 void WritePlayingPiece(Workshop& workshop, const FilePath& path); ///< twice, also in a set without backs
 void WriteNewCardBack(Workshop& workshop, const FilePath& path);
 
-/// The titles of the boxes that tell of a failure: any, and one of the GIF writer.
-struct WriteFailureTitles {
-    const char* Any;
-    const char* Gif;
-};
-
-/// Writes the picture that the function builds in the set's format; both may fail, which is told.
-template <class Build>
-void WriteOrTell(Workshop& workshop, const WriteFailureTitles& titles, const FilePath& path, Build&& build);
-
 /// Writes a picture in the set's format; a format that there is not writes nothing. Failures are thrown but
-/// those of the GIF writer, which are told.
+/// those of the GIF writer, which are told under the title.
 void WriteInFormat(Workshop& workshop, const Picture& picture, const FilePath& path,
                    const char* gifFailureTitle);
 
 /// Tells that an image could not be written.
 void TellWriteFailure(UserPort& user, const char* title, const QString& reason = {});
 
-template <class Build>
-void WriteOrTell(Workshop& workshop, const WriteFailureTitles& titles, const FilePath& path, Build&& build)
+/// Runs what builds and writes an image. A failure is told under the title.
+template <class Step>
+void WriteOrTell(UserPort& user, const char* failureTitle, Step&& step)
 {
     try {
-        WithMemoryAsFailure([&] { WriteInFormat(workshop, build(), path, titles.Gif); });
+        WithMemoryAsFailure(step);
     } catch (const RunTimeError&) {
-        TellWriteFailure(workshop.User, titles.Any);
+        TellWriteFailure(user, failureTitle);
     }
 }
 

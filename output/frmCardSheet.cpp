@@ -5,11 +5,15 @@
 #include "output/ImageWriters.h"
 #include "platform/Numbers.h"
 
+#include <QScopeGuard>
+
 namespace deckforge {
 
 namespace {
 
-constexpr WriteFailureTitles SheetFailure = {"Saving the cardsheet", "Saving the card"};
+constexpr char FailureTitle[] = "Saving the cardsheet";
+constexpr char GifFailureTitle[] = "Saving the card";
+constexpr int CardOutline = 152; ///< of the boxes of the grid, in pixels; a back's begins a pixel further
 
 QPoint CellCorner(const SheetState& sheet)
 {
@@ -55,9 +59,10 @@ void DrawGrid(Workshop& workshop)
         for (int col = 0; col < sheet.SheetCols; ++col) {
             const int x = col * sheet.SheetCardWidth - 1;
             const int y = row * sheet.SheetCardHeight - 1;
-            picDone.LineBox(x, y, x + 152, y + sheet.SheetCardHeight);
+            const int bottom = y + sheet.SheetCardHeight;
+            picDone.LineBox(x, y, x + CardOutline, bottom);
             if (!workshop.Set.Header.NoBack)
-                picDone.LineBox(x + 153, y, x + 304, y + sheet.SheetCardHeight);
+                picDone.LineBox(x + CardOutline + 1, y, x + 2 * CardOutline, bottom);
         }
     }
 }
@@ -135,7 +140,7 @@ constexpr SheetRow<Character> CharacterSheets = {
     " character cardsheets are created."};
 
 /// Goes to the next cell; gives the number of the sheet it is on.
-int NextCell(SheetState& sheet, int number)
+int16 NextCell(SheetState& sheet, int16 number)
 {
     ++sheet.SheetCol;
     if (sheet.SheetCol > sheet.SheetCols) {
@@ -145,7 +150,7 @@ int NextCell(SheetState& sheet, int number)
     if (sheet.SheetRow <= sheet.SheetRows)
         return number;
     sheet.SheetRow = 1;
-    return number + 1;
+    return CheckedAdd(number, 1);
 }
 
 /// Drops what the surfaces of a run hold, before it and after it.
@@ -159,7 +164,7 @@ void DropSheets(Workshop& workshop)
 }
 
 template <class Record>
-int PlaceAll(Workshop& workshop, const SheetRow<Record>& row, SheetGrid grid)
+int16 PlaceAll(Workshop& workshop, const SheetRow<Record>& row, SheetGrid grid)
 {
     CardSet& set = workshop.Set;
     SheetState& sheet = workshop.Sheet;
@@ -170,7 +175,7 @@ int PlaceAll(Workshop& workshop, const SheetRow<Record>& row, SheetGrid grid)
     DropSheets(workshop);
     if (row.LargeSheetCard != nullptr)
         PrepareLargeSheet(workshop, *row.LargeSheetCard(workshop.Templates));
-    int number = 1;
+    int16 number = 1;
     ForEachShown(workshop, row.Walk, [&](int16 index) {
         const int copies = row.Copies((set.*row.Walk.Cards.Records)[index]);
         for (int k = 1; k <= copies; ++k) {
@@ -187,7 +192,7 @@ int PlaceAll(Workshop& workshop, const SheetRow<Record>& row, SheetGrid grid)
 template <class Record>
 void CreateSheets(Workshop& workshop, const SheetRow<Record>& row, std::optional<SheetGrid> grid)
 {
-    const int number = grid ? PlaceAll(workshop, row, *grid) : 0;
+    const int16 number = grid ? PlaceAll(workshop, row, *grid) : int16{0};
     workshop.User.ShowMessage(
         {.Text = QString::number(number) + QLatin1String(number == 1 ? row.One : row.Others),
          .Title = QString::fromLatin1(row.BoxTitle),
@@ -213,32 +218,34 @@ void CreateCharacterSheets(Workshop& workshop, std::optional<SheetGrid> grid)
 
 void SaveCardSheet(Workshop& workshop, const FilePath& path)
 {
-    PictureBox& picDone = workshop.Surfaces.picDone;
-    SizeCardSheet(workshop);
-    workshop.Surfaces.picACard.Refresh();
-    PlaceCardOnSheet(workshop);
-    if (!IsDue(workshop.Sheet))
-        return;
-    DrawGrid(workshop);
-    picDone.Freeze();
-    WriteOrTell(workshop, SheetFailure, path, [&] { return picDone.GetPicture(); });
-    picDone.SetPicture({});
+    WriteOrTell(workshop.User, FailureTitle, [&] {
+        PictureBox& picDone = workshop.Surfaces.picDone;
+        SizeCardSheet(workshop);
+        workshop.Surfaces.picACard.Refresh();
+        PlaceCardOnSheet(workshop);
+        if (!IsDue(workshop.Sheet))
+            return;
+        const auto empty = qScopeGuard([&] { picDone.SetPicture({}); });
+        DrawGrid(workshop);
+        WriteInFormat(workshop, picDone.Image(), path, GifFailureTitle);
+    });
 }
 
 void SaveLargeCardSheet(Workshop& workshop, const FilePath& path)
 {
-    const Box& picCardLarge = workshop.Templates.Large.picCardLarge;
-    const QSize size(picCardLarge.Width, picCardLarge.Height);
-    PictureBox& picLargeSheet = workshop.Surfaces.picLargeSheet;
-    TakeLargeCard(workshop, size);
-    StackLargeCard(workshop, size);
-    const QPoint cell = CellCorner(workshop.Sheet);
-    picLargeSheet.PaintPicture(workshop.Surfaces.picStore.GetPicture(), cell.x(), cell.y());
-    picLargeSheet.Freeze();
-    if (!IsDue(workshop.Sheet))
-        return;
-    WriteOrTell(workshop, SheetFailure, path, [&] { return picLargeSheet.GetPicture(); });
-    picLargeSheet.SetPicture({});
+    WriteOrTell(workshop.User, FailureTitle, [&] {
+        const Box& picCardLarge = workshop.Templates.Large.picCardLarge;
+        const QSize size(picCardLarge.Width, picCardLarge.Height);
+        PictureBox& picLargeSheet = workshop.Surfaces.picLargeSheet;
+        TakeLargeCard(workshop, size);
+        StackLargeCard(workshop, size);
+        const QPoint cell = CellCorner(workshop.Sheet);
+        picLargeSheet.PaintPicture(workshop.Surfaces.picStore.GetPicture(), cell.x(), cell.y());
+        if (!IsDue(workshop.Sheet))
+            return;
+        const auto empty = qScopeGuard([&] { picLargeSheet.SetPicture({}); });
+        WriteInFormat(workshop, picLargeSheet.Image(), path, GifFailureTitle);
+    });
 }
 
 } // namespace deckforge

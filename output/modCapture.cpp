@@ -7,6 +7,8 @@
 #include "output/frmCardSheet.h"
 #include "platform/Paths.h"
 
+#include <QScopeGuard>
+
 namespace deckforge {
 
 namespace {
@@ -20,7 +22,7 @@ struct ImageRow {
     const char* SheetPart;      ///< of a sheet's name
     int16 CardSet::*SheetCount; ///< by which sheets are numbered
     void (*Write)(Workshop&, int16, const FilePath&);
-    void (*PlaceOnSheet)(Workshop&, const FilePath&); ///< null for a kind that has no sheets
+    void (*PlaceOnSheet)(Workshop&, int16, const FilePath&);
     const char* DialogTitle;
     const char* BoxTitle;
     const char* Saved;
@@ -45,23 +47,47 @@ void WriteCharacterImages(Workshop& workshop, int16 index, const FilePath& path)
     WritePlayingPiece(workshop, {path.Folder, piece});
 }
 
-void WriteNewBackImage(Workshop& workshop, int16 index, const FilePath& path)
+void ComposeNewBack(Workshop& workshop, int16 index)
 {
     ShowNewCardBack(workshop, index);
     DrawNewCardBack(workshop, index);
+}
+
+void WriteNewBackImage(Workshop& workshop, int16 index, const FilePath& path)
+{
+    ComposeNewBack(workshop, index);
     WriteNewCardBack(workshop, path);
 }
 
+void PlaceStandardCard(Workshop& workshop, int16 /*index*/, const FilePath& path)
+{
+    SaveCardSheet(workshop, path);
+}
+
+void PlaceLargeCard(Workshop& workshop, int16 /*index*/, const FilePath& path)
+{
+    SaveLargeCardSheet(workshop, path);
+}
+
+/// The sheets of characters are named and counted, and no file results.
+void PlaceNoCharacter(Workshop& /*workshop*/, int16 /*index*/, const FilePath& /*path*/) {}
+
+void PlaceNewBack(Workshop& workshop, int16 index, const FilePath& path)
+{
+    ComposeNewBack(workshop, index);
+    SaveCardSheet(workshop, path);
+}
+
 constexpr ImageRow<Card> StandardImage = {
-    StandardKind,       &Card::Filename, "",          " Sheet ",   &CardSet::CardCount,
-    WriteStandardImage, SaveCardSheet,   "Save Card", "Save card", "The card is saved to the filename:"};
+    StandardKind,       &Card::Filename,   "",          " Sheet ",   &CardSet::CardCount,
+    WriteStandardImage, PlaceStandardCard, "Save Card", "Save card", "The card is saved to the filename:"};
 constexpr ImageRow<LargeCard> LargeImage = {LargeKind,
                                             &LargeCard::Filename,
                                             "Large ",
                                             " Sheet Large ",
                                             &CardSet::LargeCardCount,
                                             WriteLargeImage,
-                                            SaveLargeCardSheet,
+                                            PlaceLargeCard,
                                             "Save Large Card",
                                             "Save large card",
                                             "The large card is saved to the filename:"};
@@ -71,7 +97,7 @@ constexpr ImageRow<Character> CharacterImage = {CharacterKind,
                                                 " Sheet Large ",
                                                 &CardSet::CharacterCount,
                                                 WriteCharacterImages,
-                                                nullptr,
+                                                PlaceNoCharacter,
                                                 "Save Character Card",
                                                 "Save character card",
                                                 "The character card is saved to the filename:"};
@@ -81,7 +107,7 @@ constexpr ImageRow<NewCardBack> NewBackImage = {NewBackKind,
                                                 " Sheet ",
                                                 &CardSet::CardCount,
                                                 WriteNewBackImage,
-                                                nullptr,
+                                                PlaceNewBack,
                                                 "Save New Card Back",
                                                 "Save card",
                                                 "The card is saved to the filename:"};
@@ -127,19 +153,23 @@ void SaveElement(Workshop& workshop, const ImageRow<Record>& row, int16 index, A
 {
     CardSet& set = workshop.Set;
     Record& record = (set.*row.Cards.Records)[index];
+    // A failure leaves the card its name.
+    auto restoreName = qScopeGuard([&, before = record.*row.Filename] { record.*row.Filename = before; });
     const auto folder =
         ChooseFolder(workshop, row.DialogTitle, record.*row.Cards.Name, record.*row.Filename, ask, tell);
     if (!folder)
         return;
     const FilePath path = {*folder, ImageName(set.Header, QString::fromLatin1(row.NamePrefix),
                                               record.*row.Filename, index, set.*row.Cards.Count)};
-    if (!sheet) {
-        row.Write(workshop, index, path);
-    } else if (row.PlaceOnSheet != nullptr) {
+    if (sheet) {
         const int cardsPerSheet = workshop.Sheet.SheetRows * workshop.Sheet.SheetCols;
-        row.PlaceOnSheet(workshop, {*folder, SheetName(set.Header, QString::fromLatin1(row.SheetPart), *sheet,
-                                                       set.*row.SheetCount, cardsPerSheet)});
+        const QString name = SheetName(set.Header, QString::fromLatin1(row.SheetPart), *sheet,
+                                       set.*row.SheetCount, cardsPerSheet);
+        row.PlaceOnSheet(workshop, index, {*folder, name});
+    } else {
+        row.Write(workshop, index, path);
     }
+    restoreName.dismiss();
     if (tell == Tell::Yes)
         TellSaved(workshop.User, row.BoxTitle, row.Saved, path);
 }

@@ -10,12 +10,12 @@ enum class Ask { No, Yes };
 enum class Tell { No, Yes };
 
 /// The sheet that a card is placed on; none for an image of its own.
-using SheetNumber = std::optional<int>;
+using SheetNumber = std::optional<int16>;
 
 // Each names the composed card of the index, asks where wanted, and writes its image, or places it on a
 // sheet. A card without a file name is asked for where the result is told; elsewhere it takes its title. A
-// cancel, or a failure before the writing, ends it without a word. A character's playing piece goes with its
-// card; characters and user-designed backs on a sheet write nothing. A user-designed back is shown and
+// cancel, or a failure before the writing, ends it without a word and leaves the card its name. A character's
+// playing piece goes with its card; on a sheet a character writes nothing. A user-designed back is shown and
 // composed anew.
 void SaveCard(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet = {});
 void SaveLargeCard(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet = {});

@@ -116,7 +116,18 @@ TEST_F(PagesTest, ACardWithoutAFileNameStopsThePages)
     EXPECT_EQ(User.LastBox().Text, QStringLiteral("0 character playing piece HTML sheets are created."));
     AddCards(1);
     Set.Header.SetName = QStringLiteral("../outside");
-    EXPECT_TRUE(CreateHtmlCards(Set, User)) << "a page that cannot be written is counted";
+    EXPECT_FALSE(CreateHtmlCards(Set, User));
+    EXPECT_EQ(User.LastBox().Text, QStringLiteral("1 HTML sheet is created."))
+        << "it is counted all the same";
+    AddCards(7);
+    Set.Header.SetName = QStringLiteral("less");
+    Set.Cards[1].Copies = 12;
+    Set.Cards[2].Copies = -12;
+    EXPECT_TRUE(CreateHtmlCards(Set, User)) << "fewer pages are announced than there are";
+    EXPECT_EQ(ImagesOf("less 2.htm").size(), 6);
+    for (int i = 1; i <= 7; ++i)
+        Set.Cards[i].Copies = 32767;
+    EXPECT_EQ(FailureOf([&] { CreateHtmlCards(Set, User); }), 6);
 }
 
 TEST_F(PagesTest, TheListingHasTheTextsOfAllKinds)

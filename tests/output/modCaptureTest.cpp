@@ -178,6 +178,23 @@ TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
     EXPECT_FALSE(Folder.Has(QStringLiteral("unknown.")));
 }
 
+TEST_F(ImageTest, ABackThatCannotBeShownKeepsItsNameAndItsOlderImage)
+{
+    AddElement(Shop.Set, NewBackKind);
+    NewCardBack& back = Shop.Set.NewCardBacks[1];
+    User.WillCancelDialog();
+    SaveNewCardBack(Shop, 1, Ask::No, Tell::Yes);
+    EXPECT_TRUE(User.Boxes.empty()) << "whoever is told is asked for a name, and cancelled";
+    SaveNewCardBack(Shop, 1, Ask::No, Tell::No);
+    EXPECT_EQ(Image("Back 1.bmp").size(), QSize(152, 256));
+    back.Filename.clear();
+    back.UsePicture = true;
+    back.Picture = Folder.Path(QStringLiteral("none.bmp"));
+    SaveNewCardBack(Shop, 1, Ask::No, Tell::No);
+    EXPECT_TRUE(back.Filename.isEmpty());
+    EXPECT_TRUE(User.Boxes.empty());
+}
+
 TEST_F(ImageTest, AGifGoesByATemporaryFileAndItsFailureIsTold)
 {
     Header().SaveFormat = 2;
