@@ -13,71 +13,25 @@ namespace deckforge {
 
 namespace {
 
-/// The lines of a set file as a test puts them together.
-class Lines {
-public:
-    Lines& operator<<(const char* line)
-    {
-        m_bytes += QByteArray(line) + "\r\n";
-        return *this;
-    }
-    Lines& Font(const char* name)
-    {
-        return *this << name << " 9 "
-                     << "True"
-                     << "False"
-                     << " 255 ";
-    }
-    Lines& Fonts(int count)
-    {
-        for (int i = 0; i < count; ++i)
-            Font("Lettering");
-        return *this;
-    }
-    [[nodiscard]] QByteArray Bytes() const { return m_bytes; }
-
-private:
-    QByteArray m_bytes;
-};
-
-Lines HeadOf(const char* version)
+/// Lines of a set file; here each ends in a semicolon.
+QByteArray LinesOf(QByteArray text)
 {
-    return Lines() << "Amber Gnome - Varnhelm Deck Foundry" << version << "-- START --";
+    return text.replace(";", "\r\n");
+}
+
+QByteArray HeadOf(const QByteArray& version)
+{
+    return LinesOf("Amber Gnome - Varnhelm Deck Foundry;" + version + ";-- START --;");
 }
 
 /// A set of version 1 with one card; the type line and its row as given.
-QByteArray VersionOne(const char* type, const char* typeIndex, const char* ownTypes = "15")
+QByteArray VersionOne(const QByteArray& type, const QByteArray& typeIndex, const QByteArray& typeCount = "15")
 {
-    Lines lines = HeadOf("Version 1");
-    lines << "Old set"
-          << "C:\\old.dkf"
-          << "C:\\out\\"
-          << "True"
-          << "C:\\symbol.gif"
-          << "old"
-          << "True"
-          << "False";
-    lines.Fonts(6) << ownTypes << "27"
-                   << "1";
-    lines << "Bear" << type << typeIndex << "2"
-          << "True"
-          << "bear.bmp"
-          << "-150"
-          << "104.5"
-          << "7.5"
-          << "True"
-          << "False"
-          << "STRENGTH 4"
-          << "Line one|line two"
-          << ""
-          << "3"
-          << "16777215"
-          << "";
-    lines << "4"
-          << "SPELL"
-          << "back.bmp"
-          << "-- END --";
-    return lines.Bytes();
+    return HeadOf("Version 1") +
+           LinesOf("Old set;C:\\old.dkf;C:\\out\\;True;C:\\symbol.gif;old;True;False;") +
+           LinesOf("Lettering; 9 ;True;False; 255 ;").repeated(6) + LinesOf(typeCount + ";27;1;") +
+           LinesOf("Bear;" + type + ";" + typeIndex + ";2;True;bear.bmp;-150;104.5;7.5;True;False;") +
+           LinesOf("STRENGTH 4;Line one|line two;;3;16777215;;4;SPELL;back.bmp;-- END --;");
 }
 
 class SetFileTest : public testing::Test {
@@ -107,72 +61,22 @@ TEST_F(SetFileTest, ANewSetIsWrittenLineForLine)
 {
     Set.Header.SaveTo = QStringLiteral("/out/");
     Set.Header.FileName = QStringLiteral("/sets/new.dkf");
-    Lines expected = HeadOf("Version 10");
-    expected << "New set"
-             << "/sets/new.dkf"
-             << "/out/"
-             << "False"
-             << ""
-             << ""
-             << "False"
-             << "False"
-             << " 0 "
-             << "False"
-             << " 12632256 ";
-    const auto font = [&](const char* size, const char* bold, const char* colour) {
-        expected << "Small Fonts" << size << bold << "False" << colour;
+    const auto font = [](const char* size, const char* bold, const char* colour) {
+        return LinesOf(QByteArray("Small Fonts;") + size + ";" + bold + ";False;" + colour + ";");
     };
-    font(" 7 ", "True", " 0 "); // title, before type
-    font(" 7 ", "False", " 0 ");
-    font(" 7 ", "False", " 0 ");
-    font(" 7 ", "True", " 0 ");
-    font(" 7 ", "False", " 0 ");
-    font(" 5 ", "False", " 0 ");
-    font(" 7 ", "True", " 0 ");
-    font(" 7 ", "False", " 0 ");
-    font(" 7 ", "True", " 16777215 ");
-    font(" 7 ", "True", " 0 ");
-    font(" 7 ", "False", " 0 ");
-    font(" 6 ", "True", " 0 ");
-    font(" 7 ", "True", " 0 ");
-    expected << " 0 "
-             << " 0 "
-             << " 0 "
-             << " 1 ";
-    expected << "CARD 1"
-             << " 1 "
-             << "ENEMY-"
-             << "Animal"
-             << "-ENEMY"
-             << "Animal"
-             << "False"
-             << " 0 "
-             << "2"
-             << "True"
-             << ""
-             << " 0 "
-             << " 105 "
-             << " 0 "
-             << "True"
-             << "False"
-             << ""
-             << ""
-             << ""
-             << ""
-             << " 1 "
-             << " 16777215 "
-             << "";
-    expected << " 0 "
-             << " 0 "
-             << " 1 "
-             << "ENEMY-"
-             << "-ENEMY"
-             << "Animal"
-             << "Animal"
-             << " 2 "
-             << ""
-             << "-- END --";
-    EXPECT_EQ(Written(), expected.Bytes());
+    const QByteArray plain = font(" 7 ", "False", " 0 ");
+    const QByteArray bold = font(" 7 ", "True", " 0 ");
+    const QByteArray fonts = bold + plain + plain + bold + plain + font(" 5 ", "False", " 0 ") + bold +
+                             plain + font(" 7 ", "True", " 16777215 ") + bold + plain +
+                             font(" 6 ", "True", " 0 ") + bold;
+    EXPECT_EQ(
+        Written(),
+        HeadOf("Version 10") +
+            LinesOf("New set;/sets/new.dkf;/out/;False;;;False;False; 0 ;False; 12632256 ;") + fonts +
+            LinesOf(
+                " 0 ; 0 ; 0 ; 1 ;CARD 1; 1 ;ENEMY-;Animal;-ENEMY;Animal;False; 0 ;2;True;; 0 ; 105 ; 0 ;") +
+            LinesOf(
+                "True;False;;;;; 1 ; 16777215 ;; 0 ; 0 ; 1 ;ENEMY-;-ENEMY;Animal;Animal; 2 ;;-- END --;"));
 }
 
 TEST_F(SetFileTest, EveryKindOfRecordSurvivesARoundTrip)
@@ -262,11 +166,11 @@ TEST_F(SetFileTest, WhatIsNoSetChangesNothing)
 {
     EXPECT_FALSE(Read("amber gnome - Varnhelm Deck Foundry\r\nVersion 10\r\n"));
     EXPECT_EQ(User.BoxTexts().back(), QStringLiteral("Open File Error|This is not a correct card set file."));
-    EXPECT_FALSE(Read(HeadOf("Version 11").Bytes()));
+    EXPECT_FALSE(Read(HeadOf("Version 11")));
     EXPECT_EQ(User.BoxTexts().back(),
               QStringLiteral("Version conflict|The set you are opening is from a newer "
                              "version.\r\nIt can not be opened in this version."));
-    EXPECT_FALSE(Read(HeadOf("Version10").Bytes()));
+    EXPECT_FALSE(Read(HeadOf("Version10")));
     EXPECT_EQ(User.BoxTexts().back(), ReadFailure + QStringLiteral("13, Type mismatch"));
     EXPECT_FALSE(ReadDKF(Set, Folder.Path(QStringLiteral("none.dkf")), User));
     EXPECT_EQ(User.BoxTexts().back(), ReadFailure + QStringLiteral("53, File not found"));
