@@ -137,6 +137,13 @@ bool MayDelete(UserPort& user, int16 count, const char* question, const QString&
     return answer == Answer::Yes;
 }
 
+void TellCopied(UserPort& user, const char* copyName)
+{
+    user.ShowMessage({.Text = QStringLiteral("The %1 is copied.").arg(QLatin1String(copyName)),
+                      .Title = QStringLiteral("Copy"),
+                      .Style = BoxStyle::Information});
+}
+
 QString PositionText(int16 index, int16 count)
 {
     return QStringLiteral("%1 (%2)").arg(index).arg(count);

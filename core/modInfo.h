@@ -33,6 +33,8 @@ struct Kind {
     void (*Init)(CardSet&, int16);
     const char* DeleteQuestion; ///< goes on with the name in quotes
     bool TellsOfLast;           ///< says why the last one stays; the other kinds stay silent
+    Record CardSet::*Clip;      ///< the copied element; null where nothing is copied
+    const char* CopyName;       ///< what the user is told that is copied
 };
 
 inline constexpr Kind<Card> StandardKind = {&CardSet::CardCount,
@@ -41,28 +43,36 @@ inline constexpr Kind<Card> StandardKind = {&CardSet::CardCount,
                                             &Card::Title,
                                             &InitCard,
                                             "Are you sure you want to delete the card ",
-                                            true};
+                                            true,
+                                            &CardSet::ClipCard,
+                                            "card"};
 inline constexpr Kind<LargeCard> LargeKind = {&CardSet::LargeCardCount,
                                               &CardSet::CurrentLargeCard,
                                               &CardSet::LargeCards,
                                               &LargeCard::Title,
                                               &InitLargeCard,
                                               "Are you sure you want to delete the card ",
-                                              false};
+                                              false,
+                                              &CardSet::ClipLargeCard,
+                                              "large card"};
 inline constexpr Kind<Character> CharacterKind = {&CardSet::CharacterCount,
                                                   &CardSet::CurrentCharacter,
                                                   &CardSet::Characters,
                                                   &Character::Name,
                                                   &InitCharacter,
                                                   "Are you sure you want to delete the character ",
-                                                  false};
+                                                  false,
+                                                  &CardSet::ClipCharacter,
+                                                  "character card"};
 inline constexpr Kind<NewCardBack> NewBackKind = {&CardSet::NewCardBackCount,
                                                   &CardSet::CurrentNewCardBack,
                                                   &CardSet::NewCardBacks,
                                                   &NewCardBack::Name,
                                                   &InitNewCardBack,
                                                   "Are you sure you want to delete the card back ",
-                                                  false};
+                                                  false,
+                                                  nullptr,
+                                                  nullptr};
 
 /// Adds an element at the end and makes it the current one. Error 6 past 32767; the set is then as before.
 template <class Record>
@@ -93,6 +103,24 @@ bool DeleteElement(CardSet& set, UserPort& user, const Kind<Record>& kind)
         set.*kind.Current = CheckedAdd(current, -1);
     set.*kind.Count = CheckedAdd(set.*kind.Count, -1);
     return true;
+}
+
+/// Says that an element of that name is copied.
+void TellCopied(UserPort& user, const char* copyName);
+
+/// Keeps a twin of the current element. It stays when the set is replaced, so that cards go from set to set.
+template <class Record>
+void CopyElement(CardSet& set, UserPort& user, const Kind<Record>& kind)
+{
+    set.*kind.Clip = (set.*kind.Records)[set.*kind.Current];
+    TellCopied(user, kind.CopyName);
+}
+
+/// Writes the twin over the current element: an empty one, if nothing of the kind was copied.
+template <class Record>
+void PasteElement(CardSet& set, const Kind<Record>& kind)
+{
+    (set.*kind.Records)[set.*kind.Current] = set.*kind.Clip;
 }
 
 /// "3 (12)": where the current element stands.

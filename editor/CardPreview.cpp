@@ -125,10 +125,7 @@ void CardPreview::paintEvent(QPaintEvent* /*event*/)
 {
     const QRect bounds = Bounds();
     QPainter painter(this);
-    const double scale = Zoom() / devicePixelRatioF();
-    painter.translate(0, height() - scale * bounds.height());
-    painter.scale(scale, scale);
-    painter.translate(-bounds.topLeft());
+    painter.setTransform(FromCard(), true);
 
     QHash<const Box*, Inside> insides;
     insides.insert(nullptr, {{0, 0}, bounds});
@@ -145,6 +142,22 @@ void CardPreview::paintEvent(QPaintEvent* /*event*/)
         PaintBox(painter, row, place);
         painter.restore();
     }
+}
+
+bool CardPreview::IsOnCard(QPointF point) const
+{
+    return FromCard().mapRect(QRectF(Bounds())).contains(point);
+}
+
+QTransform CardPreview::FromCard() const
+{
+    const QRect bounds = Bounds();
+    const double scale = Zoom() / devicePixelRatioF();
+    QTransform transform;
+    transform.translate(0, height() - scale * bounds.height());
+    transform.scale(scale, scale);
+    transform.translate(-bounds.left(), -bounds.top());
+    return transform;
 }
 
 QRect CardPreview::Bounds() const

@@ -2,6 +2,7 @@
 
 #include "compose/PreviewBoxes.h"
 
+#include <QTransform>
 #include <QWidget>
 
 class QPainter;
@@ -23,11 +24,15 @@ public:
     /// Pixels of the screen to one of the card, so that its lines are sharp on every screen.
     [[nodiscard]] int Zoom() const;
 
+    /// Whether a point of the widget is on the card or its back; the rest is background.
+    [[nodiscard]] bool IsOnCard(QPointF point) const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     [[nodiscard]] QRect Bounds() const;
+    [[nodiscard]] QTransform FromCard() const; ///< pixels of the card to points of the widget
 
     std::vector<PreviewBox> m_boxes;
 };

@@ -91,21 +91,38 @@ void frmQDW::ShowProgress(int done, int total)
 void frmQDW::BuildToolBar()
 {
     struct Command {
-        const char* Key; ///< also the name of its image
+        const char* Key; ///< also the name of its image; null for a separator
         const char* ToolTip;
         void (frmQDW::*Run)();
         QKeySequence Shortcut;
     };
     const Command commands[] = {
+        {"exit", "Exit deck forge", &frmQDW::Exit, {}},
+        {},
+        {"new", "New card set", &frmQDW::NewSet, {}},
         {"open", "Open card set", &frmQDW::OpenSet, Qt::CTRL | Qt::Key_O},
         {"save", "Save card set", &frmQDW::SaveSet, Qt::CTRL | Qt::Key_S},
+        {},
+        {"copy", "Copy current card", &frmQDW::CopyCard, {}},
+        {"paste", "Paste current card", &frmQDW::PasteCard, {}},
+        {},
+        {"exportback", "Export cardbacks to disk", &frmQDW::ExportBacks, {}},
         {"createone", "Create one card", &frmQDW::CreateOne, {}},
         {"createall", "Create all cards", &frmQDW::CreateAll, {}},
+        {"createsheet", "Create card sheets", &frmQDW::CreateSheets, {}},
+        {"html", "Generate HTML", &frmQDW::CreateHtml, {}},
+        {"exporttext", "Export set to textfile", &frmQDW::ExportListing, {}},
+        {},
+        {"statistics", "Show statistics", &frmQDW::ShowStatistics, {}},
     };
     QToolBar* const tbCardCreator = addToolBar(QStringLiteral("Commands"));
     tbCardCreator->setObjectName(QStringLiteral("tbCardCreator"));
     tbCardCreator->setMovable(false);
     for (const Command& command : commands) {
+        if (!command.Key) {
+            tbCardCreator->addSeparator();
+            continue;
+        }
         const QString key = QString::fromLatin1(command.Key);
         auto* const action = new QAction(QIcon(QStringLiteral(":/deckforge/toolbar/%1.svg").arg(key)),
                                          QString::fromLatin1(command.ToolTip), this);
@@ -127,6 +144,7 @@ void frmQDW::BuildForms()
     fraSet = MakeForm<QGroupBox>(*m_set, this);
     m_set->cboSaveFormat->addItems(SaveFormats());
     m_preview = new CardPreview(PreviewBoxes(m_workshop.Templates.Standard), this);
+    m_preview->setObjectName(QStringLiteral("preview"));
 }
 
 void frmQDW::BuildLayout()

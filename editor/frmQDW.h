@@ -52,6 +52,10 @@ public:
 
     [[nodiscard]] const Workshop& Works() const { return m_workshop; }
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
 private:
     enum class Guard { None, NotLoading };
 
@@ -84,8 +88,11 @@ private:
     void InitForm();
 
     // Commands on files (frmQDW_File.cpp)
+    void Exit();
+    void NewSet();
     void OpenSet();
     void SaveSet();
+    Answer AskToSave(BoxButtons buttons);
 
     // Cards of the set (frmQDW_Cards.cpp)
     void BindCards();
@@ -97,6 +104,8 @@ private:
     void NextCard();
     void AddCard();
     void DeleteCard();
+    void CopyCard();
+    void PasteCard();
     void ModeClicked();
 
     // Fields of the records (frmQDW_Fields.cpp)
@@ -126,9 +135,20 @@ private:
     void NoBackClicked();
     void SaveFormatChosen();
 
-    // Making images (frmQDW_Output.cpp)
+    // Making images, pages and listings (frmQDW_Output.cpp)
+    void ExportBacks();
     void CreateOne();
     void CreateAll();
+    void CreateSheets();
+    void ShowAfterRun();
+    void CreateHtml();
+    void ExportListing();
+    void ShowStatistics();
+
+    // Help (frmQDW_Help.cpp)
+    void ShowHelp();
+    void ShowVersion();
+    [[nodiscard]] bool IsBackground(QPoint point) const;
 
     // Handlers
     template <class Sender, class Signal, class Handler>

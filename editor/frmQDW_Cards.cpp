@@ -28,6 +28,7 @@ void frmQDW::BindCards()
     On(form.cmdCardAdd, &QPushButton::clicked, [this] { AddCard(); });
     On(form.cmdCardDelete, &QPushButton::clicked, [this] { DeleteCard(); });
     On(tbCard, &QTabBar::tabBarClicked, [this] { ModeClicked(); });
+    On(new QShortcut(Qt::CTRL | Qt::Key_N, this), &QShortcut::activated, [this] { AddCard(); });
     On(new QShortcut(Qt::CTRL | Qt::Key_Comma, this), &QShortcut::activated, [this] { PreviousCard(); });
     On(new QShortcut(Qt::CTRL | Qt::Key_Period, this), &QShortcut::activated, [this] { NextCard(); });
 }
@@ -92,6 +93,17 @@ void frmQDW::DeleteCard()
     ShowCard(set.CurrentCard);
     m_card->hsbCard->setMaximum(set.CardCount);
     FillPosition(set.CurrentCard);
+}
+
+void frmQDW::CopyCard()
+{
+    CopyElement(m_workshop.Set, m_workshop.User, StandardKind);
+}
+
+void frmQDW::PasteCard()
+{
+    PasteElement(m_workshop.Set, StandardKind);
+    ShowCard(m_workshop.Set.CurrentCard);
 }
 
 void frmQDW::ModeClicked()

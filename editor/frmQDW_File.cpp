@@ -9,6 +9,18 @@
 
 namespace deckforge {
 
+void frmQDW::Exit()
+{
+    if (AskToSave(BoxButtons::YesNoCancel) != Answer::Cancel)
+        close();
+}
+
+void frmQDW::NewSet()
+{
+    AskToSave(BoxButtons::YesNo);
+    InitForm();
+}
+
 void frmQDW::OpenSet()
 {
     if (const auto path = AskSetToOpen(m_workshop.User))
@@ -18,6 +30,19 @@ void frmQDW::OpenSet()
 void frmQDW::SaveSet()
 {
     deckforge::SaveSet(m_workshop.Set, m_workshop.User);
+}
+
+/// Nobody keeps account of changes: the question comes every time. A save that is cancelled keeps nothing
+/// from going on.
+Answer frmQDW::AskToSave(BoxButtons buttons)
+{
+    const Answer answer = m_workshop.User.ShowMessage({.Text = QStringLiteral("Save current set?"),
+                                                       .Title = QStringLiteral("Save..."),
+                                                       .Style = BoxStyle::Question,
+                                                       .Buttons = buttons});
+    if (answer == Answer::Yes)
+        SaveSet();
+    return answer;
 }
 
 void frmQDW::DoOpenDKF(const QString& path)

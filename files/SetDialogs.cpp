@@ -30,4 +30,17 @@ std::optional<QString> AskSetToOpen(UserPort& user)
     return user.AskOpenFile(SetFileDialog("Open card template", {}));
 }
 
+void ExportText(const CardSet& set, UserPort& user)
+{
+    const std::optional<QString> path =
+        user.AskSaveFile({.Title = QStringLiteral("Save set as text"),
+                          .FileName = set.Header.SetName + QStringLiteral(".txt"),
+                          .Filter = QStringLiteral("All files(*.*)|*.*|Text file (*.txt)|*.txt"),
+                          .FilterIndex = 2,
+                          .DefaultExtension = QStringLiteral("txt"),
+                          .Folder = {}});
+    if (path)
+        ExportSetText(set, *path, user);
+}
+
 } // namespace deckforge

@@ -36,6 +36,9 @@ void SaveSet(CardSet& set, UserPort& user);
 /// and user-designed backs are no part of it. A failure is told in a box, and what was written stays.
 bool ExportSetText(const CardSet& set, const QString& path, UserPort& user);
 
+/// Asks where to, and writes the listing there; nothing on a cancel.
+void ExportText(const CardSet& set, UserPort& user);
+
 /// Tells a failure that ended a write.
 void TellNotSaved(UserPort& user, const RunTimeError& error);
 

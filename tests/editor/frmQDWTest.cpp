@@ -1,17 +1,22 @@
 #include "editor/frmQDW.h"
 
 #include "core/modInfo.h"
+#include "dialogs/frmCardSheet.h"
 #include "files/modFile.h"
 #include "support/ScriptedUser.h"
 #include "support/TestFolder.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace deckforge {
@@ -37,6 +42,7 @@ protected:
         QTest::keyClicks(&box, text);
     }
     void Click(const char* name) { QTest::mouseClick(&Find<QPushButton>(name), Qt::LeftButton); }
+    void Run(const char* command) { Find<QAction>(command).trigger(); }
     QString Position() { return Find<QLabel>("lblCurrentCard").text(); }
     const CardSet& Set() const { return window.Works().Set; }
     const CardTemplate& Preview() const { return window.Works().Templates.Standard; }
@@ -191,6 +197,133 @@ TEST_F(frmQDWTest, OnlyCardStays)
     EXPECT_EQ(user.LastBox().Text,
               QStringLiteral("You have only one card in your set. This can't be deleted."));
     EXPECT_EQ(Set().CardCount, 1);
+}
+
+TEST_F(frmQDWTest, NewSetComesAfterItsQuestionAndKeepsTheSavedOne)
+{
+    const QString path = folder.Path(QStringLiteral("old.dkf"));
+    Click("cmdCardAdd");
+    Type("txtSetname", QStringLiteral("Old"));
+    user.WillAnswer(Answer::Yes);
+    user.WillChoose(path);
+    Run("new");
+    EXPECT_EQ(user.Boxes.front().Title + user.Boxes.front().Text, QStringLiteral("Save...Save current set?"));
+    EXPECT_EQ(user.Boxes.front().Buttons, BoxButtons::YesNo);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("New set - Varnhelm Deck Forge"));
+    EXPECT_EQ(Position(), QStringLiteral("1 (1)"));
+    EXPECT_EQ(Find<QScrollBar>("hsbCard").maximum(), 1);
+    EXPECT_EQ(Text("txtTitle"), QStringLiteral("CARD 1"));
+    window.Start(path);
+    EXPECT_EQ(Position(), QStringLiteral("1 (2)"));
+    EXPECT_EQ(Text("txtSetname"), QStringLiteral("Old"));
+}
+
+TEST_F(frmQDWTest, OnlyCancelOfTheQuestionKeepsTheWindowOpen)
+{
+    window.show();
+    user.WillAnswer(Answer::Cancel);
+    Run("exit");
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(user.LastBox().Buttons, BoxButtons::YesNoCancel);
+    user.WillAnswer(Answer::Yes);
+    user.WillCancelDialog();
+    Run("exit");
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(frmQDWTest, CopiedCardIsPastedIntoAnotherSet)
+{
+    Type("txtTitle", QStringLiteral("Imp"));
+    Type("txtArtist", QStringLiteral("A. Painter"));
+    Run("copy");
+    EXPECT_EQ(user.BoxTexts(), std::vector{QStringLiteral("Copy|The card is copied.")});
+    Type("txtTitle", QStringLiteral("Troll"));
+    user.WillAnswer(Answer::No);
+    Run("new");
+    OpenChangedSet([](CardSet& set) { AddElement(set, StandardKind); });
+    Find<QScrollBar>("hsbCard").setValue(2);
+    Run("paste");
+    EXPECT_EQ(Text("txtTitle"), QStringLiteral("Imp"));
+    EXPECT_EQ(Text("txtArtist"), QStringLiteral("A. Painter"));
+    EXPECT_EQ(Set().Cards[2].Title, QStringLiteral("Imp"));
+    EXPECT_EQ(Set().Cards[1].Title, QStringLiteral("CARD 1"));
+    EXPECT_EQ(Set().CardCount, 2);
+}
+
+TEST_F(frmQDWTest, PasteBeforeAnyCopyEmptiesTheCard)
+{
+    Run("paste");
+    EXPECT_TRUE(user.Boxes.empty()) << user.Boxes.front().Text.toStdString();
+    EXPECT_EQ(Text("txtTitle"), QString());
+    EXPECT_EQ(Set().Cards[1].CardBack, 0);
+}
+
+TEST_F(frmQDWTest, HelpAnswersWhateverModifierIsHeld)
+{
+    window.show();
+    window.activateWindow();
+    for (const Qt::KeyboardModifiers held : {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier}) {
+        user.Boxes.clear();
+        QTest::keyClick(&Find<QPlainTextEdit>("txtInfo"), Qt::Key_F1, held);
+        EXPECT_EQ(user.LastBox().Title, QStringLiteral("Help"));
+        EXPECT_EQ(user.LastBox().Text, QStringLiteral("This is a very small help.\r\n"
+                                                      "\r\n"
+                                                      "Shortcuts\r\n"
+                                                      "  Ctrl-S - Save card set\r\n"
+                                                      "  Ctrl-O - Open card set\r\n"
+                                                      "  Ctrl-N - New card\r\n"
+                                                      "  Ctrl-, - Previous card\r\n"
+                                                      "  Ctrl-. - Next card\r\n"
+                                                      "\r\n"
+                                                      "Click on a picture and nudge it with arrow keys.\r\n"
+                                                      "Change frame size with shift+arrow keys."));
+    }
+}
+
+TEST_F(frmQDWTest, BackgroundTellsTheVersionAndTheCardDoesNot)
+{
+    window.resize(1000, 800);
+    window.show();
+    const auto doubleClick = [&](const char* name, QPoint point) {
+        auto& control = Find<QWidget>(name);
+        const QPoint inWindow = control.mapTo(&window, point);
+        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, inWindow);
+    };
+    doubleClick("preview", {20, Find<QWidget>("preview").height() - 20});
+    doubleClick("lblCurrentCard", {2, 2});
+    EXPECT_TRUE(user.Boxes.empty());
+    doubleClick("preview", {20, 2});
+    EXPECT_EQ(user.BoxTexts(), std::vector{QStringLiteral("Hello!|Version 1.7.4")});
+}
+
+TEST_F(frmQDWTest, SheetDialogStartsAtTwoByThreeAndFollowsTheOptions)
+{
+    QString preset;
+    QString larger;
+    QTimer::singleShot(0, [&] {
+        auto* const dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        auto* const lblSize = dialog->findChild<QLabel*>(QStringLiteral("lblSize"));
+        preset = lblSize->text();
+        dialog->findChild<QRadioButton*>(QStringLiteral("optCol6"))->click();
+        dialog->findChild<QRadioButton*>(QStringLiteral("optRow8"))->click();
+        larger = lblSize->text();
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    const std::optional<SheetGrid> grid = AskSheetGrid(false, nullptr);
+    EXPECT_EQ(preset, QStringLiteral("768 x 508"));
+    EXPECT_EQ(larger, QStringLiteral("2048 x 1524"));
+    ASSERT_TRUE(grid.has_value());
+    EXPECT_EQ(grid->Cols, 6);
+    EXPECT_EQ(grid->Rows, 8);
+    EXPECT_EQ(SheetSizeText({.Cols = 1, .Rows = 1}, true), QStringLiteral("256 x 152"));
+}
+
+TEST_F(frmQDWTest, EscapeOfTheSheetDialogMakesNoSheet)
+{
+    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    Run("createsheet");
+    EXPECT_EQ(user.BoxTexts(), std::vector{QStringLiteral("Create cardsheets|0 cardsheets are created.")});
 }
 
 } // namespace

@@ -1,0 +1,112 @@
+#include "dialogs/frmCardSheet.h"
+
+#include "ui_frmCardSheet.h"
+
+#include <QButtonGroup>
+#include <QPainter>
+#include <QRadioButton>
+
+namespace deckforge {
+
+namespace {
+
+constexpr QSize CardSize = {16, 27}; ///< of a card of the preview, about as wide and high as a card is
+constexpr int Step = 3;              ///< from card to card, beside its size
+constexpr QRgb Paper = qRgb(247, 241, 222);
+constexpr QRgb Ink = qRgb(90, 74, 51);
+constexpr QRgb Sky = qRgb(106, 160, 216);
+
+QRect CellPlace(int col, int row)
+{
+    return {QPoint(col * (CardSize.width() + Step), row * (CardSize.height() + Step)), CardSize};
+}
+
+/// As many small cards as the sheet has cells; room for the largest sheet, so that nothing moves.
+QPixmap GridPicture(SheetGrid grid, double ratio)
+{
+    const QRect last = CellPlace(SheetGrid::MostCols - 1, SheetGrid::MostRows - 1);
+    QPixmap picture((QSizeF(last.right() + 1, last.bottom() + 1) * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    for (int row = 0; row < grid.Rows; ++row) {
+        for (int col = 0; col < grid.Cols; ++col) {
+            const QRect place = CellPlace(col, row);
+            painter.fillRect(place, QColor(Ink));
+            painter.fillRect(place.adjusted(1, 1, -1, -1), QColor(Paper));
+            painter.fillRect(place.adjusted(3, 6, -3, -12), QColor(Sky));
+        }
+    }
+    return picture;
+}
+
+/// Fills a frame with the numbers from 1, as option buttons named after what they choose; shows the preset.
+QButtonGroup* AddOptions(QGroupBox* frame, const char* name, int most, int preset)
+{
+    auto* const group = new QButtonGroup(frame);
+    for (int i = 1; i <= most; ++i) {
+        auto* const option = new QRadioButton(QString::number(i), frame);
+        option->setObjectName(QLatin1String(name) + QString::number(i));
+        option->setChecked(i == preset);
+        frame->layout()->addWidget(option);
+        group->addButton(option, i);
+    }
+    return group;
+}
+
+/// The numbers stand on their buttons; what is chosen is what is checked.
+class SheetDialog final : public QDialog {
+public:
+    SheetDialog(bool noBack, QWidget* window) : QDialog(window), m_noBack(noBack)
+    {
+        m_form.setupUi(this);
+        optCol = AddOptions(m_form.fraCols, "optCol", SheetGrid::MostCols, SheetGrid().Cols);
+        optRow = AddOptions(m_form.fraRows, "optRow", SheetGrid::MostRows, SheetGrid().Rows);
+        for (QButtonGroup* options : {optCol, optRow})
+            connect(options, &QButtonGroup::idClicked, this, [this] { Refresh(); });
+        connect(m_form.cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+        connect(m_form.cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+        Refresh();
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+        optCol->checkedButton()->setFocus();
+    }
+
+    [[nodiscard]] SheetGrid Grid() const
+    {
+        return {static_cast<int16>(optCol->checkedId()), static_cast<int16>(optRow->checkedId())};
+    }
+
+private:
+    void Refresh()
+    {
+        m_form.imgSheet->setPixmap(GridPicture(Grid(), devicePixelRatioF()));
+        m_form.lblSize->setText(SheetSizeText(Grid(), m_noBack));
+    }
+
+    bool m_noBack;
+    Ui::frmCardSheet m_form;
+    QButtonGroup* optCol;
+    QButtonGroup* optRow;
+};
+
+} // namespace
+
+std::optional<SheetGrid> AskSheetGrid(bool noBack, QWidget* window)
+{
+    SheetDialog dialog(noBack, window);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Grid();
+}
+
+QString SheetSizeText(SheetGrid grid, bool noBack)
+{
+    constexpr int cardHeight = 256;
+    constexpr int cardWidth = 152;
+    constexpr int widthWithBack = 254; // less than the sheet has, but what has always been told
+    return QStringLiteral("%1 x %2")
+        .arg(grid.Rows * cardHeight)
+        .arg(grid.Cols * (noBack ? cardWidth : widthWithBack));
+}
+
+} // namespace deckforge
