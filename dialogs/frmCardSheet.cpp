@@ -48,6 +48,8 @@ QButtonGroup* AddOptions(QGroupBox* frame, const char* name, int most, int prese
         auto* const option = new QRadioButton(QString::number(i), frame);
         option->setObjectName(QLatin1String(name) + QString::number(i));
         option->setChecked(i == preset);
+        // Tab stops at the checked button alone. The group sees to that, but not before it had the focus.
+        option->setFocusPolicy(i == preset ? Qt::StrongFocus : Qt::ClickFocus);
         frame->layout()->addWidget(option);
         group->addButton(option, i);
     }

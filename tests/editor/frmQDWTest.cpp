@@ -13,7 +13,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
@@ -296,26 +295,27 @@ TEST_F(frmQDWTest, BackgroundTellsTheVersionAndTheCardDoesNot)
     EXPECT_EQ(user.BoxTexts(), std::vector{QStringLiteral("Hello!|Version 1.7.4")});
 }
 
-TEST_F(frmQDWTest, SheetDialogStartsAtTwoByThreeAndFollowsTheOptions)
+TEST_F(frmQDWTest, SheetDialogStartsAtTwoByThreeAndFollowsTheKeys)
 {
     QString preset;
-    QString larger;
+    QString chosen;
     QTimer::singleShot(0, [&] {
-        auto* const dialog = QApplication::activeModalWidget();
+        QWidget* const dialog = QApplication::activeModalWidget();
         ASSERT_NE(dialog, nullptr);
-        auto* const lblSize = dialog->findChild<QLabel*>(QStringLiteral("lblSize"));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(dialog)); // or else the options do not take keys
+        const auto* const lblSize = dialog->findChild<QLabel*>(QStringLiteral("lblSize"));
         preset = lblSize->text();
-        dialog->findChild<QRadioButton*>(QStringLiteral("optCol6"))->click();
-        dialog->findChild<QRadioButton*>(QStringLiteral("optRow8"))->click();
-        larger = lblSize->text();
+        for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Tab, Qt::Key_Down})
+            QTest::keyClick(dialog->focusWidget(), key);
+        chosen = lblSize->text();
         QTest::keyClick(dialog, Qt::Key_Return);
     });
     const std::optional<SheetGrid> grid = AskSheetGrid(false, nullptr);
     EXPECT_EQ(preset, QStringLiteral("768 x 508"));
-    EXPECT_EQ(larger, QStringLiteral("2048 x 1524"));
+    EXPECT_EQ(chosen, QStringLiteral("1024 x 254"));
     ASSERT_TRUE(grid.has_value());
-    EXPECT_EQ(grid->Cols, 6);
-    EXPECT_EQ(grid->Rows, 8);
+    EXPECT_EQ(grid->Cols, 1);
+    EXPECT_EQ(grid->Rows, 4);
     EXPECT_EQ(SheetSizeText({.Cols = 1, .Rows = 1}, true), QStringLiteral("256 x 152"));
 }
 
