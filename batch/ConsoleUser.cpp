@@ -30,6 +30,16 @@ std::optional<QString> ConsoleUser::BrowseForFolder()
     return std::nullopt;
 }
 
+std::optional<Colour> ConsoleUser::AskColour(const QString& /*title*/, Colour /*colour*/)
+{
+    return std::nullopt;
+}
+
+std::optional<FontSpec> ConsoleUser::AskFont(const QString& /*title*/, const FontSpec& /*font*/)
+{
+    return std::nullopt;
+}
+
 void ConsoleUser::SetPointer(Pointer /*pointer*/) {}
 
 void ConsoleUser::ShowProgress(int done, int total)

@@ -12,6 +12,8 @@ public:
     std::optional<QString> AskOpenFile(const FileDialogRequest& request) override;
     std::optional<QString> AskSaveFile(const FileDialogRequest& request) override;
     std::optional<QString> BrowseForFolder() override;
+    std::optional<Colour> AskColour(const QString& title, Colour colour) override;
+    std::optional<FontSpec> AskFont(const QString& title, const FontSpec& font) override;
     void SetPointer(Pointer pointer) override;
     void ShowProgress(int done, int total) override;
 

@@ -11,6 +11,14 @@ public:
     std::optional<QString> AskOpenFile(const FileDialogRequest& /*request*/) override { return std::nullopt; }
     std::optional<QString> AskSaveFile(const FileDialogRequest& /*request*/) override { return std::nullopt; }
     std::optional<QString> BrowseForFolder() override { return std::nullopt; }
+    std::optional<Colour> AskColour(const QString& /*title*/, Colour /*colour*/) override
+    {
+        return std::nullopt;
+    }
+    std::optional<FontSpec> AskFont(const QString& /*title*/, const FontSpec& /*font*/) override
+    {
+        return std::nullopt;
+    }
     void SetPointer(Pointer /*pointer*/) override {}
     void ShowProgress(int /*done*/, int /*total*/) override {}
 };

@@ -37,9 +37,9 @@ void Box::SetHeight(int height)
     Height = CheckedExtent(height);
 }
 
-void Box::ShowAtNaturalSize(const Picture& picture, QSize withoutPicture)
+void Box::ShowAtNaturalSize(const Picture& picture)
 {
-    const QSize size = picture.IsEmpty() ? withoutPicture : picture.Size();
+    const QSize size = picture.IsEmpty() ? Design : picture.Size();
     Width = size.width();
     Height = size.height();
     Surface->SetSize(size);

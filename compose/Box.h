@@ -29,6 +29,7 @@ struct Box {
     Alignment Align = Alignment::Left;
 
     std::optional<PictureBox> Surface = {};
+    QSize Design = {}; ///< of a box with a surface, before it shows anything
 
     [[nodiscard]] QRect Place() const { return {Left, Top, Width, Height}; }
     [[nodiscard]] int BorderWidth() const { return Border == BorderStyle::Single ? 1 : 0; }
@@ -37,9 +38,8 @@ struct Box {
     void SetWidth(int width);
     void SetHeight(int height);
 
-    /// Shows the picture at its natural size and takes that size. Without a picture the box takes the size
-    /// given, that of its design.
-    void ShowAtNaturalSize(const Picture& picture, QSize withoutPicture);
+    /// Shows the picture at its natural size and takes that size; without a picture that of its design.
+    void ShowAtNaturalSize(const Picture& picture);
 
     /// Puts the box at a stored offset. One past what a screen could hold counts as the edge of that.
     void MoveToTwips(double left, double top);

@@ -94,12 +94,11 @@ void ShowRun::Answer(const RunTimeError& error)
     }
 }
 
-void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QString& path,
-                       QSize withoutPicture)
+void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QString& path)
 {
-    run([&] { image.ShowAtNaturalSize(workshop.Pictures.LoadPicture(path), withoutPicture); });
+    run([&] { image.ShowAtNaturalSize(workshop.Pictures.LoadPicture(path)); });
     if (image.Surface->GetPicture().IsEmpty())
-        image.ShowAtNaturalSize({}, withoutPicture);
+        image.ShowAtNaturalSize({});
     image.Surface->Refresh();
 }
 

@@ -89,8 +89,7 @@ private:
 
 /// Loads the picture of a frame, and repaints its box at once: what was told on that box of a missing file
 /// goes with it.
-void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QString& path,
-                       QSize withoutPicture);
+void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QString& path);
 
 /// Runs a Show... routine to its end. A failure that leaves it is told in a box, and the result is false.
 template <class Routine>

@@ -53,6 +53,7 @@ Box Surface(Box box, int scale)
 {
     const int border = 2 * box.BorderWidth();
     box.Surface.emplace(QSize(box.Width - border, box.Height - border), scale);
+    box.Design = {box.Width, box.Height};
     return box;
 }
 
@@ -157,7 +158,7 @@ PlayingPieceTemplate::PlayingPieceTemplate(int scale)
       lblPlayingPieceName(Label("lblPlayingPieceName", {8, 10, 132, 13}, Alignment::Centre)),
       picPlayingPieceFrame(Label("picPlayingPieceFrame", {9, 24, 132, 222})),
       picPlayingPieceImage(PictureAt("picPlayingPieceImage", {0, 0, 132, 222}, scale)),
-      lblWatermark(Watermark({0, 246, 152, 9}))
+      CutLine(Bordered(Label("CutLine", {8, 8, 134, 239}))), lblWatermark(Watermark({0, 246, 152, 9}))
 {
 }
 

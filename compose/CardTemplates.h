@@ -74,7 +74,7 @@ struct CharacterTemplate {
     Box picCharacterBack;
 };
 
-/// The stand-up piece of a character. Its cut line is CutLine.
+/// The stand-up piece of a character.
 struct PlayingPieceTemplate {
     explicit PlayingPieceTemplate(int scale);
 
@@ -82,10 +82,8 @@ struct PlayingPieceTemplate {
     Box lblPlayingPieceName;
     Box picPlayingPieceFrame;
     Box picPlayingPieceImage;
+    Box CutLine;
     Box lblWatermark;
-
-    static constexpr QPoint CutLineFrom = {8, 8};
-    static constexpr QPoint CutLineTo = {141, 246};
 };
 
 /// A user-designed back, drawn lying on its side.

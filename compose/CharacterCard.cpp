@@ -13,8 +13,6 @@ constexpr int FramedHeight = 218;
 constexpr int UnframedHeight = 220;
 constexpr int TextRight = 272;
 constexpr int UserDefinedBack = 3;
-constexpr QSize EmptyPictureSize = {121, 220};
-constexpr QSize EmptyPieceSize = {132, 222};
 
 // Preview
 
@@ -47,12 +45,17 @@ void ShowTexts(Workshop& workshop, const Character& character, int16 index)
     t.lblAutonumberCharacter.Caption = QString::number(index);
 }
 
+void PlacePiece(PlayingPieceTemplate& t, const Character& character)
+{
+    t.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft, character.PlayingPieceTop);
+}
+
 void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
 {
     CardTemplate& standard = workshop.Templates.Standard;
     CharacterTemplate& t = workshop.Templates.Character;
     run.LoadsFor(standard.picImage, character.Picture);
-    LoadFramedPicture(run, workshop, t.picImageCharacter, character.Picture, EmptyPictureSize);
+    LoadFramedPicture(run, workshop, t.picImageCharacter, character.Picture);
     t.picImageCharacter.MoveToTwips(character.PictureLeft, character.PictureTop);
 
     // Back and piece are told as a missing background, too.
@@ -67,8 +70,8 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
                                                    : workshop.Art.imgChB(character.CardBack));
     });
     PlayingPieceTemplate& piece = workshop.Templates.PlayingPiece;
-    LoadFramedPicture(run, workshop, piece.picPlayingPieceImage, character.PlayingPiece, EmptyPieceSize);
-    piece.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft, character.PlayingPieceTop);
+    LoadFramedPicture(run, workshop, piece.picPlayingPieceImage, character.PlayingPiece);
+    PlacePiece(piece, character);
     piece.lblPlayingPieceName.Caption = character.Name;
 }
 
@@ -180,9 +183,8 @@ void DrawPlayingPiece(Workshop& workshop, int16 index)
     BeginCard(picACardPP, t.picPlayingPiece);
     PaintPictureBlock(picACardPP, workshop.Surfaces.picWhite,
                       PiecePicture(t, workshop.Set.Characters[index]));
-    const QPoint from = PlayingPieceTemplate::CutLineFrom;
-    const QPoint to = PlayingPieceTemplate::CutLineTo;
-    picACardPP.LineBox(from.x(), from.y(), to.x(), to.y());
+    const QRect cutLine = t.CutLine.Place();
+    picACardPP.LineBox(cutLine.left(), cutLine.top(), cutLine.right(), cutLine.bottom());
     // The piece's font goes to the card surface, not to the piece's own: the name below is printed in
     // whatever font the last watermark left there, and the outline of the next card has this colour. Cards
     // made so far look like this.
@@ -220,6 +222,18 @@ void PlaceCharacterPicture(Workshop& workshop, int16 index)
     t.picImageCharacter.MoveToTwips(character.PictureLeft, character.PictureTop);
 }
 
+void PlacePlayingPiecePicture(Workshop& workshop, int16 index)
+{
+    PlacePiece(workshop.Templates.PlayingPiece, workshop.Set.Characters[index]);
+}
+
+void PlaceHandle(CharacterTemplate& t, int left)
+{
+    t.lblPicSizeCharacter.Left = left;
+    t.picFrameCharacter.SetWidth(left - t.picFrameCharacter.Left);
+    PlaceTexts(t);
+}
+
 void ShowCharacterFrame(CharacterTemplate& t, bool visible)
 {
     t.picFrameCharacter.Visible = visible;
@@ -241,6 +255,11 @@ void DrawCharAttribute(Workshop& workshop, int index, const QString& value)
     picCharAttribute.Freeze();
     RotatePicture(picCharAttribute, *workshop.Templates.Character.picCharAttrDisp[row].Surface,
                   strip.Direction);
+}
+
+QString CharacterFrameSizeText(const Box& frame)
+{
+    return QStringLiteral("(%1W*%2H)").arg(frame.Width).arg(frame.Height);
 }
 
 } // namespace deckforge

@@ -15,11 +15,20 @@ bool ShowCharacter(Workshop& workshop, int16 index);
 /// Lays out again the frame and the text beside it; the picture is not loaded anew.
 void PlaceCharacterPicture(Workshop& workshop, int16 index);
 
+/// Lays out again only the picture of the playing piece.
+void PlacePlayingPiecePicture(Workshop& workshop, int16 index);
+
+/// Ends the frame where its handle now is, and lays the text out beside it.
+void PlaceHandle(CharacterTemplate& t, int left);
+
 /// Shows or hides frame and handle, and lays the text beside them out.
 void ShowCharacterFrame(CharacterTemplate& t, bool visible);
 
 /// Draws one attribute, from 0 strength, craft, gold, lives, on its side into its strip of the preview. "---"
 /// gives the word alone; a value without "+" is set off by a blank.
 void DrawCharAttribute(Workshop& workshop, int index, const QString& value);
+
+/// "(100W*220H)": the frame's size.
+[[nodiscard]] QString CharacterFrameSizeText(const Box& frame);
 
 } // namespace deckforge

@@ -1,5 +1,6 @@
 #include "compose/LargeCard.h"
 
+#include "compose/Attempt.h"
 #include "compose/CardPainting.h"
 #include "compose/FontScheme.h"
 #include "platform/Twips.h"
@@ -12,7 +13,6 @@ constexpr int FrameTop = 8;
 constexpr int FrameHeight = 238;
 constexpr int HandleLeftWithoutPicture = 5;
 constexpr int TextRight = 296;
-constexpr QSize EmptyPictureSize = {121, 238};
 
 /// The picture of the back where the card names none.
 constexpr int DefaultBack = 3;
@@ -22,6 +22,7 @@ constexpr int DefaultBack = 3;
 void PlaceFrame(ShowRun& run, LargeCardTemplate& t, const LargeCard& card)
 {
     t.picFrameLarge.Visible = card.ShowPicture;
+    t.lblPicSizeLarge.Visible = card.ShowPicture;
     t.picFrameLarge.Border = card.Frame ? BorderStyle::Single : BorderStyle::None;
     run([&] { t.picFrameLarge.SetWidth(card.FrameHeight); });
 }
@@ -31,12 +32,12 @@ int HandleLeftAtFrame(const LargeCardTemplate& t)
     return t.picFrameLarge.Left + t.picFrameLarge.Width;
 }
 
-/// Title and information stand at the right of the handle.
-void PlaceTexts(ShowRun& run, LargeCardTemplate& t)
+/// Title and information stand at the right of the handle; where no room is left a box keeps its width.
+void PlaceTexts(LargeCardTemplate& t)
 {
     for (Box* label : {&t.lblTitleLarge, &t.lblInformationLarge}) {
         label->Left = t.lblPicSizeLarge.Left + t.lblPicSizeLarge.Width;
-        run([&] { label->SetWidth(TextRight - label->Left); });
+        Attempt([&] { label->SetWidth(TextRight - label->Left); });
     }
 }
 
@@ -59,7 +60,7 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const LargeCard& card)
     CardTemplate& standard = workshop.Templates.Standard;
     LargeCardTemplate& t = workshop.Templates.Large;
     run.LoadsFor(standard.picImage, card.Picture);
-    LoadFramedPicture(run, workshop, t.picImageLarge, card.Picture, EmptyPictureSize);
+    LoadFramedPicture(run, workshop, t.picImageLarge, card.Picture);
     PlacePictureInFrame(t, card);
 
     run.LoadsFor(standard.picCard, card.Background);
@@ -118,7 +119,7 @@ bool ShowLargeCard(Workshop& workshop, int16 index)
         t.lblInformationLarge.Caption = card.Info;
         PlaceFrame(run, t, card);
         t.lblPicSizeLarge.Left = card.ShowPicture ? HandleLeftAtFrame(t) : HandleLeftWithoutPicture;
-        PlaceTexts(run, t);
+        PlaceTexts(t);
         t.lblAutonumberLarge.Caption = QString::number(index);
         LoadPictures(run, workshop, card);
         DrawLargeCard(workshop, index);
@@ -134,6 +135,21 @@ void PlaceLargePicture(Workshop& workshop, int16 index)
     t.lblPicSizeLarge.Left = HandleLeftAtFrame(t);
     t.picImageLarge.Surface->Refresh();
     PlacePictureInFrame(t, card);
+}
+
+void PlaceHandle(LargeCardTemplate& t, int left)
+{
+    t.lblPicSizeLarge.Left = left;
+    t.picFrameLarge.SetWidth(left - t.picFrameLarge.Left);
+    PlaceTexts(t);
+}
+
+void ShowLargeFrame(LargeCardTemplate& t, bool visible)
+{
+    t.picFrameLarge.Visible = visible;
+    t.lblPicSizeLarge.Visible = visible;
+    t.lblPicSizeLarge.Left = visible ? HandleLeftAtFrame(t) : 0;
+    PlaceTexts(t);
 }
 
 } // namespace deckforge

@@ -14,4 +14,10 @@ bool ShowLargeCard(Workshop& workshop, int16 index);
 /// Lays out again only the frame; the picture is not loaded anew.
 void PlaceLargePicture(Workshop& workshop, int16 index);
 
+/// Ends the frame where its handle now is, and lays the texts out beside it.
+void PlaceHandle(LargeCardTemplate& t, int left);
+
+/// Shows or hides the picture with its frame and handle; without them the texts take their room.
+void ShowLargeFrame(LargeCardTemplate& t, bool visible);
+
 } // namespace deckforge

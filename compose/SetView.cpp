@@ -9,17 +9,38 @@ namespace deckforge {
 
 namespace {
 
+/// A symbol and the card that it stands on: in the lower left or right corner, a margin away from the edges.
 struct SymbolPlace {
     Box& Symbol;
     const Box& Parent;
     bool AtRightEdge;
+    int Margin;
 };
 
-std::array<SymbolPlace, 3> SymbolPlaces(CardTemplates& templates)
+constexpr int SymbolMargin = 2;
+
+std::array<SymbolPlace, 3> SymbolPlaces(CardTemplates& t)
 {
-    return {{{templates.Standard.picSymbol, templates.Standard.picCard, false},
-             {templates.Large.picSymbolLarge, templates.Large.picCardLarge, true},
-             {templates.Character.picSymbolCharacter, templates.Character.picBackgroundChar, true}}};
+    return {{{t.Standard.picSymbol, t.Standard.picCard, false, SymbolMargin},
+             {t.Large.picSymbolLarge, t.Large.picCardLarge, true, SymbolMargin},
+             {t.Character.picSymbolCharacter, t.Character.picBackgroundChar, true, SymbolMargin}}};
+}
+
+std::array<SymbolPlace, 3> ChosenSymbolPlaces(CardTemplates& t)
+{
+    constexpr int characterMargin = 16;
+    return {{{t.Standard.picSymbol, t.Standard.picCard, false, SymbolMargin},
+             {t.Large.picSymbolLarge, t.Large.picCardLarge, true, SymbolMargin},
+             {t.Character.picSymbolCharacter, t.Character.picCharacter, true, characterMargin}}};
+}
+
+void PlaceSymbol(const SymbolPlace& place, const Picture& symbol)
+{
+    Box& box = place.Symbol;
+    box.Visible = !symbol.IsEmpty();
+    box.ShowAtNaturalSize(symbol);
+    box.Left = place.AtRightEdge ? place.Parent.Width - box.Width - place.Margin : 0;
+    box.Top = place.Parent.Height - box.Height - place.Margin;
 }
 
 /// The symbol of the set; none when it has none or it cannot be loaded.
@@ -30,19 +51,6 @@ Picture LoadSymbol(Workshop& workshop)
     } catch (const RunTimeError& error) {
         TellUntrapped(workshop.User, error);
         return {};
-    }
-}
-
-void PlaceSymbols(Workshop& workshop)
-{
-    constexpr int margin = 2;
-    const Picture symbol = LoadSymbol(workshop);
-    for (const SymbolPlace& place : SymbolPlaces(workshop.Templates)) {
-        Box& box = place.Symbol;
-        box.Visible = !symbol.IsEmpty();
-        box.ShowAtNaturalSize(symbol, {box.Width, box.Height});
-        box.Left = place.AtRightEdge ? place.Parent.Width - box.Width - margin : 0;
-        box.Top = place.Parent.Height - box.Height - margin;
     }
 }
 
@@ -61,10 +69,26 @@ void InitForm(Workshop& workshop)
 void ShowSet(Workshop& workshop)
 {
     CardTemplate& card = workshop.Templates.Standard;
-    PlaceSymbols(workshop);
+    const Picture symbol = LoadSymbol(workshop);
+    for (const SymbolPlace& place : SymbolPlaces(workshop.Templates))
+        PlaceSymbol(place, symbol);
     DressOpenedSet(card, workshop.Set.Header);
     ShowNumbers(workshop);
     card.picBack.Visible = !workshop.Set.Header.NoBack;
+}
+
+void ShowChosenSymbol(CardTemplates& templates, const Picture& symbol)
+{
+    for (const SymbolPlace& place : ChosenSymbolPlaces(templates))
+        PlaceSymbol(place, symbol);
+}
+
+void HideSymbol(CardTemplates& templates)
+{
+    for (Box* symbol : {&templates.Standard.picSymbol, &templates.Large.picSymbolLarge}) {
+        symbol->ShowAtNaturalSize({});
+        symbol->Visible = false;
+    }
 }
 
 void ShowNumbers(Workshop& workshop)

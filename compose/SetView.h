@@ -11,6 +11,11 @@ void InitForm(Workshop& workshop);
 /// A symbol that cannot be loaded is told to the user, and the set goes without.
 void ShowSet(Workshop& workshop);
 
+// The symbol as the user has just chosen or cleared it. On the character it lies elsewhere than when the set
+// is shown, and a cleared one stays there until a character is shown.
+void ShowChosenSymbol(CardTemplates& templates, const Picture& symbol);
+void HideSymbol(CardTemplates& templates);
+
 /// Puts the numbers of the current cards on the previews, where the set wants them.
 void ShowNumbers(Workshop& workshop);
 

@@ -13,7 +13,6 @@ namespace {
 
 constexpr int FrameLeft = 5;
 constexpr int FrameWidth = 139;
-constexpr QSize EmptyPictureSize = {139, 105};
 constexpr int InformationBottom = 241;
 constexpr int HandleHeight = 3;
 
@@ -54,14 +53,20 @@ void ShowTexts(CardTemplate& t, const Card& card, int16 index)
     t.lblAutonumber.Caption = QString::number(index);
 }
 
+void PlaceTextsBelowHandle(CardTemplate& t)
+{
+    t.lblBold.Top = t.lblPicSize.Top + HandleHeight;
+    PlaceInformation(t);
+}
+
 void PlaceFrame(ShowRun& run, CardTemplate& t, const Card& card)
 {
     t.picFrame.Visible = card.ShowPicture;
+    t.lblPicSize.Visible = card.ShowPicture;
     t.picFrame.Border = card.Frame ? BorderStyle::Single : BorderStyle::None;
     run([&] { t.picFrame.SetHeight(card.FrameHeight); });
     t.lblPicSize.Top = t.picFrame.Top + t.picFrame.Height;
-    t.lblBold.Top = t.lblPicSize.Top + HandleHeight;
-    PlaceInformation(t);
+    PlaceTextsBelowHandle(t);
 }
 
 /// With Resize it is the frame that goes sideways, and it is as wide as the picture.
@@ -203,7 +208,7 @@ bool ShowCard(Workshop& workshop, int16 index)
         ShowTexts(t, card, index);
         PlaceFrame(run, t, card);
         run.LoadsFor(t.picImage, card.Picture);
-        LoadFramedPicture(run, workshop, t.picImage, card.Picture, EmptyPictureSize);
+        LoadFramedPicture(run, workshop, t.picImage, card.Picture);
         PlacePictureInFrame(t, card);
         LoadBackground(run, workshop, card);
         LoadBack(run, workshop, card);
@@ -228,6 +233,13 @@ void PlaceBoldText(CardTemplate& t)
     constexpr int lineHeight = 12;
     t.lblBold.SetHeight(t.lblBold.Caption.isEmpty() ? emptyHeight : lineHeight);
     PlaceInformation(t);
+}
+
+void PlaceHandle(CardTemplate& t, int top)
+{
+    t.lblPicSize.Top = top;
+    t.picFrame.SetHeight(top - t.picFrame.Top);
+    PlaceTextsBelowHandle(t);
 }
 
 void ShowPictureFrame(CardTemplate& t, bool visible)

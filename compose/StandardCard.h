@@ -16,6 +16,9 @@ void PlaceCardPicture(Workshop& workshop, int16 index);
 /// Gives the bold line the height its caption needs, and the information what is left below it.
 void PlaceBoldText(CardTemplate& card);
 
+/// Ends the frame where its handle now is, and moves the texts below it.
+void PlaceHandle(CardTemplate& card, int top);
+
 /// Shows or hides the picture with its frame and handle; the texts move up to where the frame was.
 void ShowPictureFrame(CardTemplate& card, bool visible);
 

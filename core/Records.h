@@ -1,8 +1,6 @@
 #pragma once
 
-#include "platform/Types.h"
-
-#include <QString>
+#include "platform/FontSpec.h"
 
 namespace deckforge {
 
@@ -10,17 +8,6 @@ namespace deckforge {
 //
 // Picture fields hold the full path of a file as the user chose it. Offsets of pictures are in twips from the
 // top left corner of the frame and may be negative; extents of frames are in pixels of the card.
-
-/// One font of the font scheme; Size in points.
-struct FontSpec {
-    QString Name;
-    double Size = 0;
-    bool Bold = false;
-    bool Italic = false;
-    Colour Color = Black;
-
-    friend bool operator==(const FontSpec&, const FontSpec&) = default;
-};
 
 /// The font that the program uses unless the user chose another, upright.
 [[nodiscard]] inline FontSpec SmallFont(double size, bool bold = false, Colour colour = Black)

@@ -85,6 +85,16 @@ void AddElement(CardSet& set, const Kind<Record>& kind)
     set.*kind.Current = count;
 }
 
+/// Makes the first element of a kind that the set has none of yet.
+template <class Record>
+void MakeFirstElement(CardSet& set, const Kind<Record>& kind)
+{
+    (set.*kind.Records).Recreate(1);
+    set.*kind.Count = 1;
+    set.*kind.Current = 1;
+    kind.Init(set, 1);
+}
+
 /// Whether the current element may go: it is not the only one, and the user says yes.
 [[nodiscard]] bool MayDelete(UserPort& user, int16 count, const char* question, const QString& name,
                              bool tellsOfLast);
@@ -116,10 +126,13 @@ void CopyElement(CardSet& set, UserPort& user, const Kind<Record>& kind)
     TellCopied(user, kind.CopyName);
 }
 
-/// Writes the twin over the current element: an empty one, if nothing of the kind was copied.
+/// Writes the twin over the current element: an empty one, if nothing of the kind was copied. Error 9 where
+/// the set has no element of the kind.
 template <class Record>
 void PasteElement(CardSet& set, const Kind<Record>& kind)
 {
+    if (set.*kind.Current < 1)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     (set.*kind.Records)[set.*kind.Current] = set.*kind.Clip;
 }
 

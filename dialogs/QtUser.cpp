@@ -1,11 +1,15 @@
 #include "dialogs/QtUser.h"
 
+#include "dialogs/frmFont.h"
+#include "imaging/PictureBox.h"
 #include "platform/Paths.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 namespace deckforge {
@@ -51,15 +55,34 @@ Answer AnswerOf(int button)
         return Answer::No;
     case QMessageBox::Cancel:
         return Answer::Cancel;
-    default:
+    case QMessageBox::Ok:
         return Answer::Ok;
+    default:
+        return Answer::Cancel;
     }
 }
+
+/// A box of Yes and No that Esc puts aside. The usual one would take that for a No.
+class AnswerBox final : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->matches(QKeySequence::Cancel))
+            done(QMessageBox::NoButton);
+        else
+            QMessageBox::keyPressEvent(event);
+    }
+
+    void closeEvent(QCloseEvent* /*event*/) override { done(QMessageBox::NoButton); }
+};
 
 /// With NoButton the box chooses the button that Enter stands for.
 int RunBox(const MessageBoxRequest& request, QMessageBox::StandardButton usual, QWidget* window)
 {
-    QMessageBox box(IconOf(request.Style), request.Title, {}, ButtonsOf(request.Buttons), window);
+    AnswerBox box(IconOf(request.Style), request.Title, {}, ButtonsOf(request.Buttons), window);
     QString text = request.Text;
     box.setTextFormat(Qt::PlainText);
     box.setText(text.replace(QLatin1String("\r\n"), QLatin1String("\n")));
@@ -133,6 +156,19 @@ std::optional<QString> QtUser::BrowseForFolder()
         return std::nullopt;
     m_lastFolder = folder;
     return WithSeparator(folder);
+}
+
+std::optional<Colour> QtUser::AskColour(const QString& title, Colour colour)
+{
+    const QColor chosen = QColorDialog::getColor(QColor(ToRgb(colour)), TopWindow(), title);
+    if (!chosen.isValid())
+        return std::nullopt;
+    return FromRgb(chosen.rgb());
+}
+
+std::optional<FontSpec> QtUser::AskFont(const QString& title, const FontSpec& font)
+{
+    return ChooseFontInDialog(title, font, *this, TopWindow());
 }
 
 void QtUser::SetPointer(Pointer pointer)

@@ -25,6 +25,8 @@ public:
     /// The file's folder exists, and the user has agreed to replace a file that is there.
     std::optional<QString> AskSaveFile(const FileDialogRequest& request) override;
     std::optional<QString> BrowseForFolder() override;
+    std::optional<Colour> AskColour(const QString& title, Colour colour) override;
+    std::optional<FontSpec> AskFont(const QString& title, const FontSpec& font) override;
     void SetPointer(Pointer pointer) override;
     void ShowProgress(int done, int total) override;
 

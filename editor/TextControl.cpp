@@ -1,5 +1,8 @@
 #include "editor/TextControl.h"
 
+#include "platform/Paths.h"
+
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextDocument>
@@ -10,6 +13,8 @@ QString TextOf(const QWidget& control)
 {
     if (const auto* line = qobject_cast<const QLineEdit*>(&control))
         return line->text();
+    if (const auto* list = qobject_cast<const QComboBox*>(&control))
+        return list->currentText();
     // The raw text: the plain one has ordinary blanks for those that do not break.
     QString text = static_cast<const QPlainTextEdit&>(control).document()->toRawText();
     for (const QChar::SpecialCharacter lineEnd : {QChar::ParagraphSeparator, QChar::LineSeparator})
@@ -19,10 +24,32 @@ QString TextOf(const QWidget& control)
 
 void SetTextOf(QWidget& control, const QString& text)
 {
+    if (TextOf(control) == text)
+        return;
     if (auto* line = qobject_cast<QLineEdit*>(&control))
         line->setText(text);
+    else if (auto* list = qobject_cast<QComboBox*>(&control))
+        ShowEntry(*list, text);
     else
         static_cast<QPlainTextEdit&>(control).setPlainText(text);
+}
+
+void ShowEntry(QComboBox& list, const QString& text)
+{
+    list.setCurrentIndex(list.findText(text, Qt::MatchFixedString | Qt::MatchCaseSensitive));
+    list.setEditText(text);
+}
+
+void ShowText(QLineEdit& box, const QString& text, const QString& toolTip)
+{
+    box.setText(text);
+    box.setToolTip(toolTip);
+    box.setCursorPosition(0);
+}
+
+void ShowPath(QLineEdit& box, const QString& path)
+{
+    ShowText(box, NamePart(path), path);
 }
 
 } // namespace deckforge

@@ -1,23 +1,30 @@
 #include "editor/frmQDW.h"
-
 #include "compose/SetView.h"
-#include "compose/StandardCard.h"
-#include "core/Vocabulary.h"
-#include "editor/CardPreview.h"
+#include "dialogs/CardPreview.h"
 #include "ui_fraCard.h"
+#include "ui_fraCardBack.h"
+#include "ui_fraCharacter.h"
+#include "ui_fraLargeCard.h"
 #include "ui_fraSet.h"
 
 #include <QAction>
 #include <QBoxLayout>
+#include <QButtonGroup>
 #include <QProgressBar>
 #include <QScreen>
+#include <QScrollArea>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace deckforge {
 
 namespace {
+
+constexpr int UsualZoom = 2;
 
 /// The form as a widget with its controls.
 template <class Widget, class Form>
@@ -28,24 +35,52 @@ QWidget* MakeForm(Form& form, QWidget* parent)
     return widget;
 }
 
+/// Wants room for all of the preview, and takes less where the screen is small.
+class PreviewArea final : public QScrollArea {
+public:
+    explicit PreviewArea(CardPreview* preview, QWidget* parent) : QScrollArea(parent)
+    {
+        setWidget(preview);
+        setFrameShape(QFrame::NoFrame);
+        setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+        setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        constexpr QSize smallestCard = {304, 256};
+        return smallestCard;
+    }
+};
+
 } // namespace
 
 frmQDW::frmQDW(UserPort& user)
-    : m_workshop(user), m_card(std::make_unique<Ui::fraCard>()), m_set(std::make_unique<Ui::fraSet>())
+    : m_workshop(user), m_card(std::make_unique<Ui::fraCard>()),
+      m_large(std::make_unique<Ui::fraLargeCard>()), m_character(std::make_unique<Ui::fraCharacter>()),
+      m_back(std::make_unique<Ui::fraCardBack>()), m_set(std::make_unique<Ui::fraSet>())
 {
     setObjectName(QStringLiteral("frmQDW"));
     setWindowTitle(QStringLiteral("Varnhelm Deck Forge"));
     setContextMenuPolicy(Qt::PreventContextMenu); // it would offer to hide the tool bar
+    setAcceptDrops(true);
     BuildForms();
     BuildLayout();
     BuildToolBar();
     BuildStatusBar();
+    FillLists();
     BindFields();
+    BindLists();
+    BindPictures();
     BindCards();
+    BindPreview();
+    BindModes();
+    BindFocus();
     Guarded([this] { InitForm(); });
     m_card->txtTitle->setFocus();
-    constexpr QSize windowFrame = {32, 64};
-    resize(sizeHint().boundedTo(screen()->availableSize() - windowFrame));
+    GrowToFit();
 }
 
 frmQDW::~frmQDW() = default;
@@ -56,28 +91,10 @@ void frmQDW::Start(const QString& commandLine)
         Guarded([&] { DoOpenDKF(commandLine); });
 }
 
-void frmQDW::CardSizeSwitch(int mode)
-{
-    CardTemplate& card = m_workshop.Templates.Standard;
-    const bool isStandard = mode == 1;
-    fraCard->setVisible(isStandard);
-    card.picCard.Visible = isStandard;
-    card.picBack.Visible = isStandard; // also where the set goes without backs, until the set is shown again
-    m_preview->update();
-}
-
 void frmQDW::ShowSet()
 {
     deckforge::ShowSet(m_workshop);
     FillSet();
-}
-
-void frmQDW::ShowCard(int16 index)
-{
-    const bool isShown = deckforge::ShowCard(m_workshop, index);
-    m_preview->update();
-    if (isShown)
-        FillCard();
 }
 
 void frmQDW::ShowProgress(int done, int total)
@@ -103,8 +120,8 @@ void frmQDW::BuildToolBar()
         {"open", "Open card set", &frmQDW::OpenSet, Qt::CTRL | Qt::Key_O},
         {"save", "Save card set", &frmQDW::SaveSet, Qt::CTRL | Qt::Key_S},
         {},
-        {"copy", "Copy current card", &frmQDW::CopyCard, {}},
-        {"paste", "Paste current card", &frmQDW::PasteCard, {}},
+        {"copy", "Copy current card", &frmQDW::Copy, {}},
+        {"paste", "Paste current card", &frmQDW::Paste, {}},
         {},
         {"exportback", "Export cardbacks to disk", &frmQDW::ExportBacks, {}},
         {"createone", "Create one card", &frmQDW::CreateOne, {}},
@@ -137,14 +154,23 @@ void frmQDW::BuildForms()
 {
     tbCard = new QTabBar(this);
     tbCard->setObjectName(QStringLiteral("tbCard"));
+    tbCard->setAccessibleName(QStringLiteral("Kind of card"));
     tbCard->setExpanding(false);
     tbCard->setDrawBase(false); // the pane below has a frame
-    tbCard->addTab(QStringLiteral("Card"));
+    for (const char* caption : {"Card", "Large Card", "Character", "Card Back"})
+        tbCard->addTab(QString::fromLatin1(caption));
     fraCard = MakeForm<QWidget>(*m_card, this);
+    fraLargeCard = MakeForm<QWidget>(*m_large, this);
+    fraCharacter = MakeForm<QWidget>(*m_character, this);
+    fraCardBack = MakeForm<QWidget>(*m_back, this);
     fraSet = MakeForm<QGroupBox>(*m_set, this);
-    m_set->cboSaveFormat->addItems(SaveFormats());
-    m_preview = new CardPreview(PreviewBoxes(m_workshop.Templates.Standard), this);
+    m_forms = new QStackedWidget(this);
+    for (QWidget* form : {fraCard, fraLargeCard, fraCharacter, fraCardBack})
+        m_forms->addWidget(form);
+    m_preview = new CardPreview(PreviewBoxes(m_workshop.Templates), this);
     m_preview->setObjectName(QStringLiteral("preview"));
+    m_preview->SetZoom(UsualZoom);
+    m_previewArea = new PreviewArea(m_preview, this);
 }
 
 void frmQDW::BuildLayout()
@@ -152,9 +178,9 @@ void frmQDW::BuildLayout()
     auto* const pane = new QFrame(this);
     pane->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     auto* const card = new QHBoxLayout(pane);
-    card->addWidget(m_preview);
+    card->addWidget(m_previewArea);
     card->addSpacing(card->spacing());
-    card->addWidget(fraCard);
+    card->addWidget(m_forms, 1);
 
     auto* const tabs = new QVBoxLayout;
     tabs->setSpacing(0);
@@ -178,11 +204,87 @@ void frmQDW::BuildStatusBar()
     m_progress->setAccessibleName(QStringLiteral("Progress"));
     m_progress->hide();
     statusBar()->addWidget(m_progress, 1);
+
+    m_zooms = new QButtonGroup(this);
+    for (int zoom = 1; zoom <= CardPreview::MostZoom; ++zoom) {
+        auto* const button = new QToolButton(this);
+        const QString text = QStringLiteral("%1x").arg(zoom);
+        button->setObjectName(QStringLiteral("cmdZoom%1").arg(zoom));
+        button->setText(text);
+        button->setToolTip(QStringLiteral("Show the card at %1 times its size").arg(zoom));
+        button->setAccessibleName(QStringLiteral("Zoom %1").arg(text));
+        button->setCheckable(true);
+        button->setAutoRaise(true);
+        button->setChecked(zoom == m_preview->Zoom());
+        button->setFocusPolicy(Qt::TabFocus);
+        m_zooms->addButton(button, zoom);
+        statusBar()->addPermanentWidget(button);
+    }
+}
+
+/// These boxes are ready for new text when they get the keyboard.
+void frmQDW::BindFocus()
+{
+    QWidget* const boxes[] = {m_card->txtTitle,           m_card->cboType,
+                              m_card->cboNumber,          m_card->txtBold,
+                              m_large->txtTitleLarge,     m_character->txtCharName,
+                              m_character->cboStartArea,  m_character->cboAlignment,
+                              m_character->cboCharAttr0,  m_character->cboCharAttr1,
+                              m_character->cboCharAttr2,  m_character->cboCharAttr3,
+                              m_back->txtNewCardBackName, m_set->txtSetname,
+                              m_set->txtFilenamePrefix};
+    for (QWidget* box : boxes)
+        box->installEventFilter(this);
+    m_set->lblSetName->installEventFilter(this);
+}
+
+bool frmQDW::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn)
+        SelectAll(watched, static_cast<QFocusEvent*>(event)->reason());
+    else if (event->type() == QEvent::MouseButtonRelease && watched == m_set->lblSetName)
+        Guarded([this] { ShowOffsets(); });
+    return QMainWindow::eventFilter(watched, event);
+}
+
+/// Once the click that gave the keyboard has placed its cursor.
+void frmQDW::SelectAll(QObject* box, Qt::FocusReason reason)
+{
+    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
+        return;
+    auto* const list = qobject_cast<QComboBox*>(box);
+    auto* const line = list ? list->lineEdit() : qobject_cast<QLineEdit*>(box);
+    if (!line)
+        return;
+    QTimer::singleShot(0, line, [line] {
+        if (line->hasFocus())
+            line->selectAll();
+    });
+}
+
+/// Gives the window what its contents want, as far as the screen has it.
+void frmQDW::GrowToFit()
+{
+    constexpr QSize windowFrame = {32, 64};
+    const QSize wanted = size().expandedTo(sizeHint());
+    if (!isMaximized() && !isFullScreen())
+        resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
+}
+
+void frmQDW::resizeEvent(QResizeEvent* event)
+{
+    constexpr int fromLeft = 11;
+    constexpr int fromBottom = 265;
+    OffsetLeft = fromLeft;
+    OffsetTop = static_cast<int16>(frameGeometry().height() - fromBottom);
+    QMainWindow::resizeEvent(event);
 }
 
 void frmQDW::InitForm()
 {
     deckforge::InitForm(m_workshop);
+    FillCardTypeList();
+    FillCardBackList();
     m_card->hsbCard->setRange(1, 1);
     FillSet();
     CardSizeSwitch(1);

@@ -1,27 +1,46 @@
 #pragma once
 
-#include "compose/Workshop.h"
+#include "compose/PicturePlacement.h"
+#include "core/modInfo.h"
+#include "output/frmCardSheet.h"
+#include "output/modCapture.h"
 
 #include <QMainWindow>
+#include <QMap>
+#include <array>
+#include <functional>
 #include <memory>
 #include <new>
 #include <vector>
 
+class QAbstractButton;
+class QButtonGroup;
 class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
 class QProgressBar;
+class QScrollArea;
+class QScrollBar;
+class QSpinBox;
+class QStackedWidget;
 class QTabBar;
 
 namespace Ui {
 class fraCard;
+class fraLargeCard;
+class fraCharacter;
+class fraCardBack;
 class fraSet;
 } // namespace Ui
 
 namespace deckforge {
 
 class CardPreview;
+class ColourSwatch;
 
-/// The window of the program: it owns the set, its controls show the current card, and what is typed or
-/// clicked goes at once into the record and the one box of the preview that it concerns.
+/// The window of the program: it owns the set, its controls show the current card of the selected tab, and
+/// what is typed or clicked goes at once into the record and the one box of the preview that it concerns.
 ///
 /// A control has the name of what it stands for, as an object name too. A failure that leaves a handler is
 /// told to the user, and the program goes on with the set in memory.
@@ -35,12 +54,16 @@ public:
     /// to open.
     void Start(const QString& commandLine);
 
-    /// Shows what the tab of the mode edits; 1 is the standard card.
+    /// Shows what a tab edits: 1 standard cards, 2 large cards, 3 characters, 4 card backs. Comes back to the
+    /// front of the card. The tab itself stays as it is.
     void CardSizeSwitch(int mode);
 
-    // Each brings the previews up to date, and then the controls.
+    // Each brings the previews up to date, and the controls.
     void ShowSet();
     void ShowCard(int16 index);
+    void ShowLargeCard(int16 index);
+    void ShowCharacter(int16 index);
+    void ShowNewCardBack(int16 index);
 
     /// Reads the set at the path and shows its first card. When it cannot be read, which the reader tells,
     /// nothing else happens.
@@ -52,21 +75,31 @@ public:
 
     [[nodiscard]] const Workshop& Works() const { return m_workshop; }
 
+    // Where the card stands in a picture of the whole window, in pixels.
+    int16 OffsetLeft = 0;
+    int16 OffsetTop = 0;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    using Action = void (frmQDW::*)();
     enum class Guard { None, NotLoading };
 
-    /// A text box that carries its text to a field.
+    /// A text box, or a list that takes any text, that carries its text to a field.
     template <class Record>
     struct TextField {
         QWidget* Control;
         QString Record::*Field;
         Guard When;
-        Box* Preview;            ///< whose caption follows; null for none
-        void (frmQDW::*After)(); ///< what else follows; null for nothing
+        Box* Preview; ///< whose caption follows; null for none
+        Action After; ///< what else follows; null for nothing
     };
 
     /// A check box that carries its state to a field.
@@ -74,7 +107,96 @@ private:
     struct CheckField {
         QCheckBox* Control;
         bool Record::*Field;
-        void (frmQDW::*After)();
+        Action After;
+    };
+
+    /// A number that carries its value to a field.
+    template <class Record>
+    struct CountField {
+        QSpinBox* Control;
+        int16 Record::*Field;
+    };
+
+    /// The buttons that choose and clear a picture from disk, with the box that shows its name.
+    template <class Record>
+    struct PictureField {
+        QAbstractButton* Choose;
+        QAbstractButton* Clear;
+        const char* Title; ///< of the file dialog
+        QString Record::*Field;
+        Box* Target; ///< shows the picture; null for none
+        QLineEdit* PathBox;
+        Action After;
+        Action AfterClear;
+    };
+
+    /// A colour with the button that chooses it.
+    template <class Record>
+    struct ColourField {
+        QAbstractButton* Choose;
+        ColourSwatch* Swatch; ///< a click on it chooses as well
+        const char* Title;
+        Colour& (*Field)(Record&);
+        Box* Preview; ///< whose background follows; null for none
+        Action After; ///< runs after a cancel too
+    };
+
+    /// All controls that carry a value to a record and do little else.
+    template <class Record>
+    struct Fields {
+        std::vector<TextField<Record>> Texts;
+        std::vector<CheckField<Record>> Checks;
+        std::vector<CountField<Record>> Counts;
+        std::vector<PictureField<Record>> Pictures;
+        std::vector<ColourField<Record>> Colours;
+    };
+
+    /// The controls that step through the cards of a kind, add and delete them.
+    template <class Record>
+    struct Page {
+        const Kind<Record>& Is;
+        QScrollBar* Bar;
+        QLabel* Position;
+        QLabel* Dragged;                       ///< tells of the card under the slider; null for none
+        QString (*DraggedText)(const Record&); ///< what it tells
+        int16 (*DraggedIndex)(int slider, int16 current); ///< what the position tells meanwhile
+        QAbstractButton* Add;
+        QAbstractButton* Delete;
+        QLineEdit* Name; ///< takes the next keys after a new card
+        void (frmQDW::*Show)(int16);
+    };
+
+    /// What the commands do while a tab is selected.
+    struct Mode {
+        int16 CardSet::*Current;
+        void (frmQDW::*Show)(int16);
+        void (*Save)(Workshop&, int16, Ask, Tell, SheetNumber);
+        Action Add; ///< null for none, as for the next two
+        Action Previous;
+        Action Next;
+        Action Copy;
+        Action Paste;
+        // What the runs over all cards go by: on the tab of card backs they work on the characters.
+        void (*CreateAll)(Workshop&);
+        void (*CreateSheets)(Workshop&, std::optional<SheetGrid>);
+        Action CreateHtml;
+        Action FillAgain; ///< after a run, which has shown other cards
+    };
+
+    /// A label of the preview that opens the font dialog.
+    struct FontLabel {
+        enum class Gesture { Click, DoubleClick };
+        const Box* Label;
+        Gesture Opens;
+        FontSpec SetHeader::*Font;
+    };
+
+    /// A picture of the preview that the user places.
+    struct PlacementRow {
+        const Box* Image;
+        const Box* Handle; ///< null for none
+        PlacedPicture Which;
+        Action After; ///< tells the size of the frame
     };
 
     /// Keeps guarded handlers quiet while controls are filled.
@@ -85,89 +207,231 @@ private:
     void BuildForms();
     void BuildLayout();
     void BuildStatusBar();
+    void BindFocus();
+    void SelectAll(QObject* box, Qt::FocusReason reason);
+    void GrowToFit();
     void InitForm();
+
+    // Tabs (frmQDW_Modes.cpp)
+    void BindModes();
+    [[nodiscard]] const Mode& Selected() const;
+    void Run(Action action);
+    void Copy();
+    void Paste();
+    void ModeClicked();
+    void ShowLargeMode();
+    void ShowCharacterMode();
+    void ShowBackMode();
+    void SwitchLargeView();
+    void SwitchCharacterView();
+    void SwitchPieceView();
 
     // Commands on files (frmQDW_File.cpp)
     void Exit();
     void NewSet();
     void OpenSet();
     void SaveSet();
+    void OpenDropped(const QString& path);
+    [[nodiscard]] bool TakesDrop(const QDropEvent& event) const;
     Answer AskToSave(BoxButtons buttons);
 
     // Cards of the set (frmQDW_Cards.cpp)
+    template <class Record>
+    [[nodiscard]] Page<Record> PageOf();
+    template <class Record>
+    void BindPage();
     void BindCards();
-    void FillPosition(int16 index);
+    template <class Record>
+    void FillPosition();
+    template <class Record>
     void CardChanged();
+    template <class Record>
     void CardDragged();
+    template <class Record>
     void CardDropped();
+    template <class Record>
     void PreviousCard();
+    template <class Record>
     void NextCard();
+    template <class Record>
     void AddCard();
+    template <class Record>
     void DeleteCard();
+    template <class Record>
     void CopyCard();
+    template <class Record>
     void PasteCard();
-    void ModeClicked();
 
     // Fields of the records (frmQDW_Fields.cpp)
-    [[nodiscard]] std::vector<TextField<Card>> CardTexts();
-    [[nodiscard]] std::vector<CheckField<Card>> CardChecks();
-    [[nodiscard]] std::vector<TextField<SetHeader>> SetTexts();
-    [[nodiscard]] std::vector<CheckField<SetHeader>> SetChecks();
+    template <class Record>
+    [[nodiscard]] Fields<Record> FieldsOf();
     template <class Record>
     [[nodiscard]] Record& Current(); ///< the record that the fields edit now
+    template <class Record>
+    void Bind();
     template <class Record>
     void Bind(const TextField<Record>& row);
     template <class Record>
     void Bind(const CheckField<Record>& row);
     template <class Record>
+    void Bind(const CountField<Record>& row);
+    template <class Record>
     void TextChanged(const TextField<Record>& row);
+    template <class Record>
+    void Fill();
     void BindFields();
     void FillCard();
+    void FillLargeCard();
+    void FillCharacter();
+    void FillNewCardBack();
     void FillSet();
+
+    // What follows a change of a field (frmQDW_Changes.cpp)
     void CompleteBoldText();
     void BoldTextChanged();
     void ArtistChanged();
     void OneLineClicked();
     void ShowPictureClicked();
     void FrameClicked();
+    void ResizeClicked();
+    void ShowLargePictureClicked();
+    void LargeFrameClicked();
+    void LargeResizeClicked();
+    void NameChanged();
+    template <int Index>
+    void AttributeChanged();
+    void ShowCharacterPictureClicked();
+    void CharacterFrameClicked();
+    void BackChanged();
     void SetnameChanged();
     void AutonumberClicked();
     void NoBackClicked();
+
+    // Lists (frmQDW_Lists.cpp)
+    void BindLists();
+    void FillLists();
+    void FillCardTypeList();
+    void FillCardBackList();
+    void TypeChosen();
+    void TypeTyped();
+    void ShowTypeLines();
+    void CardBackChosen();
+    void AddUserBack(const QString& path);
+    void CharacterBackChosen();
+    void SetCharacterBackPicture(const QString& path);
+    void StartAreaChosen();
+    void StartAreaTyped();
+    void SetStartArea(const QString& area);
     void SaveFormatChosen();
+
+    // Pictures, colours and the symbol (frmQDW_Pictures.cpp)
+    template <class Record>
+    void BindPicturesOf();
+    template <class Record>
+    void TakePicture(const PictureField<Record>& row, const QString& path);
+    template <class Record>
+    void ClearPicture(const PictureField<Record>& row);
+    template <class Record>
+    void ChooseColour(const ColourField<Record>& row);
+    template <class Record>
+    [[nodiscard]] bool DropOnTarget(const Box* box, const QString& path);
+    void BindPictures();
+    void ShowOn(Box& target, const Picture& picture);
+    void LayAtFrame(Box& target);
+    [[nodiscard]] std::optional<QString> AskPicture(const char* title, const QAbstractButton* button);
+    [[nodiscard]] std::optional<Picture> Loaded(const QString& path);
+    void FocusPicture();
+    void FocusLargePicture();
+    void TakeSymbol(const QString& path);
+    void ClearSymbol();
+    void ChooseSaveTo();
+    void ChooseBackFont();
+    [[nodiscard]] bool DropOn(const Box* box, const QString& path);
+
+    // The preview (frmQDW_Preview.cpp)
+    void BindPreview();
+    [[nodiscard]] std::vector<FontLabel> FontLabels();
+    [[nodiscard]] std::array<PlacementRow, 4> Placements();
+    void ChooseFont(FontSpec& font);
+    void LabelClicked(const Box* box, FontLabel::Gesture gesture);
+    void PreviewDragged(const Box* box, QPoint point);
+    void PreviewKey(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held);
+    void ShowTip(const Box* box, QPoint globalPoint);
+    void TellFrameSize();
+    void TellLargeFrameSize();
+    void TellCharacterFrameSize();
+    void SetZoom(int zoom);
 
     // Making images, pages and listings (frmQDW_Output.cpp)
     void ExportBacks();
     void CreateOne();
     void CreateAll();
     void CreateSheets();
-    void ShowAfterRun();
     void CreateHtml();
+    void CreateCardHtml();
+    void CreateLargeCardHtml();
+    void CreateCharacterHtml();
+    void ShowAfterRun();
     void ExportListing();
     void ShowStatistics();
 
     // Help (frmQDW_Help.cpp)
     void ShowHelp();
     void ShowVersion();
+    void ShowOffsets();
     [[nodiscard]] bool IsBackground(QPoint point) const;
 
     // Handlers
     template <class Sender, class Signal, class Handler>
     void On(Sender* sender, Signal signal, Handler handler);
-    template <class Action>
-    void Guarded(Action&& action);
+    template <class Work>
+    void Guarded(Work&& work);
     void TellFailure(const RunTimeError& error);
 
     Workshop m_workshop;
     bool m_loading = false;
+    QMap<const QAbstractButton*, QString> m_pictureFolders; ///< where each button's file was chosen last
+    QPoint m_dragStart;                                     ///< on the box that is dragged
 
     std::unique_ptr<Ui::fraCard> m_card;
+    std::unique_ptr<Ui::fraLargeCard> m_large;
+    std::unique_ptr<Ui::fraCharacter> m_character;
+    std::unique_ptr<Ui::fraCardBack> m_back;
     std::unique_ptr<Ui::fraSet> m_set;
     QTabBar* tbCard;
     QWidget* fraCard;
+    QWidget* fraLargeCard;
+    QWidget* fraCharacter;
+    QWidget* fraCardBack;
     QWidget* fraSet;
+    QStackedWidget* m_forms; ///< of the four kinds
     CardPreview* m_preview;
+    QScrollArea* m_previewArea;
+    QButtonGroup* m_zooms;
     QProgressBar* m_progress;
 };
+
+// The four kinds and the set itself, each told in frmQDW_Fields.cpp.
+template <>
+Card& frmQDW::Current();
+template <>
+LargeCard& frmQDW::Current();
+template <>
+Character& frmQDW::Current();
+template <>
+NewCardBack& frmQDW::Current();
+template <>
+SetHeader& frmQDW::Current();
+template <>
+frmQDW::Fields<Card> frmQDW::FieldsOf();
+template <>
+frmQDW::Fields<LargeCard> frmQDW::FieldsOf();
+template <>
+frmQDW::Fields<Character> frmQDW::FieldsOf();
+template <>
+frmQDW::Fields<NewCardBack> frmQDW::FieldsOf();
+template <>
+frmQDW::Fields<SetHeader> frmQDW::FieldsOf();
 
 class frmQDW::LoadingScope {
 public:
@@ -180,20 +444,27 @@ private:
     frmQDW& m_window;
 };
 
-/// Connects a signal, whatever it carries. The handler reads the state of the controls.
+/// Connects a signal to a handler, which gets what the signal carries if it takes it.
 template <class Sender, class Signal, class Handler>
 void frmQDW::On(Sender* sender, Signal signal, Handler handler)
 {
-    connect(sender, signal, this, [this, handler] { Guarded(handler); });
+    connect(sender, signal, this, [this, handler](auto&&... carried) {
+        Guarded([&] {
+            if constexpr (std::is_invocable_v<Handler, decltype(carried)...>)
+                handler(carried...);
+            else
+                handler();
+        });
+    });
 }
 
 /// The one place where a failure that left a handler ends. Qt's own code, which calls the handlers, cannot be
 /// left by an exception.
-template <class Action>
-void frmQDW::Guarded(Action&& action)
+template <class Work>
+void frmQDW::Guarded(Work&& work)
 {
     try {
-        action();
+        work();
     } catch (const RunTimeError& error) {
         TellFailure(error);
     } catch (const std::bad_alloc&) {

@@ -1,115 +1,226 @@
-#include "editor/frmQDW.h"
-
 #include "core/modInfo.h"
+#include "editor/frmQDW.h"
 #include "ui_fraCard.h"
+#include "ui_fraCardBack.h"
+#include "ui_fraCharacter.h"
+#include "ui_fraLargeCard.h"
 
-#include <QShortcut>
-#include <QTabBar>
+#include <algorithm>
 
 namespace deckforge {
 
 namespace {
 
-/// What is told of the card under the slider: "Sword (OBJECT Magic)".
-QString DraggedText(const Card& card)
+/// "Sword (OBJECT- Magic)".
+QString TitleAndType(const Card& card)
 {
     const QString type = (card.Type + QLatin1Char(' ') + card.SubType).trimmed();
     return QStringLiteral("%1 (%2)").arg(card.Title, type);
 }
 
+QString NameOf(const Character& character)
+{
+    return character.Name;
+}
+
+QString Nothing(const LargeCard& /*card*/)
+{
+    return {};
+}
+
+int16 IndexOfSlider(int slider, int16 /*current*/)
+{
+    return static_cast<int16>(slider);
+}
+
+/// The position of large cards stays at the one that is shown.
+int16 IndexShown(int /*slider*/, int16 current)
+{
+    return current;
+}
+
 } // namespace
+
+template <>
+frmQDW::Page<Card> frmQDW::PageOf()
+{
+    const Ui::fraCard& form = *m_card;
+    return {StandardKind,   form.hsbCard,    form.lblCurrentCard, form.lblCardTitle, &TitleAndType,
+            &IndexOfSlider, form.cmdCardAdd, form.cmdCardDelete,  form.txtTitle,     &frmQDW::ShowCard};
+}
+
+template <>
+frmQDW::Page<LargeCard> frmQDW::PageOf()
+{
+    const Ui::fraLargeCard& form = *m_large;
+    return {LargeKind,          form.hsbCardLarge,     form.lblCurrentCardLarge, form.lblCardTitleLarge,
+            &Nothing,           &IndexShown,           form.cmdCardAddLarge,     form.cmdCardDeleteLarge,
+            form.txtTitleLarge, &frmQDW::ShowLargeCard};
+}
+
+template <>
+frmQDW::Page<Character> frmQDW::PageOf()
+{
+    const Ui::fraCharacter& form = *m_character;
+    return {CharacterKind,    form.hsbCharacter,     form.lblCurrentCardCharacter, form.lblChar,
+            &NameOf,          &IndexOfSlider,        form.cmdCharacterAdd,         form.cmdCharacterDelete,
+            form.txtCharName, &frmQDW::ShowCharacter};
+}
+
+template <>
+frmQDW::Page<NewCardBack> frmQDW::PageOf()
+{
+    const Ui::fraCardBack& form = *m_back;
+    return {NewBackKind,
+            form.hsbNewCardBack,
+            form.lblCurrentNewCardBack,
+            nullptr,
+            nullptr,
+            &IndexOfSlider,
+            form.cmdNewCardBackAdd,
+            form.cmdNewCardBackDelete,
+            form.txtNewCardBackName,
+            &frmQDW::ShowNewCardBack};
+}
+
+template <class Record>
+void frmQDW::BindPage()
+{
+    const Page<Record> page = PageOf<Record>();
+    On(page.Bar, &QScrollBar::valueChanged, [this] { CardChanged<Record>(); });
+    On(page.Bar, &QScrollBar::sliderMoved, [this] { CardDragged<Record>(); });
+    On(page.Bar, &QScrollBar::sliderReleased, [this] { CardDropped<Record>(); });
+    On(page.Add, &QAbstractButton::clicked, [this] { AddCard<Record>(); });
+    On(page.Delete, &QAbstractButton::clicked, [this] { DeleteCard<Record>(); });
+}
 
 void frmQDW::BindCards()
 {
-    const Ui::fraCard& form = *m_card;
-    On(form.hsbCard, &QScrollBar::valueChanged, [this] { CardChanged(); });
-    On(form.hsbCard, &QScrollBar::sliderMoved, [this] { CardDragged(); });
-    On(form.hsbCard, &QScrollBar::sliderReleased, [this] { CardDropped(); });
-    On(form.cmdCardAdd, &QPushButton::clicked, [this] { AddCard(); });
-    On(form.cmdCardDelete, &QPushButton::clicked, [this] { DeleteCard(); });
-    On(tbCard, &QTabBar::tabBarClicked, [this] { ModeClicked(); });
-    On(new QShortcut(Qt::CTRL | Qt::Key_N, this), &QShortcut::activated, [this] { AddCard(); });
-    On(new QShortcut(Qt::CTRL | Qt::Key_Comma, this), &QShortcut::activated, [this] { PreviousCard(); });
-    On(new QShortcut(Qt::CTRL | Qt::Key_Period, this), &QShortcut::activated, [this] { NextCard(); });
+    BindPage<Card>();
+    BindPage<LargeCard>();
+    BindPage<Character>();
+    BindPage<NewCardBack>();
 }
 
-void frmQDW::FillPosition(int16 index)
+template <class Record>
+void frmQDW::FillPosition()
 {
-    m_card->lblCurrentCard->setText(PositionText(index, m_workshop.Set.CardCount));
+    const Page<Record> page = PageOf<Record>();
+    const CardSet& set = m_workshop.Set;
+    page.Position->setText(PositionText(set.*page.Is.Current, set.*page.Is.Count));
 }
 
+template void frmQDW::FillPosition<Card>();
+template void frmQDW::FillPosition<LargeCard>();
+template void frmQDW::FillPosition<Character>();
+template void frmQDW::FillPosition<NewCardBack>();
+
+/// The slider of card backs can reach past them: its range is not renewed for a set that was opened.
+template <class Record>
 void frmQDW::CardChanged()
 {
+    const Page<Record> page = PageOf<Record>();
     CardSet& set = m_workshop.Set;
-    set.CurrentCard = static_cast<int16>(m_card->hsbCard->value());
-    m_card->lblCardTitle->clear();
-    FillPosition(set.CurrentCard);
-    ShowCard(set.CurrentCard);
+    int16& current = set.*page.Is.Current;
+    current = std::min(static_cast<int16>(page.Bar->value()), set.*page.Is.Count);
+    CardDropped<Record>();
+    (this->*page.Show)(current);
 }
 
+template <class Record>
 void frmQDW::CardDragged()
 {
-    const auto index = static_cast<int16>(m_card->hsbCard->sliderPosition());
-    FillPosition(index);
-    m_card->lblCardTitle->setText(DraggedText(m_workshop.Set.Cards[index]));
+    const Page<Record> page = PageOf<Record>();
+    const CardSet& set = m_workshop.Set;
+    const int slider = page.Bar->sliderPosition();
+    const int16 index = page.DraggedIndex(slider, set.*page.Is.Current);
+    page.Position->setText(PositionText(index, set.*page.Is.Count));
+    if (page.Dragged)
+        page.Dragged->setText(page.DraggedText((set.*page.Is.Records)[slider]));
 }
 
-/// A slider that is let go where it was taken up changes no card.
+/// Also where the slider is let go where it was taken up, which changes no card.
+template <class Record>
 void frmQDW::CardDropped()
 {
-    m_card->lblCardTitle->clear();
-    FillPosition(m_workshop.Set.CurrentCard);
+    const Page<Record> page = PageOf<Record>();
+    if (page.Dragged)
+        page.Dragged->clear();
+    FillPosition<Record>();
 }
 
+template <class Record>
 void frmQDW::PreviousCard()
 {
-    m_card->hsbCard->setValue(m_card->hsbCard->value() - 1);
+    QScrollBar& bar = *PageOf<Record>().Bar;
+    bar.setValue(bar.value() - 1);
 }
 
+template <class Record>
 void frmQDW::NextCard()
 {
-    m_card->hsbCard->setValue(m_card->hsbCard->value() + 1);
+    QScrollBar& bar = *PageOf<Record>().Bar;
+    bar.setValue(bar.value() + 1);
 }
 
+template <class Record>
 void frmQDW::AddCard()
 {
+    const Page<Record> page = PageOf<Record>();
     CardSet& set = m_workshop.Set;
-    AddElement(set, StandardKind);
-    m_card->hsbCard->setMaximum(set.CardCount);
-    ShowCard(set.CurrentCard);
-    m_card->hsbCard->setValue(set.CardCount);
-    m_card->txtTitle->selectAll();
-    m_card->txtTitle->setFocus();
+    AddElement(set, page.Is);
+    page.Bar->setMaximum(set.*page.Is.Count);
+    (this->*page.Show)(set.*page.Is.Current);
+    page.Bar->setValue(set.*page.Is.Count);
+    page.Name->selectAll();
+    page.Name->setFocus();
 }
 
+template <class Record>
 void frmQDW::DeleteCard()
 {
+    const Page<Record> page = PageOf<Record>();
     CardSet& set = m_workshop.Set;
-    const bool isLast = set.CurrentCard == set.CardCount;
-    if (!DeleteElement(set, m_workshop.User, StandardKind))
+    const bool isLast = set.*page.Is.Current == set.*page.Is.Count;
+    if (!DeleteElement(set, m_workshop.User, page.Is))
         return;
     if (isLast)
-        m_card->hsbCard->setValue(set.CurrentCard);
-    ShowCard(set.CurrentCard);
-    m_card->hsbCard->setMaximum(set.CardCount);
-    FillPosition(set.CurrentCard);
+        page.Bar->setValue(set.*page.Is.Current);
+    (this->*page.Show)(set.*page.Is.Current);
+    page.Bar->setMaximum(set.*page.Is.Count);
+    FillPosition<Record>();
 }
 
+template <class Record>
 void frmQDW::CopyCard()
 {
-    CopyElement(m_workshop.Set, m_workshop.User, StandardKind);
+    CopyElement(m_workshop.Set, m_workshop.User, PageOf<Record>().Is);
 }
 
+template <class Record>
 void frmQDW::PasteCard()
 {
-    PasteElement(m_workshop.Set, StandardKind);
-    ShowCard(m_workshop.Set.CurrentCard);
+    const Page<Record> page = PageOf<Record>();
+    CardSet& set = m_workshop.Set;
+    PasteElement(set, page.Is);
+    (this->*page.Show)(set.*page.Is.Current);
 }
 
-void frmQDW::ModeClicked()
-{
-    CardSizeSwitch(1);
-    ShowCard(m_workshop.Set.CurrentCard);
-}
+// The commands of the tabs and their keys.
+template void frmQDW::AddCard<Card>();
+template void frmQDW::AddCard<LargeCard>();
+template void frmQDW::AddCard<Character>();
+template void frmQDW::PreviousCard<Card>();
+template void frmQDW::PreviousCard<LargeCard>();
+template void frmQDW::PreviousCard<Character>();
+template void frmQDW::NextCard<Card>();
+template void frmQDW::NextCard<LargeCard>();
+template void frmQDW::NextCard<Character>();
+template void frmQDW::CopyCard<Card>();
+template void frmQDW::CopyCard<LargeCard>();
+template void frmQDW::CopyCard<Character>();
+template void frmQDW::PasteCard<Card>();
+template void frmQDW::PasteCard<LargeCard>();
+template void frmQDW::PasteCard<Character>();
 
 } // namespace deckforge

@@ -1,84 +1,163 @@
-#include "editor/frmQDW.h"
-
-#include "compose/SetView.h"
-#include "compose/StandardCard.h"
-#include "editor/CardPreview.h"
+#include "dialogs/CardPreview.h"
+#include "dialogs/ColourSwatch.h"
 #include "editor/TextControl.h"
-#include "platform/Paths.h"
+#include "editor/frmQDW.h"
 #include "ui_fraCard.h"
+#include "ui_fraCardBack.h"
+#include "ui_fraCharacter.h"
+#include "ui_fraLargeCard.h"
 #include "ui_fraSet.h"
 
 #include <limits>
 
 namespace deckforge {
 
-namespace {
-
-void ShowText(QLineEdit& control, const QString& text, const QString& toolTip)
-{
-    control.setText(text);
-    control.setToolTip(toolTip);
-    control.setCursorPosition(0); // a text that is too long for its box shows its start
-}
-
-/// A path box shows the name; the whole path is its tool tip.
-void ShowPath(QLineEdit& control, const QString& path)
-{
-    ShowText(control, NamePart(path), path);
-}
-
-} // namespace
-
-std::vector<frmQDW::TextField<Card>> frmQDW::CardTexts()
+template <>
+frmQDW::Fields<Card> frmQDW::FieldsOf()
 {
     const Ui::fraCard& form = *m_card;
-    CardTemplate& card = m_workshop.Templates.Standard;
+    CardTemplate& t = m_workshop.Templates.Standard;
     return {
-        {form.txtTitle, &Card::Title, Guard::None, &card.lblTitle, nullptr},
-        {form.txtArtist, &Card::Artist, Guard::NotLoading, nullptr, &frmQDW::ArtistChanged},
-        {form.txtBold, &Card::BoldText, Guard::None, &card.lblBold, &frmQDW::BoldTextChanged},
-        {form.txtInfo, &Card::Info, Guard::None, &card.lblInformation, nullptr},
-    };
-}
-
-std::vector<frmQDW::CheckField<Card>> frmQDW::CardChecks()
-{
-    const Ui::fraCard& form = *m_card;
-    return {
-        {form.chkOneLine, &Card::OneLine, &frmQDW::OneLineClicked},
-        {form.chkShowPicture, &Card::ShowPicture, &frmQDW::ShowPictureClicked},
-        {form.chkFrame, &Card::Frame, &frmQDW::FrameClicked},
-    };
-}
-
-std::vector<frmQDW::TextField<SetHeader>> frmQDW::SetTexts()
-{
-    const Ui::fraSet& form = *m_set;
-    return {
-        {form.txtSetname, &SetHeader::SetName, Guard::None, nullptr, &frmQDW::SetnameChanged},
-        {form.txtFilenamePrefix, &SetHeader::FilenamePrefix, Guard::None, nullptr, nullptr},
-    };
-}
-
-std::vector<frmQDW::CheckField<SetHeader>> frmQDW::SetChecks()
-{
-    const Ui::fraSet& form = *m_set;
-    return {
-        {form.chkAutonumber, &SetHeader::Autonumber, &frmQDW::AutonumberClicked},
-        {form.chkFileNr, &SetHeader::FileNr, nullptr},
-        {form.chkNoBack, &SetHeader::NoBack, &frmQDW::NoBackClicked},
-        {form.chkReplaceSpace, &SetHeader::ReplaceSpace, nullptr},
+        .Texts = {{form.txtTitle, &Card::Title, Guard::None, &t.lblTitle, nullptr},
+                  {form.cboNumber, &Card::Number, Guard::None, &t.lblNumber, nullptr},
+                  {form.txtBold, &Card::BoldText, Guard::None, &t.lblBold, &frmQDW::BoldTextChanged},
+                  {form.txtInfo, &Card::Info, Guard::None, &t.lblInformation, nullptr},
+                  {form.txtArtist, &Card::Artist, Guard::NotLoading, nullptr, &frmQDW::ArtistChanged}},
+        .Checks = {{form.chkOneLine, &Card::OneLine, &frmQDW::OneLineClicked},
+                   {form.chkShowPicture, &Card::ShowPicture, &frmQDW::ShowPictureClicked},
+                   {form.chkFrame, &Card::Frame, &frmQDW::FrameClicked},
+                   {form.chkResize, &Card::Resize, &frmQDW::ResizeClicked}},
+        .Counts = {{form.udCopy, &Card::Copies}},
+        .Pictures = {{form.cmdGetPic, form.cmdDelPic, "Choose picture", &Card::Picture, &t.picImage,
+                      form.txtPicture, &frmQDW::FocusPicture, nullptr},
+                     {form.cmdBackPic, form.cmdDelBackPic, "Choose picture", &Card::Background, &t.picCard,
+                      form.txtBackground, &frmQDW::ArtistChanged, &frmQDW::ArtistChanged}},
+        .Colours = {{form.cmdColour, form.picColour, "Choose card background colour",
+                     [](Card& card) -> Colour& { return card.Color; }, &t.picCard, nullptr}},
     };
 }
 
 template <>
-Card& frmQDW::Current<Card>()
+frmQDW::Fields<LargeCard> frmQDW::FieldsOf()
+{
+    const Ui::fraLargeCard& form = *m_large;
+    LargeCardTemplate& t = m_workshop.Templates.Large;
+    return {
+        .Texts = {{form.txtTitleLarge, &LargeCard::Title, Guard::None, &t.lblTitleLarge, nullptr},
+                  {form.txtInfoLarge, &LargeCard::Info, Guard::None, &t.lblInformationLarge, nullptr}},
+        .Checks = {{form.chkShowPictureLarge, &LargeCard::ShowPicture, &frmQDW::ShowLargePictureClicked},
+                   {form.chkFrameLarge, &LargeCard::Frame, &frmQDW::LargeFrameClicked},
+                   {form.chkResizeLarge, &LargeCard::Resize, &frmQDW::LargeResizeClicked}},
+        .Counts = {{form.udCopyLarge, &LargeCard::Copies}},
+        .Pictures = {{form.cmdGetPicLarge, form.cmdDelPicLarge, "Choose picture", &LargeCard::Picture,
+                      &t.picImageLarge, form.txtPictureLarge, &frmQDW::FocusLargePicture, nullptr},
+                     {form.cmdBackPicLarge, form.cmdDelBackPicLarge, "Choose picture", &LargeCard::Background,
+                      &t.picCardLarge, form.txtBackgroundLarge, nullptr, nullptr},
+                     {form.cmdCardbackLarge, form.cmdDelCardbackLarge, "Choose picture", &LargeCard::CardBack,
+                      &t.picBackLarge, form.txtCardbackLarge, nullptr, nullptr}},
+        .Colours = {{form.cmdColourLarge, form.picColourLarge, "Choose card background colour",
+                     [](LargeCard& card) -> Colour& { return card.Color; }, &t.picCardLarge, nullptr}},
+    };
+}
+
+template <>
+frmQDW::Fields<Character> frmQDW::FieldsOf()
+{
+    const Ui::fraCharacter& form = *m_character;
+    CharacterTemplate& t = m_workshop.Templates.Character;
+    Box& piece = m_workshop.Templates.PlayingPiece.picPlayingPieceImage;
+    return {
+        .Texts = {{form.txtCharName, &Character::Name, Guard::None, &t.lblCharacter, &frmQDW::NameChanged},
+                  {form.cboAlignment, &Character::Alignment, Guard::NotLoading, &t.lblAlignment, nullptr},
+                  {form.cboCharAttr0, &Character::Strength, Guard::None, nullptr,
+                   &frmQDW::AttributeChanged<0>},
+                  {form.cboCharAttr1, &Character::Craft, Guard::None, nullptr, &frmQDW::AttributeChanged<1>},
+                  {form.cboCharAttr2, &Character::Gold, Guard::None, nullptr, &frmQDW::AttributeChanged<2>},
+                  {form.cboCharAttr3, &Character::Lives, Guard::None, nullptr, &frmQDW::AttributeChanged<3>},
+                  {form.txtSpecialAbilities, &Character::SpecialAbilities, Guard::None, &t.lblSpecial,
+                   nullptr}},
+        .Checks = {{form.chkShowPictureCharacter, &Character::ShowPicture,
+                    &frmQDW::ShowCharacterPictureClicked},
+                   {form.chkFrameCharacter, &Character::Frame, &frmQDW::CharacterFrameClicked}},
+        .Counts = {},
+        // A character's picture does not take the keyboard when it is chosen, as the other pictures do.
+        .Pictures = {{form.cmdGetCharPic, form.cmdDelCharPic, "Choose characterpicture", &Character::Picture,
+                      &t.picImageCharacter, form.txtPictureCharacter, nullptr, nullptr},
+                     {form.cmdBackCharPic, form.cmdDelBackCharPic, "Choose background picture",
+                      &Character::Background, &t.picBackgroundChar, form.txtBackgroundCharacter, nullptr,
+                      nullptr},
+                     {form.cmdGetPlayingPiecePic, form.cmdDelPlayingPiecePic, "Choose playing piece picture",
+                      &Character::PlayingPiece, &piece, form.txtPlayingPiece, nullptr, nullptr}},
+        .Colours = {},
+    };
+}
+
+template <>
+frmQDW::Fields<NewCardBack> frmQDW::FieldsOf()
+{
+    const Ui::fraCardBack& form = *m_back;
+    const Action changed = &frmQDW::BackChanged;
+    return {
+        .Texts = {{form.txtNewCardBackName, &NewCardBack::Name, Guard::None, nullptr, nullptr},
+                  {form.txtBackText, &NewCardBack::BackText, Guard::NotLoading, nullptr, changed}},
+        .Checks = {{form.chkNewBackPicture, &NewCardBack::UsePicture, changed}},
+        .Counts = {},
+        .Pictures = {{form.cmdGetNewBackPicture, form.cmdDelNewBackPicture, "Choose card back picture",
+                      &NewCardBack::Picture, nullptr, form.txtNewBackPicture, changed, changed}},
+        .Colours = {{form.cmdColor, form.picInnerColor, "Choose Inner Color",
+                     [](NewCardBack& back) -> Colour& { return back.InnerColor; }, nullptr, changed},
+                    {form.cmdFontColor, form.picFontColor, "Choose Font Color",
+                     [](NewCardBack& back) -> Colour& { return back.Font.Color; }, nullptr, changed},
+                    {form.cmdFrameColor, form.picFrameColor, "Choose Frame Color",
+                     [](NewCardBack& back) -> Colour& { return back.FrameColor; }, nullptr, changed},
+                    {form.cmdNewBackColor, form.picNewBackColor, "Choose Outer Color",
+                     [](NewCardBack& back) -> Colour& { return back.BackColor; }, nullptr, changed}},
+    };
+}
+
+template <>
+frmQDW::Fields<SetHeader> frmQDW::FieldsOf()
+{
+    const Ui::fraSet& form = *m_set;
+    return {
+        .Texts = {{form.txtSetname, &SetHeader::SetName, Guard::None, nullptr, &frmQDW::SetnameChanged},
+                  {form.txtFilenamePrefix, &SetHeader::FilenamePrefix, Guard::None, nullptr, nullptr}},
+        .Checks = {{form.chkAutonumber, &SetHeader::Autonumber, &frmQDW::AutonumberClicked},
+                   {form.chkFileNr, &SetHeader::FileNr, nullptr},
+                   {form.chkNoBack, &SetHeader::NoBack, &frmQDW::NoBackClicked},
+                   {form.chkReplaceSpace, &SetHeader::ReplaceSpace, nullptr}},
+        .Counts = {},
+        .Pictures = {},
+        .Colours = {},
+    };
+}
+
+template <>
+Card& frmQDW::Current()
 {
     return m_workshop.Set.Cards[m_workshop.Set.CurrentCard];
 }
 
 template <>
-SetHeader& frmQDW::Current<SetHeader>()
+LargeCard& frmQDW::Current()
+{
+    return m_workshop.Set.LargeCards[m_workshop.Set.CurrentLargeCard];
+}
+
+template <>
+Character& frmQDW::Current()
+{
+    return m_workshop.Set.Characters[m_workshop.Set.CurrentCharacter];
+}
+
+template <>
+NewCardBack& frmQDW::Current()
+{
+    return m_workshop.Set.NewCardBacks[m_workshop.Set.CurrentNewCardBack];
+}
+
+template <>
+SetHeader& frmQDW::Current()
 {
     return m_workshop.Set.Header;
 }
@@ -90,6 +169,9 @@ void frmQDW::Bind(const TextField<Record>& row)
     if (auto* const line = qobject_cast<QLineEdit*>(row.Control)) {
         line->setMaxLength(std::numeric_limits<int>::max()); // the field has no limit either
         On(line, &QLineEdit::textChanged, changed);
+    } else if (auto* const list = qobject_cast<QComboBox*>(row.Control)) {
+        list->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
+        On(list, &QComboBox::editTextChanged, changed);
     } else {
         On(static_cast<QPlainTextEdit*>(row.Control), &QPlainTextEdit::textChanged, changed);
     }
@@ -100,9 +182,17 @@ void frmQDW::Bind(const CheckField<Record>& row)
 {
     On(row.Control, &QCheckBox::clicked, [this, row] {
         Current<Record>().*row.Field = row.Control->isChecked();
-        if (row.After)
-            (this->*row.After)();
+        Run(row.After);
         m_preview->update();
+    });
+}
+
+template <class Record>
+void frmQDW::Bind(const CountField<Record>& row)
+{
+    On(row.Control, &QSpinBox::valueChanged, [this, row] {
+        if (!m_loading) // a number past what the box holds stays in the record
+            Current<Record>().*row.Field = static_cast<int16>(row.Control->value());
     });
 }
 
@@ -115,114 +205,99 @@ void frmQDW::TextChanged(const TextField<Record>& row)
     Current<Record>().*row.Field = text;
     if (row.Preview)
         row.Preview->Caption = text;
-    if (row.After)
-        (this->*row.After)();
+    Run(row.After);
     m_preview->update();
+}
+
+template <class Record>
+void frmQDW::Bind()
+{
+    const Fields<Record> fields = FieldsOf<Record>();
+    for (const auto& row : fields.Texts)
+        Bind(row);
+    for (const auto& row : fields.Checks)
+        Bind(row);
+    for (const auto& row : fields.Counts)
+        Bind(row);
 }
 
 void frmQDW::BindFields()
 {
     // Before the rows, which carry the completed text.
     On(m_card->txtBold, &QLineEdit::textChanged, [this] { CompleteBoldText(); });
-    for (const auto& row : CardTexts())
-        Bind(row);
-    for (const auto& row : CardChecks())
-        Bind(row);
-    for (const auto& row : SetTexts())
-        Bind(row);
-    for (const auto& row : SetChecks())
-        Bind(row);
-    On(m_set->cboSaveFormat, &QComboBox::activated, [this] { SaveFormatChosen(); });
+    Bind<Card>();
+    Bind<LargeCard>();
+    Bind<Character>();
+    Bind<NewCardBack>();
+    Bind<SetHeader>();
+}
+
+template <class Record>
+void frmQDW::Fill()
+{
+    const Fields<Record> fields = FieldsOf<Record>();
+    Record record = Current<Record>(); // a copy: some handlers write back what they are filled with
+    for (const auto& row : fields.Texts)
+        SetTextOf(*row.Control, record.*row.Field);
+    for (const auto& row : fields.Checks)
+        row.Control->setChecked(record.*row.Field);
+    for (const auto& row : fields.Counts)
+        row.Control->setValue(record.*row.Field);
+    for (const auto& row : fields.Pictures)
+        ShowPath(*row.PathBox, record.*row.Field);
+    for (const auto& row : fields.Colours)
+        row.Swatch->SetColour(QColor(ToRgb(row.Field(record))));
 }
 
 void frmQDW::FillCard()
 {
     const LoadingScope loading(*this);
-    const Card card = Current<Card>(); // a copy: some handlers write back what they are filled with
-    for (const auto& row : CardTexts())
-        SetTextOf(*row.Control, card.*row.Field);
-    for (const auto& row : CardChecks())
-        row.Control->setChecked(card.*row.Field);
-    ShowPath(*m_card->txtPicture, card.Picture);
-    ShowPath(*m_card->txtBackground, card.Background);
-    m_card->lblPicDim->setText(FrameSizeText(m_workshop.Templates.Standard.picFrame));
-    FillPosition(m_workshop.Set.CurrentCard);
+    Fill<Card>();
+    const Card& card = Current<Card>();
+    ShowEntry(*m_card->cboType, card.Type + card.SubType);
+    m_card->cboCardBack->setCurrentIndex(card.CardBack - 1);
+    TellFrameSize();
+    FillPosition<Card>();
+    m_preview->update();
+}
+
+void frmQDW::FillLargeCard()
+{
+    const LoadingScope loading(*this);
+    Fill<LargeCard>();
+    TellLargeFrameSize();
+    FillPosition<LargeCard>();
+    m_preview->update();
+}
+
+void frmQDW::FillCharacter()
+{
+    const LoadingScope loading(*this);
+    Fill<Character>();
+    const Character& character = Current<Character>();
+    ShowEntry(*m_character->cboStartArea, character.StartArea);
+    m_character->cboCharacterCardback->setCurrentIndex(character.CardBack);
+    TellCharacterFrameSize();
+    FillPosition<Character>();
+    m_preview->update();
+}
+
+void frmQDW::FillNewCardBack()
+{
+    const LoadingScope loading(*this);
+    Fill<NewCardBack>();
+    FillPosition<NewCardBack>();
+    m_preview->update();
 }
 
 void frmQDW::FillSet()
 {
     const LoadingScope loading(*this);
-    const SetHeader header = Current<SetHeader>();
-    for (const auto& row : SetTexts())
-        SetTextOf(*row.Control, header.*row.Field);
-    for (const auto& row : SetChecks())
-        row.Control->setChecked(header.*row.Field);
+    Fill<SetHeader>();
+    const SetHeader& header = Current<SetHeader>();
     ShowPath(*m_set->txtSymbol, header.Symbol);
     ShowText(*m_set->txtSaveTo, header.SaveTo, header.SaveTo);
     m_set->cboSaveFormat->setCurrentIndex(header.SaveFormat);
-}
-
-/// The first letter of an attribute stands for its name; typing on replaces the rest of it.
-void frmQDW::CompleteBoldText()
-{
-    QLineEdit& txtBold = *m_card->txtBold;
-    const QString text = txtBold.text();
-    const auto complete = [&](const QString& word, int selected) {
-        txtBold.setText(word);
-        txtBold.setSelection(1, selected);
-    };
-    if (text == QLatin1String("S"))
-        complete(QStringLiteral("STRENGTH "), 8);
-    else if (text == QLatin1String("C"))
-        complete(QStringLiteral("CRAFT "), 5);
-}
-
-void frmQDW::BoldTextChanged()
-{
-    PlaceBoldText(m_workshop.Templates.Standard);
-}
-
-void frmQDW::ArtistChanged()
-{
-    DrawArtistCredit(m_workshop, Current<Card>().Artist);
-}
-
-void frmQDW::OneLineClicked()
-{
-    ShowCard(m_workshop.Set.CurrentCard);
-}
-
-void frmQDW::ShowPictureClicked()
-{
-    ShowPictureFrame(m_workshop.Templates.Standard, Current<Card>().ShowPicture);
-}
-
-void frmQDW::FrameClicked()
-{
-    m_workshop.Templates.Standard.picFrame.Border =
-        Current<Card>().Frame ? BorderStyle::Single : BorderStyle::None;
-}
-
-void frmQDW::SetnameChanged()
-{
-    QString name = m_workshop.Set.Header.SetName;
-    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]")); // a mark of Qt's that would not be shown
-    setWindowTitle(name + QStringLiteral(" - Varnhelm Deck Forge"));
-}
-
-void frmQDW::AutonumberClicked()
-{
-    ShowNumbers(m_workshop);
-}
-
-void frmQDW::NoBackClicked()
-{
-    m_workshop.Templates.Standard.picBack.Visible = !m_workshop.Set.Header.NoBack;
-}
-
-void frmQDW::SaveFormatChosen()
-{
-    m_workshop.Set.Header.SaveFormat = static_cast<int16>(m_set->cboSaveFormat->currentIndex());
 }
 
 } // namespace deckforge

@@ -1,10 +1,13 @@
+#include "dialogs/CardPreview.h"
 #include "editor/frmQDW.h"
-
-#include "editor/CardPreview.h"
+#include "platform/Twips.h"
 #include "platform/Version.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollArea>
+#include <algorithm>
+#include <iterator>
 
 namespace deckforge {
 
@@ -56,13 +59,34 @@ void frmQDW::ShowVersion()
                                  .Style = BoxStyle::Information});
 }
 
+/// Tells where the window and the card stand, in twips and pixels.
+void frmQDW::ShowOffsets()
+{
+    const QSize window = frameGeometry().size();
+    const Box& picCard = m_workshop.Templates.Standard.picCard;
+    const QString text = QStringLiteral("Form height (Twip):%1, Form width (Twip):%2\r\n"
+                                        "Form height:%3, Form width:%4\r\n"
+                                        "Offset top:%5, Offset left:%6");
+    m_workshop.User.ShowMessage({.Text = text.arg(window.height() * TwipsPerPixelY)
+                                             .arg(window.width() * TwipsPerPixelX)
+                                             .arg(window.height())
+                                             .arg(window.width())
+                                             .arg(picCard.Top)
+                                             .arg(picCard.Left),
+                                 .Title = QStringLiteral("Offset info"),
+                                 .Style = BoxStyle::Plain});
+}
+
 /// Labels, bars and the card let a click through to the window; they are no background.
 bool frmQDW::IsBackground(QPoint point) const
 {
     const QWidget* const under = childAt(point);
     if (under == m_preview)
-        return !m_preview->IsOnCard(m_preview->mapFrom(this, point));
-    return under == centralWidget() || under == fraCard || under == fraCard->parentWidget();
+        return m_preview->BoxAt(m_preview->mapFrom(this, point)) == nullptr;
+    const QWidget* const grounds[] = {
+        centralWidget(),          fraCard, fraLargeCard, fraCharacter, fraCardBack, fraCard->parentWidget(),
+        m_previewArea->viewport()};
+    return std::find(std::begin(grounds), std::end(grounds), under) != std::end(grounds);
 }
 
 } // namespace deckforge

@@ -1,7 +1,5 @@
-#include "editor/frmQDW.h"
-
 #include "dialogs/frmCardSheet.h"
-#include "editor/CardPreview.h"
+#include "editor/frmQDW.h"
 #include "files/modFile.h"
 #include "output/HtmlSheets.h"
 #include "output/Statistics.h"
@@ -16,21 +14,22 @@ void frmQDW::ExportBacks()
 
 void frmQDW::CreateOne()
 {
-    const int16 current = m_workshop.Set.CurrentCard;
-    ShowCard(current);
-    SaveCard(m_workshop, current, Ask::Yes, Tell::Yes);
+    const Mode& mode = Selected();
+    const int16 current = m_workshop.Set.*mode.Current;
+    (this->*mode.Show)(current);
+    mode.Save(m_workshop, current, Ask::Yes, Tell::Yes, {});
 }
 
 void frmQDW::CreateAll()
 {
-    CreateCards(m_workshop);
+    Selected().CreateAll(m_workshop);
     ShowAfterRun();
 }
 
 void frmQDW::CreateSheets()
 {
     const std::optional<SheetGrid> grid = AskSheetGrid(m_workshop.Set.Header.NoBack, this);
-    CreateCardSheets(m_workshop, grid); // tells of a cancel as well
+    Selected().CreateSheets(m_workshop, grid); // tells of a cancel as well
     if (grid)
         ShowAfterRun();
 }
@@ -38,13 +37,29 @@ void frmQDW::CreateSheets()
 /// The run has laid the current card out again; other cards were on the preview before.
 void frmQDW::ShowAfterRun()
 {
-    m_preview->update();
-    FillCard();
+    if (m_workshop.Set.*Selected().Current > 0)
+        Run(Selected().FillAgain);
 }
 
 void frmQDW::CreateHtml()
 {
+    Run(Selected().CreateHtml);
+}
+
+void frmQDW::CreateCardHtml()
+{
     CreateHtmlCards(m_workshop.Set, m_workshop.User);
+}
+
+void frmQDW::CreateLargeCardHtml()
+{
+    CreateHtmlLargeCards(m_workshop.Set, m_workshop.User);
+}
+
+void frmQDW::CreateCharacterHtml()
+{
+    CreateHtmlCharacters(m_workshop.Set, m_workshop.User);
+    CreateHtmlPieces(m_workshop.Set, m_workshop.User);
 }
 
 void frmQDW::ExportListing()

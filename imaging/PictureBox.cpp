@@ -17,11 +17,6 @@ const TextFont& FirstFont()
     return font;
 }
 
-Colour ToColour(QRgb rgb)
-{
-    return (qBlue(rgb) << 16) | (qGreen(rgb) << 8) | qRed(rgb);
-}
-
 /// A rectangle of logical pixels in the memory.
 QRect InMemory(const QRect& logical, int scale)
 {
@@ -45,6 +40,11 @@ void PaintOn(QImage& image, int scale, const Picture& picture, QPoint target, co
 QRgb ToRgb(Colour colour)
 {
     return qRgb(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+}
+
+Colour FromRgb(QRgb rgb)
+{
+    return (qBlue(rgb) << 16) | (qGreen(rgb) << 8) | qRed(rgb);
 }
 
 PictureBox::PictureBox(QSize size, int scale) : m_size(size), m_scale(scale), m_font(FirstFont())
@@ -207,7 +207,7 @@ Colour PictureBox::GetPixel(int x, int y) const
 {
     if (!QRect({0, 0}, m_size).contains(x, y))
         return InvalidColour;
-    return ToColour(Pixels().pixel(x * m_scale, y * m_scale));
+    return FromRgb(Pixels().pixel(x * m_scale, y * m_scale));
 }
 
 void PictureBox::SetPixel(int x, int y, Colour colour)

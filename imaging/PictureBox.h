@@ -87,7 +87,8 @@ private:
     mutable QHash<TextFont, std::shared_ptr<const FontMeasures>> m_measures; ///< of the fonts used so far
 };
 
-/// The colour as the drawing library has it.
+// A colour as the drawing library has it, and back.
 [[nodiscard]] QRgb ToRgb(Colour colour);
+[[nodiscard]] Colour FromRgb(QRgb rgb);
 
 } // namespace deckforge

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/FontSpec.h"
 #include "platform/RunTimeError.h"
 
-#include <QString>
 #include <optional>
 
 namespace deckforge {
@@ -38,6 +38,7 @@ public:
     UserPort(const UserPort&) = delete;
     UserPort& operator=(const UserPort&) = delete;
 
+    /// A question that is put aside without an answer gives Cancel, also where there is no such button.
     virtual Answer ShowMessage(const MessageBoxRequest& request) = 0;
 
     /// The full path chosen; nothing when the user cancels.
@@ -46,6 +47,10 @@ public:
 
     /// The folder chosen, with its separator; nothing when the user cancels.
     virtual std::optional<QString> BrowseForFolder() = 0;
+
+    // The dialogs start from the colour or font given. Nothing when the user cancels.
+    virtual std::optional<Colour> AskColour(const QString& title, Colour colour) = 0;
+    virtual std::optional<FontSpec> AskFont(const QString& title, const FontSpec& font) = 0;
 
     virtual void SetPointer(Pointer pointer) = 0;
 

@@ -8,6 +8,8 @@ ScriptedUser::~ScriptedUser()
 {
     EXPECT_TRUE(m_answers.empty()) << "an answer was left over";
     EXPECT_TRUE(m_paths.empty()) << "a path was left over";
+    EXPECT_TRUE(m_colours.empty()) << "a colour was left over";
+    EXPECT_TRUE(m_fonts.empty()) << "a font was left over";
 }
 
 Answer ScriptedUser::ShowMessage(const MessageBoxRequest& request)
@@ -41,6 +43,18 @@ std::optional<QString> ScriptedUser::BrowseForFolder()
     return NextPath(QStringLiteral("Choose a directory from the list."));
 }
 
+std::optional<Colour> ScriptedUser::AskColour(const QString& title, Colour /*colour*/)
+{
+    ColourTitles.append(title);
+    return Next(m_colours, title);
+}
+
+std::optional<FontSpec> ScriptedUser::AskFont(const QString& title, const FontSpec& font)
+{
+    FontDialogs.push_back(font);
+    return Next(m_fonts, title);
+}
+
 void ScriptedUser::ShowProgress(int done, int total)
 {
     ++ProgressSteps;
@@ -62,6 +76,18 @@ MessageBoxRequest ScriptedUser::LastBox() const
         return {};
     }
     return Boxes.back();
+}
+
+template <class Value>
+std::optional<Value> ScriptedUser::Next(std::deque<std::optional<Value>>& queue, const QString& title)
+{
+    if (queue.empty()) {
+        ADD_FAILURE() << "nobody scripted a choice for the dialog " << title.toStdString();
+        return std::nullopt;
+    }
+    const std::optional<Value> value = queue.front();
+    queue.pop_front();
+    return value;
 }
 
 std::optional<QString> ScriptedUser::NextPath(const QString& title)

@@ -19,12 +19,18 @@ public:
 
     void WillAnswer(deckforge::Answer answer) { m_answers.push_back(answer); }
     void WillChoose(const QString& path) { m_paths.append(path); }
+    void WillPick(Colour colour) { m_colours.push_back(colour); }
+    void WillPick(const FontSpec& font) { m_fonts.push_back(font); }
+    void WillPickNoColour() { m_colours.push_back(std::nullopt); }
+    void WillPickNoFont() { m_fonts.push_back(std::nullopt); }
     void WillCancelDialog() { m_paths.append(QString()); }
 
     Answer ShowMessage(const MessageBoxRequest& request) override;
     std::optional<QString> AskOpenFile(const FileDialogRequest& request) override;
     std::optional<QString> AskSaveFile(const FileDialogRequest& request) override;
     std::optional<QString> BrowseForFolder() override;
+    std::optional<Colour> AskColour(const QString& title, Colour colour) override;
+    std::optional<FontSpec> AskFont(const QString& title, const FontSpec& font) override;
     void SetPointer(Pointer pointer) override { Pointers.push_back(pointer); }
     void ShowProgress(int done, int total) override;
 
@@ -32,6 +38,8 @@ public:
     std::vector<FileDialogRequest> OpenDialogs;
     std::vector<FileDialogRequest> SaveDialogs;
     std::vector<Pointer> Pointers;
+    std::vector<FontSpec> FontDialogs; ///< what each started from
+    QStringList ColourTitles;
     int ProgressSteps = 0;
 
     /// "TITLE|text" of each box, for comparing all of them at once.
@@ -40,8 +48,12 @@ public:
 
 private:
     std::optional<QString> NextPath(const QString& title);
+    template <class Value>
+    std::optional<Value> Next(std::deque<std::optional<Value>>& queue, const QString& title);
 
     std::deque<deckforge::Answer> m_answers;
+    std::deque<std::optional<Colour>> m_colours;
+    std::deque<std::optional<FontSpec>> m_fonts;
     QStringList m_paths; ///< a null text stands for a cancel
 };
 

@@ -1,0 +1,166 @@
+#include "compose/PicturePlacement.h"
+
+#include "compose/CharacterCard.h"
+#include "compose/LargeCard.h"
+#include "compose/StandardCard.h"
+#include "platform/Twips.h"
+
+#include <algorithm>
+
+namespace deckforge {
+
+namespace {
+
+/// A picture with its frame and the offsets of the record.
+struct PictureRow {
+    const Box& Frame;
+    const Box& Measured; ///< the picture by whose size End and Page Down go
+    double& Left;
+    double& Top;
+    void (*Place)(Workshop&, int16);
+    int16 Index;
+
+    void PlaceIt(Workshop& workshop) const { Place(workshop, Index); }
+};
+
+PictureRow RowOf(Workshop& workshop, PlacedPicture which)
+{
+    CardTemplates& t = workshop.Templates;
+    CardSet& set = workshop.Set;
+    switch (which) {
+    case PlacedPicture::Standard: {
+        Card& card = set.Cards[set.CurrentCard];
+        return {t.Standard.picFrame, t.Standard.picImage, card.PictureLeft,
+                card.PictureTop,     &PlaceCardPicture,   set.CurrentCard};
+    }
+    case PlacedPicture::Large: {
+        LargeCard& card = set.LargeCards[set.CurrentLargeCard];
+        // Its edges are found by the size of the standard card's picture, as they always were.
+        return {t.Large.picFrameLarge, t.Standard.picImage, card.PictureLeft,
+                card.PictureTop,       &PlaceLargePicture,  set.CurrentLargeCard};
+    }
+    case PlacedPicture::Character: {
+        Character& character = set.Characters[set.CurrentCharacter];
+        return {t.Character.picFrameCharacter, t.Character.picImageCharacter, character.PictureLeft,
+                character.PictureTop,          &PlaceCharacterPicture,        set.CurrentCharacter};
+    }
+    case PlacedPicture::PlayingPiece:
+        break;
+    }
+    Character& character = set.Characters[set.CurrentCharacter];
+    return {t.PlayingPiece.picPlayingPieceFrame, t.PlayingPiece.picPlayingPieceImage,
+            character.PlayingPieceLeft,          character.PlayingPieceTop,
+            &PlacePlayingPiecePicture,           set.CurrentCharacter};
+}
+
+/// How far the handle of a kind goes, in pixels of the card.
+struct HandleRange {
+    int Least;
+    int Most;
+};
+
+constexpr HandleRange StandardHandle = {60, 208};
+constexpr HandleRange LargeHandle = {30, 180};
+constexpr HandleRange CharacterHandle = {15, 154};
+
+int Moved(int position, int pixels, HandleRange range)
+{
+    return std::clamp(position + pixels, range.Least, range.Most);
+}
+
+void MoveStandardHandle(Workshop& workshop, int top)
+{
+    CardTemplate& t = workshop.Templates.Standard;
+    PlaceHandle(t, top);
+    workshop.Set.Cards[workshop.Set.CurrentCard].FrameHeight = static_cast<int16>(t.picFrame.Height);
+}
+
+} // namespace
+
+void MovePicture(Workshop& workshop, PlacedPicture which, double right, double down)
+{
+    const PictureRow row = RowOf(workshop, which);
+    row.Left += right;
+    row.Top += down;
+    row.PlaceIt(workshop);
+}
+
+void MovePictureByKey(Workshop& workshop, PlacedPicture which, Qt::Key key)
+{
+    const PictureRow row = RowOf(workshop, which);
+    switch (key) {
+    case Qt::Key_PageUp:
+        row.Top = 0;
+        break;
+    case Qt::Key_PageDown:
+        row.Top = (row.Frame.Height - 3 - row.Measured.Height) * TwipsPerPixelY;
+        break;
+    case Qt::Key_End:
+        row.Left = (row.Frame.Width - 1 - row.Measured.Width) * TwipsPerPixelX;
+        break;
+    case Qt::Key_Home:
+        row.Left = 0;
+        break;
+    case Qt::Key_Left:
+        row.Left -= TwipsPerPixelX;
+        break;
+    case Qt::Key_Up:
+        row.Top -= TwipsPerPixelY;
+        break;
+    case Qt::Key_Right:
+        row.Left += TwipsPerPixelX;
+        break;
+    case Qt::Key_Down:
+        row.Top += TwipsPerPixelY;
+        break;
+    default:
+        break;
+    }
+    row.PlaceIt(workshop);
+}
+
+void MoveHandle(Workshop& workshop, PlacedPicture which, int pixels)
+{
+    CardTemplates& t = workshop.Templates;
+    CardSet& set = workshop.Set;
+    switch (which) {
+    case PlacedPicture::Standard:
+        MoveStandardHandle(workshop, Moved(t.Standard.lblPicSize.Top, pixels, StandardHandle));
+        break;
+    case PlacedPicture::Large:
+        PlaceHandle(t.Large, Moved(t.Large.lblPicSizeLarge.Left, pixels, LargeHandle));
+        set.LargeCards[set.CurrentLargeCard].FrameHeight = static_cast<int16>(t.Large.picFrameLarge.Width);
+        break;
+    case PlacedPicture::Character:
+        PlaceHandle(t.Character, Moved(t.Character.lblPicSizeCharacter.Left, pixels, CharacterHandle));
+        set.Characters[set.CurrentCharacter].FrameHeight =
+            static_cast<int16>(t.Character.picFrameCharacter.Width);
+        break;
+    case PlacedPicture::PlayingPiece:
+        break;
+    }
+}
+
+void MoveHandleByKey(Workshop& workshop, Qt::Key key)
+{
+    int top = workshop.Templates.Standard.lblPicSize.Top;
+    if (key == Qt::Key_Up && top > StandardHandle.Least)
+        --top;
+    else if (key == Qt::Key_Down && top < StandardHandle.Most)
+        ++top;
+    else if (key == Qt::Key_End)
+        top = StandardHandle.Most;
+    else if (key == Qt::Key_Home)
+        top = StandardHandle.Least;
+    MoveStandardHandle(workshop, top);
+}
+
+void CentrePicture(Workshop& workshop)
+{
+    constexpr int margins = 10;
+    const CardTemplate& t = workshop.Templates.Standard;
+    const double room = t.picCard.Width - margins - t.picImage.Width;
+    workshop.Set.Cards[workshop.Set.CurrentCard].PictureLeft = room / 2 * TwipsPerPixelX;
+}
+
+} // namespace deckforge

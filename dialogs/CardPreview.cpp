@@ -1,0 +1,347 @@
+#include "dialogs/CardPreview.h"
+
+#include "imaging/TextFont.h"
+
+#include <QHash>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace deckforge {
+
+namespace {
+
+constexpr QRgb WindowGrey = qRgb(240, 240, 240);
+
+/// What a parent means for its children, in pixels of the card.
+struct Inside {
+    QPoint Origin;
+    QRect Clip; ///< empty where the parent is hidden
+};
+
+/// A set from a stranger can name a font of no size at all.
+TextFont FontOf(const FontSpec& font)
+{
+    constexpr double usualPoints = 7;
+    const bool hasSize = font.Size > 0 && font.Size <= PictureBox::MostPoints;
+    return {.Name = font.Name.isEmpty() ? QStringLiteral("Small Fonts") : font.Name,
+            .Size = hasSize ? font.Size : usualPoints,
+            .Bold = font.Bold,
+            .Italic = font.Italic};
+}
+
+int TextFlags(Alignment align)
+{
+    constexpr int wrapped = Qt::AlignTop | Qt::TextWordWrap;
+    switch (align) {
+    case Alignment::Right:
+        return wrapped | Qt::AlignRight;
+    case Alignment::Centre:
+        return wrapped | Qt::AlignHCenter;
+    case Alignment::Left:
+        break;
+    }
+    return wrapped | Qt::AlignLeft;
+}
+
+void PaintLabel(QPainter& painter, const Box& box, const QRect& place)
+{
+    QString caption = box.Caption;
+    painter.setFont(DrawnFont(FontOf(box.Font)));
+    painter.setPen(QColor(ToRgb(box.Font.Color)));
+    painter.drawText(place, TextFlags(box.Align),
+                     caption.replace(QLatin1String("\r\n"), QLatin1String("\n")));
+}
+
+void PaintSurface(QPainter& painter, const PictureBox& surface, const QRect& content)
+{
+    painter.drawImage(QRect(content.topLeft(), surface.Size()), surface.Image().Pixels());
+}
+
+void PaintBorder(QPainter& painter, const QRect& place)
+{
+    const QRegion outside = QRegion(place) - QRegion(place.adjusted(1, 1, -1, -1));
+    for (const QRect& side : outside)
+        painter.fillRect(side, Qt::black);
+}
+
+QRect ContentOf(const Box& box, const QRect& place)
+{
+    const int border = box.BorderWidth();
+    return place.adjusted(border, border, -border, -border);
+}
+
+void PaintBox(QPainter& painter, const PreviewBox& row, const QRect& place)
+{
+    const Box& box = *row.Shown;
+    if (box.BorderWidth() > 0)
+        PaintBorder(painter, place);
+    const QRect content = ContentOf(box, place);
+    painter.setClipRect(content, Qt::IntersectClip);
+    switch (row.Look) {
+    case BoxLook::Surface:
+        PaintSurface(painter, *box.Surface, content);
+        break;
+    case BoxLook::Picture:
+        if (!box.Surface->GetPicture().IsEmpty())
+            PaintSurface(painter, *box.Surface, content);
+        break;
+    case BoxLook::Label:
+        PaintLabel(painter, box, content);
+        break;
+    case BoxLook::Frame:
+        painter.fillRect(content, QColor(WindowGrey));
+        break;
+    case BoxLook::WhiteFrame:
+        painter.fillRect(content, Qt::white);
+        break;
+    case BoxLook::Outline:
+        break;
+    }
+}
+
+Qt::CursorShape PointerFor(Grip moves)
+{
+    switch (moves) {
+    case Grip::UpDown:
+        return Qt::SizeVerCursor;
+    case Grip::LeftRight:
+        return Qt::SizeHorCursor;
+    case Grip::All:
+        return Qt::SizeAllCursor;
+    case Grip::None:
+        break;
+    }
+    return Qt::ArrowCursor;
+}
+
+} // namespace
+
+CardPreview::CardPreview(std::vector<PreviewBox> boxes, QWidget* parent)
+    : QWidget(parent), m_boxes(std::move(boxes))
+{
+    setAccessibleName(QStringLiteral("Preview of the card"));
+    setMouseTracking(true);
+    SettleFocus();
+}
+
+void CardPreview::SetZoom(int zoom)
+{
+    m_zoom = std::clamp(zoom, 1, MostZoom);
+    updateGeometry();
+    update();
+}
+
+QSize CardPreview::sizeHint() const
+{
+    const QSizeF size = QSizeF(Bounds().size()) * Scale();
+    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+}
+
+QSize CardPreview::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+const Box* CardPreview::BoxAt(QPointF point) const
+{
+    const PreviewBox* const row = RowAt(point);
+    return row ? row->Shown : nullptr;
+}
+
+const Box* CardPreview::ParentOf(const Box& box) const
+{
+    const auto row = std::find_if(m_boxes.begin(), m_boxes.end(),
+                                  [&](const PreviewBox& candidate) { return candidate.Shown == &box; });
+    return row == m_boxes.end() ? nullptr : row->Parent;
+}
+
+void CardPreview::FocusOn(const Box& picture)
+{
+    m_focus = &picture;
+    SettleFocus();
+    setFocus();
+}
+
+void CardPreview::SettleFocus()
+{
+    const Box* first = nullptr;
+    const Box* kept = nullptr;
+    for (const SeenBox& seen : SeenBoxes()) {
+        const Box* const box = seen.Row->Shown;
+        if (seen.Row->Moves != Grip::All)
+            continue;
+        if (!first)
+            first = box;
+        if (box == m_focus)
+            kept = box;
+    }
+    m_focus = kept ? kept : first;
+    setFocusPolicy(m_focus ? Qt::StrongFocus : Qt::NoFocus);
+    update();
+}
+
+bool CardPreview::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* const help = static_cast<QHelpEvent*>(event);
+    Q_EMIT TipWanted(BoxAt(help->pos()), help->globalPos());
+    return true;
+}
+
+void CardPreview::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setTransform(FromCard(), true);
+    const std::vector<SeenBox> boxes = SeenBoxes();
+    for (const SeenBox& seen : boxes) {
+        painter.save();
+        painter.setClipRect(seen.Clip);
+        PaintBox(painter, *seen.Row, seen.Place);
+        painter.restore();
+    }
+    if (hasFocus())
+        PaintFocus(painter, boxes);
+}
+
+void CardPreview::mousePressEvent(QMouseEvent* event)
+{
+    const PreviewBox* const row = RowAt(event->position());
+    m_pressed = row ? row->Shown : nullptr;
+    if (!m_pressed || event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    if (row->Moves == Grip::All)
+        FocusOn(*m_pressed);
+    Q_EMIT Pressed(m_pressed, PointIn(*m_pressed, event->position()));
+}
+
+void CardPreview::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() == Qt::NoButton) {
+        const PreviewBox* const row = RowAt(event->position());
+        setCursor(PointerFor(row ? row->Moves : Grip::None));
+    } else if (m_pressed && event->buttons() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
+        Q_EMIT Dragged(m_pressed, PointIn(*m_pressed, event->position()));
+    }
+}
+
+void CardPreview::mouseReleaseEvent(QMouseEvent* event)
+{
+    const Box* const pressed = std::exchange(m_pressed, nullptr);
+    if (event->button() == Qt::LeftButton && pressed && pressed == BoxAt(event->position()))
+        Q_EMIT Clicked(pressed);
+}
+
+void CardPreview::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const Box* const box = BoxAt(event->position());
+    if (box && event->button() == Qt::LeftButton)
+        Q_EMIT DoubleClicked(box);
+    else
+        event->ignore(); // the window tells its version
+}
+
+void CardPreview::keyPressEvent(QKeyEvent* event)
+{
+    // Modifiers alone, and what no picture answers to, are left to the window.
+    const bool isForWindow = event->key() >= Qt::Key_Shift || event->modifiers() & Qt::ControlModifier;
+    const bool isArrow = event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown;
+    if (m_focus && (isArrow || !isForWindow))
+        Q_EMIT KeyPressed(m_focus, static_cast<Qt::Key>(event->key()), event->modifiers());
+    else
+        QWidget::keyPressEvent(event);
+}
+
+std::vector<CardPreview::SeenBox> CardPreview::SeenBoxes() const
+{
+    std::vector<SeenBox> seen;
+    QHash<const Box*, Inside> insides;
+    insides.insert(nullptr, {{0, 0}, Bounds()});
+    for (const PreviewBox& row : m_boxes) {
+        const Inside outer = insides.value(row.Parent);
+        const QRect place = row.Shown->Place().translated(outer.Origin);
+        const QRect content = ContentOf(*row.Shown, place);
+        const bool isSeen = row.Shown->Visible && !outer.Clip.isEmpty();
+        insides.insert(row.Shown, {content.topLeft(), isSeen ? content & outer.Clip : QRect()});
+        if (isSeen)
+            seen.push_back({&row, place, outer.Clip});
+    }
+    return seen;
+}
+
+const PreviewBox* CardPreview::RowAt(QPointF point) const
+{
+    const QPointF onCard = FromCard().inverted().map(point);
+    const QPoint pixel(static_cast<int>(std::floor(onCard.x())), static_cast<int>(std::floor(onCard.y())));
+    const PreviewBox* foremost = nullptr;
+    for (const SeenBox& seen : SeenBoxes()) {
+        if (seen.Row->Look != BoxLook::Outline && (seen.Place & seen.Clip).contains(pixel))
+            foremost = seen.Row;
+    }
+    return foremost;
+}
+
+/// Also of a box that is not seen, as one is that was dragged out of its frame.
+QPoint CardPreview::CornerOf(const Box& box) const
+{
+    const QPoint corner = box.Place().topLeft();
+    const Box* const parent = ParentOf(box);
+    if (!parent)
+        return corner;
+    return corner + ContentOf(*parent, {CornerOf(*parent), parent->Place().size()}).topLeft();
+}
+
+QPoint CardPreview::PointIn(const Box& box, QPointF point) const
+{
+    const QPointF inBox = FromCard().inverted().map(point) - CornerOf(box);
+    return {static_cast<int>(std::floor(inBox.x())), static_cast<int>(std::floor(inBox.y()))};
+}
+
+double CardPreview::Scale() const
+{
+    const double ratio = devicePixelRatioF();
+    return std::max(1.0, std::round(m_zoom * ratio)) / ratio;
+}
+
+QTransform CardPreview::FromCard() const
+{
+    const QRect bounds = Bounds();
+    const double scale = Scale();
+    QTransform transform;
+    transform.translate(0, height() - scale * bounds.height());
+    transform.scale(scale, scale);
+    transform.translate(-bounds.left(), -bounds.top());
+    return transform;
+}
+
+QRect CardPreview::Bounds() const
+{
+    QRect bounds;
+    for (const PreviewBox& row : m_boxes) {
+        if (!row.Parent)
+            bounds |= row.Shown->Place();
+    }
+    return bounds;
+}
+
+/// A dashed line round what the frame shows of the picture, dark and light, so that it is seen on both.
+void CardPreview::PaintFocus(QPainter& painter, const std::vector<SeenBox>& boxes) const
+{
+    for (const SeenBox& seen : boxes) {
+        if (seen.Row->Shown != m_focus)
+            continue;
+        const QRectF line = QRectF(seen.Clip).adjusted(0.5, 0.5, -0.5, -0.5);
+        painter.setPen(QPen(Qt::white, 0));
+        painter.drawRect(line);
+        painter.setPen(QPen(Qt::black, 0, Qt::DotLine));
+        painter.drawRect(line);
+    }
+}
+
+} // namespace deckforge

@@ -1,0 +1,110 @@
+#include "dialogs/frmFont.h"
+
+#include "imaging/PictureBox.h"
+#include "imaging/TextFont.h"
+#include "ui_frmFont.h"
+
+#include <QFontDatabase>
+#include <QPainter>
+
+namespace deckforge {
+
+namespace {
+
+constexpr int SampleZoom = 2; ///< as the preview of a card usually is
+constexpr QSize SampleSize = {190, 42};
+
+/// The families of this machine behind the names that cards begin with, and the one chosen so far.
+QStringList FontNames(const QString& chosen)
+{
+    QStringList names = {QStringLiteral("Small Fonts"), QStringLiteral("Arial")};
+    if (!chosen.isEmpty())
+        names.prepend(chosen);
+    names += QFontDatabase::families();
+    names.removeDuplicates();
+    return names;
+}
+
+/// Side by side on white and on black, so that every colour is seen.
+QPixmap SamplePicture(const FontSpec& font, double ratio)
+{
+    const QSize size = SampleSize * SampleZoom;
+    QPixmap picture((QSizeF(size) * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
+    QPainter painter(&picture);
+    painter.scale(SampleZoom, SampleZoom);
+    painter.setFont(DrawnFont({font.Name, font.Size, font.Bold, font.Italic}));
+    painter.setPen(QColor(ToRgb(font.Color)));
+    const int half = SampleSize.width() / 2;
+    for (const bool isDark : {false, true}) {
+        const QRect place(isDark ? half : 0, 0, half, SampleSize.height());
+        painter.setClipRect(place);
+        painter.fillRect(place, isDark ? Qt::black : Qt::white);
+        painter.drawText(place, Qt::AlignCenter, QStringLiteral("STRENGTH 5"));
+    }
+    return picture;
+}
+
+class FontDialog final : public QDialog {
+public:
+    FontDialog(const QString& title, const FontSpec& font, UserPort& user, QWidget* window)
+        : QDialog(window), m_user(user), m_colour(font.Color)
+    {
+        setWindowTitle(title);
+        m_form.setupUi(this);
+        m_form.cboFont->addItems(FontNames(font.Name));
+        m_form.cboFont->setCurrentText(font.Name);
+        m_form.udSize->setValue(font.Size);
+        m_form.chkBold->setChecked(font.Bold);
+        m_form.chkItalic->setChecked(font.Italic);
+        connect(m_form.cboFont, &QComboBox::currentTextChanged, this, [this] { Refresh(); });
+        connect(m_form.udSize, &QDoubleSpinBox::valueChanged, this, [this] { Refresh(); });
+        connect(m_form.chkBold, &QCheckBox::toggled, this, [this] { Refresh(); });
+        connect(m_form.chkItalic, &QCheckBox::toggled, this, [this] { Refresh(); });
+        connect(m_form.picColor, &ColourSwatch::clicked, this, [this] { PickColour(); });
+        connect(m_form.buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        connect(m_form.buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        Refresh();
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+    }
+
+    [[nodiscard]] FontSpec Font() const
+    {
+        return {.Name = m_form.cboFont->currentText(),
+                .Size = m_form.udSize->value(),
+                .Bold = m_form.chkBold->isChecked(),
+                .Italic = m_form.chkItalic->isChecked(),
+                .Color = m_colour};
+    }
+
+private:
+    void PickColour()
+    {
+        const auto picked = m_user.AskColour(QStringLiteral("Choose font color"), m_colour);
+        m_colour = picked.value_or(m_colour);
+        Refresh();
+    }
+
+    void Refresh()
+    {
+        m_form.picColor->SetColour(QColor(ToRgb(m_colour)));
+        m_form.imgSample->setPixmap(SamplePicture(Font(), devicePixelRatioF()));
+    }
+
+    Ui::frmFont m_form;
+    UserPort& m_user;
+    Colour m_colour;
+};
+
+} // namespace
+
+std::optional<FontSpec> ChooseFontInDialog(const QString& title, const FontSpec& font, UserPort& user,
+                                           QWidget* window)
+{
+    FontDialog dialog(title, font, user, window);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Font();
+}
+
+} // namespace deckforge

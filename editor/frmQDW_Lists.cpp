@@ -1,0 +1,185 @@
+#include "core/CardVocabulary.h"
+#include "core/Vocabulary.h"
+#include "dialogs/CardPreview.h"
+#include "editor/TextControl.h"
+#include "editor/frmQDW.h"
+#include "platform/Numbers.h"
+#include "ui_fraCard.h"
+#include "ui_fraCharacter.h"
+#include "ui_fraSet.h"
+
+namespace deckforge {
+
+namespace {
+
+/// The entry of the list of a character's backs that takes a picture of the user's.
+constexpr int UserDefinedCharacterBack = 3;
+
+void FillList(QComboBox& list, const QStringList& entries)
+{
+    list.clear();
+    list.addItems(entries);
+    if (list.isEditable())
+        list.setCompleter(nullptr); // what is typed stays as typed
+}
+
+} // namespace
+
+void frmQDW::BindLists()
+{
+    On(m_card->cboType, &QComboBox::activated, [this] { TypeChosen(); });
+    On(m_card->cboType->lineEdit(), &QLineEdit::textEdited, [this] { TypeTyped(); });
+    On(m_card->cboCardBack, &QComboBox::activated, [this] { CardBackChosen(); });
+    On(m_character->cboStartArea, &QComboBox::activated, [this] { StartAreaChosen(); });
+    On(m_character->cboStartArea->lineEdit(), &QLineEdit::textEdited, [this] { StartAreaTyped(); });
+    On(m_character->cboCharacterCardback, &QComboBox::activated, [this] { CharacterBackChosen(); });
+    On(m_set->cboSaveFormat, &QComboBox::activated, [this] { SaveFormatChosen(); });
+}
+
+/// The lists that no set changes.
+void frmQDW::FillLists()
+{
+    const LoadingScope loading(*this);
+    FillList(*m_card->cboNumber, CardNumbers());
+    FillList(*m_character->cboAlignment, Alignments());
+    FillList(*m_character->cboStartArea, StartAreas());
+    FillList(*m_character->cboCharacterCardback, CharacterBackNames());
+    for (QComboBox* attribute : {m_character->cboCharAttr0, m_character->cboCharAttr1,
+                                 m_character->cboCharAttr2, m_character->cboCharAttr3})
+        FillList(*attribute, AttributeValues());
+    FillList(*m_set->cboSaveFormat, SaveFormats());
+}
+
+void frmQDW::FillCardTypeList()
+{
+    const LoadingScope loading(*this);
+    const CardSet& set = m_workshop.Set;
+    QStringList entries;
+    for (int16 row = 1; row <= set.CardTypeCount; ++row)
+        entries += TypeListEntry(set.CardTypes[row]);
+    FillList(*m_card->cboType, entries);
+    m_card->cboType->setCurrentIndex(1);
+}
+
+void frmQDW::FillCardBackList()
+{
+    const LoadingScope loading(*this);
+    const CardSet& set = m_workshop.Set;
+    QStringList entries;
+    for (int16 row = 1; row <= set.CardBackCount; ++row)
+        entries += set.CardBacks[row].Name;
+    FillList(*m_card->cboCardBack, entries << UserDefinedBack());
+    m_card->cboCardBack->setCurrentIndex(set.LastCardBack - 1);
+}
+
+void frmQDW::TypeChosen()
+{
+    Card& card = Current<Card>();
+    const auto row = static_cast<int16>(m_card->cboType->currentIndex() + 1);
+    ChooseCardType(m_workshop.Set, card, row);
+    ShowTypeLines();
+    const int16 number = m_workshop.Set.CardTypes[row].Number;
+    card.Number = number < 0 ? QString() : QString::number(number);
+    m_workshop.Templates.Standard.lblNumber.Caption = card.Number;
+    SetTextOf(*m_card->cboNumber, card.Number);
+    m_preview->update();
+}
+
+void frmQDW::TypeTyped()
+{
+    TypeCardType(m_workshop.Set, Current<Card>(), m_card->cboType->currentText());
+    ShowTypeLines();
+    m_preview->update();
+}
+
+/// The parts of the type as they are, also on a card that has its type on one line; it joins them when it is
+/// shown again.
+void frmQDW::ShowTypeLines()
+{
+    auto& lblType = m_workshop.Templates.Standard.lblType;
+    const Card& card = Current<Card>();
+    lblType[0].Caption = card.Type;
+    lblType[1].Caption = card.TypeReversed;
+    lblType[2].Caption = card.SubType;
+    lblType[3].Caption = card.SubTypeReversed;
+}
+
+void frmQDW::CardBackChosen()
+{
+    const QComboBox& list = *m_card->cboCardBack;
+    if (list.currentText() == UserDefinedBack()) {
+        if (const auto path = AskPicture("Choose picture", nullptr))
+            AddUserBack(*path);
+        return;
+    }
+    Card& card = Current<Card>();
+    const auto row = static_cast<int16>(list.currentIndex() + 1);
+    const CardBack& back = m_workshop.Set.CardBacks[row];
+    card.CardBack = row;
+    const auto picture = back.BuiltIn ? m_workshop.Art.imgCB(row - 1) : Loaded(back.Picture);
+    if (picture)
+        m_workshop.Templates.Standard.picBack.Surface->SetPicture(*picture);
+    m_preview->update();
+}
+
+/// The new row goes to the table of the set, where all cards can take it. It is chosen at once.
+void frmQDW::AddUserBack(const QString& path)
+{
+    const int16 row = AddCardBack(m_workshop.Set, path);
+    QComboBox& list = *m_card->cboCardBack;
+    list.insertItem(list.count() - 1, m_workshop.Set.CardBacks[row].Name);
+    list.setCurrentIndex(list.count() - 2);
+    CardBackChosen();
+}
+
+void frmQDW::CharacterBackChosen()
+{
+    Character& character = Current<Character>();
+    const auto back = static_cast<int16>(m_character->cboCharacterCardback->currentIndex());
+    character.CardBack = back;
+    if (back == UserDefinedCharacterBack) {
+        if (const auto path = AskPicture("Choose picture", nullptr))
+            SetCharacterBackPicture(*path);
+        return;
+    }
+    character.CardBackPicture.clear();
+    m_workshop.Templates.Character.picCharacterBack.Surface->SetPicture(m_workshop.Art.imgChB(back));
+    m_preview->update();
+}
+
+void frmQDW::SetCharacterBackPicture(const QString& path)
+{
+    Character& character = Current<Character>();
+    character.CardBack = UserDefinedCharacterBack;
+    m_character->cboCharacterCardback->setCurrentIndex(UserDefinedCharacterBack);
+    character.CardBackPicture = path;
+    if (const auto picture = Loaded(path))
+        m_workshop.Templates.Character.picCharacterBack.Surface->SetPicture(*picture);
+    m_preview->update();
+}
+
+/// An entry is a region and a place, and the card has the place alone.
+void frmQDW::StartAreaChosen()
+{
+    const QString entry = m_character->cboStartArea->currentText();
+    SetStartArea(entry.section(QLatin1Char('-'), entry.contains(QLatin1Char('-')) ? 1 : 0));
+}
+
+void frmQDW::StartAreaTyped()
+{
+    SetStartArea(m_character->cboStartArea->currentText());
+}
+
+void frmQDW::SetStartArea(const QString& area)
+{
+    Current<Character>().StartArea = area;
+    m_workshop.Templates.Character.lblStart.Caption = area;
+    m_preview->update();
+}
+
+void frmQDW::SaveFormatChosen()
+{
+    m_workshop.Set.Header.SaveFormat = static_cast<int16>(m_set->cboSaveFormat->currentIndex());
+}
+
+} // namespace deckforge

@@ -1,0 +1,219 @@
+#include "compose/CharacterCard.h"
+#include "compose/LargeCard.h"
+#include "compose/NewBack.h"
+#include "compose/StandardCard.h"
+#include "dialogs/CardPreview.h"
+#include "editor/frmQDW.h"
+#include "ui_fraCardBack.h"
+#include "ui_fraCharacter.h"
+#include "ui_fraLargeCard.h"
+
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QTabBar>
+
+namespace deckforge {
+
+namespace {
+
+enum ModeNumber { CardMode = 1, LargeMode, CharacterMode, BackMode };
+
+} // namespace
+
+void frmQDW::BindModes()
+{
+    On(tbCard, &QTabBar::currentChanged, [this] { ModeClicked(); });
+    On(tbCard, &QTabBar::tabBarClicked, [this](int index) {
+        if (index == tbCard->currentIndex()) // another one changes it
+            ModeClicked();
+    });
+    const auto onKey = [this](QKeySequence key, Action Mode::*action) {
+        On(new QShortcut(key, this), &QShortcut::activated, [this, action] { Run(Selected().*action); });
+    };
+    onKey(Qt::CTRL | Qt::Key_N, &Mode::Add);
+    onKey(Qt::CTRL | Qt::Key_Comma, &Mode::Previous);
+    onKey(Qt::CTRL | Qt::Key_Period, &Mode::Next);
+    On(new QShortcut(Qt::CTRL | Qt::Key_Tab, this), &QShortcut::activated,
+       [this] { tbCard->setCurrentIndex((tbCard->currentIndex() + 1) % tbCard->count()); });
+
+    On(m_large->chkShowBackLarge, &QCheckBox::clicked, [this] { SwitchLargeView(); });
+    On(m_character->chkShowCharacterBack, &QCheckBox::clicked, [this] { SwitchCharacterView(); });
+    On(m_character->chkShowPlayingPiece, &QCheckBox::clicked, [this] { SwitchPieceView(); });
+}
+
+const frmQDW::Mode& frmQDW::Selected() const
+{
+    static const std::array<Mode, 4> modes = {{
+        {&CardSet::CurrentCard, &frmQDW::ShowCard, &SaveCard, &frmQDW::AddCard<Card>,
+         &frmQDW::PreviousCard<Card>, &frmQDW::NextCard<Card>, &frmQDW::CopyCard<Card>,
+         &frmQDW::PasteCard<Card>, &CreateCards, &CreateCardSheets, &frmQDW::CreateCardHtml,
+         &frmQDW::FillCard},
+        {&CardSet::CurrentLargeCard, &frmQDW::ShowLargeCard, &SaveLargeCard, &frmQDW::AddCard<LargeCard>,
+         &frmQDW::PreviousCard<LargeCard>, &frmQDW::NextCard<LargeCard>, &frmQDW::CopyCard<LargeCard>,
+         &frmQDW::PasteCard<LargeCard>, &CreateLargeCards, &CreateLargeCardSheets,
+         &frmQDW::CreateLargeCardHtml, &frmQDW::FillLargeCard},
+        {&CardSet::CurrentCharacter, &frmQDW::ShowCharacter, &SaveCharacter, &frmQDW::AddCard<Character>,
+         &frmQDW::PreviousCard<Character>, &frmQDW::NextCard<Character>, &frmQDW::CopyCard<Character>,
+         &frmQDW::PasteCard<Character>, &CreateCharacters, &CreateCharacterSheets,
+         &frmQDW::CreateCharacterHtml, &frmQDW::FillCharacter},
+        // Card backs are saved one by one; all other commands take this tab for that of the characters.
+        {&CardSet::CurrentNewCardBack, &frmQDW::ShowNewCardBack, &SaveNewCardBack, nullptr, nullptr, nullptr,
+         &frmQDW::CopyCard<Character>, &frmQDW::PasteCard<Character>, &CreateCharacters,
+         &CreateCharacterSheets, &frmQDW::CreateCharacterHtml, &frmQDW::FillNewCardBack},
+    }};
+    return modes.at(static_cast<std::size_t>(tbCard->currentIndex()));
+}
+
+void frmQDW::Run(Action action)
+{
+    if (action)
+        (this->*action)();
+}
+
+void frmQDW::Copy()
+{
+    Run(Selected().Copy);
+}
+
+void frmQDW::Paste()
+{
+    Run(Selected().Paste);
+}
+
+void frmQDW::CardSizeSwitch(int mode)
+{
+    CardTemplates& t = m_workshop.Templates;
+    m_forms->setCurrentIndex(mode - 1);
+    t.Standard.picCard.Visible = mode == CardMode;
+    t.Standard.picBack.Visible = mode == CardMode; // also where the set goes without backs, until it is shown
+    t.Large.picCardLarge.Visible = mode == LargeMode;
+    t.Large.picBackLarge.Visible = false;
+    m_large->chkShowBackLarge->setChecked(false);
+    t.Character.picCharacter.Visible = mode == CharacterMode;
+    t.Character.picCharacterBack.Visible = false;
+    t.PlayingPiece.picPlayingPiece.Visible = false;
+    m_character->chkShowCharacterBack->setChecked(false);
+    m_character->chkShowPlayingPiece->setChecked(false);
+    t.NewBack.picNewBack.Visible = mode == BackMode;
+    m_preview->SettleFocus();
+}
+
+void frmQDW::ModeClicked()
+{
+    tbCard->setFocus(); // it would wander off the fields that go
+    switch (tbCard->currentIndex() + 1) {
+    case CardMode:
+        CardSizeSwitch(CardMode);
+        ShowCard(m_workshop.Set.CurrentCard);
+        break;
+    case LargeMode:
+        ShowLargeMode();
+        break;
+    case CharacterMode:
+        ShowCharacterMode();
+        break;
+    default:
+        ShowBackMode();
+        break;
+    }
+}
+
+// The first element of a kind other than the standard cards comes with the first look at its tab.
+
+void frmQDW::ShowLargeMode()
+{
+    CardSet& set = m_workshop.Set;
+    if (set.LargeCardCount == 0)
+        MakeFirstElement(set, LargeKind);
+    CardSizeSwitch(LargeMode);
+    ShowLargeCard(set.CurrentLargeCard);
+    m_large->hsbCardLarge->setRange(1, set.LargeCardCount); // at every look
+}
+
+void frmQDW::ShowCharacterMode()
+{
+    CardSet& set = m_workshop.Set;
+    if (set.CharacterCount == 0) {
+        MakeFirstElement(set, CharacterKind);
+        m_character->hsbCharacter->setRange(1, set.CharacterCount);
+    }
+    CardSizeSwitch(CharacterMode);
+    ShowCharacter(set.CurrentCharacter);
+}
+
+/// The range of the slider stays as it was where there are backs, those of a set that was opened among them.
+/// Its index does so too, unless it is none of theirs.
+void frmQDW::ShowBackMode()
+{
+    CardSet& set = m_workshop.Set;
+    if (set.NewCardBackCount == 0) {
+        MakeFirstElement(set, NewBackKind);
+        m_back->hsbNewCardBack->setRange(1, set.NewCardBackCount);
+    } else if (set.CurrentNewCardBack == 0 || set.CurrentNewCardBack > set.NewCardBackCount) {
+        set.CurrentNewCardBack = 1;
+    }
+    CardSizeSwitch(BackMode);
+    ShowNewCardBack(set.CurrentNewCardBack);
+}
+
+void frmQDW::SwitchLargeView()
+{
+    if (tbCard->currentIndex() + 1 != LargeMode)
+        return;
+    LargeCardTemplate& t = m_workshop.Templates.Large;
+    t.picBackLarge.Visible = m_large->chkShowBackLarge->isChecked();
+    t.picCardLarge.Visible = !t.picBackLarge.Visible;
+    m_preview->SettleFocus();
+}
+
+void frmQDW::SwitchCharacterView()
+{
+    if (tbCard->currentIndex() + 1 != CharacterMode)
+        return;
+    CharacterTemplate& t = m_workshop.Templates.Character;
+    t.picCharacterBack.Visible = m_character->chkShowCharacterBack->isChecked();
+    t.picCharacter.Visible = !t.picCharacterBack.Visible;
+    m_preview->SettleFocus();
+}
+
+void frmQDW::SwitchPieceView()
+{
+    CharacterTemplate& t = m_workshop.Templates.Character;
+    const bool isPiece = m_character->chkShowPlayingPiece->isChecked();
+    const bool isBack = m_character->chkShowCharacterBack->isChecked();
+    m_workshop.Templates.PlayingPiece.picPlayingPiece.Visible = isPiece;
+    t.picCharacter.Visible = !isPiece && !isBack;
+    t.picCharacterBack.Visible = !isPiece && isBack;
+    m_preview->SettleFocus();
+}
+
+// A failed show has told its failure in a box. The controls are filled all the same: what the user types into
+// them goes to this record.
+
+void frmQDW::ShowCard(int16 index)
+{
+    static_cast<void>(deckforge::ShowCard(m_workshop, index));
+    FillCard();
+}
+
+void frmQDW::ShowLargeCard(int16 index)
+{
+    static_cast<void>(deckforge::ShowLargeCard(m_workshop, index));
+    FillLargeCard();
+}
+
+void frmQDW::ShowCharacter(int16 index)
+{
+    if (m_workshop.Set.Header.Symbol.isEmpty()) // a symbol that was cleared stayed until now
+        m_workshop.Templates.Character.picSymbolCharacter.Visible = false;
+    static_cast<void>(deckforge::ShowCharacter(m_workshop, index));
+    FillCharacter();
+}
+
+void frmQDW::ShowNewCardBack(int16 index)
+{
+    FillNewCardBack(); // first, since a failure leaves this routine
+    deckforge::ShowNewCardBack(m_workshop, index);
+}
+
+} // namespace deckforge

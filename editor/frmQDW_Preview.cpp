@@ -1,0 +1,176 @@
+#include "compose/CharacterCard.h"
+#include "compose/FontScheme.h"
+#include "compose/StandardCard.h"
+#include "dialogs/CardPreview.h"
+#include "editor/frmQDW.h"
+#include "platform/Twips.h"
+#include "ui_fraCard.h"
+#include "ui_fraCharacter.h"
+#include "ui_fraLargeCard.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QToolTip>
+#include <algorithm>
+
+namespace deckforge {
+
+void frmQDW::BindPreview()
+{
+    On(m_preview, &CardPreview::Pressed, [this](const Box*, QPoint point) { m_dragStart = point; });
+    On(m_preview, &CardPreview::Dragged,
+       [this](const Box* box, QPoint point) { PreviewDragged(box, point); });
+    On(m_preview, &CardPreview::Clicked,
+       [this](const Box* box) { LabelClicked(box, FontLabel::Gesture::Click); });
+    On(m_preview, &CardPreview::DoubleClicked,
+       [this](const Box* box) { LabelClicked(box, FontLabel::Gesture::DoubleClick); });
+    On(m_preview, &CardPreview::KeyPressed,
+       [this](const Box* picture, Qt::Key key, Qt::KeyboardModifiers held) {
+           PreviewKey(picture, key, held);
+       });
+    On(m_preview, &CardPreview::TipWanted, [this](const Box* box, QPoint point) { ShowTip(box, point); });
+    On(m_zooms, &QButtonGroup::idClicked, [this](int zoom) { SetZoom(zoom); });
+    On(new QShortcut(QKeySequence::ZoomIn, this), &QShortcut::activated,
+       [this] { SetZoom(m_preview->Zoom() + 1); });
+    On(new QShortcut(QKeySequence::ZoomOut, this), &QShortcut::activated,
+       [this] { SetZoom(m_preview->Zoom() - 1); });
+}
+
+/// Labels of the standard card ask for two clicks, all others for one.
+std::vector<frmQDW::FontLabel> frmQDW::FontLabels()
+{
+    using enum FontLabel::Gesture;
+    const CardTemplate& card = m_workshop.Templates.Standard;
+    const LargeCardTemplate& large = m_workshop.Templates.Large;
+    const CharacterTemplate& character = m_workshop.Templates.Character;
+    const PlayingPieceTemplate& piece = m_workshop.Templates.PlayingPiece;
+    return {
+        {&card.lblType[0], DoubleClick, &SetHeader::FontType},
+        {&card.lblType[1], DoubleClick, &SetHeader::FontType},
+        {&card.lblType[2], DoubleClick, &SetHeader::FontType},
+        {&card.lblType[3], DoubleClick, &SetHeader::FontType},
+        {&card.lblNumber, DoubleClick, &SetHeader::FontNumber},
+        {&card.lblTitle, DoubleClick, &SetHeader::FontTitle},
+        {&card.lblBold, DoubleClick, &SetHeader::FontBold},
+        {&card.lblInformation, DoubleClick, &SetHeader::FontInformation},
+        {&card.lblAutonumber, DoubleClick, &SetHeader::FontAutonumber},
+        {&large.lblTitleLarge, Click, &SetHeader::FontTitleLarge},
+        {&large.lblInformationLarge, Click, &SetHeader::FontInformationLarge},
+        {&character.lblCharacter, Click, &SetHeader::FontCharacter},
+        {&character.lblSpecialTitle, Click, &SetHeader::FontSpecialTitle},
+        {&character.lblSpecial, Click, &SetHeader::FontSpecial},
+        {&character.lblAlignment, Click, &SetHeader::FontAlignment},
+        {&character.lblAlignmentTitle, Click, &SetHeader::FontAlignment},
+        {&character.lblStart, Click, &SetHeader::FontAlignment},
+        {&character.lblStartTitle, Click, &SetHeader::FontAlignment},
+        {&piece.lblPlayingPieceName, Click, &SetHeader::FontPlayingPiece},
+    };
+}
+
+std::array<frmQDW::PlacementRow, 4> frmQDW::Placements()
+{
+    const CardTemplates& t = m_workshop.Templates;
+    return {{
+        {&t.Standard.picImage, &t.Standard.lblPicSize, PlacedPicture::Standard, &frmQDW::TellFrameSize},
+        {&t.Large.picImageLarge, &t.Large.lblPicSizeLarge, PlacedPicture::Large, &frmQDW::TellLargeFrameSize},
+        {&t.Character.picImageCharacter, &t.Character.lblPicSizeCharacter, PlacedPicture::Character,
+         &frmQDW::TellCharacterFrameSize},
+        {&t.PlayingPiece.picPlayingPieceImage, nullptr, PlacedPicture::PlayingPiece, nullptr},
+    }};
+}
+
+void frmQDW::ChooseFont(FontSpec& font)
+{
+    if (const auto chosen = m_workshop.User.AskFont(QStringLiteral("Choose font"), font))
+        font = *chosen;
+}
+
+void frmQDW::LabelClicked(const Box* box, FontLabel::Gesture gesture)
+{
+    for (const FontLabel& row : FontLabels()) {
+        if (row.Label != box || row.Opens != gesture)
+            continue;
+        ChooseFont(m_workshop.Set.Header.*row.Font);
+        SetFont(m_workshop.Templates, m_workshop.Set.Header);
+        m_preview->update();
+    }
+}
+
+/// The box moves with the pointer, so the point on it where the drag began stays the same.
+void frmQDW::PreviewDragged(const Box* box, QPoint point)
+{
+    const QPoint moved = point - m_dragStart;
+    for (const PlacementRow& row : Placements()) {
+        if (box == row.Image)
+            MovePicture(m_workshop, row.Which, moved.x() * TwipsPerPixelX, moved.y() * TwipsPerPixelY);
+        else if (box == row.Handle)
+            MoveHandle(m_workshop, row.Which, row.Which == PlacedPicture::Standard ? moved.y() : moved.x());
+        else
+            continue;
+        Run(row.After);
+        m_preview->update();
+    }
+}
+
+void frmQDW::PreviewKey(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held)
+{
+    held.setFlag(Qt::KeypadModifier, false);
+    for (const PlacementRow& row : Placements()) {
+        if (picture != row.Image)
+            continue;
+        if (held == Qt::NoModifier)
+            MovePictureByKey(m_workshop, row.Which, key);
+        else if (held == Qt::ShiftModifier && row.Which == PlacedPicture::Standard)
+            MoveHandleByKey(m_workshop, key);
+        Run(row.After);
+        m_preview->update();
+    }
+}
+
+void frmQDW::ShowTip(const Box* box, QPoint globalPoint)
+{
+    QString tip;
+    for (const FontLabel& row : FontLabels()) {
+        if (row.Label == box)
+            tip = row.Opens == FontLabel::Gesture::Click ? QStringLiteral("Click to change the font")
+                                                         : QStringLiteral("Double-click to change the font");
+    }
+    for (const PlacementRow& row : Placements()) {
+        if (row.Image == box)
+            tip = QStringLiteral("Drag the picture, or move it with the arrow keys");
+        else if (row.Handle && row.Handle == box)
+            tip = QStringLiteral("Drag to size the frame");
+    }
+    QToolTip::showText(globalPoint, tip, m_preview);
+}
+
+void frmQDW::TellFrameSize()
+{
+    m_card->lblPicDim->setText(FrameSizeText(m_workshop.Templates.Standard.picFrame));
+}
+
+void frmQDW::TellLargeFrameSize()
+{
+    m_large->lblPicDimLarge->setText(FrameSizeText(m_workshop.Templates.Large.picFrameLarge));
+}
+
+void frmQDW::TellCharacterFrameSize()
+{
+    const CardTemplates& t = m_workshop.Templates;
+    m_character->lblPicDimChar->setText(CharacterFrameSizeText(t.Character.picFrameCharacter));
+    m_character->lblPicDimPlay->setText(CharacterFrameSizeText(t.PlayingPiece.picPlayingPieceFrame));
+}
+
+/// The window grows with the preview as far as the screen has room.
+void frmQDW::SetZoom(int zoom)
+{
+    m_preview->SetZoom(zoom);
+    m_zooms->button(m_preview->Zoom())->setChecked(true);
+    m_preview->resize(m_preview->sizeHint());
+    m_previewArea->updateGeometry();
+    GrowToFit();
+}
+
+} // namespace deckforge
