@@ -306,7 +306,7 @@ QPoint CardPreview::PointIn(const Box& box, QPointF point) const
 double CardPreview::Scale() const
 {
     const double ratio = devicePixelRatioF();
-    return std::max(1.0, std::round(m_zoom * ratio)) / ratio;
+    return std::max(1.0, std::nearbyint(m_zoom * ratio)) / ratio;
 }
 
 QTransform CardPreview::FromCard() const

@@ -80,7 +80,9 @@ frmQDW::frmQDW(UserPort& user)
     BindFocus();
     Guarded([this] { InitForm(); });
     m_card->txtTitle->setFocus();
-    GrowToFit();
+    SetZoom(UsualZoom);
+    if (sizeHint().width() > LargestSize().width())
+        SetZoom(1);
 }
 
 frmQDW::~frmQDW() = default;
@@ -262,13 +264,18 @@ void frmQDW::SelectAll(QObject* box, Qt::FocusReason reason)
     });
 }
 
+/// What the screen has room for beside a frame.
+QSize frmQDW::LargestSize() const
+{
+    constexpr QSize windowFrame = {32, 64};
+    return screen()->availableSize() - windowFrame;
+}
+
 /// Gives the window what its contents want, as far as the screen has it.
 void frmQDW::GrowToFit()
 {
-    constexpr QSize windowFrame = {32, 64};
-    const QSize wanted = size().expandedTo(sizeHint());
     if (!isMaximized() && !isFullScreen())
-        resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
+        resize(size().expandedTo(sizeHint()).boundedTo(LargestSize()));
 }
 
 void frmQDW::resizeEvent(QResizeEvent* event)

@@ -209,6 +209,7 @@ private:
     void BuildStatusBar();
     void BindFocus();
     void SelectAll(QObject* box, Qt::FocusReason reason);
+    [[nodiscard]] QSize LargestSize() const;
     void GrowToFit();
     void InitForm();
 

@@ -10,6 +10,8 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QToolTip>
@@ -170,6 +172,7 @@ void frmQDW::SetZoom(int zoom)
     m_zooms->button(m_preview->Zoom())->setChecked(true);
     m_preview->resize(m_preview->sizeHint());
     m_previewArea->updateGeometry();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // all layouts up to the window's
     GrowToFit();
 }
 

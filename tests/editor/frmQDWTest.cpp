@@ -1,67 +1,14 @@
-#include "editor/frmQDW.h"
-
-#include "core/modInfo.h"
 #include "dialogs/frmCardSheet.h"
-#include "files/modFile.h"
-#include "support/ScriptedUser.h"
-#include "support/TestFolder.h"
+#include "editor/WindowTest.h"
 
-#include <QAction>
 #include <QApplication>
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 namespace deckforge {
 
 namespace {
 
-/// The window over a new set, with a user who answers from a script.
-class frmQDWTest : public testing::Test {
-protected:
-    template <class Control>
-    Control& Find(const char* name)
-    {
-        auto* const control = window.findChild<Control*>(QString::fromLatin1(name));
-        EXPECT_NE(control, nullptr) << name;
-        return *control;
-    }
-
-    QString Text(const char* name) { return Find<QLineEdit>(name).text(); }
-    void Type(const char* name, const QString& text)
-    {
-        auto& box = Find<QLineEdit>(name);
-        box.selectAll();
-        QTest::keyClicks(&box, text);
-    }
-    void Click(const char* name) { QTest::mouseClick(&Find<QPushButton>(name), Qt::LeftButton); }
-    void Run(const char* command) { Find<QAction>(command).trigger(); }
-    QString Position() { return Find<QLabel>("lblCurrentCard").text(); }
-    const CardSet& Set() const { return window.Works().Set; }
-    const CardTemplate& Preview() const { return window.Works().Templates.Standard; }
-
-    /// Opens a copy of the set that the window holds now, under another name and with its cards changed.
-    template <class Change>
-    void OpenChangedSet(Change&& change)
-    {
-        CardSet changed = Set();
-        change(changed);
-        const QString path = folder.Path(QStringLiteral("set.dkf"));
-        ScriptedUser silent;
-        ASSERT_TRUE(WriteDKF(changed, path, silent, Report::Silent));
-        window.Start(path);
-    }
-
-    TestFolder folder;
-    ScriptedUser user;
-    frmQDW window{user};
-};
+class frmQDWTest : public WindowTest {};
 
 TEST_F(frmQDWTest, OpenedSetFillsFieldsAndTitle)
 {
@@ -283,15 +230,13 @@ TEST_F(frmQDWTest, BackgroundTellsTheVersionAndTheCardDoesNot)
 {
     window.resize(1000, 800);
     window.show();
-    const auto doubleClick = [&](const char* name, QPoint point) {
-        auto& control = Find<QWidget>(name);
-        const QPoint inWindow = control.mapTo(&window, point);
-        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, inWindow);
+    const auto doubleClick = [&](const QWidget& control, QPoint point) {
+        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, control.mapTo(&window, point));
     };
-    doubleClick("preview", {20, Find<QWidget>("preview").height() - 20});
-    doubleClick("lblCurrentCard", {2, 2});
+    doubleClick(View(), PointOn(Preview().lblWatermark));
+    doubleClick(Find<QLabel>("lblCurrentCard"), {2, 2});
     EXPECT_TRUE(user.Boxes.empty());
-    doubleClick("preview", {20, 2});
+    doubleClick(View(), {2, -4});
     EXPECT_EQ(user.BoxTexts(), std::vector{QStringLiteral("Hello!|Version 1.7.4")});
 }
 
