@@ -143,9 +143,8 @@ TEST_F(PlacementTest, AFrameThatHugsItsPictureStandsInTheMiddle)
 
 TEST_F(PlacementTest, ThePointerTellsWhatCanBeMoved)
 {
-    window.show();
     const auto pointerOn = [&](const Box& box) {
-        QTest::mouseMove(&View(), PointOn(box));
+        SendMove(PointOn(box), Qt::NoButton);
         return View().cursor().shape();
     };
     EXPECT_EQ(pointerOn(Preview().picImage), Qt::SizeAllCursor);

@@ -91,9 +91,9 @@ protected:
         SendMove(end);
         QTest::mouseRelease(&View(), Qt::LeftButton, {}, end);
     }
-    void SendMove(QPoint point)
+    void SendMove(QPoint point, Qt::MouseButton held = Qt::LeftButton)
     {
-        QMouseEvent move(QEvent::MouseMove, point, View().mapToGlobal(point), Qt::NoButton, Qt::LeftButton,
+        QMouseEvent move(QEvent::MouseMove, point, View().mapToGlobal(point), Qt::NoButton, held,
                          Qt::NoModifier);
         QCoreApplication::sendEvent(&View(), &move);
     }
