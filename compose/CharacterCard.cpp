@@ -3,6 +3,7 @@
 #include "compose/Attempt.h"
 #include "compose/CardPainting.h"
 #include "compose/FontScheme.h"
+#include "core/Vocabulary.h"
 #include "imaging/modRotatePic.h"
 
 namespace deckforge {
@@ -12,7 +13,6 @@ namespace {
 constexpr int FramedHeight = 218;
 constexpr int UnframedHeight = 220;
 constexpr int TextRight = 272;
-constexpr int UserDefinedBack = 3;
 
 // Preview
 
@@ -65,7 +65,7 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
     });
     t.picBackgroundChar.Surface->Refresh();
     run([&] {
-        t.picCharacterBack.Surface->SetPicture(character.CardBack == UserDefinedBack
+        t.picCharacterBack.Surface->SetPicture(character.CardBack == UserDefinedCharacterBack
                                                    ? workshop.Pictures.LoadPicture(character.CardBackPicture)
                                                    : workshop.Art.imgChB(character.CardBack));
     });
@@ -202,7 +202,7 @@ bool ShowCharacter(Workshop& workshop, int16 index)
         const Character& character = workshop.Set.Characters[index];
         ShowTexts(workshop, character, index);
         PlaceFrame(run, t, character);
-        ShowCharacterFrame(t, character.ShowPicture);
+        ShowPictureFrame(t, character.ShowPicture);
         LoadPictures(run, workshop, character);
         DrawCharAttributes(workshop, character);
         DrawCharacterCard(workshop, index);
@@ -234,7 +234,7 @@ void PlaceHandle(CharacterTemplate& t, int left)
     PlaceTexts(t);
 }
 
-void ShowCharacterFrame(CharacterTemplate& t, bool visible)
+void ShowPictureFrame(CharacterTemplate& t, bool visible)
 {
     t.picFrameCharacter.Visible = visible;
     t.lblPicSizeCharacter.Visible = visible;

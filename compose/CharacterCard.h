@@ -22,7 +22,7 @@ void PlacePlayingPiecePicture(Workshop& workshop, int16 index);
 void PlaceHandle(CharacterTemplate& t, int left);
 
 /// Shows or hides frame and handle, and lays the text beside them out.
-void ShowCharacterFrame(CharacterTemplate& t, bool visible);
+void ShowPictureFrame(CharacterTemplate& t, bool visible);
 
 /// Draws one attribute, from 0 strength, craft, gold, lives, on its side into its strip of the preview. "---"
 /// gives the word alone; a value without "+" is set off by a blank.

@@ -144,7 +144,7 @@ void PlaceHandle(LargeCardTemplate& t, int left)
     PlaceTexts(t);
 }
 
-void ShowLargeFrame(LargeCardTemplate& t, bool visible)
+void ShowPictureFrame(LargeCardTemplate& t, bool visible)
 {
     t.picFrameLarge.Visible = visible;
     t.lblPicSizeLarge.Visible = visible;

@@ -18,6 +18,6 @@ void PlaceLargePicture(Workshop& workshop, int16 index);
 void PlaceHandle(LargeCardTemplate& t, int left);
 
 /// Shows or hides the picture with its frame and handle; without them the texts take their room.
-void ShowLargeFrame(LargeCardTemplate& t, bool visible);
+void ShowPictureFrame(LargeCardTemplate& t, bool visible);
 
 } // namespace deckforge

@@ -19,21 +19,6 @@ struct SymbolPlace {
 
 constexpr int SymbolMargin = 2;
 
-std::array<SymbolPlace, 3> SymbolPlaces(CardTemplates& t)
-{
-    return {{{t.Standard.picSymbol, t.Standard.picCard, false, SymbolMargin},
-             {t.Large.picSymbolLarge, t.Large.picCardLarge, true, SymbolMargin},
-             {t.Character.picSymbolCharacter, t.Character.picBackgroundChar, true, SymbolMargin}}};
-}
-
-std::array<SymbolPlace, 3> ChosenSymbolPlaces(CardTemplates& t)
-{
-    constexpr int characterMargin = 16;
-    return {{{t.Standard.picSymbol, t.Standard.picCard, false, SymbolMargin},
-             {t.Large.picSymbolLarge, t.Large.picCardLarge, true, SymbolMargin},
-             {t.Character.picSymbolCharacter, t.Character.picCharacter, true, characterMargin}}};
-}
-
 void PlaceSymbol(const SymbolPlace& place, const Picture& symbol)
 {
     Box& box = place.Symbol;
@@ -41,6 +26,13 @@ void PlaceSymbol(const SymbolPlace& place, const Picture& symbol)
     box.ShowAtNaturalSize(symbol);
     box.Left = place.AtRightEdge ? place.Parent.Width - box.Width - place.Margin : 0;
     box.Top = place.Parent.Height - box.Height - place.Margin;
+}
+
+void PlaceSymbols(CardTemplates& t, const Picture& symbol, const SymbolPlace& onCharacter)
+{
+    PlaceSymbol({t.Standard.picSymbol, t.Standard.picCard, false, SymbolMargin}, symbol);
+    PlaceSymbol({t.Large.picSymbolLarge, t.Large.picCardLarge, true, SymbolMargin}, symbol);
+    PlaceSymbol(onCharacter, symbol);
 }
 
 /// The symbol of the set; none when it has none or it cannot be loaded.
@@ -70,8 +62,9 @@ void ShowSet(Workshop& workshop)
 {
     CardTemplate& card = workshop.Templates.Standard;
     const Picture symbol = LoadSymbol(workshop);
-    for (const SymbolPlace& place : SymbolPlaces(workshop.Templates))
-        PlaceSymbol(place, symbol);
+    CharacterTemplate& character = workshop.Templates.Character;
+    PlaceSymbols(workshop.Templates, symbol,
+                 {character.picSymbolCharacter, character.picBackgroundChar, true, SymbolMargin});
     DressOpenedSet(card, workshop.Set.Header);
     ShowNumbers(workshop);
     card.picBack.Visible = !workshop.Set.Header.NoBack;
@@ -79,8 +72,9 @@ void ShowSet(Workshop& workshop)
 
 void ShowChosenSymbol(CardTemplates& templates, const Picture& symbol)
 {
-    for (const SymbolPlace& place : ChosenSymbolPlaces(templates))
-        PlaceSymbol(place, symbol);
+    constexpr int margin = 16;
+    CharacterTemplate& character = templates.Character;
+    PlaceSymbols(templates, symbol, {character.picSymbolCharacter, character.picCharacter, true, margin});
 }
 
 void HideSymbol(CardTemplates& templates)

@@ -29,10 +29,9 @@ void ShowTypeLines(CardTemplate& t, const Card& card)
     for (std::size_t i = 1; i < t.lblType.size(); ++i)
         t.lblType[i].Visible = !card.OneLine;
     t.lblNumber.Top = card.OneLine ? numberTopBelowOneLine : numberTop;
-    t.lblType[0].Caption = card.OneLine ? card.Type + card.SubType : card.Type;
-    t.lblType[1].Caption = card.TypeReversed;
-    t.lblType[2].Caption = card.SubType;
-    t.lblType[3].Caption = card.SubTypeReversed;
+    ShowTypeNames(t, card);
+    if (card.OneLine)
+        t.lblType[0].Caption += card.SubType;
 }
 
 /// Where no room is left for the text its box keeps the height it had.
@@ -225,6 +224,14 @@ void PlaceCardPicture(Workshop& workshop, int16 index)
     PlaceFrame(run, t, card);
     t.picImage.Surface->Refresh();
     PlacePictureInFrame(t, card);
+}
+
+void ShowTypeNames(CardTemplate& t, const Card& card)
+{
+    t.lblType[0].Caption = card.Type;
+    t.lblType[1].Caption = card.TypeReversed;
+    t.lblType[2].Caption = card.SubType;
+    t.lblType[3].Caption = card.SubTypeReversed;
 }
 
 void PlaceBoldText(CardTemplate& t)

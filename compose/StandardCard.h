@@ -13,6 +13,9 @@ bool ShowCard(Workshop& workshop, int16 index);
 /// Lays out again only the frame and what follows it; the picture is not loaded anew.
 void PlaceCardPicture(Workshop& workshop, int16 index);
 
+/// Puts the four parts of the type on their labels.
+void ShowTypeNames(CardTemplate& card, const Card& record);
+
 /// Gives the bold line the height its caption needs, and the information what is left below it.
 void PlaceBoldText(CardTemplate& card);
 

@@ -30,6 +30,9 @@ void InitCardBacks(CardSet& set);
 [[nodiscard]] const QStringList& AttributeValues();
 [[nodiscard]] const QStringList& SaveFormats();
 
+/// The row of CharacterBackNames() that takes a picture of the user's.
+inline constexpr int16 UserDefinedCharacterBack = 3;
+
 /// The entry of the list of backs that lets the user pick a picture.
 [[nodiscard]] QString UserDefinedBack();
 

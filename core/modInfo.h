@@ -115,6 +115,15 @@ bool DeleteElement(CardSet& set, UserPort& user, const Kind<Record>& kind)
     return true;
 }
 
+/// Error 9 where the set has no element of the kind.
+template <class Record>
+Record& CurrentElement(CardSet& set, const Kind<Record>& kind)
+{
+    if (set.*kind.Current < 1)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    return (set.*kind.Records)[set.*kind.Current];
+}
+
 /// Says that an element of that name is copied.
 void TellCopied(UserPort& user, const char* copyName);
 
@@ -122,18 +131,15 @@ void TellCopied(UserPort& user, const char* copyName);
 template <class Record>
 void CopyElement(CardSet& set, UserPort& user, const Kind<Record>& kind)
 {
-    set.*kind.Clip = (set.*kind.Records)[set.*kind.Current];
+    set.*kind.Clip = CurrentElement(set, kind);
     TellCopied(user, kind.CopyName);
 }
 
-/// Writes the twin over the current element: an empty one, if nothing of the kind was copied. Error 9 where
-/// the set has no element of the kind.
+/// Writes the twin over the current element: an empty one, if nothing of the kind was copied.
 template <class Record>
 void PasteElement(CardSet& set, const Kind<Record>& kind)
 {
-    if (set.*kind.Current < 1)
-        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-    (set.*kind.Records)[set.*kind.Current] = set.*kind.Clip;
+    CurrentElement(set, kind) = set.*kind.Clip;
 }
 
 /// "3 (12)": where the current element stands.

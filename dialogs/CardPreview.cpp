@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -101,6 +102,16 @@ void PaintBox(QPainter& painter, const PreviewBox& row, const QRect& place)
     case BoxLook::Outline:
         break;
     }
+}
+
+/// A picture answers to arrows and their like with any modifier, and to what types a character; the rest,
+/// help among it, is for the window.
+bool IsForWindow(const QKeyEvent& event)
+{
+    constexpr std::array arrows = {Qt::Key_Home,  Qt::Key_End,  Qt::Key_Left,   Qt::Key_Up,
+                                   Qt::Key_Right, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
+    const bool isArrow = std::find(arrows.begin(), arrows.end(), event.key()) != arrows.end();
+    return !isArrow && (event.text().isEmpty() || event.modifiers() & Qt::ControlModifier);
 }
 
 Qt::CursorShape PointerFor(Grip moves)
@@ -211,14 +222,19 @@ void CardPreview::paintEvent(QPaintEvent* /*event*/)
 void CardPreview::mousePressEvent(QMouseEvent* event)
 {
     const PreviewBox* const row = RowAt(event->position());
-    m_pressed = row ? row->Shown : nullptr;
-    if (!m_pressed || event->button() != Qt::LeftButton) {
+    if (row && event->button() == Qt::LeftButton)
+        Press(*row, event->position());
+    else
         event->ignore();
-        return;
-    }
-    if (row->Moves == Grip::All)
+}
+
+void CardPreview::Press(const PreviewBox& row, QPointF point)
+{
+    m_pressed = row.Shown;
+    m_pointer = PixelAt(point);
+    if (row.Moves == Grip::All)
         FocusOn(*m_pressed);
-    Q_EMIT Pressed(m_pressed, PointIn(*m_pressed, event->position()));
+    Q_EMIT Pressed(m_pressed, m_pointer - CornerOf(*m_pressed));
 }
 
 void CardPreview::mouseMoveEvent(QMouseEvent* event)
@@ -226,33 +242,36 @@ void CardPreview::mouseMoveEvent(QMouseEvent* event)
     if (event->buttons() == Qt::NoButton) {
         const PreviewBox* const row = RowAt(event->position());
         setCursor(PointerFor(row ? row->Moves : Grip::None));
-    } else if (m_pressed && event->buttons() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
-        Q_EMIT Dragged(m_pressed, PointIn(*m_pressed, event->position()));
+    } else if (m_pressed && event->buttons() == Qt::LeftButton) {
+        const QPoint before = std::exchange(m_pointer, PixelAt(event->position()));
+        Q_EMIT Dragged(m_pressed, m_pointer - CornerOf(*m_pressed), m_pointer - before);
     }
 }
 
 void CardPreview::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (event->button() != Qt::LeftButton)
+        return;
     const Box* const pressed = std::exchange(m_pressed, nullptr);
-    if (event->button() == Qt::LeftButton && pressed && pressed == BoxAt(event->position()))
+    if (pressed && pressed == BoxAt(event->position()))
         Q_EMIT Clicked(pressed);
 }
 
+/// On what can be moved the second press begins a drag, like the first.
 void CardPreview::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const Box* const box = BoxAt(event->position());
-    if (box && event->button() == Qt::LeftButton)
-        Q_EMIT DoubleClicked(box);
-    else
+    const PreviewBox* const row = RowAt(event->position());
+    if (!row || event->button() != Qt::LeftButton)
         event->ignore(); // the window tells its version
+    else if (row->Moves != Grip::None)
+        Press(*row, event->position());
+    else
+        Q_EMIT DoubleClicked(row->Shown);
 }
 
 void CardPreview::keyPressEvent(QKeyEvent* event)
 {
-    // Modifiers alone, and what no picture answers to, are left to the window.
-    const bool isForWindow = event->key() >= Qt::Key_Shift || event->modifiers() & Qt::ControlModifier;
-    const bool isArrow = event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown;
-    if (m_focus && (isArrow || !isForWindow))
+    if (m_focus && !IsForWindow(*event))
         Q_EMIT KeyPressed(m_focus, static_cast<Qt::Key>(event->key()), event->modifiers());
     else
         QWidget::keyPressEvent(event);
@@ -277,8 +296,7 @@ std::vector<CardPreview::SeenBox> CardPreview::SeenBoxes() const
 
 const PreviewBox* CardPreview::RowAt(QPointF point) const
 {
-    const QPointF onCard = FromCard().inverted().map(point);
-    const QPoint pixel(static_cast<int>(std::floor(onCard.x())), static_cast<int>(std::floor(onCard.y())));
+    const QPoint pixel = PixelAt(point);
     const PreviewBox* foremost = nullptr;
     for (const SeenBox& seen : SeenBoxes()) {
         if (seen.Row->Look != BoxLook::Outline && (seen.Place & seen.Clip).contains(pixel))
@@ -297,10 +315,10 @@ QPoint CardPreview::CornerOf(const Box& box) const
     return corner + ContentOf(*parent, {CornerOf(*parent), parent->Place().size()}).topLeft();
 }
 
-QPoint CardPreview::PointIn(const Box& box, QPointF point) const
+QPoint CardPreview::PixelAt(QPointF point) const
 {
-    const QPointF inBox = FromCard().inverted().map(point) - CornerOf(box);
-    return {static_cast<int>(std::floor(inBox.x())), static_cast<int>(std::floor(inBox.y()))};
+    const QPointF onCard = FromCard().inverted().map(point);
+    return {static_cast<int>(std::floor(onCard.x())), static_cast<int>(std::floor(onCard.y()))};
 }
 
 double CardPreview::Scale() const

@@ -44,9 +44,9 @@ public:
     void SettleFocus();
 
 Q_SIGNALS:
-    /// The left button went down on a box, and moves with nothing else held.
+    /// The left button went down on a box, and the pointer moves with no other button held.
     void Pressed(const deckforge::Box* box, QPoint point);
-    void Dragged(const deckforge::Box* box, QPoint point);
+    void Dragged(const deckforge::Box* box, QPoint point, QPoint sinceLast);
     void Clicked(const deckforge::Box* box); ///< the button also came up on it
     void DoubleClicked(const deckforge::Box* box);
     /// A key while the picture has the keyboard.
@@ -74,7 +74,8 @@ private:
     [[nodiscard]] std::vector<SeenBox> SeenBoxes() const;
     [[nodiscard]] const PreviewBox* RowAt(QPointF point) const;
     [[nodiscard]] QPoint CornerOf(const Box& box) const;
-    [[nodiscard]] QPoint PointIn(const Box& box, QPointF point) const;
+    [[nodiscard]] QPoint PixelAt(QPointF point) const;
+    void Press(const PreviewBox& row, QPointF point);
     [[nodiscard]] QRect Bounds() const;
     [[nodiscard]] double Scale() const;        ///< points of the widget to a pixel of the card
     [[nodiscard]] QTransform FromCard() const; ///< pixels of the card to points of the widget
@@ -82,8 +83,9 @@ private:
 
     std::vector<PreviewBox> m_boxes;
     int m_zoom = 2;
-    const Box* m_pressed = nullptr;
-    const Box* m_focus = nullptr; ///< the picture that has the keyboard
+    const Box* m_pressed = nullptr; ///< by the left button
+    QPoint m_pointer;               ///< where a drag has come to, in pixels of the card
+    const Box* m_focus = nullptr;   ///< the picture that has the keyboard
 };
 
 } // namespace deckforge

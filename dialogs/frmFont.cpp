@@ -48,7 +48,7 @@ QPixmap SamplePicture(const FontSpec& font, double ratio)
 class FontDialog final : public QDialog {
 public:
     FontDialog(const QString& title, const FontSpec& font, UserPort& user, QWidget* window)
-        : QDialog(window), m_user(user), m_colour(font.Color)
+        : QDialog(window), m_user(user), m_font(font)
     {
         setWindowTitle(title);
         m_form.setupUi(this);
@@ -58,7 +58,10 @@ public:
         m_form.chkBold->setChecked(font.Bold);
         m_form.chkItalic->setChecked(font.Italic);
         connect(m_form.cboFont, &QComboBox::currentTextChanged, this, [this] { Refresh(); });
-        connect(m_form.udSize, &QDoubleSpinBox::valueChanged, this, [this] { Refresh(); });
+        connect(m_form.udSize, &QDoubleSpinBox::valueChanged, this, [this](double size) {
+            m_font.Size = size; // until then a size that the box cannot show stays
+            Refresh();
+        });
         connect(m_form.chkBold, &QCheckBox::toggled, this, [this] { Refresh(); });
         connect(m_form.chkItalic, &QCheckBox::toggled, this, [this] { Refresh(); });
         connect(m_form.picColor, &ColourSwatch::clicked, this, [this] { PickColour(); });
@@ -71,29 +74,29 @@ public:
     [[nodiscard]] FontSpec Font() const
     {
         return {.Name = m_form.cboFont->currentText(),
-                .Size = m_form.udSize->value(),
+                .Size = m_font.Size,
                 .Bold = m_form.chkBold->isChecked(),
                 .Italic = m_form.chkItalic->isChecked(),
-                .Color = m_colour};
+                .Color = m_font.Color};
     }
 
 private:
     void PickColour()
     {
-        const auto picked = m_user.AskColour(QStringLiteral("Choose font color"), m_colour);
-        m_colour = picked.value_or(m_colour);
+        const auto picked = m_user.AskColour(QStringLiteral("Choose font color"), m_font.Color);
+        m_font.Color = picked.value_or(m_font.Color);
         Refresh();
     }
 
     void Refresh()
     {
-        m_form.picColor->SetColour(QColor(ToRgb(m_colour)));
+        m_form.picColor->SetColour(QColor(ToRgb(m_font.Color)));
         m_form.imgSample->setPixmap(SamplePicture(Font(), devicePixelRatioF()));
     }
 
     Ui::frmFont m_form;
     UserPort& m_user;
-    Colour m_colour;
+    FontSpec m_font; ///< size and colour as chosen so far
 };
 
 } // namespace

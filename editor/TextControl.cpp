@@ -9,12 +9,24 @@
 
 namespace deckforge {
 
+namespace {
+
+/// A text pasted from elsewhere can bring line breaks, which a field of one line cannot be saved with.
+QString OnOneLine(QString text)
+{
+    for (const char* lineBreak : {"\r\n", "\n", "\r"})
+        text.replace(QLatin1String(lineBreak), QLatin1String(" "));
+    return text;
+}
+
+} // namespace
+
 QString TextOf(const QWidget& control)
 {
     if (const auto* line = qobject_cast<const QLineEdit*>(&control))
-        return line->text();
+        return OnOneLine(line->text());
     if (const auto* list = qobject_cast<const QComboBox*>(&control))
-        return list->currentText();
+        return OnOneLine(list->currentText());
     // The raw text: the plain one has ordinary blanks for those that do not break.
     QString text = static_cast<const QPlainTextEdit&>(control).document()->toRawText();
     for (const QChar::SpecialCharacter lineEnd : {QChar::ParagraphSeparator, QChar::LineSeparator})
@@ -25,7 +37,7 @@ QString TextOf(const QWidget& control)
 void SetTextOf(QWidget& control, const QString& text)
 {
     if (TextOf(control) == text)
-        return;
+        return; // with its cursor
     if (auto* line = qobject_cast<QLineEdit*>(&control))
         line->setText(text);
     else if (auto* list = qobject_cast<QComboBox*>(&control))

@@ -35,6 +35,20 @@ QWidget* MakeForm(Form& form, QWidget* parent)
     return widget;
 }
 
+bool TurnsWithTheWheel(const QWidget& box)
+{
+    return qobject_cast<const QComboBox*>(&box) || qobject_cast<const QSpinBox*>(&box) ||
+           qobject_cast<const QTabBar*>(&box);
+}
+
+/// The wheel turns what the user works in, and nothing that only lies below the pointer: that would change
+/// the card unseen, and a look at a tab makes a card.
+bool MayTurn(const QObject& watched)
+{
+    const auto* const box = qobject_cast<const QWidget*>(&watched);
+    return !box || !TurnsWithTheWheel(*box) || (box->hasFocus() && !qobject_cast<const QTabBar*>(box));
+}
+
 /// Wants room for all of the preview, and takes less where the screen is small.
 class PreviewArea final : public QScrollArea {
 public:
@@ -93,14 +107,9 @@ void frmQDW::Start(const QString& commandLine)
         Guarded([&] { DoOpenDKF(commandLine); });
 }
 
-void frmQDW::ShowSet()
-{
-    deckforge::ShowSet(m_workshop);
-    FillSet();
-}
-
 void frmQDW::ShowProgress(int done, int total)
 {
+    m_isBusy = done < total;
     m_progress->setMaximum(total);
     m_progress->setValue(done);
     m_progress->setVisible(done < total);
@@ -149,6 +158,7 @@ void frmQDW::BuildToolBar()
         action->setShortcut(command.Shortcut);
         On(action, &QAction::triggered, [this, run = command.Run] { (this->*run)(); });
         tbCardCreator->addAction(action);
+        tbCardCreator->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     }
 }
 
@@ -173,6 +183,8 @@ void frmQDW::BuildForms()
     m_preview->setObjectName(QStringLiteral("preview"));
     m_preview->SetZoom(UsualZoom);
     m_previewArea = new PreviewArea(m_preview, this);
+    setTabOrder(tbCard, m_preview); // and on to the forms, as they lie from left to right
+    setTabOrder(m_preview, m_forms);
 }
 
 void frmQDW::BuildLayout()
@@ -238,6 +250,10 @@ void frmQDW::BindFocus()
     for (QWidget* box : boxes)
         box->installEventFilter(this);
     m_set->lblSetName->installEventFilter(this);
+    for (QWidget* box : findChildren<QWidget*>()) {
+        if (TurnsWithTheWheel(*box))
+            box->installEventFilter(this);
+    }
 }
 
 bool frmQDW::eventFilter(QObject* watched, QEvent* event)
@@ -246,6 +262,10 @@ bool frmQDW::eventFilter(QObject* watched, QEvent* event)
         SelectAll(watched, static_cast<QFocusEvent*>(event)->reason());
     else if (event->type() == QEvent::MouseButtonRelease && watched == m_set->lblSetName)
         Guarded([this] { ShowOffsets(); });
+    else if (event->type() == QEvent::Wheel && !MayTurn(*watched)) {
+        event->ignore();
+        return true;
+    }
     return QMainWindow::eventFilter(watched, event);
 }
 
@@ -300,6 +320,7 @@ void frmQDW::InitForm()
 
 void frmQDW::TellFailure(const RunTimeError& error)
 {
+    m_isBusy = false;
     m_progress->hide();
     m_workshop.User.SetPointer(Pointer::Default);
     TellUntrapped(m_workshop.User, error);

@@ -59,7 +59,6 @@ public:
     void CardSizeSwitch(int mode);
 
     // Each brings the previews up to date, and the controls.
-    void ShowSet();
     void ShowCard(int16 index);
     void ShowLargeCard(int16 index);
     void ShowCharacter(int16 index);
@@ -70,7 +69,7 @@ public:
     void DoOpenDKF(const QString& path);
 
     /// Shows in the status bar how far a long run is, until done is total. What the user presses meanwhile
-    /// waits.
+    /// waits; drops are refused, and the window does not close.
     void ShowProgress(int done, int total);
 
     [[nodiscard]] const Workshop& Works() const { return m_workshop; }
@@ -83,6 +82,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -193,6 +193,7 @@ private:
 
     /// A picture of the preview that the user places.
     struct PlacementRow {
+        const Box* Frame;
         const Box* Image;
         const Box* Handle; ///< null for none
         PlacedPicture Which;
@@ -278,6 +279,7 @@ private:
     void Bind(const CountField<Record>& row);
     template <class Record>
     void TextChanged(const TextField<Record>& row);
+    void HintAtUnsavable(const QString& text);
     template <class Record>
     void Fill();
     void BindFields();
@@ -292,17 +294,15 @@ private:
     void BoldTextChanged();
     void ArtistChanged();
     void OneLineClicked();
+    template <class Record>
     void ShowPictureClicked();
+    template <class Record>
     void FrameClicked();
     void ResizeClicked();
-    void ShowLargePictureClicked();
-    void LargeFrameClicked();
     void LargeResizeClicked();
     void NameChanged();
     template <int Index>
     void AttributeChanged();
-    void ShowCharacterPictureClicked();
-    void CharacterFrameClicked();
     void BackChanged();
     void SetnameChanged();
     void AutonumberClicked();
@@ -341,13 +341,14 @@ private:
     void LayAtFrame(Box& target);
     [[nodiscard]] std::optional<QString> AskPicture(const char* title, const QAbstractButton* button);
     [[nodiscard]] std::optional<Picture> Loaded(const QString& path);
-    void FocusPicture();
-    void FocusLargePicture();
+    template <class Record>
+    void FocusOnTarget();
     void TakeSymbol(const QString& path);
     void ClearSymbol();
     void ChooseSaveTo();
     void ChooseBackFont();
-    [[nodiscard]] bool DropOn(const Box* box, const QString& path);
+    void DropOn(const Box* box, const QString& path);
+    [[nodiscard]] const Box* StandsFor(const Box* box);
 
     // The preview (frmQDW_Preview.cpp)
     void BindPreview();
@@ -355,7 +356,7 @@ private:
     [[nodiscard]] std::array<PlacementRow, 4> Placements();
     void ChooseFont(FontSpec& font);
     void LabelClicked(const Box* box, FontLabel::Gesture gesture);
-    void PreviewDragged(const Box* box, QPoint point);
+    void PreviewDragged(const Box* box, QPoint point, QPoint moved);
     void PreviewKey(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held);
     void ShowTip(const Box* box, QPoint globalPoint);
     void TellFrameSize();
@@ -391,8 +392,10 @@ private:
 
     Workshop m_workshop;
     bool m_loading = false;
+    bool m_isBusy = false; ///< with a long run, from its first step to its last
     QMap<const QAbstractButton*, QString> m_pictureFolders; ///< where each button's file was chosen last
-    QPoint m_dragStart;                                     ///< on the box that is dragged
+    QPoint m_dragStart;                                     ///< on the handle that is dragged
+    QString m_missingBack; ///< the picture of a card back that was told to be missing
 
     std::unique_ptr<Ui::fraCard> m_card;
     std::unique_ptr<Ui::fraLargeCard> m_large;

@@ -7,20 +7,74 @@
 #include "ui_fraCard.h"
 #include "ui_fraSet.h"
 
+#include <utility>
+
 namespace deckforge {
 
 namespace {
 
-BorderStyle BorderFor(bool hasFrame)
+// The template of a record, and the frame of a template.
+
+CardTemplate& TemplateOf(CardTemplates& templates, const Card& /*card*/)
 {
-    return hasFrame ? BorderStyle::Single : BorderStyle::None;
+    return templates.Standard;
+}
+
+LargeCardTemplate& TemplateOf(CardTemplates& templates, const LargeCard& /*card*/)
+{
+    return templates.Large;
+}
+
+CharacterTemplate& TemplateOf(CardTemplates& templates, const Character& /*character*/)
+{
+    return templates.Character;
+}
+
+Box& FrameOf(CardTemplate& t)
+{
+    return t.picFrame;
+}
+
+Box& FrameOf(LargeCardTemplate& t)
+{
+    return t.picFrameLarge;
+}
+
+Box& FrameOf(CharacterTemplate& t)
+{
+    return t.picFrameCharacter;
 }
 
 } // namespace
 
+template <class Record>
+void frmQDW::ShowPictureClicked()
+{
+    const Record& record = Current<Record>();
+    ShowPictureFrame(TemplateOf(m_workshop.Templates, record), record.ShowPicture);
+    m_preview->SettleFocus();
+}
+
+template <class Record>
+void frmQDW::FrameClicked()
+{
+    const Record& record = Current<Record>();
+    FrameOf(TemplateOf(m_workshop.Templates, record)).Border =
+        record.Frame ? BorderStyle::Single : BorderStyle::None;
+}
+
+template void frmQDW::ShowPictureClicked<Card>();
+template void frmQDW::ShowPictureClicked<LargeCard>();
+template void frmQDW::ShowPictureClicked<Character>();
+template void frmQDW::FrameClicked<Card>();
+template void frmQDW::FrameClicked<LargeCard>();
+template void frmQDW::FrameClicked<Character>();
+
 /// The first letter of an attribute stands for its name; typing on replaces the rest of it.
 void frmQDW::CompleteBoldText()
 {
+    if (m_loading) // a card that has the letter alone keeps it
+        return;
     QLineEdit& txtBold = *m_card->txtBold;
     const QString text = txtBold.text();
     const auto complete = [&](const QString& word, int selected) {
@@ -48,33 +102,11 @@ void frmQDW::OneLineClicked()
     ShowCard(m_workshop.Set.CurrentCard);
 }
 
-void frmQDW::ShowPictureClicked()
-{
-    ShowPictureFrame(m_workshop.Templates.Standard, Current<Card>().ShowPicture);
-    m_preview->SettleFocus();
-}
-
-void frmQDW::FrameClicked()
-{
-    m_workshop.Templates.Standard.picFrame.Border = BorderFor(Current<Card>().Frame);
-}
-
 void frmQDW::ResizeClicked()
 {
     if (Current<Card>().Resize)
         CentrePicture(m_workshop);
     ShowCard(m_workshop.Set.CurrentCard);
-}
-
-void frmQDW::ShowLargePictureClicked()
-{
-    ShowLargeFrame(m_workshop.Templates.Large, Current<LargeCard>().ShowPicture);
-    m_preview->SettleFocus();
-}
-
-void frmQDW::LargeFrameClicked()
-{
-    m_workshop.Templates.Large.picFrameLarge.Border = BorderFor(Current<LargeCard>().Frame);
 }
 
 void frmQDW::LargeResizeClicked()
@@ -100,20 +132,17 @@ template void frmQDW::AttributeChanged<1>();
 template void frmQDW::AttributeChanged<2>();
 template void frmQDW::AttributeChanged<3>();
 
-void frmQDW::ShowCharacterPictureClicked()
-{
-    ShowCharacterFrame(m_workshop.Templates.Character, Current<Character>().ShowPicture);
-    m_preview->SettleFocus();
-}
-
-void frmQDW::CharacterFrameClicked()
-{
-    m_workshop.Templates.Character.picFrameCharacter.Border = BorderFor(Current<Character>().Frame);
-}
-
+/// A picture that is missing is told once, and not again at every letter of the text.
 void frmQDW::BackChanged()
 {
-    ShowNewCardBack(m_workshop.Set.CurrentNewCardBack);
+    const QString picture = Current<NewCardBack>().Picture;
+    try {
+        ShowNewCardBack(m_workshop.Set.CurrentNewCardBack);
+        m_missingBack.clear();
+    } catch (const RunTimeError&) {
+        if (std::exchange(m_missingBack, picture) != picture)
+            throw;
+    }
 }
 
 void frmQDW::SetnameChanged()

@@ -2,12 +2,14 @@
 #include "dialogs/ColourSwatch.h"
 #include "editor/TextControl.h"
 #include "editor/frmQDW.h"
+#include "platform/CodePage.h"
 #include "ui_fraCard.h"
 #include "ui_fraCardBack.h"
 #include "ui_fraCharacter.h"
 #include "ui_fraLargeCard.h"
 #include "ui_fraSet.h"
 
+#include <QStatusBar>
 #include <limits>
 
 namespace deckforge {
@@ -24,12 +26,12 @@ frmQDW::Fields<Card> frmQDW::FieldsOf()
                   {form.txtInfo, &Card::Info, Guard::None, &t.lblInformation, nullptr},
                   {form.txtArtist, &Card::Artist, Guard::NotLoading, nullptr, &frmQDW::ArtistChanged}},
         .Checks = {{form.chkOneLine, &Card::OneLine, &frmQDW::OneLineClicked},
-                   {form.chkShowPicture, &Card::ShowPicture, &frmQDW::ShowPictureClicked},
-                   {form.chkFrame, &Card::Frame, &frmQDW::FrameClicked},
+                   {form.chkShowPicture, &Card::ShowPicture, &frmQDW::ShowPictureClicked<Card>},
+                   {form.chkFrame, &Card::Frame, &frmQDW::FrameClicked<Card>},
                    {form.chkResize, &Card::Resize, &frmQDW::ResizeClicked}},
         .Counts = {{form.udCopy, &Card::Copies}},
         .Pictures = {{form.cmdGetPic, form.cmdDelPic, "Choose picture", &Card::Picture, &t.picImage,
-                      form.txtPicture, &frmQDW::FocusPicture, nullptr},
+                      form.txtPicture, &frmQDW::FocusOnTarget<Card>, nullptr},
                      {form.cmdBackPic, form.cmdDelBackPic, "Choose picture", &Card::Background, &t.picCard,
                       form.txtBackground, &frmQDW::ArtistChanged, &frmQDW::ArtistChanged}},
         .Colours = {{form.cmdColour, form.picColour, "Choose card background colour",
@@ -45,12 +47,13 @@ frmQDW::Fields<LargeCard> frmQDW::FieldsOf()
     return {
         .Texts = {{form.txtTitleLarge, &LargeCard::Title, Guard::None, &t.lblTitleLarge, nullptr},
                   {form.txtInfoLarge, &LargeCard::Info, Guard::None, &t.lblInformationLarge, nullptr}},
-        .Checks = {{form.chkShowPictureLarge, &LargeCard::ShowPicture, &frmQDW::ShowLargePictureClicked},
-                   {form.chkFrameLarge, &LargeCard::Frame, &frmQDW::LargeFrameClicked},
+        .Checks = {{form.chkShowPictureLarge, &LargeCard::ShowPicture,
+                    &frmQDW::ShowPictureClicked<LargeCard>},
+                   {form.chkFrameLarge, &LargeCard::Frame, &frmQDW::FrameClicked<LargeCard>},
                    {form.chkResizeLarge, &LargeCard::Resize, &frmQDW::LargeResizeClicked}},
         .Counts = {{form.udCopyLarge, &LargeCard::Copies}},
         .Pictures = {{form.cmdGetPicLarge, form.cmdDelPicLarge, "Choose picture", &LargeCard::Picture,
-                      &t.picImageLarge, form.txtPictureLarge, &frmQDW::FocusLargePicture, nullptr},
+                      &t.picImageLarge, form.txtPictureLarge, &frmQDW::FocusOnTarget<LargeCard>, nullptr},
                      {form.cmdBackPicLarge, form.cmdDelBackPicLarge, "Choose picture", &LargeCard::Background,
                       &t.picCardLarge, form.txtBackgroundLarge, nullptr, nullptr},
                      {form.cmdCardbackLarge, form.cmdDelCardbackLarge, "Choose picture", &LargeCard::CardBack,
@@ -77,8 +80,8 @@ frmQDW::Fields<Character> frmQDW::FieldsOf()
                   {form.txtSpecialAbilities, &Character::SpecialAbilities, Guard::None, &t.lblSpecial,
                    nullptr}},
         .Checks = {{form.chkShowPictureCharacter, &Character::ShowPicture,
-                    &frmQDW::ShowCharacterPictureClicked},
-                   {form.chkFrameCharacter, &Character::Frame, &frmQDW::CharacterFrameClicked}},
+                    &frmQDW::ShowPictureClicked<Character>},
+                   {form.chkFrameCharacter, &Character::Frame, &frmQDW::FrameClicked<Character>}},
         .Counts = {},
         // A character's picture does not take the keyboard when it is chosen, as the other pictures do.
         .Pictures = {{form.cmdGetCharPic, form.cmdDelCharPic, "Choose characterpicture", &Character::Picture,
@@ -201,12 +204,27 @@ void frmQDW::TextChanged(const TextField<Record>& row)
 {
     if (row.When == Guard::NotLoading && m_loading)
         return;
-    const QString text = TextOf(*row.Control);
-    Current<Record>().*row.Field = text;
+    QString& text = Current<Record>().*row.Field;
+    if (!m_loading) { // what fills the control stays as it is, also where the control cannot hold all of it
+        text = TextOf(*row.Control);
+        HintAtUnsavable(text);
+    }
     if (row.Preview)
         row.Preview->Caption = text;
     Run(row.After);
     m_preview->update();
+}
+
+/// Says at once why the next save would fail, until the text is mended.
+void frmQDW::HintAtUnsavable(const QString& text)
+{
+    try {
+        QByteArray bytes;
+        AppendInCodePage(bytes, text);
+        statusBar()->clearMessage();
+    } catch (const RunTimeError& error) {
+        statusBar()->showMessage(error.Description());
+    }
 }
 
 template <class Record>
@@ -236,7 +254,7 @@ template <class Record>
 void frmQDW::Fill()
 {
     const Fields<Record> fields = FieldsOf<Record>();
-    Record record = Current<Record>(); // a copy: some handlers write back what they are filled with
+    Record& record = Current<Record>();
     for (const auto& row : fields.Texts)
         SetTextOf(*row.Control, record.*row.Field);
     for (const auto& row : fields.Checks)

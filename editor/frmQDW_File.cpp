@@ -10,6 +10,7 @@
 #include <QMimeData>
 #include <QSignalBlocker>
 #include <QTabBar>
+#include <QTimer>
 #include <algorithm>
 
 namespace deckforge {
@@ -28,6 +29,13 @@ bool HasExtension(const QString& path, std::initializer_list<const char*> extens
     return std::any_of(extensions.begin(), extensions.end(), [&](const char* extension) {
         return path.endsWith(QLatin1String(extension), Qt::CaseInsensitive);
     });
+}
+
+/// A slider past its new end goes there without showing what it stands for.
+void SetMaximumQuietly(QScrollBar& slider, int most)
+{
+    const QSignalBlocker quiet(slider);
+    slider.setMaximum(std::max(1, most));
 }
 
 bool IsSetFile(const QString& path)
@@ -67,15 +75,15 @@ void frmQDW::SaveSet()
 }
 
 /// Nobody keeps account of changes: the question comes every time. A save that is cancelled keeps nothing
-/// from going on.
+/// from going on. One that failed does: it counts as a question put aside, and the set stays.
 Answer frmQDW::AskToSave(BoxButtons buttons)
 {
     const Answer answer = m_workshop.User.ShowMessage({.Text = QStringLiteral("Save current set?"),
                                                        .Title = QStringLiteral("Save..."),
                                                        .Style = BoxStyle::Question,
                                                        .Buttons = buttons});
-    if (answer == Answer::Yes)
-        SaveSet();
+    if (answer == Answer::Yes && deckforge::SaveSet(m_workshop.Set, m_workshop.User) == SaveResult::Failed)
+        return Answer::Cancel;
     return answer;
 }
 
@@ -89,19 +97,21 @@ void frmQDW::DoOpenDKF(const QString& path)
         tbCard->setCurrentIndex(0);
     }
     CardSizeSwitch(1);
-    // The sliders stay where they are while the first cards are shown.
-    m_card->hsbCard->setMaximum(set.CardCount);
+    // Ranges alone: the sliders do not go to the first cards, which are shown.
+    SetMaximumQuietly(*m_card->hsbCard, set.CardCount);
+    SetMaximumQuietly(*m_large->hsbCardLarge, set.LargeCardCount);
+    SetMaximumQuietly(*m_character->hsbCharacter, set.CharacterCount);
     FillCardBackList();
     FillCardTypeList();
     ShowOpenedSet(m_workshop);
     FillSet();
     FillCard();
-    m_large->hsbCardLarge->setMaximum(std::max<int>(1, set.LargeCardCount));
-    m_character->hsbCharacter->setMaximum(std::max<int>(1, set.CharacterCount));
 }
 
 bool frmQDW::TakesDrop(const QDropEvent& event) const
 {
+    if (m_isBusy) // a run has the set
+        return false;
     const QString path = DroppedFile(event);
     const QPointF onPreview = m_preview->mapFrom(this, event.position());
     return IsSetFile(path) || (IsPictureFile(path) && m_preview->BoxAt(onPreview) != nullptr);
@@ -110,7 +120,7 @@ bool frmQDW::TakesDrop(const QDropEvent& event) const
 void frmQDW::dragEnterEvent(QDragEnterEvent* event)
 {
     const QString path = DroppedFile(*event);
-    if (IsSetFile(path) || IsPictureFile(path))
+    if (!m_isBusy && (IsSetFile(path) || IsPictureFile(path)))
         event->acceptProposedAction();
 }
 
@@ -126,14 +136,17 @@ void frmQDW::dropEvent(QDropEvent* event)
     event->acceptProposedAction();
     const QString path = DroppedFile(*event);
     if (IsSetFile(path)) {
-        Guarded([&] { OpenDropped(path); });
+        // Where the file comes from waits for the end of the drop, not of the question.
+        QTimer::singleShot(0, this, [this, path] { Guarded([&] { OpenDropped(path); }); });
         return;
     }
-    Guarded([&] {
-        const Box* box = m_preview->BoxAt(m_preview->mapFrom(this, event->position()));
-        while (box && !DropOn(box, path)) // what takes no picture leaves it to what it lies on
-            box = m_preview->ParentOf(*box);
-    });
+    Guarded([&] { DropOn(m_preview->BoxAt(m_preview->mapFrom(this, event->position())), path); });
+}
+
+/// A run goes on to its end: it would come back to a window that is gone.
+void frmQDW::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(!m_isBusy);
 }
 
 void frmQDW::OpenDropped(const QString& path)

@@ -1,3 +1,4 @@
+#include "compose/StandardCard.h"
 #include "core/CardVocabulary.h"
 #include "core/Vocabulary.h"
 #include "dialogs/CardPreview.h"
@@ -8,12 +9,11 @@
 #include "ui_fraCharacter.h"
 #include "ui_fraSet.h"
 
+#include <QSignalBlocker>
+
 namespace deckforge {
 
 namespace {
-
-/// The entry of the list of a character's backs that takes a picture of the user's.
-constexpr int UserDefinedCharacterBack = 3;
 
 void FillList(QComboBox& list, const QStringList& entries)
 {
@@ -21,6 +21,16 @@ void FillList(QComboBox& list, const QStringList& entries)
     list.addItems(entries);
     if (list.isEditable())
         list.setCompleter(nullptr); // what is typed stays as typed
+}
+
+/// Makes an entry that was typed the current one, or else the list would choose it when it loses the
+/// keyboard.
+void SelectTyped(QComboBox& list)
+{
+    const QSignalBlocker quiet(list);
+    const int entry = list.findText(list.currentText(), Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    if (entry >= 0)
+        list.setCurrentIndex(entry);
 }
 
 } // namespace
@@ -87,6 +97,7 @@ void frmQDW::TypeChosen()
 
 void frmQDW::TypeTyped()
 {
+    SelectTyped(*m_card->cboType);
     TypeCardType(m_workshop.Set, Current<Card>(), m_card->cboType->currentText());
     ShowTypeLines();
     m_preview->update();
@@ -96,12 +107,7 @@ void frmQDW::TypeTyped()
 /// shown again.
 void frmQDW::ShowTypeLines()
 {
-    auto& lblType = m_workshop.Templates.Standard.lblType;
-    const Card& card = Current<Card>();
-    lblType[0].Caption = card.Type;
-    lblType[1].Caption = card.TypeReversed;
-    lblType[2].Caption = card.SubType;
-    lblType[3].Caption = card.SubTypeReversed;
+    ShowTypeNames(m_workshop.Templates.Standard, Current<Card>());
 }
 
 void frmQDW::CardBackChosen()
@@ -125,9 +131,14 @@ void frmQDW::CardBackChosen()
 /// The new row goes to the table of the set, where all cards can take it. It is chosen at once.
 void frmQDW::AddUserBack(const QString& path)
 {
-    const int16 row = AddCardBack(m_workshop.Set, path);
     QComboBox& list = *m_card->cboCardBack;
-    list.insertItem(list.count() - 1, m_workshop.Set.CardBacks[row].Name);
+    try {
+        const int16 row = AddCardBack(m_workshop.Set, path);
+        list.insertItem(list.count() - 1, m_workshop.Set.CardBacks[row].Name);
+    } catch (const RunTimeError&) {
+        FillCardBackList(); // with the row that has no name, so that entries and rows stay in step
+        throw;
+    }
     list.setCurrentIndex(list.count() - 2);
     CardBackChosen();
 }
@@ -167,6 +178,7 @@ void frmQDW::StartAreaChosen()
 
 void frmQDW::StartAreaTyped()
 {
+    SelectTyped(*m_character->cboStartArea);
     SetStartArea(m_character->cboStartArea->currentText());
 }
 

@@ -33,8 +33,13 @@ void frmQDW::BindModes()
     onKey(Qt::CTRL | Qt::Key_N, &Mode::Add);
     onKey(Qt::CTRL | Qt::Key_Comma, &Mode::Previous);
     onKey(Qt::CTRL | Qt::Key_Period, &Mode::Next);
-    On(new QShortcut(Qt::CTRL | Qt::Key_Tab, this), &QShortcut::activated,
-       [this] { tbCard->setCurrentIndex((tbCard->currentIndex() + 1) % tbCard->count()); });
+    const auto onTabKey = [this](QKeySequence key, int step) {
+        On(new QShortcut(key, this), &QShortcut::activated, [this, step] {
+            tbCard->setCurrentIndex((tbCard->currentIndex() + tbCard->count() + step) % tbCard->count());
+        });
+    };
+    onTabKey(Qt::CTRL | Qt::Key_Tab, 1);
+    onTabKey(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, -1);
 
     On(m_large->chkShowBackLarge, &QCheckBox::clicked, [this] { SwitchLargeView(); });
     On(m_character->chkShowCharacterBack, &QCheckBox::clicked, [this] { SwitchCharacterView(); });
@@ -44,22 +49,55 @@ void frmQDW::BindModes()
 const frmQDW::Mode& frmQDW::Selected() const
 {
     static const std::array<Mode, 4> modes = {{
-        {&CardSet::CurrentCard, &frmQDW::ShowCard, &SaveCard, &frmQDW::AddCard<Card>,
-         &frmQDW::PreviousCard<Card>, &frmQDW::NextCard<Card>, &frmQDW::CopyCard<Card>,
-         &frmQDW::PasteCard<Card>, &CreateCards, &CreateCardSheets, &frmQDW::CreateCardHtml,
-         &frmQDW::FillCard},
-        {&CardSet::CurrentLargeCard, &frmQDW::ShowLargeCard, &SaveLargeCard, &frmQDW::AddCard<LargeCard>,
-         &frmQDW::PreviousCard<LargeCard>, &frmQDW::NextCard<LargeCard>, &frmQDW::CopyCard<LargeCard>,
-         &frmQDW::PasteCard<LargeCard>, &CreateLargeCards, &CreateLargeCardSheets,
-         &frmQDW::CreateLargeCardHtml, &frmQDW::FillLargeCard},
-        {&CardSet::CurrentCharacter, &frmQDW::ShowCharacter, &SaveCharacter, &frmQDW::AddCard<Character>,
-         &frmQDW::PreviousCard<Character>, &frmQDW::NextCard<Character>, &frmQDW::CopyCard<Character>,
-         &frmQDW::PasteCard<Character>, &CreateCharacters, &CreateCharacterSheets,
-         &frmQDW::CreateCharacterHtml, &frmQDW::FillCharacter},
+        {.Current = &CardSet::CurrentCard,
+         .Show = &frmQDW::ShowCard,
+         .Save = &SaveCard,
+         .Add = &frmQDW::AddCard<Card>,
+         .Previous = &frmQDW::PreviousCard<Card>,
+         .Next = &frmQDW::NextCard<Card>,
+         .Copy = &frmQDW::CopyCard<Card>,
+         .Paste = &frmQDW::PasteCard<Card>,
+         .CreateAll = &CreateCards,
+         .CreateSheets = &CreateCardSheets,
+         .CreateHtml = &frmQDW::CreateCardHtml,
+         .FillAgain = &frmQDW::FillCard},
+        {.Current = &CardSet::CurrentLargeCard,
+         .Show = &frmQDW::ShowLargeCard,
+         .Save = &SaveLargeCard,
+         .Add = &frmQDW::AddCard<LargeCard>,
+         .Previous = &frmQDW::PreviousCard<LargeCard>,
+         .Next = &frmQDW::NextCard<LargeCard>,
+         .Copy = &frmQDW::CopyCard<LargeCard>,
+         .Paste = &frmQDW::PasteCard<LargeCard>,
+         .CreateAll = &CreateLargeCards,
+         .CreateSheets = &CreateLargeCardSheets,
+         .CreateHtml = &frmQDW::CreateLargeCardHtml,
+         .FillAgain = &frmQDW::FillLargeCard},
+        {.Current = &CardSet::CurrentCharacter,
+         .Show = &frmQDW::ShowCharacter,
+         .Save = &SaveCharacter,
+         .Add = &frmQDW::AddCard<Character>,
+         .Previous = &frmQDW::PreviousCard<Character>,
+         .Next = &frmQDW::NextCard<Character>,
+         .Copy = &frmQDW::CopyCard<Character>,
+         .Paste = &frmQDW::PasteCard<Character>,
+         .CreateAll = &CreateCharacters,
+         .CreateSheets = &CreateCharacterSheets,
+         .CreateHtml = &frmQDW::CreateCharacterHtml,
+         .FillAgain = &frmQDW::FillCharacter},
         // Card backs are saved one by one; all other commands take this tab for that of the characters.
-        {&CardSet::CurrentNewCardBack, &frmQDW::ShowNewCardBack, &SaveNewCardBack, nullptr, nullptr, nullptr,
-         &frmQDW::CopyCard<Character>, &frmQDW::PasteCard<Character>, &CreateCharacters,
-         &CreateCharacterSheets, &frmQDW::CreateCharacterHtml, &frmQDW::FillNewCardBack},
+        {.Current = &CardSet::CurrentNewCardBack,
+         .Show = &frmQDW::ShowNewCardBack,
+         .Save = &SaveNewCardBack,
+         .Add = nullptr,
+         .Previous = nullptr,
+         .Next = nullptr,
+         .Copy = &frmQDW::CopyCard<Character>,
+         .Paste = &frmQDW::PasteCard<Character>,
+         .CreateAll = &CreateCharacters,
+         .CreateSheets = &CreateCharacterSheets,
+         .CreateHtml = &frmQDW::CreateCharacterHtml,
+         .FillAgain = &frmQDW::FillNewCardBack},
     }};
     return modes.at(static_cast<std::size_t>(tbCard->currentIndex()));
 }
@@ -170,10 +208,7 @@ void frmQDW::SwitchCharacterView()
 {
     if (tbCard->currentIndex() + 1 != CharacterMode)
         return;
-    CharacterTemplate& t = m_workshop.Templates.Character;
-    t.picCharacterBack.Visible = m_character->chkShowCharacterBack->isChecked();
-    t.picCharacter.Visible = !t.picCharacterBack.Visible;
-    m_preview->SettleFocus();
+    SwitchPieceView(); // the back stays away while the piece is shown
 }
 
 void frmQDW::SwitchPieceView()

@@ -16,6 +16,8 @@ void frmQDW::CreateOne()
 {
     const Mode& mode = Selected();
     const int16 current = m_workshop.Set.*mode.Current;
+    if (current < 1) // a new set has only standard cards until the other tabs are looked at
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     (this->*mode.Show)(current);
     mode.Save(m_workshop, current, Ask::Yes, Tell::Yes, {});
 }

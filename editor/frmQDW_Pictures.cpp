@@ -59,7 +59,7 @@ void frmQDW::BindPictures()
 /// The dialog begins where the button's last file was; without a button it has no such memory.
 std::optional<QString> frmQDW::AskPicture(const char* title, const QAbstractButton* button)
 {
-    const auto path = m_workshop.User.AskOpenFile(
+    return m_workshop.User.AskOpenFile(
         {.Title = QString::fromLatin1(title),
          .FileName = {},
          .Filter = QStringLiteral("All files(*.*)|*.*|Picture files (*.bmp;*.jpg;*.gif;*.wmf)"
@@ -67,9 +67,6 @@ std::optional<QString> frmQDW::AskPicture(const char* title, const QAbstractButt
          .FilterIndex = 2,
          .DefaultExtension = QStringLiteral("bmp"),
          .Folder = button ? m_pictureFolders.value(button) : QString()});
-    if (path && button)
-        m_pictureFolders.insert(button, FolderPart(*path));
-    return path;
 }
 
 /// A picture that cannot be loaded leaves the preview as it was.
@@ -104,6 +101,7 @@ template <class Record>
 void frmQDW::TakePicture(const PictureField<Record>& row, const QString& path)
 {
     Current<Record>().*row.Field = path;
+    m_pictureFolders.insert(row.Choose, FolderPart(path));
     if (row.Target) {
         LayAtFrame(*row.Target);
         const auto picture = Loaded(path);
@@ -144,19 +142,20 @@ void frmQDW::ChooseColour(const ColourField<Record>& row)
     m_preview->update();
 }
 
-void frmQDW::FocusPicture()
+/// The keyboard goes to the picture that was just chosen.
+template <class Record>
+void frmQDW::FocusOnTarget()
 {
-    m_preview->FocusOn(m_workshop.Templates.Standard.picImage);
+    m_preview->FocusOn(*FieldsOf<Record>().Pictures.front().Target);
 }
 
-void frmQDW::FocusLargePicture()
-{
-    m_preview->FocusOn(m_workshop.Templates.Large.picImageLarge);
-}
+template void frmQDW::FocusOnTarget<Card>();
+template void frmQDW::FocusOnTarget<LargeCard>();
 
 void frmQDW::TakeSymbol(const QString& path)
 {
     m_workshop.Set.Header.Symbol = path;
+    m_pictureFolders.insert(m_set->cmdSymbol, FolderPart(path));
     const auto symbol = Loaded(path);
     if (!symbol)
         return;
@@ -187,23 +186,37 @@ void frmQDW::ChooseBackFont()
     BackChanged();
 }
 
-bool frmQDW::DropOn(const Box* box, const QString& path)
+/// What takes no picture of its own leaves it to what it lies on: a label to its card, for one.
+void frmQDW::DropOn(const Box* box, const QString& path)
 {
     const CardTemplates& t = m_workshop.Templates;
-    if (box == &t.Standard.picBack) {
-        AddUserBack(path);
-        return true;
+    for (; box; box = m_preview->ParentOf(*box)) {
+        if (box == &t.Standard.picBack)
+            return AddUserBack(path);
+        if (box == &t.Character.picCharacterBack)
+            return SetCharacterBackPicture(path);
+        if (box == &t.NewBack.picNewBack)
+            return TakePicture(FieldsOf<NewCardBack>().Pictures.front(), path);
+        const Box* const target = StandsFor(box);
+        if (DropOnTarget<Card>(target, path) || DropOnTarget<LargeCard>(target, path) ||
+            DropOnTarget<Character>(target, path))
+            return;
     }
-    if (box == &t.Character.picCharacterBack) {
-        SetCharacterBackPicture(path);
-        return true;
+}
+
+/// The box that takes the picture: a frame is filled, and the border of a character has its panel.
+const Box* frmQDW::StandsFor(const Box* box)
+{
+    const CardTemplates& t = m_workshop.Templates;
+    if (box == &t.Character.picCharacter)
+        return &t.Character.picBackgroundChar;
+    if (box == &t.PlayingPiece.picPlayingPiece)
+        return &t.PlayingPiece.picPlayingPieceImage;
+    for (const PlacementRow& row : Placements()) {
+        if (box == row.Frame)
+            return row.Image;
     }
-    if (box == &t.NewBack.picNewBack) {
-        TakePicture(FieldsOf<NewCardBack>().Pictures.front(), path);
-        return true;
-    }
-    return DropOnTarget<Card>(box, path) || DropOnTarget<LargeCard>(box, path) ||
-           DropOnTarget<Character>(box, path);
+    return box;
 }
 
 template <class Record>

@@ -23,7 +23,7 @@ void frmQDW::BindPreview()
 {
     On(m_preview, &CardPreview::Pressed, [this](const Box*, QPoint point) { m_dragStart = point; });
     On(m_preview, &CardPreview::Dragged,
-       [this](const Box* box, QPoint point) { PreviewDragged(box, point); });
+       [this](const Box* box, QPoint point, QPoint moved) { PreviewDragged(box, point, moved); });
     On(m_preview, &CardPreview::Clicked,
        [this](const Box* box) { LabelClicked(box, FontLabel::Gesture::Click); });
     On(m_preview, &CardPreview::DoubleClicked,
@@ -34,10 +34,13 @@ void frmQDW::BindPreview()
        });
     On(m_preview, &CardPreview::TipWanted, [this](const Box* box, QPoint point) { ShowTip(box, point); });
     On(m_zooms, &QButtonGroup::idClicked, [this](int zoom) { SetZoom(zoom); });
-    On(new QShortcut(QKeySequence::ZoomIn, this), &QShortcut::activated,
-       [this] { SetZoom(m_preview->Zoom() + 1); });
-    On(new QShortcut(QKeySequence::ZoomOut, this), &QShortcut::activated,
-       [this] { SetZoom(m_preview->Zoom() - 1); });
+    const auto onKey = [this](QKeySequence key, int step) {
+        On(new QShortcut(key, this), &QShortcut::activated,
+           [this, step] { SetZoom(m_preview->Zoom() + step); });
+    };
+    onKey(QKeySequence::ZoomIn, 1);
+    onKey(Qt::CTRL | Qt::Key_Equal, 1); // the same key without Shift
+    onKey(QKeySequence::ZoomOut, -1);
 }
 
 /// Labels of the standard card ask for two clicks, all others for one.
@@ -75,11 +78,14 @@ std::array<frmQDW::PlacementRow, 4> frmQDW::Placements()
 {
     const CardTemplates& t = m_workshop.Templates;
     return {{
-        {&t.Standard.picImage, &t.Standard.lblPicSize, PlacedPicture::Standard, &frmQDW::TellFrameSize},
-        {&t.Large.picImageLarge, &t.Large.lblPicSizeLarge, PlacedPicture::Large, &frmQDW::TellLargeFrameSize},
-        {&t.Character.picImageCharacter, &t.Character.lblPicSizeCharacter, PlacedPicture::Character,
-         &frmQDW::TellCharacterFrameSize},
-        {&t.PlayingPiece.picPlayingPieceImage, nullptr, PlacedPicture::PlayingPiece, nullptr},
+        {&t.Standard.picFrame, &t.Standard.picImage, &t.Standard.lblPicSize, PlacedPicture::Standard,
+         &frmQDW::TellFrameSize},
+        {&t.Large.picFrameLarge, &t.Large.picImageLarge, &t.Large.lblPicSizeLarge, PlacedPicture::Large,
+         &frmQDW::TellLargeFrameSize},
+        {&t.Character.picFrameCharacter, &t.Character.picImageCharacter, &t.Character.lblPicSizeCharacter,
+         PlacedPicture::Character, &frmQDW::TellCharacterFrameSize},
+        {&t.PlayingPiece.picPlayingPieceFrame, &t.PlayingPiece.picPlayingPieceImage, nullptr,
+         PlacedPicture::PlayingPiece, nullptr},
     }};
 }
 
@@ -100,15 +106,16 @@ void frmQDW::LabelClicked(const Box* box, FontLabel::Gesture gesture)
     }
 }
 
-/// The box moves with the pointer, so the point on it where the drag began stays the same.
-void frmQDW::PreviewDragged(const Box* box, QPoint point)
+/// A picture goes as far as the pointer. A handle stops at its bounds: it goes to where the pointer holds it.
+void frmQDW::PreviewDragged(const Box* box, QPoint point, QPoint moved)
 {
-    const QPoint moved = point - m_dragStart;
+    const QPoint toPointer = point - m_dragStart;
     for (const PlacementRow& row : Placements()) {
         if (box == row.Image)
             MovePicture(m_workshop, row.Which, moved.x() * TwipsPerPixelX, moved.y() * TwipsPerPixelY);
         else if (box == row.Handle)
-            MoveHandle(m_workshop, row.Which, row.Which == PlacedPicture::Standard ? moved.y() : moved.x());
+            MoveHandle(m_workshop, row.Which,
+                       row.Which == PlacedPicture::Standard ? toPointer.y() : toPointer.x());
         else
             continue;
         Run(row.After);

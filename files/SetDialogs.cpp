@@ -16,13 +16,13 @@ FileDialogRequest SetFileDialog(const char* title, const QString& fileName)
 
 } // namespace
 
-void SaveSet(CardSet& set, UserPort& user)
+SaveResult SaveSet(CardSet& set, UserPort& user)
 {
     const std::optional<QString> path = user.AskSaveFile(SetFileDialog("Save Card Set", set.Header.FileName));
     if (!path)
-        return;
+        return SaveResult::Cancelled;
     set.Header.FileName = *path; // first, so that the path stands in the very file that is written
-    WriteDKF(set, *path, user, Report::Tell);
+    return WriteDKF(set, *path, user, Report::Tell) ? SaveResult::Saved : SaveResult::Failed;
 }
 
 std::optional<QString> AskSetToOpen(UserPort& user)

@@ -26,8 +26,10 @@ bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report re
 /// Name and SubName both occur in the texts wins, so "EVENT" comes before "EVENT-Law".
 [[nodiscard]] int16 FindCardType(const CardSet& set, const QString& typeText, const QString& reversedText);
 
+enum class SaveResult { Saved, Cancelled, Failed };
+
 /// Asks where to, and writes the set there; always asks.
-void SaveSet(CardSet& set, UserPort& user);
+SaveResult SaveSet(CardSet& set, UserPort& user);
 
 /// Asks for the set file to open; nothing on a cancel.
 [[nodiscard]] std::optional<QString> AskSetToOpen(UserPort& user);

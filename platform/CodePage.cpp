@@ -32,11 +32,12 @@ bool IsSpecialByte(char16_t c)
         character = QChar::surrogateToUcs4(text[at], text[at + 1]);
         length = 2;
     }
-    throw RunTimeError(
-        ErrorNumber::InvalidCall,
-        QStringLiteral("The character \"%1\" (U+%2) cannot be written in this file")
-            .arg(text.sliced(at, length))
-            .arg(QString::number(static_cast<uint>(character), 16).toUpper(), 4, QLatin1Char('0')));
+    constexpr qsizetype shown = 20; // enough of the text to find it by
+    const QString around = text.sliced(std::max<qsizetype>(0, at - shown)).left(2 * shown).toString();
+    const QString code = QString::number(static_cast<uint>(character), 16).toUpper();
+    throw RunTimeError(ErrorNumber::InvalidCall,
+                       QStringLiteral("The character \"%1\" (U+%2) of \"%3\" cannot be written in this file")
+                           .arg(text.sliced(at, length), code.rightJustified(4, QLatin1Char('0')), around));
 }
 
 } // namespace

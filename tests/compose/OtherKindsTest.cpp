@@ -132,7 +132,7 @@ TEST_F(OtherKindsTest, ACharactersPictureLiesOnThePanel)
     EXPECT_EQ(Surface().GetPixel(13 + 1 + 4 + 1, 14 + 1), ColourOfPlace(0, 0));
     const CharacterTemplate& t = Shop.Templates.Character;
     EXPECT_EQ(t.lblStart.Place(), QRect(169, 15, 103, 12));
-    ShowCharacterFrame(Shop.Templates.Character, false);
+    ShowPictureFrame(Shop.Templates.Character, false);
     EXPECT_EQ(t.lblSpecial.Left, 6);
     EXPECT_EQ(t.lblSpecial.Width, 266);
 }

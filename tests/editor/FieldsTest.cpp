@@ -41,6 +41,8 @@ TEST_F(FieldsTest, ATypedTypeIsTheCardsOwn)
     // Spelled like an entry it takes the row above, and leaves the number.
     TypeIn(cboType, QStringLiteral("SPELL"));
     EXPECT_EQ(CardType(), QStringLiteral("PLACE||PLACE||6|2"));
+    QTest::keyClick(&cboType, Qt::Key_Tab);
+    EXPECT_EQ(CardType(), QStringLiteral("PLACE||PLACE||6|2")) << "leaving the box chooses nothing";
     TypeIn(Find<QComboBox>("cboNumber"), QStringLiteral("11"));
     EXPECT_EQ(FirstCard().Number, QStringLiteral("11"));
 }
@@ -69,6 +71,9 @@ TEST_F(FieldsTest, AUserDefinedBackJoinsTheTable)
     EXPECT_EQ(Set().CardBackCount, 29);
     EXPECT_EQ(Set().CardBacks[29].Name, QString());
     EXPECT_EQ(FirstCard().CardBack, 28);
+    user.WillChoose(path);
+    Choose("cboCardBack", list.count() - 1);
+    EXPECT_EQ(FirstCard().CardBack, 30) << "entries and rows are in step";
 }
 
 TEST_F(FieldsTest, PictureButtonsFillFieldPreviewAndPathBox)
@@ -292,13 +297,35 @@ TEST_F(FieldsTest, ShowingACardKeepsWhatItsControlsCannotHold)
         set.Cards[1].CardBack = 0;
         set.Cards[1].Number = QStringLiteral("many");
         set.Cards[1].TypeIndex = 9;
+        set.Cards[1].Info = QStringLiteral("a\nb\rc");
     });
     Find<QScrollBar>("hsbCard").setValue(2);
     Find<QScrollBar>("hsbCard").setValue(1);
     EXPECT_EQ(FirstCard().Copies, -7);
     EXPECT_EQ(FirstCard().CardBack, 0);
     EXPECT_EQ(FirstCard().TypeIndex, 9);
+    EXPECT_EQ(FirstCard().Info, QStringLiteral("a\nb\rc"));
     EXPECT_EQ(Find<QComboBox>("cboNumber").currentText(), QStringLiteral("many"));
+}
+
+TEST_F(FieldsTest, ALineTakesPastedLineBreaksAsBlanks)
+{
+    Find<QLineEdit>("txtTitle").setText(QStringLiteral("one\r\ntwo\nthree"));
+    EXPECT_EQ(FirstCard().Title, QStringLiteral("one two three"));
+}
+
+TEST_F(FieldsTest, AMissingPictureOfABackIsToldOnceForAllLetters)
+{
+    SelectTab(4);
+    Click("chkNewBackPicture");
+    const QString path = PictureFile("owl.bmp");
+    user.WillChoose(path);
+    Click("cmdGetNewBackPicture");
+    ASSERT_TRUE(QFile::remove(path));
+    Type("txtBackText", QStringLiteral("OWLS"));
+    EXPECT_EQ(user.BoxTexts(), std::vector{QStringLiteral("Varnhelm Deck Forge|Run-time error '53':\r\n\r\n"
+                                                          "File not found")});
+    EXPECT_EQ(Back().BackText, QStringLiteral("OWLS"));
 }
 
 } // namespace

@@ -72,8 +72,11 @@ TEST_F(KindsTest, ANewSetLeavesTheTabAndItsCardsToTheNextClick)
     EXPECT_EQ(Find<QTabBar>("tbCard").currentIndex(), 2);
     EXPECT_TRUE(Boxes().Standard.picCard.Visible);
     EXPECT_EQ(Set().CharacterCount, 0);
-    Run("paste"); // there is no character to paste over
-    EXPECT_EQ(user.LastBox().Text, QStringLiteral("Run-time error '9':\r\n\r\nSubscript out of range"));
+    for (const char* command : {"copy", "paste", "createone"}) {
+        user.Boxes.clear();
+        Run(command); // there is no character
+        EXPECT_EQ(user.LastBox().Text, QStringLiteral("Run-time error '9':\r\n\r\nSubscript out of range"));
+    }
     ClickTab(3);
     EXPECT_EQ(Set().CharacterCount, 1);
     EXPECT_TRUE(Boxes().Character.picCharacter.Visible);
@@ -81,12 +84,20 @@ TEST_F(KindsTest, ANewSetLeavesTheTabAndItsCardsToTheNextClick)
     EXPECT_EQ(Text("txtNewCardBackName"), QStringLiteral("Owls"));
 }
 
-TEST_F(KindsTest, ANewSetQuestionPutAsideChangesNothing)
+TEST_F(KindsTest, ASetOutlivesAQuestionPutAsideAndASaveThatFailed)
 {
+    window.show();
     Type("txtTitle", QStringLiteral("Imp"));
     user.WillAnswer(Answer::Cancel);
     Run("new");
-    EXPECT_EQ(Set().Cards[1].Title, QStringLiteral("Imp"));
+    for (const char* command : {"new", "exit"}) {
+        user.WillAnswer(Answer::Yes);
+        user.WillChoose(folder.Path(QStringLiteral("none/set.dkf")));
+        Run(command);
+        EXPECT_EQ(user.LastBox().Style, BoxStyle::Critical);
+        EXPECT_EQ(Set().Cards[1].Title, QStringLiteral("Imp"));
+        EXPECT_TRUE(window.isVisible());
+    }
 }
 
 TEST_F(KindsTest, KeysAndCommandsGoByTheTab)
@@ -142,9 +153,13 @@ TEST_F(KindsTest, AnOpenedSetLeavesSlidersOfTheOneBefore)
     Click("cmdNewCardBackAdd");
     Click("cmdNewCardBackAdd");
     Click("cmdCardAdd"); // of the first tab, which is not shown
+    for (int i = 0; i < 4; ++i)
+        Click("cmdCharacterAdd");
     OpenChangedSet([](CardSet& set) {
         AddElement(set, LargeKind);
         AddElement(set, LargeKind);
+        set.CharacterCount = 2;
+        set.Characters.Resize(2);
         set.NewCardBackCount = 1;
         set.NewCardBacks.Resize(1);
     });
@@ -154,6 +169,9 @@ TEST_F(KindsTest, AnOpenedSetLeavesSlidersOfTheOneBefore)
     SelectTab(2);
     EXPECT_EQ(Label("lblCurrentCardLarge"), QStringLiteral("1 (2)"));
     EXPECT_EQ(Find<QScrollBar>("hsbCardLarge").maximum(), 2);
+    SelectTab(3);
+    EXPECT_EQ(Label("lblCurrentCardCharacter"), QStringLiteral("1 (2)"));
+    EXPECT_EQ(Find<QScrollBar>("hsbCharacter").maximum(), 2);
     SelectTab(4);
     EXPECT_EQ(Label("lblCurrentNewCardBack"), QStringLiteral("1 (1)"));
     EXPECT_EQ(Find<QScrollBar>("hsbNewCardBack").maximum(), 3);
@@ -197,6 +215,31 @@ TEST_F(KindsTest, OnlyTheLastOfTheOtherKindsStaysWithoutAWord)
     EXPECT_EQ(user.LastBox().Text,
               QStringLiteral("Are you sure you want to delete the character \"CHARACTER 2\"?"));
     EXPECT_EQ(Label("lblCurrentCardCharacter"), QStringLiteral("1 (1)"));
+}
+
+TEST_F(KindsTest, ARunIsNotDisturbed)
+{
+    window.show();
+    window.ShowProgress(1, 3);
+    window.close();
+    EXPECT_TRUE(window.isVisible());
+    window.ShowProgress(3, 3);
+    window.close();
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(KindsTest, TheWheelTurnsNothingThatTheUserDoesNotWorkIn)
+{
+    for (const char* name : {"cboCardBack", "cboType", "udCopy", "tbCard"}) {
+        auto& control = Find<QWidget>(name);
+        QWheelEvent turn({2, 2}, control.mapToGlobal(QPointF(2, 2)), {}, {0, -120}, Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&control, &turn);
+    }
+    EXPECT_EQ(Set().Cards[1].CardBack, 1);
+    EXPECT_EQ(Set().Cards[1].SubType, QStringLiteral("Animal"));
+    EXPECT_EQ(Set().Cards[1].Copies, 1);
+    EXPECT_EQ(Set().LargeCardCount, 0);
 }
 
 /// What the keyboard and a screen reader need.

@@ -134,8 +134,9 @@ TEST_F(PlacementTest, AFrameThatHugsItsPictureStandsInTheMiddle)
     Click("chkResize");
     EXPECT_EQ(FirstCard().PictureLeft, (142 - 43) / 2.0 * 15);
     EXPECT_EQ(Preview().picFrame.Width, 43);
-    Drag(Preview().picImage, {10, 10}, {8, 0});
-    EXPECT_EQ(Preview().picFrame.Left, 54 + 8);
+    for (int pixel = 0; pixel < 8; ++pixel) // in half pixels, and still as far as the pointer
+        Drag(Preview().picImage, {10, 10}, {1, 0});
+    EXPECT_EQ(FirstCard().PictureLeft, (142 - 43) / 2.0 * 15 + 8 * 15);
     EXPECT_EQ(Preview().picImage.Left, 0);
     Click("chkResize");
     EXPECT_EQ(Preview().picFrame.Place(), QRect(5, 40, 139, 105));
@@ -161,12 +162,18 @@ TEST_F(PlacementTest, ADroppedPictureGoesWhereItFalls)
     const QString path = PictureFile("imp.bmp");
     Drop(PointOn(Preview().picFrame, {80, 80}), path);
     EXPECT_EQ(FirstCard().Picture, path);
+    const QString other = PictureFile("ogre.bmp");
+    Drop(PointOn(Preview().picFrame, {120, 90}), other); // on the frame, beside the picture
+    EXPECT_EQ(FirstCard().Picture, other);
+    user.WillCancelDialog();
+    Click("cmdGetPic");
+    EXPECT_EQ(user.OpenDialogs.back().Folder, folder.WithSeparator());
     Drop(PointOn(Preview().lblInformation), path);
     EXPECT_EQ(FirstCard().Background, path);
     Drop(PointOn(Preview().picBack), path);
     EXPECT_EQ(FirstCard().CardBack, 28);
     SelectTab(3);
-    Drop(PointOn(Boxes().Character.lblSpecial), path);
+    Drop(PointOn(Boxes().Character.lblCharacter), path);
     EXPECT_EQ(Set().Characters[1].Background, path);
     Click("chkShowCharacterBack");
     Drop(PointOn(Boxes().Character.picCharacterBack), path);
@@ -188,9 +195,14 @@ TEST_F(PlacementTest, ADroppedSetIsOpenedAfterTheQuestion)
     Type("txtTitle", QStringLiteral("Changed"));
     user.WillAnswer(Answer::Cancel);
     Drop({1, 1}, folder.Path(QStringLiteral("set.dkf")));
+    QCoreApplication::processEvents();
     EXPECT_EQ(Text("txtTitle"), QStringLiteral("Changed"));
+    window.ShowProgress(1, 3);
+    Drop({1, 1}, folder.Path(QStringLiteral("set.dkf"))); // refused while a run goes on
+    window.ShowProgress(3, 3);
     user.WillAnswer(Answer::No);
     Drop({1, 1}, folder.Path(QStringLiteral("set.dkf")));
+    QCoreApplication::processEvents();
     EXPECT_EQ(Text("txtTitle"), QStringLiteral("Stored"));
 }
 
