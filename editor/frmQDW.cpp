@@ -94,6 +94,7 @@ frmQDW::frmQDW(UserPort& user)
     BindFocus();
     Guarded([this] { InitForm(); });
     m_card->txtTitle->setFocus();
+    m_card->txtTitle->selectAll();
     SetZoom(UsualZoom);
     if (sizeHint().width() > LargestSize().width())
         SetZoom(1);
