@@ -19,19 +19,24 @@ EDGE = 9  # where the border of ornaments begins, from each side
 GAP = 4
 CORNER, LONG, UPRIGHT, DEEP = 26, 32, 34, 12  # sizes of the cells
 
-# A quarter of a side piece, from the middle: a pointed bud, a leaf, a drop at the end.
-SIDE = "0,-6! 1.6,-4.2 3.4,-3.2! 4.6,-5.4 8.4,-5.6 11.2,-3.6 12.2,-1.5! 13.2,-2.7 14.9,-2 16,0!"
+# The outer quarter of a side piece, from the middle: half a lozenge, a cleft leaf, half a lozenge at the end. On its
+# inner side a spear stands in place of the lozenge in the middle.
+SIDE = "0,-6! 2.8,-2.9! 4.6,-5 7,-5.6! 7.8,-3.6! 8.8,-5.1! 10.8,-3.4 12.6,-1.2! 13.7,-2.6! 16,0!"
 
-# One half of the left upper corner, above the diagonal: a leaf and the arm with its drop, then the inner leaf.
-CORNER_HALF = ("0,0! 5,0.5 9.4,2.7! 11.6,0.4 16,0.4 19.4,2.4 21.2,4.5! 22.6,3.3 24.8,4.2 26,6! 24.8,7.8 22.6,8.7 21.2,7.5! "
-               "20.4,10.4 17,12.6 14.2,11.4! 16.6,14.4 18,18!")
+# One half of the left upper corner, above the diagonal: a cleft leaf along the arm, a lozenge at its end, and half of
+# the spear within.
+CORNER_HALF = ("0,0! 6.4,2.7! 8.6,0.6 12,0! 13,2.2! 14.2,0.6! 17.6,2 20.8,4.9! 22.3,3.2! 26,6! 22.3,8.8! 20.8,7.1! "
+               "19,9.8 16,11.4 12.6,10.8! 17.6,14 21,18 23,23!")
+
+
+SPEAR = "2.4,2.9! 3.7,6 2.6,9 0,13!"
 
 
 def quartered(quarter, stretch):
-    """A piece from its quarter, about the origin."""
+    """A piece from its quarter, about the origin; its inner side is below."""
     right = [(x * stretch, y, corner) for x, y, corner in parse(quarter)]
-    lower = [(x, -y, corner) for x, y, corner in reversed(right[:-1])]
-    half = right + lower
+    lower = [(x, -y, corner) for x, y, corner in reversed(right[2:-1])]
+    half = right + lower + parse(SPEAR)
     return half + [(-x, y, corner) for x, y, corner in reversed(half[1:-1])]
 
 
@@ -50,9 +55,10 @@ def mirror_images(points):
     for flip_x in (False, True):
         for flip_y in (False, True):
             copy = [(WIDTH - x if flip_x else x, HEIGHT - y if flip_y else y, corner) for x, y, corner in points]
-            if not any({p[:2] for p in copy} == {p[:2] for p in other} for other in found):
-                found.append(copy)
-    return found
+            spots = {(round(x, 3), round(y, 3)) for x, y, _ in copy}
+            if spots not in [known for known, _ in found]:
+                found.append((spots, copy))
+    return [copy for _, copy in found]
 
 
 def pieces():
