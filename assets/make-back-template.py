@@ -19,17 +19,17 @@ EDGE = 9  # where the border of ornaments begins, from each side
 GAP = 4
 CORNER, LONG, UPRIGHT, DEEP = 26, 32, 34, 12  # sizes of the cells
 
-# The outer quarter of a side piece, from the middle: half a lozenge, a cleft leaf, half a lozenge at the end. On its
+# The outer quarter of a side piece, from the middle: half a lozenge, then a cleft leaf. On its
 # inner side a spear stands in place of the lozenge in the middle.
-SIDE = "0,-6! 2.8,-2.9! 4.6,-5 7,-5.6! 7.8,-3.6! 8.8,-5.1! 10.8,-3.4 12.6,-1.2! 13.7,-2.6! 16,0!"
+SIDE = "0,-6! 2.8,-2.9! 5,-5 7,-5.7! 7.8,-3.6! 8.8,-5.1! 11.2,-3.8 14,-1.6 16.6,0!"
 
-# One half of the left upper corner, above the diagonal: a cleft leaf along the arm, a lozenge at its end, and half of
+# One half of the left upper corner, above the diagonal: a cleft leaf along the arm, and half of
 # the spear within.
-CORNER_HALF = ("0,0! 6.4,2.7! 8.6,0.6 12,0! 13,2.2! 14.2,0.6! 17.6,2 20.8,4.9! 22.3,3.2! 26,6! 22.3,8.8! 20.8,7.1! "
-               "19,9.8 16,11.4 12.6,10.2! 15.6,12.2 19.6,16.4 23,23!")
+CORNER_HALF = ("1.8,0.4! 6.4,2.7! 8.6,0.6 12,0! 13,2.2! 14.2,0.6! 18,2.2 22,4.4 26.6,6! 23,8 "
+               "19,9.8 16,11.4 12.6,10! 16.4,12 20.4,16.4 21.8,20.2!")
 
 
-SPEAR = "2.4,2.9! 3.7,6 2.6,9 0,13!"
+SPEAR = "2.6,2.7! 1.9,5.4 3.1,8.6 0,13!"
 
 
 def quartered(quarter, stretch):
@@ -42,7 +42,7 @@ def quartered(quarter, stretch):
 
 def across_diagonal(half):
     points = parse(half)
-    return points + [(y, x, corner) for x, y, corner in reversed(points[1:-1])]
+    return points + [(y, x, corner) for x, y, corner in reversed(points)]
 
 
 def moved(points, dx, dy, turned=False):
