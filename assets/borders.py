@@ -25,9 +25,9 @@ def plait(x1, y1, x2, y2, p):
         falling += f"M{pair(spot(start, -2.5))}C{pair(spot(start + third, -2.5))} {pair(spot(end - third, 2.5))} {pair(spot(end, 2.5))}"
         rising += f"M{pair(spot(start, 2.5))}C{pair(spot(start + third, 2.5))} {pair(spot(end - third, -2.5))} {pair(spot(end, -2.5))}"
     wide, slim = 'stroke-width="3.5"', 'stroke-width="2"'
-    beads = "".join(f'<circle cx="{num(x)}" cy="{num(y)}" r="0.85"/>' for x, y in (spot(i * step, 0) for i in range(1, count)))
+    beads = "".join(f"M{num(x - 1)},{num(y)}l1,-1l1,1l-1,1z" for x, y in (spot(i * step, 0) for i in range(1, count)))
     return (f'<g fill="none" stroke-linecap="round"><path d="{rising}" stroke="{INK}" {wide}/><path d="{rising}" stroke="{p["m"]}" {slim}/>'
-            f'<path d="{falling}" stroke="{INK}" {wide}/><path d="{falling}" stroke="{p["r"]}" {slim}/></g><g fill="{p["r"]}">{beads}</g>')
+            f'<path d="{falling}" stroke="{INK}" {wide}/><path d="{falling}" stroke="{p["r"]}" {slim}/></g><path d="{beads}" fill="{p["r"]}"/>')
 
 
 def corner(x, y, p):

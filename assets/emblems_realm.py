@@ -4,7 +4,7 @@ An emblem is drawn round the origin, 52 to each side, 84 up and 80 down. Colours
 deep tone, e and h the accents, k the ink, f the field.
 """
 
-from woodcut import polar, rectangle, sharp, star, symmetric
+from woodcut import polar, rectangle, sharp, star
 
 FOOT = 112  # as deep as the ground goes, behind the ribbon
 

@@ -8,7 +8,7 @@ broad nib, and straight cuts as in timber. No font has a hand in it.
 import math
 from dataclasses import dataclass
 
-from woodcut import num, pair, parse, segments, bezier
+from woodcut import bezier, pair, parse, segments
 
 
 @dataclass(frozen=True)

@@ -19,7 +19,7 @@ import emblems_realm as realm
 from backs import back, palette
 
 CARD = (150, 254)
-IVORY, STONE, GOLD, BRASS = "#f5e9c9", "#c9c3b4", "#f0bf4a", "#c48d2a"
+IVORY, GOLD = "#f5e9c9", "#f0bf4a"
 
 BACKS = [  # name, lettering, field, emblem, palette
     ("Adventure", "roman", backs.field_rays, realm.adventure, palette("#b3261f", "#7c120f", "#8a1713", "#3c0a08", "#f2c65a", "#a8601c", a=IVORY, b="#d9c08a", e=GOLD, h="#2c6e7f")),
@@ -54,7 +54,7 @@ BACKS = [  # name, lettering, field, emblem, palette
 SEAL = palette("#23375c", "#0e1830", "#33507e", "#0a1020", "#ecc561", "#8c6a26", a="#f2ecdc", b="#aeb4bd", c="#16233f", e="#eabb48", h="#b3261f")
 DEFAULT = ("roman", backs.field_rays, arms.great_seal, SEAL)
 
-# Flat colours, few enough for a palette of sixteen; the last row is the usual back of a large card.
+# The last row is the usual back of a large card: flat colours, few enough for a palette of sixteen.
 WIDE_BACKS = [  # title, size, name, lettering, field, emblem, palette
     ("STANDARD", (302, 254), "Varnhelm", "roman", backs.field_rays, arms.sword_and_staff,
      palette("#7a1f22", "#430c10", "#56131a", "#24060a", "#ecc561", "#9a5a26", a="#f2ecdc", b="#aeb4bd", c="#6a4426", e="#eabb48", h="#235a6e")),

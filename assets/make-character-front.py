@@ -2,7 +2,7 @@
 """Draws picCharacter.svg, the front of a character card: a black border round a white field.
 
 The four attributes stand in black strips on the left and right border; each has a mark of its colour, a
-stone at either end and a line along it. "OBJECTS" and "FOLLOWERS" stand on coloured plates at the foot, the
+stone at either end. "OBJECTS" and "FOLLOWERS" stand on coloured plates at the foot, the
 name between the plaits at the top. What carries a text stays dark, for the texts are white.
 
 Run it without arguments; it writes beside itself.
@@ -11,7 +11,7 @@ Run it without arguments; it writes beside itself.
 from pathlib import Path
 
 from borders import corner, plait
-from woodcut import Cut, document, rectangle, sharp
+from woodcut import Cut, document, sharp
 
 WIDTH, HEIGHT, RIM = 302, 254, 13
 GOLD = {"o": "#000000", "r": "#e0b552", "m": "#8a6526"}
@@ -39,8 +39,6 @@ def marks(cut):
         x = left + 6
         for y in (top - 7, top + STRIP_HEIGHT + 7):
             stone(cut, x, y, light, tone, deep)
-        inner = 12 if left == 0 else 289
-        cut.shape(rectangle(inner, top - 3, inner + 1, top + STRIP_HEIGHT + 3), tone, ink=None)
 
 
 def plates(cut):

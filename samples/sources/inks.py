@@ -31,9 +31,3 @@ INKS = {
 
 def sheet(weight=1.3):
     return Cut(INKS, weight)
-
-
-def frame_line(cut, width, height):
-    """The edge of the block, cut all round."""
-    from woodcut import rectangle
-    cut.shape(rectangle(0.5, 0.5, width - 0.5, height - 0.5), None, weight=1)
