@@ -156,7 +156,7 @@ def skull(cut):
 def dungeon_bones(cut):
     """A crowned skull before two crossed keys."""
     for flip in (False, True):
-        with cut.at(0, 12, 1.18, 33, flip):
+        with cut.at(0, 10, 1.14, 42, flip):
             key(cut)
     with cut.at(0, -4, 1.16):
         skull(cut)
@@ -172,17 +172,17 @@ def balance(cut):
     cut.sym("0,-62! 3,-60 3.6,-20 5,30 7,62! 0,62!", "a", angle=0, gap=2.6, reach=0.5, width=1.1)
     cut.dot(0, 10, 7, "e", angle=20, gap=2, reach=0.4, width=1)
     with cut.at(0, -54, 1, -9):
-        cut.sym("0,-4! 14,-9 34,-6 46,2 48,8! 40,4 24,1 10,5 0,6!", "a", angle=0, gap=2, reach=0.12, width=1)
-        cut.both(lambda c: c.dot(47, 6, 3.2, "e"))
+        cut.sym("0,-4! 13,-9 30,-6 40,2 42,8! 35,4 21,1 9,5 0,6!", "a", angle=0, gap=2, reach=0.12, width=1)
+        cut.both(lambda c: c.dot(41, 6, 3.2, "e"))
     cut.dot(0, -55, 8, "e", angle=25, gap=2, reach=0.45, width=1)
     cut.sym("0,-84! 4,-72 9,-66 3,-62! 0,-62!", "e", weight=1.3, angle=0, gap=2, reach=0.4, width=1)
-    for x, y, coins in ((-46, -41, 5), (46, -56, 1)):
+    for x, y, coins in ((-40, -43, 5), (40, -54, 1)):
         foot = y + (54 if coins > 2 else 36)
-        cut.line([f"{x},{y} {x - 17},{foot}", f"{x},{y} {x + 17},{foot}", f"{x},{y} {x},{foot}"], 1.5, "a", ends="none")
+        cut.line([f"{x},{y} {x - 15},{foot}", f"{x},{y} {x + 15},{foot}", f"{x},{y} {x},{foot}"], 1.5, "a", ends="none")
         for i in range(coins):
             for dx in ((-6, 6) if i < coins - 1 and coins > 1 else (0,)):
                 cut.dot(x + dx, foot - 1 - i * 4, 7, "e", 3, weight=1.2)
-        cut.shape(f"{x - 19},{foot}! {x + 19},{foot}! {x + 12},{foot + 11} {x},{foot + 14} {x - 12},{foot + 11}", "b", angle=0, gap=2.2, reach=0.45, width=1.1)
+        cut.shape(f"{x - 17},{foot}! {x + 17},{foot}! {x + 12},{foot + 11} {x},{foot + 14} {x - 12},{foot + 11}", "b", angle=0, gap=2.2, reach=0.45, width=1.1)
 
 
 def purse(cut):
