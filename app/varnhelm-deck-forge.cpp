@@ -5,10 +5,27 @@
 #include <QIcon>
 #include <QTimer>
 
+namespace {
+
+/// The program's icon: below 32 pixels a drawing of fewer shapes.
+QIcon ProgramIcon()
+{
+    const QIcon drawing(QStringLiteral(":/deckforge/icon/varnhelm-deck-forge.svg"));
+    const QIcon simple(QStringLiteral(":/deckforge/icon/varnhelm-deck-forge-small.svg"));
+    QIcon icon;
+    for (const int size : {16, 24})
+        icon.addPixmap(simple.pixmap(size));
+    for (const int size : {32, 48, 64, 128, 256, 512})
+        icon.addPixmap(drawing.pixmap(size));
+    return icon;
+}
+
+} // namespace
+
 int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/deckforge/icon/varnhelm-deck-forge.svg")));
+    QApplication::setWindowIcon(ProgramIcon());
     deckforge::QtUser user;
     deckforge::frmQDW window(user);
     user.Serve(&window, [&](int done, int total) { window.ShowProgress(done, total); });

@@ -1,9 +1,12 @@
 #include "compose/BuiltInArt.h"
 
 #include "core/Vocabulary.h"
+#include "imaging/ColourReduction.h"
 
 #include <QPainter>
 #include <QSvgRenderer>
+#include <algorithm>
+#include <array>
 
 namespace deckforge {
 
@@ -15,6 +18,7 @@ constexpr QSize DoubleArtSize = {302, 254};
 constexpr QSize LargeBackArtSize = {304, 256};
 constexpr QSize BackTemplateSize = {254, 150};
 constexpr int LargeCardBack = 3;
+constexpr std::array PaletteBacks = {15, 16, 18};
 
 } // namespace
 
@@ -24,7 +28,9 @@ Picture BuiltInArt::imgCB(int index)
 {
     if (index < 0 || index >= BuiltInBackCount)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-    return Rendered(QStringLiteral("backs/imgCB-%1.svg").arg(index, 2, 10, QLatin1Char('0')), CardArtSize);
+    const bool hasPalette = std::ranges::find(PaletteBacks, index) != PaletteBacks.end();
+    return Rendered(QStringLiteral("backs/imgCB-%1.svg").arg(index, 2, 10, QLatin1Char('0')), CardArtSize,
+                    hasPalette ? Depth::Colours256 : Depth::TrueColour);
 }
 
 Picture BuiltInArt::imgChB(int index)
@@ -32,7 +38,8 @@ Picture BuiltInArt::imgChB(int index)
     if (index < 0 || index > LargeCardBack)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     return Rendered(QStringLiteral("backs/imgChB-%1.svg").arg(index),
-                    index == LargeCardBack ? LargeBackArtSize : DoubleArtSize);
+                    index == LargeCardBack ? LargeBackArtSize : DoubleArtSize,
+                    index == LargeCardBack ? Depth::Colours16 : Depth::TrueColour);
 }
 
 Picture BuiltInArt::picCharacter()
@@ -42,7 +49,7 @@ Picture BuiltInArt::picCharacter()
 
 Picture BuiltInArt::picBackTemplate()
 {
-    return Rendered(QStringLiteral("picBackTemplate.svg"), BackTemplateSize);
+    return Rendered(QStringLiteral("picBackTemplate.svg"), BackTemplateSize, Depth::BlackAndWhite);
 }
 
 Picture BuiltInArt::picBack()
@@ -50,7 +57,7 @@ Picture BuiltInArt::picBack()
     return Rendered(QStringLiteral("backs/picBack.svg"), CardArtSize);
 }
 
-Picture BuiltInArt::Rendered(const QString& name, QSize size)
+Picture BuiltInArt::Rendered(const QString& name, QSize size, Depth depth)
 {
     if (const Picture* kept = m_rendered.object(name))
         return *kept;
@@ -59,9 +66,25 @@ Picture BuiltInArt::Rendered(const QString& name, QSize size)
     QPainter painter(&image);
     QSvgRenderer(QStringLiteral(":/deckforge/") + name).render(&painter);
     painter.end();
-    const Picture picture(image, m_scale);
+    const Picture picture(AtDepth(image, depth), m_scale);
     m_rendered.insert(name, new Picture(picture), image.sizeInBytes());
     return picture;
+}
+
+QImage BuiltInArt::AtDepth(const QImage& image, Depth depth)
+{
+    switch (depth) {
+    case Depth::TrueColour:
+        break;
+    case Depth::Colours256:
+        return WithColours(image, 256, Dither::No);
+    case Depth::Colours16:
+        return WithColours(image, 16, Dither::No);
+    case Depth::BlackAndWhite: // smooth edges would be grey, which no fill takes for its own
+        return image.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither)
+            .convertToFormat(QImage::Format_RGB32);
+    }
+    return image;
 }
 
 } // namespace deckforge

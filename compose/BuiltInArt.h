@@ -13,10 +13,11 @@ class BuiltInArt {
 public:
     explicit BuiltInArt(int scale);
 
-    /// The back of row index + 1 of the table of card backs, 150 x 254. Error 9 outside 0 to 26.
+    /// The back of row index + 1 of the table of card backs, 150 x 254; 15, 16 and 18 have a palette of 256
+    /// colours. Error 9 outside 0 to 26.
     [[nodiscard]] Picture imgCB(int index);
-    /// The backs of character cards, 0 to 2, 302 x 254; 3 is the usual back of large cards, 304 x 256. Error
-    /// 9 for any other.
+    /// The backs of character cards, 0 to 2, 302 x 254; 3 is the usual back of large cards, 304 x 256,
+    /// with a palette of 16 colours. Error 9 for any other.
     [[nodiscard]] Picture imgChB(int index);
     /// The front of a character card, 302 x 254.
     [[nodiscard]] Picture picCharacter();
@@ -26,7 +27,10 @@ public:
     [[nodiscard]] Picture picBack();
 
 private:
-    [[nodiscard]] Picture Rendered(const QString& name, QSize size);
+    enum class Depth { TrueColour, Colours256, Colours16, BlackAndWhite };
+
+    [[nodiscard]] Picture Rendered(const QString& name, QSize size, Depth depth = Depth::TrueColour);
+    [[nodiscard]] static QImage AtDepth(const QImage& image, Depth depth);
 
     int m_scale;
     QCache<QString, Picture> m_rendered;

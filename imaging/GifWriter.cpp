@@ -1,14 +1,14 @@
 #include "imaging/GifWriter.h"
 
+#include "imaging/ColourReduction.h"
 #include "imaging/PictureLoader.h"
 #include "platform/Files.h"
 #include "platform/RunTimeError.h"
 
 #include <QImage>
 #include <QScopeGuard>
-#include <array>
+#include <algorithm>
 #include <gif_lib.h>
-#include <libimagequant.h>
 #include <memory>
 #include <vector>
 
@@ -17,55 +17,17 @@ namespace deckforge {
 namespace {
 
 constexpr int MostColours = 256;
-/// From 1, the best palette, to 10; at 7 a card takes a quarter of the time of the default, and looks the
-/// same.
-constexpr int QuantiserSpeed = 7;
-
-struct IndexedImage {
-    int Width = 0;
-    int Height = 0;
-    std::vector<GifByteType> Pixels;
-    std::vector<GifColorType> Colours;
-};
 
 template <class Handle>
 using Owned = std::unique_ptr<Handle, void (*)(Handle*)>;
 
-void Check(liq_error error)
-{
-    if (error != LIQ_OK)
-        throw RunTimeError(error == LIQ_OUT_OF_MEMORY ? ErrorNumber::OutOfMemory
-                                                      : ErrorNumber::InvalidPicture);
-}
-
-std::vector<GifColorType> ColoursOf(const liq_palette& palette)
+std::vector<GifColorType> ColoursOf(const QImage& image)
 {
     std::vector<GifColorType> colours;
-    for (unsigned int i = 0; i < palette.count; ++i) {
-        const liq_color& entry = palette.entries[i];
-        colours.push_back({entry.r, entry.g, entry.b});
-    }
+    for (const QRgb colour : image.colorTable())
+        colours.push_back({static_cast<GifByteType>(qRed(colour)), static_cast<GifByteType>(qGreen(colour)),
+                           static_cast<GifByteType>(qBlue(colour))});
     return colours;
-}
-
-IndexedImage Reduce(const QImage& picture)
-{
-    QImage image = picture.convertToFormat(QImage::Format_RGBA8888);
-    const Owned<liq_attr> attributes(liq_attr_create(), liq_attr_destroy);
-    Check(liq_set_max_colors(attributes.get(), MostColours));
-    Check(liq_set_speed(attributes.get(), QuantiserSpeed));
-    const Owned<liq_image> source(
-        liq_image_create_rgba(attributes.get(), image.bits(), image.width(), image.height(), 0),
-        liq_image_destroy);
-    liq_result* made = nullptr;
-    Check(liq_image_quantize(source.get(), attributes.get(), &made));
-    const Owned<liq_result> result(made, liq_result_destroy);
-
-    IndexedImage reduced{.Width = image.width(), .Height = image.height(), .Pixels = {}, .Colours = {}};
-    reduced.Pixels.resize(static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height()));
-    Check(liq_write_remapped_image(result.get(), source.get(), reduced.Pixels.data(), reduced.Pixels.size()));
-    reduced.Colours = ColoursOf(*liq_get_palette(result.get()));
-    return reduced;
 }
 
 /// The palette of a file has a power of two of colours, at least two.
@@ -90,9 +52,9 @@ void CheckGif(int result, const GifFileType& gif)
         throw RunTimeError(ErrorNumber::InvalidPicture, QString::fromLatin1(GifErrorString(gif.Error)));
 }
 
-QByteArray Encode(IndexedImage image)
+QByteArray Encode(const QImage& image)
 {
-    if (image.Width > UINT16_MAX || image.Height > UINT16_MAX)
+    if (image.width() > UINT16_MAX || image.height() > UINT16_MAX)
         throw RunTimeError(ErrorNumber::Overflow);
     QByteArray bytes;
     int error = 0;
@@ -102,11 +64,14 @@ QByteArray Encode(IndexedImage image)
     auto close = qScopeGuard([gif] { EGifCloseFile(gif, nullptr); });
 
     constexpr int bitsOfColour = 8;
-    const Owned<ColorMapObject> palette = PaddedPalette(image.Colours);
-    CheckGif(EGifPutScreenDesc(gif, image.Width, image.Height, bitsOfColour, 0, palette.get()), *gif);
-    CheckGif(EGifPutImageDesc(gif, 0, 0, image.Width, image.Height, false, nullptr), *gif);
-    for (int y = 0; y < image.Height; ++y)
-        CheckGif(EGifPutLine(gif, image.Pixels.data() + std::ptrdiff_t{y} * image.Width, image.Width), *gif);
+    const Owned<ColorMapObject> palette = PaddedPalette(ColoursOf(image));
+    CheckGif(EGifPutScreenDesc(gif, image.width(), image.height(), bitsOfColour, 0, palette.get()), *gif);
+    CheckGif(EGifPutImageDesc(gif, 0, 0, image.width(), image.height(), false, nullptr), *gif);
+    std::vector<GifByteType> line(static_cast<std::size_t>(image.width()));
+    for (int y = 0; y < image.height(); ++y) {
+        std::copy_n(image.constScanLine(y), line.size(), line.begin()); // the encoder writes into its lines
+        CheckGif(EGifPutLine(gif, line.data(), image.width()), *gif);
+    }
     close.dismiss();
     if (EGifCloseFile(gif, &error) != GIF_OK) // writes the end of the file
         throw RunTimeError(ErrorNumber::InvalidPicture, QString::fromLatin1(GifErrorString(error)));
@@ -119,7 +84,8 @@ std::optional<QString> ConvertBmpToGif(const QString& bmpPath, const QString& gi
 {
     try {
         WithMemoryAsFailure([&] {
-            const QByteArray gif = Encode(Reduce(DecodePicture(bmpPath).Pixels()));
+            const QByteArray gif =
+                Encode(WithColours(DecodePicture(bmpPath).Pixels(), MostColours, Dither::Yes));
             OutputFile file(gifPath);
             file.Write(gif);
             file.Close();

@@ -243,7 +243,7 @@ TEST_F(OtherKindsTest, ABacksTextIsCentredAndBreaksAtBarsOnlyAmongLines)
         DrawNewCardBack(Shop, 1);
         int rows = 0;
         bool wasInk = false;
-        for (int y = 30; y < 125; ++y) {
+        for (int y = 30; y < 120; ++y) {
             const bool isInk = HasInk(PieceSurface(), {40, y, 170, 1}, Black);
             rows += isInk && !wasInk ? 1 : 0;
             wasInk = isInk;
