@@ -9,8 +9,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPrinter>
+#include <QPrinterInfo>
 
 namespace deckforge {
 
@@ -169,6 +172,27 @@ std::optional<Colour> QtUser::AskColour(const QString& title, Colour colour)
 std::optional<FontSpec> QtUser::AskFont(const QString& title, const FontSpec& font)
 {
     return ChooseFontInDialog(title, font, *this, TopWindow());
+}
+
+std::optional<QString> QtUser::AskText(const QString& prompt, const QString& title, const QString& text)
+{
+    bool isGiven = false;
+    const QString given =
+        QInputDialog::getText(TopWindow(), title, prompt, QLineEdit::Normal, text, &isGiven);
+    return isGiven ? std::optional(given) : std::nullopt;
+}
+
+std::unique_ptr<QPagedPaintDevice> QtUser::OpenPrinter(const QString& document)
+{
+    const QPrinterInfo usual = QPrinterInfo::defaultPrinter();
+    if (usual.isNull())
+        return nullptr;
+    auto printer = std::make_unique<QPrinter>(usual, QPrinter::HighResolution);
+    printer->setDocName(document);
+    printer->setCreator(QStringLiteral("Varnhelm Deck Forge"));
+    const QPageLayout layout = printer->pageLayout();
+    printer->setPageMargins(layout.minimumMargins(), layout.units());
+    return printer;
 }
 
 void QtUser::SetPointer(Pointer pointer)
