@@ -1,6 +1,7 @@
 #pragma once
 
 #include "compose/PicturePlacement.h"
+#include "core/CardListRows.h"
 #include "core/modInfo.h"
 #include "output/frmCardSheet.h"
 #include "output/modCapture.h"
@@ -352,7 +353,6 @@ private:
     void BindPreview();
     [[nodiscard]] std::vector<FontLabel> FontLabels();
     [[nodiscard]] std::array<PlacementRow, 4> Placements();
-    void ChooseFont(FontSpec& font);
     void LabelClicked(const Box* box, FontLabel::Gesture gesture);
     void PreviewDragged(const Box* box, QPoint point);
     void PreviewKey(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held);
@@ -374,6 +374,16 @@ private:
     void ShowAfterRun();
     void ExportListing();
     void ShowStatistics();
+
+    // Dialogs and printing (frmQDW_Dialogs.cpp)
+    void BindDialogs();
+    void ChangePicPath();
+    void SetInfo();
+    void ChangeFonts();
+    void PrintCurrent();
+    void About();
+    template <class Record>
+    void ChooseFromList(CardListMode mode);
 
     // Help (frmQDW_Help.cpp)
     void ShowHelp();
@@ -411,7 +421,7 @@ private:
     QProgressBar* m_progress;
 };
 
-// The four kinds and the set itself, each told in frmQDW_Fields.cpp.
+// The four kinds and the set itself, each told in frmQDW_Fields.cpp, and their pages in frmQDW_Cards.cpp.
 template <>
 Card& frmQDW::Current();
 template <>
@@ -422,6 +432,14 @@ template <>
 NewCardBack& frmQDW::Current();
 template <>
 SetHeader& frmQDW::Current();
+template <>
+frmQDW::Page<Card> frmQDW::PageOf();
+template <>
+frmQDW::Page<LargeCard> frmQDW::PageOf();
+template <>
+frmQDW::Page<Character> frmQDW::PageOf();
+template <>
+frmQDW::Page<NewCardBack> frmQDW::PageOf();
 template <>
 frmQDW::Fields<Card> frmQDW::FieldsOf();
 template <>
