@@ -27,7 +27,6 @@ namespace deckforge {
 namespace {
 
 constexpr int MostScale = 16;
-constexpr int PrintScale = 4; ///< of a printed card, so that its letters are sharp on paper
 
 /// A command line that is no command; the text says why.
 struct WrongUse {
@@ -315,7 +314,7 @@ ExitStatus RunPrint(const QStringList& paths, const QCommandLineParser& parser)
     const PrintKind& kind = *kinds.front();
     const auto index = static_cast<int16>(NumberOption(parser, "index", std::numeric_limits<int16>::max()));
     const int pixelsPerInch = NumberOption(parser, "resolution", 2400, 72);
-    return RunOnSet(paths[0], PrintScale, [&](Workshop& workshop) {
+    return RunOnSet(paths[0], 1, [&](Workshop& workshop) {
         workshop.Set.*kind.Current = index;
         if (!kind.Show(workshop, index)) // which tells why
             return false;

@@ -1,4 +1,4 @@
-#include "bench/SilentUser.h"
+#include "platform/SilentUser.h"
 #include "compose/SetView.h"
 #include "compose/StandardCard.h"
 #include "imaging/GifWriter.h"

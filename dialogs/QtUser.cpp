@@ -1,5 +1,6 @@
 #include "dialogs/QtUser.h"
 
+#include "dialogs/PrinterResolution.h"
 #include "dialogs/frmFont.h"
 #include "imaging/PictureBox.h"
 #include "platform/Paths.h"
@@ -188,6 +189,7 @@ std::unique_ptr<QPagedPaintDevice> QtUser::OpenPrinter(const QString& document)
     if (usual.isNull())
         return nullptr;
     auto printer = std::make_unique<QPrinter>(usual, QPrinter::HighResolution);
+    printer->setResolution(PrinterResolution(usual.printerName()));
     printer->setDocName(document);
     printer->setCreator(QStringLiteral("Varnhelm Deck Forge"));
     const QPageLayout layout = printer->pageLayout();

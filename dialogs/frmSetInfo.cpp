@@ -101,7 +101,7 @@ private:
         OnSignal(user, m_form.cboCBDefault, &QComboBox::activated, this, [this] { DefaultBackChosen(); });
         OnClick(m_form.cmdCBPic, [this] { ChooseBackPicture(); });
         OnClick(m_form.cmdCBAdd, [this] { AddBack(); });
-        OnClick(m_form.cmdCBDelete, [this] { DeleteBack(); });
+        OnClick(m_form.cmdCBDelete, [this] { DeleteSelected(*m_form.lstCB, DeleteOwnBack); });
         connect(m_form.txtCBName, &QLineEdit::textEdited, m_form.cmdCBAdd,
                 [this] { m_form.cmdCBAdd->setDefault(true); });
     }
@@ -111,7 +111,7 @@ private:
         OnSignal(m_workshop.User, m_form.cboCTDefault, &QComboBox::activated, this,
                  [this] { DefaultTypeChosen(); });
         OnClick(m_form.cmdCTAdd, [this] { AddType(); });
-        OnClick(m_form.cmdCTDelete, [this] { DeleteType(); });
+        OnClick(m_form.cmdCTDelete, [this] { DeleteSelected(*m_form.lstCT, DeleteOwnType); });
         for (QLineEdit* box : {m_form.txtCTName, m_form.txtCTName2, m_form.txtCTNameRev, m_form.txtCTNameRev2,
                                m_form.txtCTNumber})
             connect(box, &QLineEdit::textEdited, m_form.cmdCTAdd,
@@ -150,6 +150,15 @@ private:
         } catch (const RunTimeError&) {
             view.ShowPicture({}, QStringLiteral("Missing picture."));
         }
+    }
+
+    void DeleteSelected(const QListView& list, void (*deleteRow)(CardSet&, int))
+    {
+        const int ownRow = SelectedRow(list);
+        if (ownRow < 0)
+            return;
+        deleteRow(m_set, ownRow);
+        Initialize();
     }
 
     [[nodiscard]] std::optional<QString> AskPicture(const QString& startsAt)
@@ -223,15 +232,6 @@ private:
         Initialize();
     }
 
-    void DeleteBack()
-    {
-        const int ownRow = SelectedRow(*m_form.lstCB);
-        if (ownRow < 0)
-            return;
-        DeleteOwnBack(m_set, ownRow);
-        Initialize();
-    }
-
     void DefaultBackChosen()
     {
         m_set.LastCardBack = static_cast<int16>(m_form.cboCBDefault->currentIndex() + 1);
@@ -255,15 +255,6 @@ private:
                            .ReversedName = m_form.txtCTNameRev->text(),
                            .ReversedSubName = m_form.txtCTNameRev2->text(),
                            .Number = ParseNumberText(m_form.txtCTNumber->text())});
-        Initialize();
-    }
-
-    void DeleteType()
-    {
-        const int ownRow = SelectedRow(*m_form.lstCT);
-        if (ownRow < 0)
-            return;
-        DeleteOwnType(m_set, ownRow);
         Initialize();
     }
 

@@ -1,7 +1,12 @@
 #include "output/Printing.h"
 
+#include "compose/CharacterCard.h"
+#include "compose/LargeCard.h"
+#include "compose/SetView.h"
+#include "compose/StandardCard.h"
 #include "output/ImageWriters.h"
 #include "platform/Files.h"
+#include "platform/SilentUser.h"
 #include "platform/Twips.h"
 
 #include <QBuffer>
@@ -15,6 +20,7 @@ namespace {
 constexpr int Margin = 40;
 constexpr int GapAboveCard = 20;
 constexpr int GapAbovePiece = 40;
+constexpr int PrintScale = 4; ///< of the surfaces on which a printed card is composed
 
 /// A page being painted, in pixels of its device.
 class Page {
@@ -60,33 +66,61 @@ private:
 
 /// What the pages differ in.
 struct PageRow {
-    Picture (*Front)(Workshop&);
     QString (*Title)(const CardSet&);
+    bool (*Show)(Workshop&);
+    Picture (*Front)(Workshop&);
     bool HasPiece;
 };
 
-QString CardTitle(const CardSet& set)
-{
-    return set.Cards[set.CurrentCard].Title;
-}
-
-QString LargeCardTitle(const CardSet& set)
-{
-    return set.LargeCards[set.CurrentLargeCard].Title;
-}
-
-QString CharacterName(const CardSet& set)
-{
-    return set.Characters[set.CurrentCharacter].Name;
-}
-
 const PageRow& RowOf(PrintedPage page)
 {
-    static constexpr PageRow rows[] = {{FinalCard, CardTitle, false},
-                                       {FinalLargeCard, LargeCardTitle, false},
-                                       {FinalCharacter, CharacterName, true},
-                                       {FinalCharacter, CharacterName, false}};
+    static constexpr auto characterName = [](const CardSet& set) {
+        return set.Characters[set.CurrentCharacter].Name;
+    };
+    static constexpr auto showCharacter = [](Workshop& workshop) {
+        return ShowCharacter(workshop, workshop.Set.CurrentCharacter);
+    };
+    static constexpr PageRow rows[] = {
+        {[](const CardSet& set) { return set.Cards[set.CurrentCard].Title; },
+         [](Workshop& workshop) { return ShowCard(workshop, workshop.Set.CurrentCard); }, FinalCard, false},
+        {[](const CardSet& set) { return set.LargeCards[set.CurrentLargeCard].Title; },
+         [](Workshop& workshop) { return ShowLargeCard(workshop, workshop.Set.CurrentLargeCard); },
+         FinalLargeCard, false},
+        {characterName, showCharacter, FinalCharacter, true},
+        {characterName, showCharacter, FinalCharacter, false}};
     return rows[static_cast<std::size_t>(page)];
+}
+
+/// A symbol lies elsewhere when it was chosen than when its set was opened.
+void TakeSymbolPlaces(CardTemplates& fine, const CardTemplates& shown)
+{
+    const auto take = [](Box& to, const Box& from) {
+        to.Left = from.Left;
+        to.Top = from.Top;
+        to.Visible = from.Visible;
+    };
+    take(fine.Standard.picSymbol, shown.Standard.picSymbol);
+    take(fine.Large.picSymbolLarge, shown.Large.picSymbolLarge);
+    take(fine.Character.picSymbolCharacter, shown.Character.picSymbolCharacter);
+}
+
+/// Composes the current card in a workshop with finer surfaces; whether it could.
+bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
+{
+    InitForm(fine);
+    fine.Set = workshop.Set;
+    ShowSet(fine);
+    TakeSymbolPlaces(fine.Templates, workshop.Templates);
+    // Twice: some fonts and outlines are those that the composition before left. In a window, too, a card
+    // was shown before it is printed.
+    return RowOf(page).Show(fine) && RowOf(page).Show(fine);
+}
+
+void LayFinePage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
+{
+    SilentUser silent;
+    Workshop fine(silent, PrintScale);
+    LayPage(ComposeFinely(fine, workshop, page) ? fine : workshop, page, device);
 }
 
 } // namespace
@@ -94,6 +128,33 @@ const PageRow& RowOf(PrintedPage page)
 QString PageTitle(const CardSet& set, PrintedPage page)
 {
     return set.Header.SetName + QStringLiteral(" - ") + RowOf(page).Title(set);
+}
+
+void PrintCard(Workshop& workshop, PrintedPage page)
+{
+    const auto printer = workshop.User.OpenPrinter(PageTitle(workshop.Set, page));
+    if (!printer)
+        throw RunTimeError(ErrorNumber::PrinterError);
+    LayFinePage(workshop, page, *printer);
+    workshop.User.ShowMessage({.Text = QStringLiteral("Printing done!"),
+                               .Title = QStringLiteral("Print"),
+                               .Style = BoxStyle::Information});
+}
+
+void WritePdf(Workshop& workshop, PrintedPage page, const QString& path, int pixelsPerInch)
+{
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&bytes);
+    writer.setTitle(PageTitle(workshop.Set, page));
+    writer.setCreator(QStringLiteral("Varnhelm Deck Forge"));
+    writer.setResolution(pixelsPerInch);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageMargins({});
+    LayFinePage(workshop, page, writer);
+    OutputFile file(path);
+    file.Write(bytes.data());
+    file.Close();
 }
 
 void LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
@@ -113,33 +174,6 @@ void LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
     if (row.HasPiece)
         paper.PaintPicture(piece, GapAbovePiece + piece.Size().height() * TwipsPerPixelY);
     paper.Send();
-}
-
-void WritePdf(Workshop& workshop, PrintedPage page, const QString& path, int pixelsPerInch)
-{
-    QBuffer bytes;
-    bytes.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&bytes);
-    writer.setTitle(PageTitle(workshop.Set, page));
-    writer.setCreator(QStringLiteral("Varnhelm Deck Forge"));
-    writer.setResolution(pixelsPerInch);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageMargins({});
-    LayPage(workshop, page, writer);
-    OutputFile file(path);
-    file.Write(bytes.data());
-    file.Close();
-}
-
-void PrintCard(Workshop& workshop, PrintedPage page)
-{
-    const auto printer = workshop.User.OpenPrinter(PageTitle(workshop.Set, page));
-    if (!printer)
-        throw RunTimeError(ErrorNumber::PrinterError);
-    LayPage(workshop, page, *printer);
-    workshop.User.ShowMessage({.Text = QStringLiteral("Printing done!"),
-                               .Title = QStringLiteral("Print"),
-                               .Style = BoxStyle::Information});
 }
 
 } // namespace deckforge

@@ -10,17 +10,20 @@ namespace deckforge {
 /// piece, or not.
 enum class PrintedPage { Card, LargeCard, Character, CharacterAlone };
 
-/// Prints the composed card on a page of the usual printer, and tells so in a box. Without a printer, or when
-/// it takes no page, error 482.
-void PrintCard(Workshop& workshop, PrintedPage page);
+// The card is composed anew for the page, finer than the window does, from the set as it stands. One that
+// cannot be composed so is printed as it was composed last; whoever showed it has told why.
 
-/// Lays the composed card on one page under its heading, in pixels of the device from its origin: the margin
-/// and the gaps shrink as the device gets finer. Pictures and letters have their physical size, 96 pixels of
-/// a card to the inch. Error 482 when the device takes no page.
-void LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device);
+/// Prints the page of the current card on the usual printer, and tells so in a box. Without a printer, or
+/// when it takes no page, error 482.
+void PrintCard(Workshop& workshop, PrintedPage page);
 
 /// The same page as a PDF file on A4 paper, which is printable to its edges. A failure of the file is thrown.
 void WritePdf(Workshop& workshop, PrintedPage page, const QString& path, int pixelsPerInch);
+
+/// Lays the page down: the composed card under its heading, in pixels of the device from its origin. Margin
+/// and gaps shrink as the device gets finer; pictures and letters have their physical size, 96 pixels of a
+/// card to the inch. Error 482 when the device takes no page.
+void LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device);
 
 /// What the page says above the card: the set and the card.
 [[nodiscard]] QString PageTitle(const CardSet& set, PrintedPage page);

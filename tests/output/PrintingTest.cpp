@@ -143,7 +143,18 @@ TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
     PrintCard(Shop, PrintedPage::Card);
     EXPECT_EQ(User.PrintedDocuments, QStringList(QStringLiteral("New set - CARD 1")));
     EXPECT_EQ(User.BoxTexts(), std::vector{QStringLiteral("Print|Printing done!")});
-    EXPECT_TRUE(folder.Read(QStringLiteral("page.pdf")).startsWith("%PDF"));
+    EXPECT_TRUE(folder.Read(QStringLiteral("page.pdf")).contains("/Width 1216\n"))
+        << "four pixels to each of the card and its back";
+}
+
+TEST_F(PrintingTest, CardThatCannotBeShownIsPrintedAsItWas)
+{
+    const TestFolder folder;
+    Shop.Set.Cards[1].Picture = folder.Write(QStringLiteral("damaged.bmp"), "BM no picture");
+    const QString path = folder.Path(QStringLiteral("page.pdf"));
+    WritePdf(Shop, PrintedPage::Card, path, 600);
+    EXPECT_TRUE(folder.Read(QStringLiteral("page.pdf")).contains("/Width 304\n"));
+    EXPECT_TRUE(User.Boxes.empty()) << "showing it has told";
 }
 
 TEST_F(PrintingTest, NothingIsDoneWithoutAPrinter)
