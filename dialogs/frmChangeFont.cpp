@@ -161,8 +161,11 @@ private:
         for (int i = 0; i < static_cast<int>(std::size(cards)); ++i)
             cards[i]->Visible = i == sample;
         const auto& options = FontSamples().at(static_cast<std::size_t>(sample)).Options;
+        const auto chosen = static_cast<std::size_t>(m_options.checkedId());
+        const std::size_t tabStop = chosen < options.size() ? chosen : 0;
         for (QAbstractButton* option : m_options.buttons()) {
             const auto row = static_cast<std::size_t>(m_options.id(option));
+            option->setFocusPolicy(row == tabStop ? Qt::StrongFocus : Qt::ClickFocus);
             option->setVisible(row < options.size());
             if (row < options.size())
                 option->setText(QString::fromLatin1(options[row].Caption));

@@ -107,8 +107,10 @@ public:
         m_form.setupUi(this);
         QRadioButton* const options[] = {m_form.optCard0, m_form.optCard1, m_form.optCard2, m_form.optCard3,
                                          m_form.optCard4, m_form.optCard5, m_form.optCard6};
-        for (QRadioButton* option : options)
+        for (QRadioButton* option : options) {
             m_options.addButton(option, static_cast<int>(m_options.buttons().size()));
+            option->setFocusPolicy(option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+        }
         m_form.lviewPath->setModel(&m_model);
         m_form.lviewPath->setItemDelegate(new RowDelegate(this));
         FillLV();
