@@ -177,10 +177,13 @@ std::optional<FontSpec> QtUser::AskFont(const QString& title, const FontSpec& fo
 
 std::optional<QString> QtUser::AskText(const QString& prompt, const QString& title, const QString& text)
 {
-    bool isGiven = false;
-    const QString given =
-        QInputDialog::getText(TopWindow(), title, prompt, QLineEdit::Normal, text, &isGiven);
-    return isGiven ? std::optional(given) : std::nullopt;
+    constexpr int letters = 48;
+    QInputDialog dialog(TopWindow());
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(prompt);
+    dialog.setTextValue(text);
+    dialog.resize(letters * dialog.fontMetrics().averageCharWidth(), dialog.sizeHint().height());
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;
 }
 
 std::unique_ptr<QPagedPaintDevice> QtUser::OpenPrinter(const QString& document)
