@@ -1,11 +1,15 @@
 #include "batch/BatchCommands.h"
 
 #include "batch/ConsoleUser.h"
+#include "compose/CharacterCard.h"
+#include "compose/LargeCard.h"
 #include "compose/NewBack.h"
 #include "compose/SetView.h"
+#include "compose/StandardCard.h"
 #include "core/Vocabulary.h"
 #include "files/modFile.h"
 #include "output/HtmlSheets.h"
+#include "output/Printing.h"
 #include "output/Statistics.h"
 #include "output/frmCardSheet.h"
 #include "output/modCapture.h"
@@ -16,6 +20,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <cstdio>
+#include <limits>
 
 namespace deckforge {
 
@@ -37,6 +42,7 @@ constexpr char Usage[] = R"(Usage:
   deckforge-batch html SET.dkf [--kind card|large|character|piece|all] [--to DIR]
   deckforge-batch text SET.dkf OUT.txt
   deckforge-batch statistics SET.dkf
+  deckforge-batch print SET.dkf OUT.pdf --kind card|large|character --index N [--resolution DOTS]
   deckforge-batch backs DIR
   deckforge-batch --help | --version
 
@@ -47,12 +53,16 @@ constexpr char Usage[] = R"(Usage:
   html        writes pages there that show the images of the cards; the cards need file names, see --save
   text        writes a listing of the set's texts
   statistics  prints how many cards of each type and back there are
+  print       writes the page that the window prints of one card, with its back, as a PDF file
   backs       writes the built-in card backs to a folder
 
   --kind      the kind of card; all where it is not given
   --to        the folder to write to, for this run; it is made if it is not there
   --format    the format of the images, for this run
   --scale     how many pixels an image has for each pixel of the card in both directions, from 1 to 16
+  --index     the number of the card among those of its kind
+  --resolution  how many dots to the inch the page has, from 72 to 2400; 600 where it is not given. Margin
+              and gaps of the page count dots
   --save      writes the set back with the file names that the run gave to its cards
 
 Boxes of the program go to standard error. Exit status: 0 done, 1 a failure was reported, 2 wrong use.
@@ -65,12 +75,12 @@ QString AbsolutePath(const QString& path)
     return QFileInfo(path).absoluteFilePath();
 }
 
-int NumberOption(const QCommandLineParser& parser, const char* name, int most)
+int NumberOption(const QCommandLineParser& parser, const char* name, int most, int least = 1)
 {
     bool isNumber = false;
     const int number = parser.value(QString::fromLatin1(name)).toInt(&isNumber);
-    if (!isNumber || number < 1 || number > most)
-        throw WrongUse{QStringLiteral("--%1 takes a number from 1 to %2.").arg(name).arg(most)};
+    if (!isNumber || number < least || number > most)
+        throw WrongUse{QStringLiteral("--%1 takes a number from %2 to %3.").arg(name).arg(least).arg(most)};
     return number;
 }
 
@@ -211,6 +221,18 @@ constexpr HtmlKind HtmlKinds[] = {{"card", CreateHtmlCards},
                                   {"character", CreateHtmlCharacters},
                                   {"piece", CreateHtmlPieces}};
 
+struct PrintKind {
+    const char* Kind;
+    PrintedPage Page;
+    int16 CardSet::*Current;
+    bool (*Show)(Workshop&, int16);
+};
+
+constexpr PrintKind PrintKinds[] = {
+    {"card", PrintedPage::Card, &CardSet::CurrentCard, ShowCard},
+    {"large", PrintedPage::LargeCard, &CardSet::CurrentLargeCard, ShowLargeCard},
+    {"character", PrintedPage::Character, &CardSet::CurrentCharacter, ShowCharacter}};
+
 // Commands
 
 ExitStatus RunNew(const QStringList& paths, const QCommandLineParser& /*parser*/)
@@ -284,6 +306,23 @@ ExitStatus RunStatistics(const QStringList& paths, const QCommandLineParser& /*p
     });
 }
 
+ExitStatus RunPrint(const QStringList& paths, const QCommandLineParser& parser)
+{
+    const auto kinds = KindsFrom(parser, PrintKinds);
+    if (kinds.size() > 1)
+        throw WrongUse{QStringLiteral("\"print\" takes one kind.")};
+    const PrintKind& kind = *kinds.front();
+    const auto index = static_cast<int16>(NumberOption(parser, "index", std::numeric_limits<int16>::max()));
+    const int pixelsPerInch = NumberOption(parser, "resolution", 2400, 72);
+    return RunOnSet(paths[0], 1, [&](Workshop& workshop) {
+        workshop.Set.*kind.Current = index;
+        if (!kind.Show(workshop, index)) // which tells why
+            return false;
+        WritePdf(workshop, kind.Page, AbsolutePath(paths[1]), pixelsPerInch);
+        return true;
+    });
+}
+
 ExitStatus RunBacks(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
     return RunOnNewSet(1, [&](Workshop& workshop) {
@@ -309,6 +348,7 @@ constexpr Command Commands[] = {
     {"html", 1, "kind to", RunHtml},
     {"text", 2, "", RunText},
     {"statistics", 1, "", RunStatistics},
+    {"print", 2, "kind index resolution", RunPrint},
     {"backs", 1, "", RunBacks},
 };
 
@@ -333,6 +373,8 @@ void AddOptions(QCommandLineParser& parser)
     option("kind", "KIND", "all");
     option("columns", "C", "");
     option("rows", "R", "");
+    option("index", "N", "");
+    option("resolution", "DOTS", "600");
     option("to", "DIR", "");
     option("format", "FORMAT", "");
     option("scale", "N", "1");

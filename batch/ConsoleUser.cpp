@@ -1,5 +1,6 @@
 #include "batch/ConsoleUser.h"
 
+#include <QPagedPaintDevice>
 #include <cstdio>
 #include <unistd.h>
 
@@ -38,6 +39,17 @@ std::optional<Colour> ConsoleUser::AskColour(const QString& /*title*/, Colour /*
 std::optional<FontSpec> ConsoleUser::AskFont(const QString& /*title*/, const FontSpec& /*font*/)
 {
     return std::nullopt;
+}
+
+std::optional<QString> ConsoleUser::AskText(const QString& /*prompt*/, const QString& /*title*/,
+                                            const QString& /*text*/)
+{
+    return std::nullopt;
+}
+
+std::unique_ptr<QPagedPaintDevice> ConsoleUser::OpenPrinter(const QString& /*document*/)
+{
+    return nullptr;
 }
 
 void ConsoleUser::SetPointer(Pointer /*pointer*/) {}

@@ -14,6 +14,8 @@ public:
     std::optional<QString> BrowseForFolder() override;
     std::optional<Colour> AskColour(const QString& title, Colour colour) override;
     std::optional<FontSpec> AskFont(const QString& title, const FontSpec& font) override;
+    std::optional<QString> AskText(const QString& prompt, const QString& title, const QString& text) override;
+    std::unique_ptr<QPagedPaintDevice> OpenPrinter(const QString& document) override;
     void SetPointer(Pointer pointer) override;
     void ShowProgress(int done, int total) override;
 

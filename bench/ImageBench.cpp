@@ -1,9 +1,9 @@
-#include "bench/SilentUser.h"
 #include "compose/SetView.h"
 #include "compose/StandardCard.h"
 #include "imaging/GifWriter.h"
 #include "imaging/mIntelJPEGLibrary.h"
 #include "output/modCapture.h"
+#include "platform/SilentUser.h"
 
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>

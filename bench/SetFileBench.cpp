@@ -1,6 +1,6 @@
-#include "bench/SilentUser.h"
 #include "core/modInfo.h"
 #include "files/modFile.h"
+#include "platform/SilentUser.h"
 
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>

@@ -1,4 +1,4 @@
-#include "bench/SilentUser.h"
+#include "platform/SilentUser.h"
 #include "core/modInfo.h"
 #include "editor/frmQDW.h"
 #include "files/modFile.h"

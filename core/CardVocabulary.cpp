@@ -1,7 +1,6 @@
 #include "core/CardVocabulary.h"
 
-#include "core/Vocabulary.h"
-#include "platform/Numbers.h"
+#include "core/SetTables.h"
 #include "platform/Paths.h"
 #include "platform/RunTimeError.h"
 
@@ -54,17 +53,13 @@ void TypeCardType(const CardSet& set, Card& card, const QString& text)
 
 int16 AddCardBack(CardSet& set, const QString& picture)
 {
-    const int16 count = CheckedAdd(set.CardBackCount, 1);
-    set.CardBacks.Resize(count);
-    set.CardBackCount = count;
-    CardBack& back = set.CardBacks[count];
-    back = {.Name = {}, .Picture = picture, .BuiltIn = false};
+    AddOwnBack(set, {}, picture);
     const QString name = NamePart(picture);
     const qsizetype dot = name.indexOf(QLatin1Char('.'));
     if (dot < 0)
         throw RunTimeError(ErrorNumber::InvalidCall);
-    back.Name = name.left(dot);
-    return count;
+    set.CardBacks[set.CardBackCount].Name = name.left(dot);
+    return set.CardBackCount;
 }
 
 } // namespace deckforge

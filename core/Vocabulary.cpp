@@ -1,5 +1,7 @@
 #include "core/Vocabulary.h"
 
+#include "core/SetTables.h"
+
 #include <array>
 
 namespace deckforge {
@@ -92,12 +94,7 @@ void InitCardTypes(CardSet& set)
     for (int row = 1; row <= BuiltInTypeCount; ++row)
         set.CardTypes[row] = GetCardType(row);
 
-    const CardType& type = set.CardTypes[TypeOfNewCards];
-    set.LastType = type.Name;
-    set.LastTypeReversed = type.ReversedName;
-    set.LastSubType = type.SubName;
-    set.LastSubTypeReversed = type.ReversedSubName;
-    set.LastNumber = type.Number;
+    ChooseDefaultType(set, TypeOfNewCards);
 }
 
 void InitCardBacks(CardSet& set)

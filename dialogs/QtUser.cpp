@@ -1,5 +1,6 @@
 #include "dialogs/QtUser.h"
 
+#include "dialogs/PrinterResolution.h"
 #include "dialogs/frmFont.h"
 #include "imaging/PictureBox.h"
 #include "platform/Paths.h"
@@ -9,8 +10,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPrinter>
+#include <QPrinterInfo>
 
 namespace deckforge {
 
@@ -169,6 +173,31 @@ std::optional<Colour> QtUser::AskColour(const QString& title, Colour colour)
 std::optional<FontSpec> QtUser::AskFont(const QString& title, const FontSpec& font)
 {
     return ChooseFontInDialog(title, font, *this, TopWindow());
+}
+
+std::optional<QString> QtUser::AskText(const QString& prompt, const QString& title, const QString& text)
+{
+    constexpr int letters = 48;
+    QInputDialog dialog(TopWindow());
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(prompt);
+    dialog.setTextValue(text);
+    dialog.resize(letters * dialog.fontMetrics().averageCharWidth(), dialog.sizeHint().height());
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;
+}
+
+std::unique_ptr<QPagedPaintDevice> QtUser::OpenPrinter(const QString& document)
+{
+    const QPrinterInfo usual = QPrinterInfo::defaultPrinter();
+    if (usual.isNull())
+        return nullptr;
+    auto printer = std::make_unique<QPrinter>(usual, QPrinter::HighResolution);
+    printer->setResolution(PrinterResolution(usual.printerName()));
+    printer->setDocName(document);
+    printer->setCreator(QStringLiteral("Varnhelm Deck Forge"));
+    const QPageLayout layout = printer->pageLayout();
+    printer->setPageMargins(layout.minimumMargins(), layout.units());
+    return printer;
 }
 
 void QtUser::SetPointer(Pointer pointer)

@@ -1,6 +1,7 @@
 #include "editor/frmQDW.h"
 #include "compose/SetView.h"
 #include "dialogs/CardPreview.h"
+#include "dialogs/FocusSelection.h"
 #include "ui_fraCard.h"
 #include "ui_fraCardBack.h"
 #include "ui_fraCharacter.h"
@@ -16,7 +17,6 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabBar>
-#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -89,6 +89,7 @@ frmQDW::frmQDW(UserPort& user)
     BindLists();
     BindPictures();
     BindCards();
+    BindDialogs();
     BindPreview();
     BindModes();
     BindFocus();
@@ -131,9 +132,13 @@ void frmQDW::BuildToolBar()
         {"new", "New card set", &frmQDW::NewSet, {}},
         {"open", "Open card set", &frmQDW::OpenSet, Qt::CTRL | Qt::Key_O},
         {"save", "Save card set", &frmQDW::SaveSet, Qt::CTRL | Qt::Key_S},
+        {"changepicpath", "Change path for pictures in set", &frmQDW::ChangePicPath, {}},
         {},
         {"copy", "Copy current card", &frmQDW::Copy, {}},
         {"paste", "Paste current card", &frmQDW::Paste, {}},
+        {},
+        {"setinfo", "Set card defaults", &frmQDW::SetInfo, {}},
+        {"choosefont", "Set card fonts", &frmQDW::ChangeFonts, {}},
         {},
         {"exportback", "Export cardbacks to disk", &frmQDW::ExportBacks, {}},
         {"createone", "Create one card", &frmQDW::CreateOne, {}},
@@ -141,8 +146,10 @@ void frmQDW::BuildToolBar()
         {"createsheet", "Create card sheets", &frmQDW::CreateSheets, {}},
         {"html", "Generate HTML", &frmQDW::CreateHtml, {}},
         {"exporttext", "Export set to textfile", &frmQDW::ExportListing, {}},
+        {"printcard", "Print the current card", &frmQDW::PrintCurrent, {}},
         {},
         {"statistics", "Show statistics", &frmQDW::ShowStatistics, {}},
+        {"about", "About", &frmQDW::About, {}},
     };
     QToolBar* const tbCardCreator = addToolBar(QStringLiteral("Commands"));
     tbCardCreator->setObjectName(QStringLiteral("tbCardCreator"));
@@ -270,19 +277,12 @@ bool frmQDW::eventFilter(QObject* watched, QEvent* event)
     return QMainWindow::eventFilter(watched, event);
 }
 
-/// Once the click that gave the keyboard has placed its cursor.
 void frmQDW::SelectAll(QObject* box, Qt::FocusReason reason)
 {
-    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
-        return;
     auto* const list = qobject_cast<QComboBox*>(box);
     auto* const line = list ? list->lineEdit() : qobject_cast<QLineEdit*>(box);
-    if (!line)
-        return;
-    QTimer::singleShot(0, line, [line] {
-        if (line->hasFocus())
-            line->selectAll();
-    });
+    if (line)
+        SelectAllOnFocus(*line, reason);
 }
 
 /// What the screen has room for beside a frame.

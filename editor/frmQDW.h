@@ -1,6 +1,7 @@
 #pragma once
 
 #include "compose/PicturePlacement.h"
+#include "core/CardListRows.h"
 #include "core/modInfo.h"
 #include "output/frmCardSheet.h"
 #include "output/modCapture.h"
@@ -354,7 +355,6 @@ private:
     void BindPreview();
     [[nodiscard]] std::vector<FontLabel> FontLabels();
     [[nodiscard]] std::array<PlacementRow, 4> Placements();
-    void ChooseFont(FontSpec& font);
     void LabelClicked(const Box* box, FontLabel::Gesture gesture);
     void PreviewDragged(const Box* box, QPoint point, QPoint moved);
     void PreviewKey(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held);
@@ -376,6 +376,16 @@ private:
     void ShowAfterRun();
     void ExportListing();
     void ShowStatistics();
+
+    // Dialogs and printing (frmQDW_Dialogs.cpp)
+    void BindDialogs();
+    void ChangePicPath();
+    void SetInfo();
+    void ChangeFonts();
+    void PrintCurrent();
+    void About();
+    template <class Record>
+    void ChooseFromList(CardListMode mode);
 
     // Help (frmQDW_Help.cpp)
     void ShowHelp();
@@ -415,7 +425,7 @@ private:
     QProgressBar* m_progress;
 };
 
-// The four kinds and the set itself, each told in frmQDW_Fields.cpp.
+// The four kinds and the set itself, each told in frmQDW_Fields.cpp, and their pages in frmQDW_Cards.cpp.
 template <>
 Card& frmQDW::Current();
 template <>
@@ -426,6 +436,14 @@ template <>
 NewCardBack& frmQDW::Current();
 template <>
 SetHeader& frmQDW::Current();
+template <>
+frmQDW::Page<Card> frmQDW::PageOf();
+template <>
+frmQDW::Page<LargeCard> frmQDW::PageOf();
+template <>
+frmQDW::Page<Character> frmQDW::PageOf();
+template <>
+frmQDW::Page<NewCardBack> frmQDW::PageOf();
 template <>
 frmQDW::Fields<Card> frmQDW::FieldsOf();
 template <>

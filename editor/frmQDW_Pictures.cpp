@@ -1,6 +1,7 @@
 #include "compose/FontScheme.h"
 #include "compose/SetView.h"
 #include "dialogs/CardPreview.h"
+#include "dialogs/Choices.h"
 #include "dialogs/ColourSwatch.h"
 #include "editor/TextControl.h"
 #include "editor/frmQDW.h"
@@ -59,14 +60,10 @@ void frmQDW::BindPictures()
 /// The dialog begins where the button's last file was; without a button it has no such memory.
 std::optional<QString> frmQDW::AskPicture(const char* title, const QAbstractButton* button)
 {
-    return m_workshop.User.AskOpenFile(
-        {.Title = QString::fromLatin1(title),
-         .FileName = {},
-         .Filter = QStringLiteral("All files(*.*)|*.*|Picture files (*.bmp;*.jpg;*.gif;*.wmf)"
-                                  "|*.bmp;*.jpg;*.gif;*.wmf"),
-         .FilterIndex = 2,
-         .DefaultExtension = QStringLiteral("bmp"),
-         .Folder = button ? m_pictureFolders.value(button) : QString()});
+    FileDialogRequest request = PictureDialog(title);
+    if (button)
+        request.Folder = m_pictureFolders.value(button);
+    return m_workshop.User.AskOpenFile(request);
 }
 
 /// A picture that cannot be loaded leaves the preview as it was.
@@ -182,7 +179,7 @@ void frmQDW::ChooseSaveTo()
 
 void frmQDW::ChooseBackFont()
 {
-    ChooseFont(Current<NewCardBack>().Font);
+    ChooseFont(m_workshop.User, Current<NewCardBack>().Font);
     BackChanged();
 }
 

@@ -2,6 +2,7 @@
 #include "compose/FontScheme.h"
 #include "compose/StandardCard.h"
 #include "dialogs/CardPreview.h"
+#include "dialogs/Choices.h"
 #include "editor/frmQDW.h"
 #include "platform/Twips.h"
 #include "ui_fraCard.h"
@@ -89,18 +90,12 @@ std::array<frmQDW::PlacementRow, 4> frmQDW::Placements()
     }};
 }
 
-void frmQDW::ChooseFont(FontSpec& font)
-{
-    if (const auto chosen = m_workshop.User.AskFont(QStringLiteral("Choose font"), font))
-        font = *chosen;
-}
-
 void frmQDW::LabelClicked(const Box* box, FontLabel::Gesture gesture)
 {
     for (const FontLabel& row : FontLabels()) {
         if (row.Label != box || row.Opens != gesture)
             continue;
-        ChooseFont(m_workshop.Set.Header.*row.Font);
+        ChooseFont(m_workshop.User, m_workshop.Set.Header.*row.Font);
         SetFont(m_workshop.Templates, m_workshop.Set.Header);
         m_preview->update();
     }

@@ -7,7 +7,6 @@ namespace deckforge {
 namespace {
 
 constexpr double PointsPerInch = 72;
-constexpr double PixelsPerInch = 96;
 
 const QString& Substitute()
 {
@@ -27,19 +26,19 @@ size_t qHash(const TextFont& font, size_t seed)
     return qHashMulti(seed, font.Name, font.Size, font.Bold, font.Italic);
 }
 
-int PixelSize(double points)
+int PixelSize(double points, double pixelsPerInch)
 {
-    return std::max(1, static_cast<int>(std::lround(points * PixelsPerInch / PointsPerInch)));
+    return std::max(1, static_cast<int>(std::lround(points * pixelsPerInch / PointsPerInch)));
 }
 
-QFont DrawnFont(const TextFont& font)
+QFont DrawnFont(const TextFont& font, double pixelsPerInch)
 {
     QFont drawn;
     if (IsSubstituted(font.Name))
         drawn.setFamilies({Substitute()});
     else
         drawn.setFamilies({font.Name, Substitute()});
-    drawn.setPixelSize(PixelSize(font.Size));
+    drawn.setPixelSize(PixelSize(font.Size, pixelsPerInch));
     drawn.setBold(font.Bold);
     drawn.setItalic(font.Italic);
     drawn.setHintingPreference(QFont::PreferNoHinting);
@@ -63,8 +62,8 @@ QString Printable(QStringView text)
     return printable;
 }
 
-FontMeasures::FontMeasures(const TextFont& font)
-    : m_font(DrawnFont(font)), m_metrics(m_font),
+FontMeasures::FontMeasures(const TextFont& font, double pixelsPerInch)
+    : m_font(DrawnFont(font, pixelsPerInch)), m_metrics(m_font),
       m_lineHeight(
           static_cast<int>(std::ceil(m_metrics.ascent() + m_metrics.descent() + m_metrics.leading()))),
       m_ascent(static_cast<int>(std::ceil(m_metrics.ascent())))

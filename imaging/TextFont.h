@@ -20,23 +20,26 @@ struct TextFont {
 
 size_t qHash(const TextFont& font, size_t seed = 0);
 
-/// Points as pixels at 96 to the inch, whole, whatever the screen: 7 points are 9 pixels.
-[[nodiscard]] int PixelSize(double points);
+/// Of a card, whatever the screen; a printer has more.
+inline constexpr double CardPixelsPerInch = 96;
+
+/// Points as whole pixels: 7 points are 9 pixels of a card.
+[[nodiscard]] int PixelSize(double points, double pixelsPerInch = CardPixelsPerInch);
 
 /// The font as it is drawn here. The names "Small Fonts" and "Arial" stand for Liberation Sans, which also
 /// stands in for every font that this machine lacks. Unhinted, so that widths scale exactly, without kerning
 /// and ligatures, so that a text is as wide as its characters.
-[[nodiscard]] QFont DrawnFont(const TextFont& font);
+[[nodiscard]] QFont DrawnFont(const TextFont& font, double pixelsPerInch = CardPixelsPerInch);
 
 /// The text as it is measured and drawn: a control character, a tab among them, takes the room of a blank,
 /// and a soft hyphen is a hyphen. So every character has a width of its own, and a text is as wide as their
 /// sum.
 [[nodiscard]] QString Printable(QStringView text);
 
-/// Measures of one font in logical pixels.
+/// Measures of one font in pixels: the logical ones of a card, or those of a printer.
 class FontMeasures {
 public:
-    explicit FontMeasures(const TextFont& font);
+    explicit FontMeasures(const TextFont& font, double pixelsPerInch = CardPixelsPerInch);
 
     [[nodiscard]] const QFont& Font() const { return m_font; }
     [[nodiscard]] double Width(QStringView text) const;

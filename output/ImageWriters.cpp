@@ -77,10 +77,11 @@ bool HasCompanion(const Workshop& workshop, const FinalPicture& kind)
 /// The card and what stands at its right, each shifted by a pixel into its outline.
 Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
 {
-    const PictureBox& source = workshop.Surfaces.*kind.Source;
+    PictureBox& source = workshop.Surfaces.*kind.Source;
     PictureBox& picDone = workshop.Surfaces.picDone;
     const bool hasCompanion = HasCompanion(workshop, kind);
     const int width = source.Width();
+    source.Freeze();
     picDone.SetPicture({});
     picDone.SetSize({hasCompanion ? 2 * width : width, source.Height()});
     if (hasCompanion)
@@ -96,7 +97,6 @@ Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
 void WriteFinalPicture(Workshop& workshop, const FinalPicture& kind, const FilePath& path)
 {
     WriteOrTell(workshop.User, kind.FailureTitle, [&] {
-        (workshop.Surfaces.*kind.Source).Freeze();
         WriteInFormat(workshop, BuildFinalPicture(workshop, kind), path, kind.GifFailureTitle);
     });
 }
@@ -120,6 +120,26 @@ void WriteJpeg(const Picture& picture, const QString& path)
 }
 
 } // namespace
+
+Picture FinalCard(Workshop& workshop)
+{
+    return BuildFinalPicture(workshop, StandardPicture);
+}
+
+Picture FinalLargeCard(Workshop& workshop)
+{
+    return BuildFinalPicture(workshop, LargePicture);
+}
+
+Picture FinalCharacter(Workshop& workshop)
+{
+    return BuildFinalPicture(workshop, CharacterPicture);
+}
+
+Picture FinalPlayingPiece(Workshop& workshop)
+{
+    return BuildFinalPicture(workshop, PiecePicture);
+}
 
 void WriteCard(Workshop& workshop, const FilePath& path)
 {

@@ -5,13 +5,19 @@
 
 namespace deckforge {
 
-// Each builds the final picture of the composed card of its kind, with its outline and its back, and writes
-// it in the set's format. A failure is told in a box; the caller goes on.
+// The final pictures: the composed card of a kind in its outline, with its back unless the set goes without.
+[[nodiscard]] Picture FinalCard(Workshop& workshop);
+[[nodiscard]] Picture FinalLargeCard(Workshop& workshop);
+[[nodiscard]] Picture FinalCharacter(Workshop& workshop);
+[[nodiscard]] Picture FinalPlayingPiece(Workshop& workshop); ///< twice, also in a set without backs
+
+// Each builds the final picture of its kind and writes it in the set's format. A failure is told in a box;
+// the caller goes on.
 
 void WriteCard(Workshop& workshop, const FilePath& path);
 void WriteLargeCard(Workshop& workshop, const FilePath& path);
 void WriteCharacter(Workshop& workshop, const FilePath& path);
-void WritePlayingPiece(Workshop& workshop, const FilePath& path); ///< twice, also in a set without backs
+void WritePlayingPiece(Workshop& workshop, const FilePath& path);
 void WriteNewCardBack(Workshop& workshop, const FilePath& path);
 
 /// Writes a picture in the set's format; a format that there is not writes nothing. Failures are thrown but

@@ -3,7 +3,10 @@
 #include "platform/FontSpec.h"
 #include "platform/RunTimeError.h"
 
+#include <memory>
 #include <optional>
+
+class QPagedPaintDevice;
 
 namespace deckforge {
 
@@ -51,6 +54,15 @@ public:
     // The dialogs start from the colour or font given. Nothing when the user cancels.
     virtual std::optional<Colour> AskColour(const QString& title, Colour colour) = 0;
     virtual std::optional<FontSpec> AskFont(const QString& title, const FontSpec& font) = 0;
+
+    /// One line of text, with the text given to begin with; nothing when the user cancels.
+    virtual std::optional<QString> AskText(const QString& prompt, const QString& title,
+                                           const QString& text) = 0;
+
+    /// The usual printer with a document of that name begun, at the resolution that the printer has and with
+    /// the corner of what it can print on as its origin; null where there is none. What was painted is sent
+    /// with the end of the painting.
+    virtual std::unique_ptr<QPagedPaintDevice> OpenPrinter(const QString& document) = 0;
 
     virtual void SetPointer(Pointer pointer) = 0;
 

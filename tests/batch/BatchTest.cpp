@@ -76,6 +76,20 @@ TEST(Batch, WritesEveryOutputOfASet)
             .Output.startsWith(QStringLiteral("Number of cards used/type:\n1 - ENEMY- Animal (100%)\n")));
 }
 
+TEST(Batch, PrintsOnePageOfAnyKind)
+{
+    const TestFolder folder;
+    const QString set = folder.Path(QStringLiteral("a.dkf"));
+    Batch("new SET", set);
+    EXPECT_EQ(Batch("print SET DIR/a.pdf --kind card --index 1", set, folder.Path()).Status, 0);
+    const QByteArray page = folder.Read(QStringLiteral("a.pdf"));
+    EXPECT_TRUE(page.startsWith("%PDF") && page.contains("/Count 1\n")) << page.left(100).toStdString();
+    const Outcome run = Batch("print SET DIR/b.pdf --kind character --index 1", set, folder.Path());
+    EXPECT_EQ(run.Status, 1) << "there is none";
+    EXPECT_FALSE(folder.Has(QStringLiteral("b.pdf")));
+    EXPECT_EQ(Batch("print SET DIR/no/a.pdf --kind card --index 1", set, folder.Path()).Status, 1);
+}
+
 TEST(Batch, TellsAFailureInItsStatus)
 {
     const TestFolder folder;
@@ -97,7 +111,9 @@ TEST(Batch, RefusesAWrongCommandLineAndShowsItsUse)
     for (const char* wrong : {"", "paint a.dkf", "new", "new a.dkf a.dkf", "convert a.dkf",
                               "new a.dkf --save", "images a.dkf --scale 0", "images a.dkf --format png",
                               "images a.dkf --kind box", "images a.dkf --colour", "sheets a.dkf --columns 2",
-                              "sheets a.dkf --kind card --columns 7 --rows 1", "html a.dkf --kind back"}) {
+                              "sheets a.dkf --kind card --columns 7 --rows 1", "html a.dkf --kind back",
+                              "print a.dkf a.pdf --kind card", "print a.dkf a.pdf --index 1",
+                              "print a.dkf a.pdf --kind card --index 1 --resolution 71"}) {
         const Outcome run = Batch(QString::fromLatin1(wrong));
         EXPECT_EQ(run.Status, 2) << wrong;
         EXPECT_TRUE(run.Error.contains(QStringLiteral("Usage:"))) << wrong;

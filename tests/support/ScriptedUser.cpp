@@ -1,5 +1,6 @@
 #include "support/ScriptedUser.h"
 
+#include <QPdfWriter>
 #include <gtest/gtest.h>
 
 namespace deckforge {
@@ -10,6 +11,7 @@ ScriptedUser::~ScriptedUser()
     EXPECT_TRUE(m_paths.empty()) << "a path was left over";
     EXPECT_TRUE(m_colours.empty()) << "a colour was left over";
     EXPECT_TRUE(m_fonts.empty()) << "a font was left over";
+    EXPECT_TRUE(m_texts.empty()) << "a text was left over";
 }
 
 Answer ScriptedUser::ShowMessage(const MessageBoxRequest& request)
@@ -53,6 +55,23 @@ std::optional<FontSpec> ScriptedUser::AskFont(const QString& title, const FontSp
 {
     FontDialogs.push_back(font);
     return Next(m_fonts, title);
+}
+
+std::optional<QString> ScriptedUser::AskText(const QString& prompt, const QString& title, const QString& text)
+{
+    TextDialogs.push_back(title + QLatin1Char('|') + prompt + QLatin1Char('|') + text);
+    return Next(m_texts, title);
+}
+
+std::unique_ptr<QPagedPaintDevice> ScriptedUser::OpenPrinter(const QString& document)
+{
+    if (PrinterFile.isEmpty())
+        return nullptr;
+    PrintedDocuments.append(document);
+    auto printer = std::make_unique<QPdfWriter>(PrinterFile);
+    printer->setResolution(PrinterResolution);
+    printer->setPageMargins({});
+    return printer;
 }
 
 void ScriptedUser::ShowProgress(int done, int total)

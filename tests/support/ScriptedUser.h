@@ -21,6 +21,8 @@ public:
     void WillChoose(const QString& path) { m_paths.append(path); }
     void WillPick(Colour colour) { m_colours.push_back(colour); }
     void WillPick(const FontSpec& font) { m_fonts.push_back(font); }
+    void WillType(const QString& text) { m_texts.push_back(text); }
+    void WillTypeNothing() { m_texts.push_back(std::nullopt); }
     void WillPickNoColour() { m_colours.push_back(std::nullopt); }
     void WillPickNoFont() { m_fonts.push_back(std::nullopt); }
     void WillCancelDialog() { m_paths.append(QString()); }
@@ -31,6 +33,8 @@ public:
     std::optional<QString> BrowseForFolder() override;
     std::optional<Colour> AskColour(const QString& title, Colour colour) override;
     std::optional<FontSpec> AskFont(const QString& title, const FontSpec& font) override;
+    std::optional<QString> AskText(const QString& prompt, const QString& title, const QString& text) override;
+    std::unique_ptr<QPagedPaintDevice> OpenPrinter(const QString& document) override;
     void SetPointer(Pointer pointer) override { Pointers.push_back(pointer); }
     void ShowProgress(int done, int total) override;
 
@@ -40,6 +44,10 @@ public:
     std::vector<Pointer> Pointers;
     std::vector<FontSpec> FontDialogs; ///< what each started from
     QStringList ColourTitles;
+    std::vector<QString> TextDialogs; ///< "TITLE|prompt|text" of each
+    QString PrinterFile;              ///< what stands for the printer: a PDF file; empty for no printer
+    int PrinterResolution = 600;
+    QStringList PrintedDocuments;
     int ProgressSteps = 0;
 
     /// "TITLE|text" of each box, for comparing all of them at once.
@@ -54,6 +62,7 @@ private:
     std::deque<deckforge::Answer> m_answers;
     std::deque<std::optional<Colour>> m_colours;
     std::deque<std::optional<FontSpec>> m_fonts;
+    std::deque<std::optional<QString>> m_texts;
     QStringList m_paths; ///< a null text stands for a cancel
 };
 

@@ -2,9 +2,11 @@
 
 #include "platform/UserPort.h"
 
+#include <QPagedPaintDevice>
+
 namespace deckforge {
 
-/// A user who sees nothing and cancels every dialog.
+/// A user who sees nothing and cancels every dialog: where nobody is to be asked or told, or has been already.
 class SilentUser final : public UserPort {
 public:
     Answer ShowMessage(const MessageBoxRequest& /*request*/) override { return deckforge::Answer::Ok; }
@@ -19,6 +21,12 @@ public:
     {
         return std::nullopt;
     }
+    std::optional<QString> AskText(const QString& /*prompt*/, const QString& /*title*/,
+                                   const QString& /*text*/) override
+    {
+        return std::nullopt;
+    }
+    std::unique_ptr<QPagedPaintDevice> OpenPrinter(const QString& /*document*/) override { return nullptr; }
     void SetPointer(Pointer /*pointer*/) override {}
     void ShowProgress(int /*done*/, int /*total*/) override {}
 };

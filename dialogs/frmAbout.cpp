@@ -1,0 +1,60 @@
+#include "dialogs/frmAbout.h"
+
+#include "platform/Version.h"
+#include "ui_frmAbout.h"
+
+#include <QDesktopServices>
+#include <QFile>
+#include <QIcon>
+#include <QUrl>
+
+namespace deckforge {
+
+namespace {
+
+/// The picture of this dialog; the program's icon where there is none.
+QPixmap AboutPicture(double ratio)
+{
+    constexpr QSize mostSize = {320, 128};
+    const QString own = QStringLiteral(":/deckforge/about.svg");
+    const QString icon = QStringLiteral(":/deckforge/icon/varnhelm-deck-forge.svg");
+    return QIcon(QFile::exists(own) ? own : icon).pixmap(mostSize, ratio);
+}
+
+class AboutDialog final : public QDialog {
+public:
+    explicit AboutDialog(QWidget* window) : QDialog(window)
+    {
+        m_form.setupUi(this);
+        m_form.Picture1->setPixmap(AboutPicture(devicePixelRatioF()));
+        m_form.lblURL->setText(QStringLiteral("<a href=\"%1\">%1</a>").arg(QLatin1String(WebAddress)));
+        m_form.lblVersion->setText(QStringLiteral("Version: %1.%2 (Build %3)")
+                                       .arg(VersionMajor)
+                                       .arg(VersionMinor)
+                                       .arg(VersionRevision));
+        m_form.lblContact->setText(ContactAddress());
+        // Whether there is a browser to open it is not this dialog's affair.
+        connect(m_form.lblURL, &QLabel::linkActivated, this,
+                [](const QString& link) { QDesktopServices::openUrl(QUrl(link)); });
+        connect(m_form.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+    }
+
+private:
+    Ui::frmAbout m_form;
+};
+
+} // namespace
+
+void ShowAbout(QWidget* window)
+{
+    AboutDialog dialog(window);
+    dialog.exec();
+}
+
+QString ContactAddress()
+{
+    return QStringLiteral("contact@") + QUrl(QString::fromLatin1(WebAddress)).host();
+}
+
+} // namespace deckforge

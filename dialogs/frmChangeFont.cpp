@@ -1,0 +1,215 @@
+#include "dialogs/frmChangeFont.h"
+
+#include "compose/CharacterCard.h"
+#include "compose/FontScheme.h"
+#include "compose/LargeCard.h"
+#include "compose/SetView.h"
+#include "compose/StandardCard.h"
+#include "core/modInfo.h"
+#include "dialogs/CardPreview.h"
+#include "dialogs/Choices.h"
+#include "dialogs/DialogHandlers.h"
+#include "dialogs/FontOptions.h"
+#include "platform/Version.h"
+#include "ui_frmChangeFont.h"
+
+#include <QButtonGroup>
+#include <QMouseEvent>
+#include <QScreen>
+#include <algorithm>
+#include <iterator>
+
+namespace deckforge {
+
+namespace {
+
+constexpr char Information[] = "Gloamlink - Varnhelm is the website for you when you would like more "
+                               "information about this Varnhelm Deck Forge.\r\n"
+                               "\r\n"
+                               "There is also alot of of other good stuff for the Varnhelm Game.\r\n"
+                               "\r\n"
+                               "Point your browser to ";
+constexpr char SpecialAbilities[] =
+    "1) You may hack into the Matrix at will.\r\n"
+    "\r\n"
+    "2) You are fluent in the binary language and can calculate timeframes in hex.\r\n"
+    "\r\n"
+    "3) You need a life.";
+constexpr char SampleArtist[] = "Artist";
+
+/// A set of one sample of each kind.
+void FillSampleSet(CardSet& set)
+{
+    Card& card = set.Cards[1];
+    card.Title = QStringLiteral("CARD NAME");
+    card.BoldText = QStringLiteral("STRENGTH 3");
+    card.Info = QStringLiteral("Information about the card.");
+    card.Artist = QString::fromLatin1(SampleArtist);
+    AddElement(set, LargeKind);
+    set.LargeCards[1].Title = QStringLiteral("CARD TITLE");
+    set.LargeCards[1].Info = QLatin1String(Information) + QLatin1String(WebAddress);
+    AddElement(set, CharacterKind);
+    set.Characters[1].Name = QStringLiteral("CHARACTER NAME");
+    set.Characters[1].SpecialAbilities = QString::fromLatin1(SpecialAbilities);
+    set.Header.Autonumber = true;
+}
+
+/// The sample of a standard card stands where the middle of the others is.
+void CentreSmallCards(CardTemplates& t)
+{
+    const int wide = t.Large.picCardLarge.Left + t.Large.picCardLarge.Width / 2;
+    for (Box* small : {&t.Standard.picCard, &t.PlayingPiece.picPlayingPiece})
+        small->Left = wide - small->Width / 2;
+}
+
+/// The boxes of the sample cards: what stands on their fronts, and no back.
+std::vector<PreviewBox> SampleBoxes(const CardTemplates& t)
+{
+    const Box* const backs[] = {&t.Standard.picBack, &t.Large.picBackLarge, &t.Character.picCharacterBack};
+    std::vector<PreviewBox> fronts;
+    for (const auto& boxes : {PreviewBoxes(t.Standard), PreviewBoxes(t.Large), PreviewBoxes(t.Character),
+                              PreviewBoxes(t.PlayingPiece)}) {
+        std::copy_if(boxes.begin(), boxes.end(), std::back_inserter(fronts), [&](const PreviewBox& row) {
+            return std::find(std::begin(backs), std::end(backs), row.Shown) == std::end(backs);
+        });
+    }
+    return fronts;
+}
+
+class FontSchemeDialog final : public QDialog {
+public:
+    FontSchemeDialog(Workshop& workshop, QWidget* window)
+        : QDialog(window), m_user(workshop.User), m_header(workshop.Set.Header), m_samples(workshop.User),
+          m_options(this)
+    {
+        m_form.setupUi(this);
+        BuildSamples();
+        QRadioButton* const options[] = {m_form.optFPlace0, m_form.optFPlace1, m_form.optFPlace2,
+                                         m_form.optFPlace3, m_form.optFPlace4};
+        for (QRadioButton* option : options) {
+            m_options.addButton(option, static_cast<int>(m_options.buttons().size()));
+            option->installEventFilter(this);
+        }
+        for (const FontSample& sample : FontSamples())
+            m_form.tbCard->addTab(QString::fromLatin1(sample.Caption));
+        SetDemoFont();
+        ShowSample();
+        connect(m_form.tbCard, &QTabBar::currentChanged, this, [this] { ShowSample(); });
+        OnClick(m_form.cmdChangeFont, [this] { ChangeFont(); });
+        OnClick(m_form.cmdReset, [this] { Reset(); });
+        OnClick(m_form.picArtistColor, [this] { ChooseArtistColour(); });
+        connect(m_form.cmdDone, &QPushButton::clicked, this, &QDialog::accept);
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::MouseButtonDblClick &&
+            static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+            m_form.cmdChangeFont->click();
+            return true; // the option would wait for a release that went to the font dialog
+        }
+        return QDialog::eventFilter(watched, event);
+    }
+
+private:
+    template <class Handler>
+    void OnClick(QAbstractButton* button, Handler handler)
+    {
+        OnSignal(m_user, button, &QAbstractButton::clicked, this, handler);
+    }
+
+    /// The samples are laid out as any card is, and shown by the preview of the window, deaf to the mouse.
+    void BuildSamples()
+    {
+        InitForm(m_samples);
+        FillSampleSet(m_samples.Set);
+        static_cast<void>(deckforge::ShowCard(m_samples, 1));
+        static_cast<void>(deckforge::ShowLargeCard(m_samples, 1));
+        static_cast<void>(deckforge::ShowCharacter(m_samples, 1));
+        ShowNumbers(m_samples);
+        CentreSmallCards(m_samples.Templates);
+        m_preview = new CardPreview(SampleBoxes(m_samples.Templates), this);
+        m_preview->setAccessibleName(QStringLiteral("Sample card"));
+        m_preview->setAttribute(Qt::WA_TransparentForMouseEvents);
+        m_preview->setFocusPolicy(Qt::NoFocus);
+        const QSize room = screen()->availableSize() / 3 * 2;
+        const QSize doubled = m_preview->sizeHint();
+        if (doubled.width() > room.width() || doubled.height() > room.height())
+            m_preview->SetZoom(1);
+        m_form.cardLayout->addWidget(m_preview);
+    }
+
+    /// Dresses the sample cards in the fonts of the set.
+    void SetDemoFont()
+    {
+        SetFont(m_samples.Templates, m_header);
+        m_samples.Set.Header.ArtistColor = m_header.ArtistColor;
+        DrawArtistCredit(m_samples, QString::fromLatin1(SampleArtist));
+        m_form.picArtistColor->SetColour(QColor(ToRgb(m_header.ArtistColor)));
+        m_preview->update();
+    }
+
+    /// The option that is on stays so, also where the sample has no such option.
+    void ShowSample()
+    {
+        const int sample = m_form.tbCard->currentIndex();
+        CardTemplates& t = m_samples.Templates;
+        Box* const cards[] = {&t.Standard.picCard, &t.Large.picCardLarge, &t.Character.picCharacter,
+                              &t.PlayingPiece.picPlayingPiece};
+        for (int i = 0; i < static_cast<int>(std::size(cards)); ++i)
+            cards[i]->Visible = i == sample;
+        const auto& options = FontSamples().at(static_cast<std::size_t>(sample)).Options;
+        const auto chosen = static_cast<std::size_t>(m_options.checkedId());
+        const std::size_t tabStop = chosen < options.size() ? chosen : 0;
+        for (QAbstractButton* option : m_options.buttons()) {
+            const auto row = static_cast<std::size_t>(m_options.id(option));
+            option->setFocusPolicy(row == tabStop ? Qt::StrongFocus : Qt::ClickFocus);
+            option->setVisible(row < options.size());
+            if (row < options.size())
+                option->setText(QString::fromLatin1(options[row].Caption));
+        }
+        m_preview->update();
+    }
+
+    void ChangeFont()
+    {
+        const auto font = FontToChange(m_form.tbCard->currentIndex(), m_options.checkedId());
+        if (font)
+            ChooseFont(m_user, m_header.*font);
+        SetDemoFont();
+    }
+
+    void Reset()
+    {
+        SetDefaultFont(m_header);
+        SetDemoFont();
+    }
+
+    void ChooseArtistColour()
+    {
+        const auto colour = m_user.AskColour(QStringLiteral("Choose colour"), m_header.ArtistColor);
+        if (!colour)
+            return;
+        m_header.ArtistColor = *colour;
+        SetDemoFont();
+    }
+
+    UserPort& m_user;
+    SetHeader& m_header;
+    Workshop m_samples;
+    Ui::frmChangeFont m_form;
+    QButtonGroup m_options;
+    CardPreview* m_preview = nullptr;
+};
+
+} // namespace
+
+void EditFonts(Workshop& workshop, QWidget* window)
+{
+    FontSchemeDialog dialog(workshop, window);
+    dialog.exec();
+}
+
+} // namespace deckforge

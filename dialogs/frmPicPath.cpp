@@ -1,0 +1,181 @@
+#include "dialogs/frmPicPath.h"
+
+#include "compose/Workshop.h"
+#include "core/PicturePaths.h"
+#include "dialogs/DialogHandlers.h"
+#include "dialogs/RowDelegate.h"
+#include "ui_frmPicPath.h"
+
+#include <QAbstractTableModel>
+#include <QButtonGroup>
+
+namespace deckforge {
+
+namespace {
+
+/// The pictures of one field, each with a box to check.
+class PathModel final : public QAbstractTableModel {
+public:
+    PathModel(CardSet& set, QObject* parent) : QAbstractTableModel(parent), m_set(set) {}
+
+    /// Shows the field, or what has become of it; nothing is checked then.
+    void Show(const PathField& field)
+    {
+        beginResetModel();
+        m_field = &field;
+        m_rows = ListedRows(m_set, field);
+        m_isChecked.assign(m_rows.size(), false);
+        endResetModel();
+    }
+
+    void CheckAll()
+    {
+        m_isChecked.assign(m_rows.size(), true);
+        if (!m_rows.empty())
+            Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::CheckStateRole});
+    }
+
+    [[nodiscard]] std::vector<int16> CheckedRows() const
+    {
+        std::vector<int16> checked;
+        for (std::size_t i = 0; i < m_rows.size(); ++i) {
+            if (m_isChecked[i])
+                checked.push_back(m_rows[i]);
+        }
+        return checked;
+    }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    }
+
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : 2;
+    }
+
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+            return {};
+        return section == CardColumn ? QStringLiteral("Card") : QStringLiteral("Picture");
+    }
+
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& cell) const override
+    {
+        const Qt::ItemFlags usual = QAbstractTableModel::flags(cell);
+        return cell.column() == CardColumn ? usual | Qt::ItemIsUserCheckable : usual;
+    }
+
+    [[nodiscard]] QVariant data(const QModelIndex& cell, int role) const override
+    {
+        const auto row = static_cast<std::size_t>(cell.row());
+        const bool isCard = cell.column() == CardColumn;
+        if (role == Qt::CheckStateRole && isCard)
+            return m_isChecked[row] ? Qt::Checked : Qt::Unchecked;
+        if (role == Qt::DisplayRole && isCard)
+            return m_field->Title(m_set, m_rows[row]);
+        if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
+            return m_field->Path(m_set, m_rows[row]);
+        return {};
+    }
+
+    bool setData(const QModelIndex& cell, const QVariant& value, int role) override
+    {
+        if (role != Qt::CheckStateRole)
+            return false;
+        m_isChecked[static_cast<std::size_t>(cell.row())] = value.toInt() == Qt::Checked;
+        Q_EMIT dataChanged(cell, cell, {role});
+        return true;
+    }
+
+private:
+    enum Column { CardColumn, PictureColumn };
+
+    CardSet& m_set;
+    const PathField* m_field = &PathFields().front();
+    std::vector<int16> m_rows;
+    std::vector<bool> m_isChecked; ///< of each of them
+};
+
+class PathDialog final : public QDialog {
+public:
+    PathDialog(Workshop& workshop, QWidget* window)
+        : QDialog(window), m_workshop(workshop), m_options(this), m_model(workshop.Set, this)
+    {
+        m_form.setupUi(this);
+        QRadioButton* const options[] = {m_form.optCard0, m_form.optCard1, m_form.optCard2, m_form.optCard3,
+                                         m_form.optCard4, m_form.optCard5, m_form.optCard6};
+        for (QRadioButton* option : options) {
+            m_options.addButton(option, static_cast<int>(m_options.buttons().size()));
+            option->setFocusPolicy(option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+        }
+        m_form.lviewPath->setModel(&m_model);
+        m_form.lviewPath->setItemDelegate(new RowDelegate(this));
+        FillLV();
+        SizeColumns();
+        OnSignal(workshop.User, &m_options, &QButtonGroup::idClicked, this, [this] { FillLV(); });
+        OnSignal(workshop.User, m_form.cmdBrowse, &QPushButton::clicked, this, [this] { Browse(); });
+        OnSignal(workshop.User, m_form.cmdSelectAll, &QPushButton::clicked, this,
+                 [this] { m_model.CheckAll(); });
+        OnSignal(workshop.User, m_form.cmdChange, &QPushButton::clicked, this, [this] { Change(); });
+        // Once there is a folder, Enter takes it and does not close the dialog.
+        OnSignal(workshop.User, m_form.txtNewPath, &QLineEdit::textChanged, this,
+                 [this] { m_form.cmdChange->setDefault(true); });
+        connect(m_form.cmdDone, &QPushButton::clicked, this, &QDialog::accept);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        const int letter = fontMetrics().averageCharWidth();
+        return QDialog::sizeHint().expandedTo({112 * letter, 64 * letter});
+    }
+
+private:
+    [[nodiscard]] const PathField& Field() const
+    {
+        return PathFields().at(static_cast<std::size_t>(m_options.checkedId()));
+    }
+
+    void FillLV() { m_model.Show(Field()); }
+
+    void SizeColumns()
+    {
+        QHeaderView& header = *m_form.lviewPath->header();
+        header.resizeSection(0, 28 * fontMetrics().averageCharWidth());
+        header.setStretchLastSection(true);
+    }
+
+    void Browse()
+    {
+        if (const auto folder = m_workshop.User.BrowseForFolder())
+            m_form.txtNewPath->setText(*folder);
+    }
+
+    void Change()
+    {
+        const QString folder = m_form.txtNewPath->text();
+        if (folder.isEmpty())
+            return;
+        const HourglassScope hourglass(m_workshop.User);
+        ChangeFolder(m_workshop.Set, Field(), m_model.CheckedRows(), folder);
+        FillLV();
+        m_form.cmdDone->setDefault(true);
+    }
+
+    Workshop& m_workshop;
+    Ui::frmPicPath m_form;
+    QButtonGroup m_options;
+    PathModel m_model;
+};
+
+} // namespace
+
+void EditPicturePaths(Workshop& workshop, QWidget* window)
+{
+    PathDialog dialog(workshop, window);
+    dialog.exec();
+}
+
+} // namespace deckforge

@@ -1,0 +1,297 @@
+#include "dialogs/frmSetInfo.h"
+
+#include "compose/Workshop.h"
+#include "core/SetTables.h"
+#include "dialogs/Choices.h"
+#include "dialogs/DialogHandlers.h"
+#include "dialogs/FocusSelection.h"
+#include "dialogs/PictureView.h"
+#include "dialogs/RowDelegate.h"
+#include "ui_frmSetInfo.h"
+
+#include <QFocusEvent>
+#include <QShortcut>
+#include <QStringListModel>
+
+namespace deckforge {
+
+namespace {
+
+/// The selected row of a list; -1 for none.
+int SelectedRow(const QListView& list)
+{
+    const QModelIndexList selected = list.selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.front().row();
+}
+
+class SetInfoDialog final : public QDialog {
+public:
+    SetInfoDialog(Workshop& workshop, QWidget* window)
+        : QDialog(window), m_workshop(workshop), m_set(workshop.Set)
+    {
+        m_form.setupUi(this);
+        m_form.backLayout->setAlignment(m_form.picCB, Qt::AlignTop);
+        for (QListView* list : {m_form.lstCB, m_form.lstCT})
+            list->setItemDelegate(new RowDelegate(this));
+        m_form.lstCB->setModel(&m_ownBacks);
+        m_form.lstCT->setModel(&m_ownTypes);
+        m_form.cboCBDefault->setModel(&m_allBacks);
+        m_form.cboCTDefault->setModel(&m_allTypes);
+        BindBacks();
+        BindTypes();
+        OnClick(m_form.cmdBGPic, [this] { ChooseBackground(); });
+        for (QLineEdit* box : {m_form.txtCBName, m_form.txtCTName, m_form.txtCTName2, m_form.txtCTNameRev,
+                               m_form.txtCTNameRev2, m_form.txtCTNumber})
+            box->installEventFilter(this);
+        connect(m_form.tabSet, &QTabWidget::currentChanged, this, [this] { EnterCloses(); });
+        connect(m_form.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
+    }
+
+    /// Fills all lists from the set.
+    void Initialize()
+    {
+        m_ownBacks.setStringList(OwnBackNames(m_set));
+        QStringList names;
+        for (int row = 1; row <= m_set.CardBackCount; ++row)
+            names += m_set.CardBacks[row].Name;
+        m_allBacks.setStringList(names);
+        m_form.cboCBDefault->setCurrentIndex(m_set.LastCardBack - 1);
+        ShowDefaultBack();
+
+        m_ownTypes.setStringList(OwnTypeEntries(m_set));
+        QStringList types;
+        for (int row = 1; row <= m_set.CardTypeCount; ++row)
+            types += TypeListEntry(m_set.CardTypes[row]);
+        m_allTypes.setStringList(types);
+        m_form.cboCTDefault->setCurrentIndex(DefaultTypeRow(m_set) - 1);
+
+        ShowPath(*m_form.txtBackground, m_set.LastBackground);
+        ShowFile(*m_form.picBackground, m_set.LastBackground);
+        EnterCloses();
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            SelectAllOnFocus(*static_cast<QLineEdit*>(watched), static_cast<QFocusEvent*>(event)->reason());
+        return QDialog::eventFilter(watched, event);
+    }
+
+private:
+    // Binding
+
+    template <class Handler>
+    void OnClick(QAbstractButton* button, Handler handler)
+    {
+        OnSignal(m_workshop.User, button, &QAbstractButton::clicked, this, handler);
+    }
+
+    void BindBacks()
+    {
+        UserPort& user = m_workshop.User;
+        QListView* const list = m_form.lstCB;
+        OnSignal(user, list, &QListView::clicked, this, [this] { ShowOwnBack(); });
+        OnSignal(user, list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                 [this] { ShowOwnBack(); });
+        OnSignal(user, list, &QListView::doubleClicked, this, [this] { RenameBack(); });
+        auto* const rename = new QShortcut(Qt::Key_F2, list);
+        rename->setContext(Qt::WidgetShortcut);
+        OnSignal(user, rename, &QShortcut::activated, this, [this] { RenameBack(); });
+        OnSignal(user, m_form.cboCBDefault, &QComboBox::activated, this, [this] { DefaultBackChosen(); });
+        OnClick(m_form.cmdCBPic, [this] { ChooseBackPicture(); });
+        OnClick(m_form.cmdCBAdd, [this] { AddBack(); });
+        OnClick(m_form.cmdCBDelete, [this] { DeleteSelected(*m_form.lstCB, DeleteOwnBack); });
+        connect(m_form.txtCBName, &QLineEdit::textEdited, m_form.cmdCBAdd,
+                [this] { m_form.cmdCBAdd->setDefault(true); });
+    }
+
+    void BindTypes()
+    {
+        OnSignal(m_workshop.User, m_form.cboCTDefault, &QComboBox::activated, this,
+                 [this] { DefaultTypeChosen(); });
+        OnClick(m_form.cmdCTAdd, [this] { AddType(); });
+        OnClick(m_form.cmdCTDelete, [this] { DeleteSelected(*m_form.lstCT, DeleteOwnType); });
+        for (QLineEdit* box : {m_form.txtCTName, m_form.txtCTName2, m_form.txtCTNameRev, m_form.txtCTNameRev2,
+                               m_form.txtCTNumber})
+            connect(box, &QLineEdit::textEdited, m_form.cmdCTAdd,
+                    [this] { m_form.cmdCTAdd->setDefault(true); });
+        // Most types read the same on both sides.
+        for (const auto& [name, reversed] : {std::pair(m_form.txtCTName, m_form.txtCTNameRev),
+                                             std::pair(m_form.txtCTName2, m_form.txtCTNameRev2)}) {
+            connect(name, &QLineEdit::editingFinished, reversed, [name = name, reversed = reversed] {
+                if (reversed->text().isEmpty())
+                    reversed->setText(name->text());
+            });
+        }
+    }
+
+    /// Enter adds what is typed; then it closes the dialog again.
+    void EnterCloses() { m_form.cmdClose->setDefault(true); }
+
+    void TellMissing(const char* text)
+    {
+        m_workshop.User.ShowMessage({.Text = QString::fromLatin1(text),
+                                     .Title = QStringLiteral("Missing information"),
+                                     .Style = BoxStyle::Exclamation});
+    }
+
+    static void ShowPath(QLineEdit& box, const QString& path)
+    {
+        box.setText(path);
+        box.setToolTip(path);
+    }
+
+    /// A picture that cannot be loaded leaves words in its place.
+    void ShowFile(PictureView& view, const QString& path)
+    {
+        try {
+            view.ShowPicture(m_workshop.Pictures.LoadPicture(path));
+        } catch (const RunTimeError&) {
+            view.ShowPicture({}, QStringLiteral("Missing picture."));
+        }
+    }
+
+    void DeleteSelected(const QListView& list, void (*deleteRow)(CardSet&, int))
+    {
+        const int ownRow = SelectedRow(list);
+        if (ownRow < 0)
+            return;
+        deleteRow(m_set, ownRow);
+        Initialize();
+    }
+
+    [[nodiscard]] std::optional<QString> AskPicture(const QString& startsAt)
+    {
+        FileDialogRequest request = PictureDialog("Choose picture");
+        request.FileName = startsAt;
+        return m_workshop.User.AskOpenFile(request);
+    }
+
+    // Card backs
+
+    /// The default back may be a row that was deleted; then there is nothing to show.
+    void ShowDefaultBack()
+    {
+        const int16 row = m_set.LastCardBack;
+        if (row < 1 || row > m_set.CardBackCount)
+            m_form.picCB->ShowPicture({});
+        else if (m_set.CardBacks[row].BuiltIn)
+            m_form.picCB->ShowPicture(m_workshop.Art.imgCB(row - 1));
+        else
+            ShowFile(*m_form.picCB, m_set.CardBacks[row].Picture);
+    }
+
+    void ShowOwnBack()
+    {
+        const int ownRow = SelectedRow(*m_form.lstCB);
+        if (ownRow < 0)
+            return;
+        const CardBack& back = m_set.CardBacks[FirstOwnBack + ownRow];
+        m_form.txtCBName->setText(back.Name);
+        ShowPath(*m_form.txtCBPicture, back.Picture);
+        ShowFile(*m_form.picCB, back.Picture);
+    }
+
+    void RenameBack()
+    {
+        const int ownRow = SelectedRow(*m_form.lstCB);
+        if (ownRow < 0)
+            return;
+        CardBack& back = m_set.CardBacks[FirstOwnBack + ownRow];
+        const QString name =
+            m_workshop.User.AskText(QStringLiteral("New name:"), QStringLiteral("Rename cardback"), back.Name)
+                .value_or(QString());
+        if (name.isEmpty())
+            return;
+        back.Name = name;
+        Initialize();
+    }
+
+    void ChooseBackPicture()
+    {
+        const auto path = AskPicture(m_lastBackPicture);
+        if (!path)
+            return;
+        m_lastBackPicture = *path;
+        ShowFile(*m_form.picCB, *path);
+        ShowPath(*m_form.txtCBPicture, *path);
+        m_form.txtCBName->clear();
+        m_form.txtCBName->setFocus();
+    }
+
+    void AddBack()
+    {
+        const QString name = m_form.txtCBName->text();
+        const QString picture = m_form.txtCBPicture->text();
+        if (name.isEmpty() || picture.isEmpty()) {
+            TellMissing("You must give both a name and choose a file.");
+            return;
+        }
+        AddOwnBack(m_set, name, picture);
+        Initialize();
+    }
+
+    void DefaultBackChosen()
+    {
+        m_set.LastCardBack = static_cast<int16>(m_form.cboCBDefault->currentIndex() + 1);
+        ShowDefaultBack();
+    }
+
+    // Card types
+
+    void AddType()
+    {
+        if (m_form.txtCTName->text().isEmpty()) {
+            TellMissing("You must give the type a name.");
+            return;
+        }
+        if (m_form.txtCTNameRev->text().isEmpty()) {
+            TellMissing("You must give the type a reversed name.");
+            return;
+        }
+        AddOwnType(m_set, {.Name = m_form.txtCTName->text(),
+                           .SubName = m_form.txtCTName2->text(),
+                           .ReversedName = m_form.txtCTNameRev->text(),
+                           .ReversedSubName = m_form.txtCTNameRev2->text(),
+                           .Number = ParseNumberText(m_form.txtCTNumber->text())});
+        Initialize();
+    }
+
+    void DefaultTypeChosen()
+    {
+        ChooseDefaultType(m_set, static_cast<int16>(m_form.cboCTDefault->currentIndex() + 1));
+    }
+
+    // Background
+
+    void ChooseBackground()
+    {
+        const auto path = AskPicture({});
+        if (!path)
+            return;
+        m_set.LastBackground = *path;
+        ShowPath(*m_form.txtBackground, *path);
+        ShowFile(*m_form.picBackground, *path);
+    }
+
+    Workshop& m_workshop;
+    CardSet& m_set;
+    Ui::frmSetInfo m_form;
+    QStringListModel m_ownBacks;
+    QStringListModel m_ownTypes;
+    QStringListModel m_allBacks;
+    QStringListModel m_allTypes;
+    QString m_lastBackPicture; ///< where the next dialog starts
+};
+
+} // namespace
+
+void EditSetInfo(Workshop& workshop, QWidget* window)
+{
+    SetInfoDialog dialog(workshop, window);
+    dialog.Initialize();
+    dialog.exec();
+}
+
+} // namespace deckforge

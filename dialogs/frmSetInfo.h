@@ -1,0 +1,13 @@
+#pragma once
+
+class QWidget;
+
+namespace deckforge {
+
+struct Workshop;
+
+/// Lets the user add card backs and card types to the set, and choose what a new card takes, in a dialog over
+/// the window. What is changed is in the set at once; the caller fills its lists again.
+void EditSetInfo(Workshop& workshop, QWidget* window);
+
+} // namespace deckforge

@@ -1,0 +1,96 @@
+#include "compose/FontScheme.h"
+#include "core/CardListRows.h"
+#include "dialogs/CardPreview.h"
+#include "dialogs/frmAbout.h"
+#include "dialogs/frmCardList.h"
+#include "dialogs/frmChangeFont.h"
+#include "dialogs/frmPicPath.h"
+#include "dialogs/frmSetInfo.h"
+#include "editor/frmQDW.h"
+#include "output/Printing.h"
+#include "ui_fraCard.h"
+#include "ui_fraCharacter.h"
+#include "ui_fraLargeCard.h"
+
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTabBar>
+
+namespace deckforge {
+
+void frmQDW::BindDialogs()
+{
+    On(m_card->cmdSort, &QAbstractButton::clicked, [this] { ChooseFromList<Card>(CardListMode::Cards); });
+    On(m_large->cmdSortLarge, &QAbstractButton::clicked,
+       [this] { ChooseFromList<LargeCard>(CardListMode::LargeCards); });
+    On(m_character->cmdSortCharacter, &QAbstractButton::clicked,
+       [this] { ChooseFromList<Character>(CardListMode::Characters); });
+}
+
+void frmQDW::ChangePicPath()
+{
+    EditPicturePaths(m_workshop, this);
+    const Mode& mode = Selected();
+    (this->*mode.Show)(m_workshop.Set.*mode.Current);
+}
+
+void frmQDW::SetInfo()
+{
+    EditSetInfo(m_workshop, this);
+    FillCardBackList();
+    FillCardTypeList();
+    ShowCard(m_workshop.Set.CurrentCard);
+}
+
+void frmQDW::ChangeFonts()
+{
+    EditFonts(m_workshop, this);
+    SetFont(m_workshop.Templates, m_workshop.Set.Header);
+    ArtistChanged();
+    m_preview->update();
+}
+
+/// The tab of card backs prints the current character, without its playing piece.
+void frmQDW::PrintCurrent()
+{
+    struct PrintRow {
+        int16 CardSet::*Current;
+        void (frmQDW::*Show)(int16);
+        PrintedPage Page;
+    };
+    static const std::array<PrintRow, 4> rows = {
+        {{&CardSet::CurrentCard, &frmQDW::ShowCard, PrintedPage::Card},
+         {&CardSet::CurrentLargeCard, &frmQDW::ShowLargeCard, PrintedPage::LargeCard},
+         {&CardSet::CurrentCharacter, &frmQDW::ShowCharacter, PrintedPage::Character},
+         {&CardSet::CurrentCharacter, &frmQDW::ShowCharacter, PrintedPage::CharacterAlone}}};
+    const PrintRow& row = rows.at(static_cast<std::size_t>(tbCard->currentIndex()));
+    (this->*row.Show)(m_workshop.Set.*row.Current);
+    PrintCard(m_workshop, row.Page);
+}
+
+void frmQDW::About()
+{
+    ShowAbout(this);
+}
+
+template <class Record>
+void frmQDW::ChooseFromList(CardListMode mode)
+{
+    const std::optional<int16> chosen = ChooseFromCardList(m_workshop.Set, mode, this);
+    if (!chosen)
+        return;
+    const Page<Record> page = PageOf<Record>();
+    CardSet& set = m_workshop.Set;
+    set.*page.Is.Current = *chosen;
+    {
+        const QSignalBlocker quiet(page.Bar); // which may not reach as far
+        page.Bar->setValue(*chosen);
+    }
+    FillPosition<Record>();
+    // The list of the large cards has the characters, and may have given one past the last large card. That
+    // fails here, and is told once; showing it would fail twice.
+    static_cast<void>((set.*page.Is.Records)[*chosen]);
+    (this->*page.Show)(*chosen);
+}
+
+} // namespace deckforge

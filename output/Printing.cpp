@@ -1,0 +1,179 @@
+#include "output/Printing.h"
+
+#include "compose/CharacterCard.h"
+#include "compose/LargeCard.h"
+#include "compose/SetView.h"
+#include "compose/StandardCard.h"
+#include "output/ImageWriters.h"
+#include "platform/Files.h"
+#include "platform/SilentUser.h"
+#include "platform/Twips.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace deckforge {
+
+namespace {
+
+constexpr int Margin = 40;
+constexpr int GapAboveCard = 20;
+constexpr int GapAbovePiece = 40;
+constexpr int PrintScale = 4; ///< of the surfaces on which a printed card is composed
+
+/// A page being painted, in pixels of its device.
+class Page {
+public:
+    explicit Page(QPaintDevice& device)
+        : m_perInchX(device.logicalDpiX()), m_perInchY(device.logicalDpiY()),
+          m_measures({.Name = QStringLiteral("Arial"), .Size = 12}, m_perInchY)
+    {
+        if (!m_painter.begin(&device))
+            throw RunTimeError(ErrorNumber::PrinterError);
+        m_painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
+        m_painter.setFont(m_measures.Font());
+    }
+
+    /// A line at the margin; the next one stands below it.
+    void PrintLine(const QString& text)
+    {
+        m_painter.drawText(QPointF(Margin, m_currentY + m_measures.Ascent()), Printable(text));
+        m_currentY += m_measures.LineHeight();
+    }
+
+    /// At its physical size, so far below the lines.
+    void PaintPicture(const Picture& picture, int gap)
+    {
+        const QSizeF size(picture.Size().width() * m_perInchX / CardPixelsPerInch,
+                          picture.Size().height() * m_perInchY / CardPixelsPerInch);
+        m_painter.drawImage(QRectF(QPointF(Margin, m_currentY + gap), size), picture.Pixels());
+    }
+
+    void Send()
+    {
+        if (!m_painter.end())
+            throw RunTimeError(ErrorNumber::PrinterError);
+    }
+
+private:
+    double m_perInchX;
+    double m_perInchY;
+    FontMeasures m_measures;
+    QPainter m_painter;
+    int m_currentY = Margin;
+};
+
+/// What the pages differ in.
+struct PageRow {
+    QString (*Title)(const CardSet&);
+    bool (*Show)(Workshop&);
+    Picture (*Front)(Workshop&);
+    bool HasPiece;
+};
+
+const PageRow& RowOf(PrintedPage page)
+{
+    static constexpr auto characterName = [](const CardSet& set) {
+        return set.Characters[set.CurrentCharacter].Name;
+    };
+    static constexpr auto showCharacter = [](Workshop& workshop) {
+        return ShowCharacter(workshop, workshop.Set.CurrentCharacter);
+    };
+    static constexpr PageRow rows[] = {
+        {[](const CardSet& set) { return set.Cards[set.CurrentCard].Title; },
+         [](Workshop& workshop) { return ShowCard(workshop, workshop.Set.CurrentCard); }, FinalCard, false},
+        {[](const CardSet& set) { return set.LargeCards[set.CurrentLargeCard].Title; },
+         [](Workshop& workshop) { return ShowLargeCard(workshop, workshop.Set.CurrentLargeCard); },
+         FinalLargeCard, false},
+        {characterName, showCharacter, FinalCharacter, true},
+        {characterName, showCharacter, FinalCharacter, false}};
+    return rows[static_cast<std::size_t>(page)];
+}
+
+/// A symbol lies elsewhere when it was chosen than when its set was opened.
+void TakeSymbolPlaces(CardTemplates& fine, const CardTemplates& shown)
+{
+    const auto take = [](Box& to, const Box& from) {
+        to.Left = from.Left;
+        to.Top = from.Top;
+        to.Visible = from.Visible;
+    };
+    take(fine.Standard.picSymbol, shown.Standard.picSymbol);
+    take(fine.Large.picSymbolLarge, shown.Large.picSymbolLarge);
+    take(fine.Character.picSymbolCharacter, shown.Character.picSymbolCharacter);
+}
+
+/// Composes the current card in a workshop with finer surfaces; whether it could.
+bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
+{
+    InitForm(fine);
+    fine.Set = workshop.Set;
+    ShowSet(fine);
+    TakeSymbolPlaces(fine.Templates, workshop.Templates);
+    // Twice: some fonts and outlines are those that the composition before left. In a window, too, a card
+    // was shown before it is printed.
+    return RowOf(page).Show(fine) && RowOf(page).Show(fine);
+}
+
+void LayFinePage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
+{
+    SilentUser silent;
+    Workshop fine(silent, PrintScale);
+    LayPage(ComposeFinely(fine, workshop, page) ? fine : workshop, page, device);
+}
+
+} // namespace
+
+QString PageTitle(const CardSet& set, PrintedPage page)
+{
+    return set.Header.SetName + QStringLiteral(" - ") + RowOf(page).Title(set);
+}
+
+void PrintCard(Workshop& workshop, PrintedPage page)
+{
+    const auto printer = workshop.User.OpenPrinter(PageTitle(workshop.Set, page));
+    if (!printer)
+        throw RunTimeError(ErrorNumber::PrinterError);
+    LayFinePage(workshop, page, *printer);
+    workshop.User.ShowMessage({.Text = QStringLiteral("Printing done!"),
+                               .Title = QStringLiteral("Print"),
+                               .Style = BoxStyle::Information});
+}
+
+void WritePdf(Workshop& workshop, PrintedPage page, const QString& path, int pixelsPerInch)
+{
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&bytes);
+    writer.setTitle(PageTitle(workshop.Set, page));
+    writer.setCreator(QStringLiteral("Varnhelm Deck Forge"));
+    writer.setResolution(pixelsPerInch);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageMargins({});
+    LayFinePage(workshop, page, writer);
+    OutputFile file(path);
+    file.Write(bytes.data());
+    file.Close();
+}
+
+void LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
+{
+    const PageRow& row = RowOf(page);
+    // Made first: a failure on the way sends no half of a page.
+    const QString title = PageTitle(workshop.Set, page);
+    const Picture card = row.Front(workshop);
+    const Picture piece = row.HasPiece ? FinalPlayingPiece(workshop) : Picture();
+
+    Page paper(device);
+    paper.PrintLine(QStringLiteral("Varnhelm Deck Forge"));
+    paper.PrintLine(title);
+    paper.PaintPicture(card, GapAboveCard);
+    // The piece goes down by its height in twips, taken for pixels of the printer. At 600 to the inch it is
+    // well below the card and still on the paper; pages have always looked like this.
+    if (row.HasPiece)
+        paper.PaintPicture(piece, GapAbovePiece + piece.Size().height() * TwipsPerPixelY);
+    paper.Send();
+}
+
+} // namespace deckforge

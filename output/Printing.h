@@ -1,0 +1,31 @@
+#pragma once
+
+#include "compose/Workshop.h"
+
+class QPaintDevice;
+
+namespace deckforge {
+
+/// What is printed of a set: its current card of a kind with the back, and with a character the playing
+/// piece, or not.
+enum class PrintedPage { Card, LargeCard, Character, CharacterAlone };
+
+// The card is composed anew for the page, finer than the window does, from the set as it stands. One that
+// cannot be composed so is printed as it was composed last; whoever showed it has told why.
+
+/// Prints the page of the current card on the usual printer, and tells so in a box. Without a printer, or
+/// when it takes no page, error 482.
+void PrintCard(Workshop& workshop, PrintedPage page);
+
+/// The same page as a PDF file on A4 paper, which is printable to its edges. A failure of the file is thrown.
+void WritePdf(Workshop& workshop, PrintedPage page, const QString& path, int pixelsPerInch);
+
+/// Lays the page down: the composed card under its heading, in pixels of the device from its origin. Margin
+/// and gaps shrink as the device gets finer; pictures and letters have their physical size, 96 pixels of a
+/// card to the inch. Error 482 when the device takes no page.
+void LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device);
+
+/// What the page says above the card: the set and the card.
+[[nodiscard]] QString PageTitle(const CardSet& set, PrintedPage page);
+
+} // namespace deckforge
