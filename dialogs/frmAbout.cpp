@@ -38,6 +38,7 @@ public:
                 [](const QString& link) { QDesktopServices::openUrl(QUrl(link)); });
         connect(m_form.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
         layout()->setSizeConstraint(QLayout::SetFixedSize);
+        m_form.cmdClose->setFocus(); // Enter closes, and does not go to the web
     }
 
 private:
