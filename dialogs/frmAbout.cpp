@@ -4,7 +4,6 @@
 #include "ui_frmAbout.h"
 
 #include <QDesktopServices>
-#include <QFile>
 #include <QIcon>
 #include <QUrl>
 
@@ -12,13 +11,10 @@ namespace deckforge {
 
 namespace {
 
-/// The picture of this dialog; the program's icon where there is none.
 QPixmap AboutPicture(double ratio)
 {
-    constexpr QSize mostSize = {320, 128};
-    const QString own = QStringLiteral(":/deckforge/about.svg");
-    const QString icon = QStringLiteral(":/deckforge/icon/varnhelm-deck-forge.svg");
-    return QIcon(QFile::exists(own) ? own : icon).pixmap(mostSize, ratio);
+    constexpr QSize size = {320, 160};
+    return QIcon(QStringLiteral(":/deckforge/about.svg")).pixmap(size, ratio);
 }
 
 class AboutDialog final : public QDialog {

@@ -367,6 +367,7 @@ private:
     // Making images, pages and listings (frmQDW_Output.cpp)
     void ExportBacks();
     void CreateOne();
+    [[nodiscard]] int16 Existing(int16 CardSet::*current) const;
     void CreateAll();
     void CreateSheets();
     void CreateHtml();

@@ -31,7 +31,8 @@ void frmQDW::ChangePicPath()
 {
     EditPicturePaths(m_workshop, this);
     const Mode& mode = Selected();
-    (this->*mode.Show)(m_workshop.Set.*mode.Current);
+    if (const int16 current = m_workshop.Set.*mode.Current; current > 0)
+        (this->*mode.Show)(current);
 }
 
 void frmQDW::SetInfo()
@@ -64,7 +65,7 @@ void frmQDW::PrintCurrent()
          {&CardSet::CurrentCharacter, &frmQDW::ShowCharacter, PrintedPage::Character},
          {&CardSet::CurrentCharacter, &frmQDW::ShowCharacter, PrintedPage::CharacterAlone}}};
     const PrintRow& row = rows.at(static_cast<std::size_t>(tbCard->currentIndex()));
-    (this->*row.Show)(m_workshop.Set.*row.Current);
+    (this->*row.Show)(Existing(row.Current));
     PrintCard(m_workshop, row.Page);
 }
 

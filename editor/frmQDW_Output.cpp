@@ -15,11 +15,18 @@ void frmQDW::ExportBacks()
 void frmQDW::CreateOne()
 {
     const Mode& mode = Selected();
-    const int16 current = m_workshop.Set.*mode.Current;
-    if (current < 1) // a new set has only standard cards until the other tabs are looked at
-        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    const int16 current = Existing(mode.Current);
     (this->*mode.Show)(current);
     mode.Save(m_workshop, current, Ask::Yes, Tell::Yes, {});
+}
+
+/// A new set has only standard cards until the other tabs are looked at; until then error 9.
+int16 frmQDW::Existing(int16 CardSet::*current) const
+{
+    const int16 index = m_workshop.Set.*current;
+    if (index < 1)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    return index;
 }
 
 void frmQDW::CreateAll()

@@ -72,7 +72,7 @@ TEST_F(KindsTest, ANewSetLeavesTheTabAndItsCardsToTheNextClick)
     EXPECT_EQ(Find<QTabBar>("tbCard").currentIndex(), 2);
     EXPECT_TRUE(Boxes().Standard.picCard.Visible);
     EXPECT_EQ(Set().CharacterCount, 0);
-    for (const char* command : {"copy", "paste", "createone"}) {
+    for (const char* command : {"copy", "paste", "createone", "printcard"}) {
         user.Boxes.clear();
         Run(command); // there is no character
         EXPECT_EQ(user.LastBox().Text, QStringLiteral("Run-time error '9':\r\n\r\nSubscript out of range"));
