@@ -93,113 +93,26 @@ private:
     using Action = void (frmQDW::*)();
     enum class Guard { None, NotLoading };
 
-    /// A text box, or a list that takes any text, that carries its text to a field.
+    enum class Gesture { Click, DoubleClick };
+
+    // Rows of the tables by which the window knows its controls, kinds and commands (frmQDW_Tables.h).
     template <class Record>
-    struct TextField {
-        QWidget* Control;
-        QString Record::*Field;
-        Guard When;
-        Box* Preview; ///< whose caption follows; null for none
-        Action After; ///< what else follows; null for nothing
-    };
-
-    /// A check box that carries its state to a field.
+    struct TextField;
     template <class Record>
-    struct CheckField {
-        QCheckBox* Control;
-        bool Record::*Field;
-        Action After;
-    };
-
-    /// A number that carries its value to a field.
+    struct CheckField;
     template <class Record>
-    struct CountField {
-        QSpinBox* Control;
-        int16 Record::*Field;
-    };
-
-    /// The buttons that choose and clear a picture from disk, with the box that shows its name.
+    struct CountField;
     template <class Record>
-    struct PictureField {
-        QAbstractButton* Choose;
-        QAbstractButton* Clear;
-        const char* Title; ///< of the file dialog
-        QString Record::*Field;
-        Box* Target; ///< shows the picture; null for none
-        QLineEdit* PathBox;
-        Action After;
-        Action AfterClear;
-    };
-
-    /// A colour with the button that chooses it.
+    struct PictureField;
     template <class Record>
-    struct ColourField {
-        QAbstractButton* Choose;
-        ColourSwatch* Swatch; ///< a click on it chooses as well
-        const char* Title;
-        Colour& (*Field)(Record&);
-        Box* Preview; ///< whose background follows; null for none
-        Action After; ///< runs after a cancel too
-    };
-
-    /// All controls that carry a value to a record and do little else.
+    struct ColourField;
     template <class Record>
-    struct Fields {
-        std::vector<TextField<Record>> Texts;
-        std::vector<CheckField<Record>> Checks;
-        std::vector<CountField<Record>> Counts;
-        std::vector<PictureField<Record>> Pictures;
-        std::vector<ColourField<Record>> Colours;
-    };
-
-    /// The controls that step through the cards of a kind, add and delete them.
+    struct Fields;
     template <class Record>
-    struct Page {
-        const Kind<Record>& Is;
-        QScrollBar* Bar;
-        QLabel* Position;
-        QLabel* Dragged;                       ///< tells of the card under the slider; null for none
-        QString (*DraggedText)(const Record&); ///< what it tells
-        int16 (*DraggedIndex)(int slider, int16 current); ///< what the position tells meanwhile
-        QAbstractButton* Add;
-        QAbstractButton* Delete;
-        QLineEdit* Name; ///< takes the next keys after a new card
-        void (frmQDW::*Show)(int16);
-    };
-
-    /// What the commands do while a tab is selected.
-    struct Mode {
-        int16 CardSet::*Current;
-        void (frmQDW::*Show)(int16);
-        void (*Save)(Workshop&, int16, Ask, Tell, SheetNumber);
-        Action Add; ///< null for none, as for the next two
-        Action Previous;
-        Action Next;
-        Action Copy;
-        Action Paste;
-        // What the runs over all cards go by: on the tab of card backs they work on the characters.
-        void (*CreateAll)(Workshop&);
-        void (*CreateSheets)(Workshop&, std::optional<SheetGrid>);
-        Action CreateHtml;
-        Action FillAgain; ///< after a run, which has shown other cards
-    };
-
-    /// A label of the preview that opens the font dialog.
-    struct FontLabel {
-        enum class Gesture { Click, DoubleClick };
-        const Box* Label;
-        Gesture Opens;
-        FontSpec SetHeader::*Font;
-    };
-
-    /// A picture of the preview that the user places.
-    struct PlacementRow {
-        const Box* Frame;
-        const Box* Image;
-        const Box* Handle; ///< null for none
-        PlacedPicture Which;
-        Action After; ///< tells the size of the frame
-    };
+    struct Page;
+    struct Mode;
+    struct FontLabel;
+    struct PlacementRow;
 
     /// Keeps guarded handlers quiet while controls are filled.
     class LoadingScope;
@@ -355,7 +268,7 @@ private:
     void BindPreview();
     [[nodiscard]] std::vector<FontLabel> FontLabels();
     [[nodiscard]] std::array<PlacementRow, 4> Placements();
-    void LabelClicked(const Box* box, FontLabel::Gesture gesture);
+    void LabelClicked(const Box* box, Gesture gesture);
     void PreviewDragged(const Box* box, QPoint point, QPoint moved);
     void PreviewKey(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held);
     void ShowTip(const Box* box, QPoint globalPoint);

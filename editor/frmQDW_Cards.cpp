@@ -1,5 +1,5 @@
 #include "core/modInfo.h"
-#include "editor/frmQDW.h"
+#include "editor/frmQDW_Tables.h"
 #include "ui_fraCard.h"
 #include "ui_fraCardBack.h"
 #include "ui_fraCharacter.h"

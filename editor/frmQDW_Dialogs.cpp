@@ -6,7 +6,7 @@
 #include "dialogs/frmChangeFont.h"
 #include "dialogs/frmPicPath.h"
 #include "dialogs/frmSetInfo.h"
-#include "editor/frmQDW.h"
+#include "editor/frmQDW_Tables.h"
 #include "output/Printing.h"
 #include "ui_fraCard.h"
 #include "ui_fraCharacter.h"

@@ -1,7 +1,7 @@
 #include "dialogs/CardPreview.h"
 #include "dialogs/ColourSwatch.h"
 #include "editor/TextControl.h"
-#include "editor/frmQDW.h"
+#include "editor/frmQDW_Tables.h"
 #include "platform/CodePage.h"
 #include "ui_fraCard.h"
 #include "ui_fraCardBack.h"

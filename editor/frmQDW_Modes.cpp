@@ -3,7 +3,7 @@
 #include "compose/NewBack.h"
 #include "compose/StandardCard.h"
 #include "dialogs/CardPreview.h"
-#include "editor/frmQDW.h"
+#include "editor/frmQDW_Tables.h"
 #include "ui_fraCardBack.h"
 #include "ui_fraCharacter.h"
 #include "ui_fraLargeCard.h"

@@ -1,5 +1,5 @@
 #include "dialogs/frmCardSheet.h"
-#include "editor/frmQDW.h"
+#include "editor/frmQDW_Tables.h"
 #include "files/modFile.h"
 #include "output/HtmlSheets.h"
 #include "output/Statistics.h"

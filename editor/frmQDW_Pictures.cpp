@@ -4,7 +4,7 @@
 #include "dialogs/Choices.h"
 #include "dialogs/ColourSwatch.h"
 #include "editor/TextControl.h"
-#include "editor/frmQDW.h"
+#include "editor/frmQDW_Tables.h"
 #include "platform/Paths.h"
 #include "ui_fraCard.h"
 #include "ui_fraCardBack.h"

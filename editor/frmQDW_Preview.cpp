@@ -3,7 +3,7 @@
 #include "compose/StandardCard.h"
 #include "dialogs/CardPreview.h"
 #include "dialogs/Choices.h"
-#include "editor/frmQDW.h"
+#include "editor/frmQDW_Tables.h"
 #include "platform/Twips.h"
 #include "ui_fraCard.h"
 #include "ui_fraCharacter.h"
@@ -25,10 +25,9 @@ void frmQDW::BindPreview()
     On(m_preview, &CardPreview::Pressed, [this](const Box*, QPoint point) { m_dragStart = point; });
     On(m_preview, &CardPreview::Dragged,
        [this](const Box* box, QPoint point, QPoint moved) { PreviewDragged(box, point, moved); });
-    On(m_preview, &CardPreview::Clicked,
-       [this](const Box* box) { LabelClicked(box, FontLabel::Gesture::Click); });
+    On(m_preview, &CardPreview::Clicked, [this](const Box* box) { LabelClicked(box, Gesture::Click); });
     On(m_preview, &CardPreview::DoubleClicked,
-       [this](const Box* box) { LabelClicked(box, FontLabel::Gesture::DoubleClick); });
+       [this](const Box* box) { LabelClicked(box, Gesture::DoubleClick); });
     On(m_preview, &CardPreview::KeyPressed,
        [this](const Box* picture, Qt::Key key, Qt::KeyboardModifiers held) {
            PreviewKey(picture, key, held);
@@ -47,7 +46,7 @@ void frmQDW::BindPreview()
 /// Labels of the standard card ask for two clicks, all others for one.
 std::vector<frmQDW::FontLabel> frmQDW::FontLabels()
 {
-    using enum FontLabel::Gesture;
+    using enum Gesture;
     const CardTemplate& card = m_workshop.Templates.Standard;
     const LargeCardTemplate& large = m_workshop.Templates.Large;
     const CharacterTemplate& character = m_workshop.Templates.Character;
@@ -90,7 +89,7 @@ std::array<frmQDW::PlacementRow, 4> frmQDW::Placements()
     }};
 }
 
-void frmQDW::LabelClicked(const Box* box, FontLabel::Gesture gesture)
+void frmQDW::LabelClicked(const Box* box, Gesture gesture)
 {
     for (const FontLabel& row : FontLabels()) {
         if (row.Label != box || row.Opens != gesture)
@@ -138,8 +137,8 @@ void frmQDW::ShowTip(const Box* box, QPoint globalPoint)
     QString tip;
     for (const FontLabel& row : FontLabels()) {
         if (row.Label == box)
-            tip = row.Opens == FontLabel::Gesture::Click ? QStringLiteral("Click to change the font")
-                                                         : QStringLiteral("Double-click to change the font");
+            tip = row.Opens == Gesture::Click ? QStringLiteral("Click to change the font")
+                                              : QStringLiteral("Double-click to change the font");
     }
     for (const PlacementRow& row : Placements()) {
         if (row.Image == box)
