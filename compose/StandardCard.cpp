@@ -98,10 +98,7 @@ void LoadBack(ShowRun& run, Workshop& workshop, Card& card)
     const CardBack& back = set.CardBacks[card.CardBack];
     Box& picBack = workshop.Templates.Standard.picBack;
     run.LoadsFor(picBack, back.Picture);
-    run([&] {
-        picBack.Surface->SetPicture(back.BuiltIn ? workshop.Art.imgCB(card.CardBack - 1)
-                                                 : workshop.Pictures.LoadPicture(back.Picture));
-    });
+    run([&] { picBack.Surface->SetPicture(PictureOfBack(workshop, card.CardBack)); });
 }
 
 /// Lays the card's own background pixels down on the strip for the credit, so that it has no bar of white.
@@ -224,6 +221,12 @@ void PlaceCardPicture(Workshop& workshop, int16 index)
     PlaceFrame(run, t, card);
     t.picImage.Surface->Refresh();
     PlacePictureInFrame(t, card);
+}
+
+Picture PictureOfBack(Workshop& workshop, int16 row)
+{
+    const CardBack& back = workshop.Set.CardBacks[row];
+    return back.BuiltIn ? workshop.Art.imgCB(row - 1) : workshop.Pictures.LoadPicture(back.Picture);
 }
 
 void ShowTypeNames(CardTemplate& t, const Card& card)

@@ -13,6 +13,9 @@ bool ShowCard(Workshop& workshop, int16 index);
 /// Lays out again only the frame and what follows it; the picture is not loaded anew.
 void PlaceCardPicture(Workshop& workshop, int16 index);
 
+/// The art of a built-in row of the table of backs, or the picture that the row names. A failure is thrown.
+[[nodiscard]] Picture PictureOfBack(Workshop& workshop, int16 row);
+
 /// Puts the four parts of the type on their labels.
 void ShowTypeNames(CardTemplate& card, const Card& record);
 

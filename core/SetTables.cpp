@@ -96,7 +96,9 @@ int16 ParseNumberText(const QString& text)
     double number = 0;
     try {
         number = NumberFromText(text.toLatin1());
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& error) {
+        if (error.Number() != ErrorNumber::TypeMismatch)
+            throw;
         return -1;
     }
     return ToInt16(number);

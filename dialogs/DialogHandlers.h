@@ -2,7 +2,7 @@
 
 #include "platform/UserPort.h"
 
-#include <QObject>
+#include <QAbstractButton>
 
 namespace deckforge {
 
@@ -18,6 +18,13 @@ void OnSignal(UserPort& user, Sender* sender, Signal signal, QObject* dialog, Ha
             TellUntrapped(user, error);
         }
     });
+}
+
+/// The same for the click on a button.
+template <class Handler>
+void OnClick(UserPort& user, QAbstractButton* button, QObject* dialog, Handler handler)
+{
+    OnSignal(user, button, &QAbstractButton::clicked, dialog, handler);
 }
 
 } // namespace deckforge

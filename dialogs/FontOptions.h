@@ -19,8 +19,6 @@ struct FontSample {
     std::vector<FontOption> Options;
 };
 
-inline constexpr int MostFontOptions = 5;
-
 /// A standard card, a large card, a character and a playing piece.
 [[nodiscard]] const std::array<FontSample, 4>& FontSamples();
 

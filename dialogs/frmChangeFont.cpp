@@ -95,9 +95,9 @@ public:
         SetDemoFont();
         ShowSample();
         connect(m_form.tbCard, &QTabBar::currentChanged, this, [this] { ShowSample(); });
-        OnClick(m_form.cmdChangeFont, [this] { ChangeFont(); });
-        OnClick(m_form.cmdReset, [this] { Reset(); });
-        OnClick(m_form.picArtistColor, [this] { ChooseArtistColour(); });
+        OnClick(m_user, m_form.cmdChangeFont, this, [this] { ChangeFont(); });
+        OnClick(m_user, m_form.cmdReset, this, [this] { Reset(); });
+        OnClick(m_user, m_form.picArtistColor, this, [this] { ChooseArtistColour(); });
         connect(m_form.cmdDone, &QPushButton::clicked, this, &QDialog::accept);
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     }
@@ -114,12 +114,6 @@ protected:
     }
 
 private:
-    template <class Handler>
-    void OnClick(QAbstractButton* button, Handler handler)
-    {
-        OnSignal(m_user, button, &QAbstractButton::clicked, this, handler);
-    }
-
     /// The samples are laid out as any card is, and shown by the preview of the window, deaf to the mouse.
     void BuildSamples()
     {

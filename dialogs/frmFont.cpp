@@ -1,5 +1,6 @@
 #include "dialogs/frmFont.h"
 
+#include "dialogs/WheelGuard.h"
 #include "imaging/PictureBox.h"
 #include "imaging/TextFont.h"
 #include "ui_frmFont.h"
@@ -67,6 +68,7 @@ public:
         connect(m_form.picColor, &ColourSwatch::clicked, this, [this] { PickColour(); });
         connect(m_form.buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(m_form.buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        GuardFromWheel(*this);
         Refresh();
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     }

@@ -116,10 +116,9 @@ public:
         FillLV();
         SizeColumns();
         OnSignal(workshop.User, &m_options, &QButtonGroup::idClicked, this, [this] { FillLV(); });
-        OnSignal(workshop.User, m_form.cmdBrowse, &QPushButton::clicked, this, [this] { Browse(); });
-        OnSignal(workshop.User, m_form.cmdSelectAll, &QPushButton::clicked, this,
-                 [this] { m_model.CheckAll(); });
-        OnSignal(workshop.User, m_form.cmdChange, &QPushButton::clicked, this, [this] { Change(); });
+        OnClick(workshop.User, m_form.cmdBrowse, this, [this] { Browse(); });
+        OnClick(workshop.User, m_form.cmdSelectAll, this, [this] { m_model.CheckAll(); });
+        OnClick(workshop.User, m_form.cmdChange, this, [this] { Change(); });
         // Once there is a folder, Enter takes it and does not close the dialog.
         OnSignal(workshop.User, m_form.txtNewPath, &QLineEdit::textChanged, this,
                  [this] { m_form.cmdChange->setDefault(true); });

@@ -1,12 +1,13 @@
 #include "dialogs/frmSetInfo.h"
 
-#include "compose/Workshop.h"
+#include "compose/StandardCard.h"
 #include "core/SetTables.h"
 #include "dialogs/Choices.h"
 #include "dialogs/DialogHandlers.h"
 #include "dialogs/FocusSelection.h"
 #include "dialogs/PictureView.h"
 #include "dialogs/RowDelegate.h"
+#include "dialogs/WheelGuard.h"
 #include "ui_frmSetInfo.h"
 
 #include <QFocusEvent>
@@ -26,23 +27,26 @@ int SelectedRow(const QListView& list)
 
 class SetInfoDialog final : public QDialog {
 public:
-    SetInfoDialog(Workshop& workshop, QWidget* window)
-        : QDialog(window), m_workshop(workshop), m_set(workshop.Set)
+    SetInfoDialog(Workshop& workshop, QString& lastBackFile, QWidget* window)
+        : QDialog(window), m_workshop(workshop), m_set(workshop.Set), m_lastBackFile(lastBackFile)
     {
         m_form.setupUi(this);
         m_form.backLayout->setAlignment(m_form.picCB, Qt::AlignTop);
-        for (QListView* list : {m_form.lstCB, m_form.lstCT})
+        for (QListView* list : {m_form.lstCB, m_form.lstCT}) {
             list->setItemDelegate(new RowDelegate(this));
+            list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // a long name is elided
+        }
         m_form.lstCB->setModel(&m_ownBacks);
         m_form.lstCT->setModel(&m_ownTypes);
         m_form.cboCBDefault->setModel(&m_allBacks);
         m_form.cboCTDefault->setModel(&m_allTypes);
         BindBacks();
         BindTypes();
-        OnClick(m_form.cmdBGPic, [this] { ChooseBackground(); });
+        OnClick(m_workshop.User, m_form.cmdBGPic, this, [this] { ChooseBackground(); });
         for (QLineEdit* box : {m_form.txtCBName, m_form.txtCTName, m_form.txtCTName2, m_form.txtCTNameRev,
                                m_form.txtCTNameRev2, m_form.txtCTNumber})
             box->installEventFilter(this);
+        GuardFromWheel(*this);
         connect(m_form.tabSet, &QTabWidget::currentChanged, this, [this] { EnterCloses(); });
         connect(m_form.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
     }
@@ -75,17 +79,13 @@ protected:
     {
         if (event->type() == QEvent::FocusIn)
             SelectAllOnFocus(*static_cast<QLineEdit*>(watched), static_cast<QFocusEvent*>(event)->reason());
+        else if (event->type() == QEvent::FocusOut)
+            LeaveBox(watched);
         return QDialog::eventFilter(watched, event);
     }
 
 private:
     // Binding
-
-    template <class Handler>
-    void OnClick(QAbstractButton* button, Handler handler)
-    {
-        OnSignal(m_workshop.User, button, &QAbstractButton::clicked, this, handler);
-    }
 
     void BindBacks()
     {
@@ -99,9 +99,10 @@ private:
         rename->setContext(Qt::WidgetShortcut);
         OnSignal(user, rename, &QShortcut::activated, this, [this] { RenameBack(); });
         OnSignal(user, m_form.cboCBDefault, &QComboBox::activated, this, [this] { DefaultBackChosen(); });
-        OnClick(m_form.cmdCBPic, [this] { ChooseBackPicture(); });
-        OnClick(m_form.cmdCBAdd, [this] { AddBack(); });
-        OnClick(m_form.cmdCBDelete, [this] { DeleteSelected(*m_form.lstCB, DeleteOwnBack); });
+        OnClick(m_workshop.User, m_form.cmdCBPic, this, [this] { ChooseBackPicture(); });
+        OnClick(m_workshop.User, m_form.cmdCBAdd, this, [this] { AddBack(); });
+        OnClick(m_workshop.User, m_form.cmdCBDelete, this,
+                [this] { DeleteSelected(*m_form.lstCB, DeleteOwnBack); });
         connect(m_form.txtCBName, &QLineEdit::textEdited, m_form.cmdCBAdd,
                 [this] { m_form.cmdCBAdd->setDefault(true); });
     }
@@ -110,20 +111,34 @@ private:
     {
         OnSignal(m_workshop.User, m_form.cboCTDefault, &QComboBox::activated, this,
                  [this] { DefaultTypeChosen(); });
-        OnClick(m_form.cmdCTAdd, [this] { AddType(); });
-        OnClick(m_form.cmdCTDelete, [this] { DeleteSelected(*m_form.lstCT, DeleteOwnType); });
+        OnClick(m_workshop.User, m_form.cmdCTAdd, this, [this] { AddType(); });
+        OnClick(m_workshop.User, m_form.cmdCTDelete, this,
+                [this] { DeleteSelected(*m_form.lstCT, DeleteOwnType); });
         for (QLineEdit* box : {m_form.txtCTName, m_form.txtCTName2, m_form.txtCTNameRev, m_form.txtCTNameRev2,
                                m_form.txtCTNumber})
             connect(box, &QLineEdit::textEdited, m_form.cmdCTAdd,
                     [this] { m_form.cmdCTAdd->setDefault(true); });
-        // Most types read the same on both sides.
+        // Before Enter adds the type.
         for (const auto& [name, reversed] : {std::pair(m_form.txtCTName, m_form.txtCTNameRev),
                                              std::pair(m_form.txtCTName2, m_form.txtCTNameRev2)}) {
-            connect(name, &QLineEdit::editingFinished, reversed, [name = name, reversed = reversed] {
-                if (reversed->text().isEmpty())
-                    reversed->setText(name->text());
-            });
+            connect(name, &QLineEdit::returnPressed, reversed,
+                    [name = name, reversed = reversed] { FillEmpty(*reversed, *name); });
         }
+    }
+
+    static void FillEmpty(QLineEdit& box, const QLineEdit& from)
+    {
+        if (box.text().isEmpty())
+            box.setText(from.text());
+    }
+
+    /// Most types read the same on both sides.
+    void LeaveBox(const QObject* box)
+    {
+        if (box == m_form.txtCTName)
+            FillEmpty(*m_form.txtCTNameRev, *m_form.txtCTName);
+        else if (box == m_form.txtCTName2)
+            FillEmpty(*m_form.txtCTNameRev2, *m_form.txtCTName2);
     }
 
     /// Enter adds what is typed; then it closes the dialog again.
@@ -143,13 +158,19 @@ private:
     }
 
     /// A picture that cannot be loaded leaves words in its place.
-    void ShowFile(PictureView& view, const QString& path)
+    template <class Load>
+    void Show(PictureView& view, Load&& load)
     {
         try {
-            view.ShowPicture(m_workshop.Pictures.LoadPicture(path));
+            view.ShowPicture(load());
         } catch (const RunTimeError&) {
             view.ShowPicture({}, QStringLiteral("Missing picture."));
         }
+    }
+
+    void ShowFile(PictureView& view, const QString& path)
+    {
+        Show(view, [&] { return m_workshop.Pictures.LoadPicture(path); });
     }
 
     void DeleteSelected(const QListView& list, void (*deleteRow)(CardSet&, int))
@@ -176,10 +197,8 @@ private:
         const int16 row = m_set.LastCardBack;
         if (row < 1 || row > m_set.CardBackCount)
             m_form.picCB->ShowPicture({});
-        else if (m_set.CardBacks[row].BuiltIn)
-            m_form.picCB->ShowPicture(m_workshop.Art.imgCB(row - 1));
         else
-            ShowFile(*m_form.picCB, m_set.CardBacks[row].Picture);
+            Show(*m_form.picCB, [&] { return PictureOfBack(m_workshop, row); });
     }
 
     void ShowOwnBack()
@@ -206,14 +225,15 @@ private:
             return;
         back.Name = name;
         Initialize();
+        m_form.lstCB->setCurrentIndex(m_ownBacks.index(ownRow)); // its boxes show the name that it now has
     }
 
     void ChooseBackPicture()
     {
-        const auto path = AskPicture(m_lastBackPicture);
+        const auto path = AskPicture(m_lastBackFile);
         if (!path)
             return;
-        m_lastBackPicture = *path;
+        m_lastBackFile = *path;
         ShowFile(*m_form.picCB, *path);
         ShowPath(*m_form.txtCBPicture, *path);
         m_form.txtCBName->clear();
@@ -277,19 +297,19 @@ private:
 
     Workshop& m_workshop;
     CardSet& m_set;
+    QString& m_lastBackFile; ///< where the next choice starts
     Ui::frmSetInfo m_form;
     QStringListModel m_ownBacks;
     QStringListModel m_ownTypes;
     QStringListModel m_allBacks;
     QStringListModel m_allTypes;
-    QString m_lastBackPicture; ///< where the next dialog starts
 };
 
 } // namespace
 
-void EditSetInfo(Workshop& workshop, QWidget* window)
+void EditSetInfo(Workshop& workshop, QString& lastBackFile, QWidget* window)
 {
-    SetInfoDialog dialog(workshop, window);
+    SetInfoDialog dialog(workshop, lastBackFile, window);
     dialog.Initialize();
     dialog.exec();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+class QString;
 class QWidget;
 
 namespace deckforge {
@@ -8,6 +9,8 @@ struct Workshop;
 
 /// Lets the user add card backs and card types to the set, and choose what a new card takes, in a dialog over
 /// the window. What is changed is in the set at once; the caller fills its lists again.
-void EditSetInfo(Workshop& workshop, QWidget* window);
+///
+/// The file that was chosen last for a back is where the next choice starts.
+void EditSetInfo(Workshop& workshop, QString& lastBackFile, QWidget* window);
 
 } // namespace deckforge

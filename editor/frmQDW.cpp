@@ -2,6 +2,7 @@
 #include "compose/SetView.h"
 #include "dialogs/CardPreview.h"
 #include "dialogs/FocusSelection.h"
+#include "dialogs/WheelGuard.h"
 #include "ui_fraCard.h"
 #include "ui_fraCardBack.h"
 #include "ui_fraCharacter.h"
@@ -33,20 +34,6 @@ QWidget* MakeForm(Form& form, QWidget* parent)
     auto* const widget = new Widget(parent);
     form.setupUi(widget);
     return widget;
-}
-
-bool TurnsWithTheWheel(const QWidget& box)
-{
-    return qobject_cast<const QComboBox*>(&box) || qobject_cast<const QSpinBox*>(&box) ||
-           qobject_cast<const QTabBar*>(&box);
-}
-
-/// The wheel turns what the user works in, and nothing that only lies below the pointer: that would change
-/// the card unseen, and a look at a tab makes a card.
-bool MayTurn(const QObject& watched)
-{
-    const auto* const box = qobject_cast<const QWidget*>(&watched);
-    return !box || !TurnsWithTheWheel(*box) || (box->hasFocus() && !qobject_cast<const QTabBar*>(box));
 }
 
 /// Wants room for all of the preview, and takes less where the screen is small.
@@ -258,10 +245,7 @@ void frmQDW::BindFocus()
     for (QWidget* box : boxes)
         box->installEventFilter(this);
     m_set->lblSetName->installEventFilter(this);
-    for (QWidget* box : findChildren<QWidget*>()) {
-        if (TurnsWithTheWheel(*box))
-            box->installEventFilter(this);
-    }
+    GuardFromWheel(*this);
 }
 
 bool frmQDW::eventFilter(QObject* watched, QEvent* event)
@@ -270,10 +254,6 @@ bool frmQDW::eventFilter(QObject* watched, QEvent* event)
         SelectAll(watched, static_cast<QFocusEvent*>(event)->reason());
     else if (event->type() == QEvent::MouseButtonRelease && watched == m_set->lblSetName)
         Guarded([this] { ShowOffsets(); });
-    else if (event->type() == QEvent::Wheel && !MayTurn(*watched)) {
-        event->ignore();
-        return true;
-    }
     return QMainWindow::eventFilter(watched, event);
 }
 

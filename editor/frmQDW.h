@@ -255,6 +255,8 @@ private:
     void LayAtFrame(Box& target);
     [[nodiscard]] std::optional<QString> AskPicture(const char* title, const QAbstractButton* button);
     [[nodiscard]] std::optional<Picture> Loaded(const QString& path);
+    template <class Load>
+    [[nodiscard]] static std::optional<Picture> Attempted(Load&& load);
     template <class Record>
     void FocusOnTarget();
     void TakeSymbol(const QString& path);
@@ -318,6 +320,7 @@ private:
     bool m_loading = false;
     bool m_isBusy = false; ///< with a long run, from its first step to its last
     QMap<const QAbstractButton*, QString> m_pictureFolders; ///< where each button's file was chosen last
+    QString m_lastBackFile;                                 ///< the file chosen last in Customize Set
     QPoint m_dragStart;                                     ///< on the handle that is dragged
     QString m_missingBack; ///< the picture of a card back that was told to be missing
 
@@ -392,6 +395,17 @@ void frmQDW::On(Sender* sender, Signal signal, Handler handler)
                 handler();
         });
     });
+}
+
+/// A picture that cannot be loaded leaves the preview as it was.
+template <class Load>
+std::optional<Picture> frmQDW::Attempted(Load&& load)
+{
+    try {
+        return load();
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
 }
 
 /// The one place where a failure that left a handler ends. Qt's own code, which calls the handlers, cannot be

@@ -37,7 +37,7 @@ void frmQDW::ChangePicPath()
 
 void frmQDW::SetInfo()
 {
-    EditSetInfo(m_workshop, this);
+    EditSetInfo(m_workshop, m_lastBackFile, this);
     FillCardBackList();
     FillCardTypeList();
     ShowCard(m_workshop.Set.CurrentCard);

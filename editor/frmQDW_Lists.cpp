@@ -120,10 +120,8 @@ void frmQDW::CardBackChosen()
     }
     Card& card = Current<Card>();
     const auto row = static_cast<int16>(list.currentIndex() + 1);
-    const CardBack& back = m_workshop.Set.CardBacks[row];
     card.CardBack = row;
-    const auto picture = back.BuiltIn ? m_workshop.Art.imgCB(row - 1) : Loaded(back.Picture);
-    if (picture)
+    if (const auto picture = Attempted([&] { return PictureOfBack(m_workshop, row); }))
         m_workshop.Templates.Standard.picBack.Surface->SetPicture(*picture);
     m_preview->update();
 }

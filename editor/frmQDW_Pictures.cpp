@@ -66,14 +66,9 @@ std::optional<QString> frmQDW::AskPicture(const char* title, const QAbstractButt
     return m_workshop.User.AskOpenFile(request);
 }
 
-/// A picture that cannot be loaded leaves the preview as it was.
 std::optional<Picture> frmQDW::Loaded(const QString& path)
 {
-    try {
-        return m_workshop.Pictures.LoadPicture(path);
-    } catch (const RunTimeError&) {
-        return std::nullopt;
-    }
+    return Attempted([&] { return m_workshop.Pictures.LoadPicture(path); });
 }
 
 void frmQDW::ShowOn(Box& target, const Picture& picture)

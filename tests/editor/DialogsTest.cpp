@@ -1,23 +1,12 @@
-#include "core/modInfo.h"
+#include "core/SetTables.h"
 #include "dialogs/ColourSwatch.h"
-#include "editor/frmQDW.h"
-#include "support/Failures.h"
-#include "support/ScriptedUser.h"
-#include "support/TestFolder.h"
+#include "editor/WindowTest.h"
 
-#include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListView>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QScrollBar>
-#include <QTabBar>
 #include <QTabWidget>
-#include <QTest>
 #include <QTimer>
 #include <QTreeView>
 
@@ -25,28 +14,20 @@ namespace deckforge {
 
 namespace {
 
-QString Text(const char* text)
-{
-    return QString::fromUtf8(text);
-}
-
-/// The window over a new set, with a user who answers from a script, and its dialogs.
-class DialogsTest : public testing::Test {
+/// The window and its dialogs.
+class DialogsTest : public WindowTest {
 protected:
     DialogsTest() { window.show(); }
+
+    static QString Text(const char* text) { return QString::fromUtf8(text); }
 
     template <class Control>
     static Control& In(QWidget& parent, const char* name)
     {
         auto* const control = parent.findChild<Control*>(QString::fromLatin1(name));
-        EXPECT_NE(control, nullptr) << name;
+        if (!control)
+            throw std::runtime_error(name);
         return *control;
-    }
-
-    template <class Control>
-    Control& Find(const char* name)
-    {
-        return In<Control>(window, name);
     }
 
     /// Runs a command, and the steps on the dialog that it opens; Esc then closes that.
@@ -87,9 +68,6 @@ protected:
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place.center());
     }
 
-    void SelectTab(int number) { Find<QTabBar>("tbCard").setCurrentIndex(number - 1); }
-    const CardSet& Set() const { return window.Works().Set; }
-
     /// Cards with these titles, typed in, the last one shown.
     void AddCards(const std::vector<const char*>& titles)
     {
@@ -99,10 +77,6 @@ protected:
             Find<QLineEdit>("txtTitle").setText(Text(titles[i]));
         }
     }
-
-    TestFolder folder;
-    ScriptedUser user;
-    frmQDW window{user};
 };
 
 TEST_F(DialogsTest, CheckedPicturesMoveToTheTypedFolder)
@@ -183,6 +157,25 @@ TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedAtOnce)
     EXPECT_EQ(cboCardBack.currentIndex(), 0) << "the card kept its back";
 }
 
+TEST_F(DialogsTest, ADefaultBackThatCannotBeShownIsNoWayOut)
+{
+    OpenChangedSet([](CardSet& set) {
+        AddOwnBack(set, Text("Owls"), {});
+        set.CardBacks[28].BuiltIn = true; // there is no such art
+        set.LastCardBack = 28;
+    });
+    user.Boxes.clear();
+    WithDialog("setinfo", [&](QWidget& dialog) {
+        auto& cboCBDefault = In<QComboBox>(dialog, "cboCBDefault");
+        EXPECT_EQ(cboCBDefault.currentText(), Text("Owls"));
+        QWheelEvent turn({2, 2}, cboCBDefault.mapToGlobal(QPointF(2, 2)), {}, {0, 120}, Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&cboCBDefault, &turn);
+        EXPECT_EQ(Set().LastCardBack, 28) << "the wheel turned it unseen";
+    });
+    EXPECT_TRUE(user.Boxes.empty());
+}
+
 TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
 {
     WithDialog("setinfo", [&](QWidget& dialog) {
@@ -198,6 +191,10 @@ TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
         EXPECT_EQ(user.LastBox().Title, Text("Missing information"));
         QTest::keyClick(&txtCTName, Qt::Key_Tab);
         EXPECT_EQ(txtCTNameRev.text(), Text("OMEN-"));
+        txtCTNameRev.clear();
+        txtCTName.setFocus();
+        QTest::keyClick(&txtCTName, Qt::Key_Tab);
+        EXPECT_EQ(txtCTNameRev.text(), Text("OMEN-")) << "also where nothing was typed since";
         QTest::keyClicks(&txtCTNameRev, Text("-OMEN")); // it was selected
         In<QLineEdit>(dialog, "txtCTName2").setText(Text("Dark"));
         In<QLineEdit>(dialog, "txtCTNumber").setText(Text("no number"));
