@@ -232,6 +232,13 @@ void TellNotSaved(UserPort& user, const RunTimeError& error)
                       .Style = BoxStyle::Critical});
 }
 
+QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable)
+{
+    SetWriter out(unwritable);
+    WriteSet(out, set);
+    return std::move(out.Gathered());
+}
+
 bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report)
 {
     try {

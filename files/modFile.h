@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/CardSet.h"
+#include "files/SetWriter.h"
 #include "platform/UserPort.h"
 
 namespace deckforge {
@@ -17,6 +18,9 @@ enum class Report { Silent, Tell };
 /// old set is then the copy, and the file holds what had been written, or no copy was made, and the file is
 /// the old set.
 bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report);
+
+/// The bytes of the file that the set would be written to.
+[[nodiscard]] QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable);
 
 /// Reads a set file into the set and gives whether it is read. What was read before a failure stays in the
 /// set: there is no way back. A refused file (no set, or of a newer version) changes nothing.

@@ -185,9 +185,14 @@ void CopyFileSafely(const QString& from, const QString& to)
         copy.Write(QByteArrayView(chunk).first(size));
     copy.TakeTimesAndPermissions(AttributesOf(from).value());
     copy.CloseOnDisk();
-    if (std::rename(NameForSystem(unfinished).constData(), NameForSystem(to).constData()) != 0)
-        throw FailureOf(errno, to);
+    RenameFile(unfinished, to);
     removeUnfinished.dismiss();
+}
+
+void RenameFile(const QString& from, const QString& to)
+{
+    if (std::rename(NameForSystem(from).constData(), NameForSystem(to).constData()) != 0)
+        throw FailureOf(errno, to);
     SyncFolderOf(to);
 }
 
