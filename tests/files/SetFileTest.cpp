@@ -6,8 +6,6 @@
 #include "support/TestFolder.h"
 
 #include <QFile>
-#include <csignal>
-#include <sys/resource.h>
 
 namespace deckforge {
 
@@ -271,23 +269,6 @@ TEST_F(SetFileTest, OnlyACopyOfAWholeSetIsKeptBeforeAnotherAndOnlyTheProgramsOwn
     Folder.Write(QStringLiteral("new.dkf~"), "notes of somebody");
     EXPECT_TRUE(WriteDKF(Set, Folder.Path(QStringLiteral("new.dkf")), User, Report::Silent));
     EXPECT_TRUE(Folder.Has(QStringLiteral("new.dkf~")));
-}
-
-TEST_F(SetFileTest, AFullDiskIsToldAndTheOldSetStays)
-{
-    const QByteArray old = Written();
-    const QString path = Folder.Path(QStringLiteral("written.dkf"));
-    for (int i = 0; i < 200; ++i)
-        AddElement(Set, StandardKind);
-    rlimit before = {};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small = {static_cast<rlim_t>(old.size() + 1000), before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    EXPECT_FALSE(WriteDKF(Set, path, User, Report::Tell));
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    EXPECT_TRUE(User.LastBox().Text.endsWith(QStringLiteral("61, Disk full")));
-    EXPECT_EQ(Folder.Read(QStringLiteral("written.dkf~")), old);
 }
 
 TEST_F(SetFileTest, ATextOfTwoLinesCannotBreakTheLinesOfTheFile)
