@@ -49,6 +49,19 @@ qsizetype SetWriter::AppendText(const QString& text)
     return start;
 }
 
+/// Ends the line of the text from the start on, if it is one that can be read again.
+void SetWriter::EndText(qsizetype start)
+{
+    QByteArray& gathered = m_lines.Gathered();
+    if (gathered.size() - start > setFile::MostLineBytes) {
+        const bool isMended = m_unwritable == Unwritable::Mend;
+        gathered.truncate(isMended ? start + setFile::MostLineBytes : start);
+        if (!isMended)
+            setFile::RefuseLongLine();
+    }
+    m_lines.EndLine();
+}
+
 void SetWriter::Text(const QString& text)
 {
     const qsizetype start = AppendText(text);
@@ -60,14 +73,14 @@ void SetWriter::Text(const QString& text)
         throw RunTimeError(ErrorNumber::InvalidCall,
                            QStringLiteral("The text \"%1\" holds a line break").arg(text));
     }
-    m_lines.EndLine();
+    EndText(start);
 }
 
 void SetWriter::Flattened(const QString& text)
 {
     const qsizetype start = AppendText(text);
     FlattenFrom(m_lines.Gathered(), start, setFile::FlattenedBreak);
-    m_lines.EndLine();
+    EndText(start);
 }
 
 void SetWriter::Boolean(bool value)

@@ -26,10 +26,6 @@ bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report re
 /// set: there is no way back. A refused file (no set, or of a newer version) changes nothing.
 [[nodiscard]] bool ReadDKF(CardSet& set, const QString& path, UserPort& user);
 
-/// The row of CardTypes that the type texts of a card from an old file belong to, or 0. The first row whose
-/// Name and SubName both occur in the texts wins, so "EVENT" comes before "EVENT-Law".
-[[nodiscard]] int16 FindCardType(const CardSet& set, const QString& typeText, const QString& reversedText);
-
 enum class SaveResult { Saved, Cancelled, Failed };
 
 /// Asks where to, and writes the set there; always asks.

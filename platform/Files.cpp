@@ -58,7 +58,8 @@ QByteArray NameForSystem(const QString& path)
 int OpenHandle(const QString& path, int flags)
 {
     constexpr mode_t newFileMode = 0666;
-    const int handle = ::open(NameForSystem(path).constData(), flags | O_CLOEXEC | O_NONBLOCK, newFileMode);
+    const int handle =
+        ::open(NameForSystem(path).constData(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, newFileMode);
     if (handle < 0)
         throw FailureOf(errno, path);
     return handle;
