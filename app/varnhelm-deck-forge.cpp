@@ -1,5 +1,8 @@
 #include "dialogs/QtUser.h"
 #include "editor/frmQDW.h"
+#include "files/Rescue.h"
+#include "platform/LastAct.h"
+#include "platform/Paths.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -30,6 +33,9 @@ int main(int argc, char* argv[])
     deckforge::frmQDW window(user);
     user.Serve(&window, [&](int done, int total) { window.ShowProgress(done, total); });
     window.show();
+    const deckforge::LastAct lastAct([&window, folder = deckforge::ProgramFolder()] {
+        deckforge::RescueAtTheEnd(window.Works().Set, folder, deckforge::Report::Tell);
+    });
     // In the event loop, so that what the reader tells stands over the window.
     const QString commandLine = QApplication::arguments().sliced(1).join(QLatin1Char(' '));
     QTimer::singleShot(0, &window, [&] { window.Start(commandLine); });

@@ -50,6 +50,15 @@ void PlacePiece(PlayingPieceTemplate& t, const Character& character)
     t.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft, character.PlayingPieceTop);
 }
 
+/// A back that the list has not is the first.
+Picture BackOf(Workshop& workshop, const Character& character)
+{
+    if (character.CardBack == UserDefinedCharacterBack)
+        return workshop.Pictures.LoadPicture(character.CardBackPicture);
+    const bool isListed = character.CardBack >= 0 && character.CardBack < UserDefinedCharacterBack;
+    return workshop.Art.imgChB(isListed ? character.CardBack : 0);
+}
+
 void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
 {
     CardTemplate& standard = workshop.Templates.Standard;
@@ -64,11 +73,7 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
         t.picBackgroundChar.Surface->SetPicture(workshop.Pictures.LoadPicture(character.Background));
     });
     t.picBackgroundChar.Surface->Refresh();
-    run([&] {
-        t.picCharacterBack.Surface->SetPicture(character.CardBack == UserDefinedCharacterBack
-                                                   ? workshop.Pictures.LoadPicture(character.CardBackPicture)
-                                                   : workshop.Art.imgChB(character.CardBack));
-    });
+    run([&] { t.picCharacterBack.Surface->SetPicture(BackOf(workshop, character)); });
     PlayingPieceTemplate& piece = workshop.Templates.PlayingPiece;
     LoadFramedPicture(run, workshop, piece.picPlayingPieceImage, character.PlayingPiece);
     PlacePiece(piece, character);

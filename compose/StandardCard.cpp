@@ -93,7 +93,7 @@ void LoadBackground(ShowRun& run, Workshop& workshop, const Card& card)
 void LoadBack(ShowRun& run, Workshop& workshop, Card& card)
 {
     CardSet& set = workshop.Set;
-    if (card.CardBack > set.CardBackCount)
+    if (card.CardBack < 0 || card.CardBack > set.CardBackCount)
         card.CardBack = 1;
     const CardBack& back = set.CardBacks[card.CardBack];
     Box& picBack = workshop.Templates.Standard.picBack;

@@ -291,6 +291,7 @@ void frmQDW::resizeEvent(QResizeEvent* event)
 void frmQDW::InitForm()
 {
     deckforge::InitForm(m_workshop);
+    m_kept.Keep(m_workshop.Set);
     FillCardTypeList();
     FillCardBackList();
     m_card->hsbCard->setRange(1, 1);

@@ -3,6 +3,7 @@
 #include "compose/PicturePlacement.h"
 #include "core/CardListRows.h"
 #include "core/modInfo.h"
+#include "files/Rescue.h"
 #include "output/frmCardSheet.h"
 #include "output/modCapture.h"
 
@@ -150,6 +151,7 @@ private:
     void OpenDropped(const QString& path);
     [[nodiscard]] bool TakesDrop(const QDropEvent& event) const;
     Answer AskToSave(BoxButtons buttons);
+    SaveResult AskWhereAndSave();
 
     // Cards of the set (frmQDW_Cards.cpp)
     template <class Record>
@@ -317,6 +319,7 @@ private:
     void TellFailure(const RunTimeError& error);
 
     Workshop m_workshop;
+    KeptSet m_kept;
     bool m_loading = false;
     bool m_isBusy = false; ///< with a long run, from its first step to its last
     QMap<const QAbstractButton*, QString> m_pictureFolders; ///< where each button's file was chosen last

@@ -2,6 +2,7 @@
 #include "dialogs/CardPreview.h"
 #include "editor/frmQDW.h"
 #include "files/modFile.h"
+#include "platform/Paths.h"
 #include "ui_fraCard.h"
 #include "ui_fraCharacter.h"
 #include "ui_fraLargeCard.h"
@@ -52,8 +53,10 @@ bool IsPictureFile(const QString& path)
 
 void frmQDW::Exit()
 {
-    if (AskToSave(BoxButtons::YesNoCancel) != Answer::Cancel)
-        close();
+    if (AskToSave(BoxButtons::YesNoCancel) == Answer::Cancel)
+        return;
+    m_kept.Keep(m_workshop.Set); // the user has decided about it
+    close();
 }
 
 /// A question that is put aside makes no new set.
@@ -71,7 +74,15 @@ void frmQDW::OpenSet()
 
 void frmQDW::SaveSet()
 {
-    deckforge::SaveSet(m_workshop.Set, m_workshop.User);
+    AskWhereAndSave();
+}
+
+SaveResult frmQDW::AskWhereAndSave()
+{
+    const SaveResult result = deckforge::SaveSet(m_workshop.Set, m_workshop.User);
+    if (result == SaveResult::Saved)
+        m_kept.Keep(m_workshop.Set);
+    return result;
 }
 
 /// Nobody keeps account of changes: the question comes every time. A save that is cancelled keeps nothing
@@ -82,7 +93,7 @@ Answer frmQDW::AskToSave(BoxButtons buttons)
                                                        .Title = QStringLiteral("Save..."),
                                                        .Style = BoxStyle::Question,
                                                        .Buttons = buttons});
-    if (answer == Answer::Yes && deckforge::SaveSet(m_workshop.Set, m_workshop.User) == SaveResult::Failed)
+    if (answer == Answer::Yes && AskWhereAndSave() == SaveResult::Failed)
         return Answer::Cancel;
     return answer;
 }
@@ -92,6 +103,7 @@ void frmQDW::DoOpenDKF(const QString& path)
     CardSet& set = m_workshop.Set;
     if (!ReadDKF(set, path, m_workshop.User))
         return;
+    m_kept.Keep(set);
     {
         const QSignalBlocker quiet(tbCard); // the cards of the set before are gone
         tbCard->setCurrentIndex(0);
@@ -143,10 +155,15 @@ void frmQDW::dropEvent(QDropEvent* event)
     Guarded([&] { DropOn(m_preview->BoxAt(m_preview->mapFrom(this, event->position())), path); });
 }
 
-/// A run goes on to its end: it would come back to a window that is gone.
+/// A run goes on to its end: it would come back to a window that is gone. The close box asks nothing, so that
+/// what it would lose is rescued.
 void frmQDW::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(!m_isBusy);
+    if (m_isBusy || !m_kept.Differs(m_workshop.Set))
+        return;
+    RescueAtTheEnd(m_workshop.Set, ProgramFolder(), Report::Silent);
+    m_kept.Keep(m_workshop.Set);
 }
 
 void frmQDW::OpenDropped(const QString& path)

@@ -1,6 +1,7 @@
 #include "core/Vocabulary.h"
 #include "files/SetFileFormat.h"
 #include "files/SetReader.h"
+#include "files/TypeFinder.h"
 #include "files/modFile.h"
 #include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
@@ -78,17 +79,17 @@ void TakeTypeTexts(Card& card, const CardType& type)
 }
 
 /// Before version 6 a type was one text. Its parts come from the table, by the card's row or by the text.
-void ConvertType(const CardSet& set, Card& card)
+void ConvertType(const CardSet& set, TypeFinder& types, Card& card)
 {
     if (card.TypeIndex >= 1 && card.TypeIndex <= BuiltInTypeCount) {
         TakeTypeTexts(card, set.CardTypes[card.TypeIndex]);
     } else if (card.TypeIndex == 0) {
-        if (const int16 row = FindCardType(set, card.Type, card.TypeReversed))
+        if (const int16 row = types.FindCardType(card.Type, card.TypeReversed))
             TakeTypeTexts(card, set.CardTypes[row]);
     }
 }
 
-void ReadCard(SetReader& in, int16 version, const CardSet& set, Card& card)
+void ReadCard(SetReader& in, int16 version, Card& card)
 {
     card.Title = in.Text();
     card.Copies = version >= 3 ? in.Int16() : int16{1};
@@ -98,8 +99,6 @@ void ReadCard(SetReader& in, int16 version, const CardSet& set, Card& card)
     card.SubTypeReversed = version >= 6 ? in.Text() : QString();
     card.OneLine = version >= 2 ? in.Boolean() : false;
     card.TypeIndex = in.Int16();
-    if (version < 6)
-        ConvertType(set, card);
     card.Number = in.Text();
     card.ShowPicture = in.Boolean();
     card.Picture = in.Text();
@@ -196,8 +195,14 @@ void ReadCards(SetReader& in, int16 version, CardSet& set)
 {
     set.CardCount = in.Int16();
     set.Cards.Resize(set.CardCount);
-    for (int i = 1; i <= set.CardCount; ++i)
-        ReadCard(in, version, set, set.Cards[i]);
+    std::optional<TypeFinder> types;
+    if (version < 6)
+        types.emplace(set);
+    for (int i = 1; i <= set.CardCount; ++i) {
+        ReadCard(in, version, set.Cards[i]);
+        if (types)
+            ConvertType(set, *types, set.Cards[i]);
+    }
 }
 
 void ReadClosingLines(SetReader& in, int16 version, CardSet& set)
@@ -272,17 +277,6 @@ bool ReadFile(CardSet& set, const QString& path, UserPort& user)
 }
 
 } // namespace
-
-int16 FindCardType(const CardSet& set, const QString& typeText, const QString& reversedText)
-{
-    const QString searched = typeText.trimmed() + QLatin1Char(' ') + reversedText.trimmed();
-    for (int row = 1; row <= set.CardTypeCount; ++row) {
-        const CardType& type = set.CardTypes[row];
-        if (searched.contains(type.Name) && searched.contains(type.SubName))
-            return static_cast<int16>(row);
-    }
-    return 0;
-}
 
 bool ReadDKF(CardSet& set, const QString& path, UserPort& user)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Records.h"
+#include "platform/RunTimeError.h"
 
 #include <QByteArrayView>
 #include <array>
@@ -16,6 +17,17 @@ inline constexpr int16 CurrentVersion = 10;
 
 inline constexpr char LineEnd[] = "\r\n";   ///< of a line of the file, and in a text of several lines ...
 inline constexpr char FlattenedBreak = '|'; ///< ... which is this where such a text stands on one line
+
+// What a set file may hold. The largest set, 32,767 of each kind with pages of text on each card, is far
+// below it; files from strangers are not, and no control can show a text of megabytes.
+inline constexpr qint64 MostBytes = qint64(1) << 30;
+inline constexpr qsizetype MostLineBytes = qsizetype(1) << 20; ///< without its end
+
+[[noreturn]] inline void RefuseLongLine()
+{
+    throw RunTimeError(ErrorNumber::Overflow,
+                       QStringLiteral("A line of a set file has %1 characters at most").arg(MostLineBytes));
+}
 
 /// Where the first line end of the bytes is; -1 where there is none.
 [[nodiscard]] inline qsizetype FindLineEnd(QByteArrayView bytes)

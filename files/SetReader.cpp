@@ -8,14 +8,7 @@
 
 namespace deckforge {
 
-namespace {
-
-/// The largest set, 32,767 of each kind with pages of text on each card, is far below this.
-constexpr qint64 MostBytes = qint64(1) << 30;
-
-} // namespace
-
-SetReader::SetReader(const QString& path) : m_bytes(ReadWholeFile(path, MostBytes)) {}
+SetReader::SetReader(const QString& path) : m_bytes(ReadWholeFile(path, setFile::MostBytes)) {}
 
 QByteArrayView SetReader::Line()
 {
@@ -23,12 +16,11 @@ QByteArrayView SetReader::Line()
         throw RunTimeError(ErrorNumber::InputPastEnd);
     const QByteArrayView rest = QByteArrayView(m_bytes).sliced(m_at);
     const qsizetype end = setFile::FindLineEnd(rest);
-    if (end < 0) {
-        m_at = m_bytes.size();
-        return rest;
-    }
-    m_at += end + 2;
-    return rest.first(end);
+    const QByteArrayView line = end < 0 ? rest : rest.first(end);
+    if (line.size() > setFile::MostLineBytes)
+        setFile::RefuseLongLine();
+    m_at += end < 0 ? rest.size() : end + 2;
+    return line;
 }
 
 QString SetReader::Text()
@@ -39,7 +31,19 @@ QString SetReader::Text()
 
 QString SetReader::Flattened()
 {
-    return Text().replace(QLatin1Char(setFile::FlattenedBreak), QLatin1String(setFile::LineEnd));
+    const QByteArrayView line = Line();
+    const qsizetype breaks = line.count(setFile::FlattenedBreak);
+    if (breaks == 0)
+        return line.isEmpty() ? QString() : FromCodePage(line);
+    QByteArray lines;
+    lines.reserve(line.size() + breaks);
+    for (const char c : line) {
+        if (c == setFile::FlattenedBreak)
+            lines.append(setFile::LineEnd);
+        else
+            lines.append(c);
+    }
+    return FromCodePage(lines);
 }
 
 bool SetReader::Boolean()

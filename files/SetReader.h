@@ -10,8 +10,8 @@ namespace deckforge {
 /// Reads the lines of a set file, each by the type of its field. A line ends at CR LF; the last one may lack
 /// it.
 ///
-/// Every call takes one line: error 62 behind the last, 13 where a number or a boolean word was due and the
-/// line holds none, 6 where the number does not fit the field.
+/// Every call takes one line: error 62 behind the last, 6 for one that is too long, 13 where a number or a
+/// boolean word was due and the line holds none, 6 where the number does not fit the field.
 class SetReader {
 public:
     explicit SetReader(const QString& path);

@@ -11,9 +11,9 @@ namespace deckforge {
 
 namespace {
 
-/// Makes every line break from the start on one "|". In one pass: what stands behind a break moves down over
-/// it.
-void FlattenFrom(QByteArray& bytes, qsizetype start)
+/// Makes every line break from the start on one other character. In one pass: what stands behind a break
+/// moves down over it.
+void FlattenFrom(QByteArray& bytes, qsizetype start, char flattened)
 {
     qsizetype write = start;
     for (qsizetype read = start; read < bytes.size();) {
@@ -25,7 +25,7 @@ void FlattenFrom(QByteArray& bytes, qsizetype start)
         write += length;
         read += length;
         if (lineEnd >= 0) {
-            bytes[write++] = setFile::FlattenedBreak;
+            bytes[write++] = flattened;
             read += sizeof(setFile::LineEnd) - 1;
         }
     }
@@ -40,26 +40,47 @@ void SetWriter::Literal(const char* text)
     m_lines.EndLine();
 }
 
-void SetWriter::Text(const QString& text)
+/// Gives where the text stands in the gathered bytes.
+qsizetype SetWriter::AppendText(const QString& text)
+{
+    const qsizetype start = m_lines.Gathered().size();
+    AppendInCodePage(m_lines.Gathered(), text,
+                     m_unwritable == Unwritable::Mend ? Lacking::QuestionMark : Lacking::Refuse);
+    return start;
+}
+
+/// Ends the line of the text from the start on, if it is one that can be read again.
+void SetWriter::EndText(qsizetype start)
 {
     QByteArray& gathered = m_lines.Gathered();
-    const qsizetype start = gathered.size();
-    AppendInCodePage(gathered, text);
-    if (setFile::FindLineEnd(QByteArrayView(gathered).sliced(start)) >= 0) {
-        gathered.truncate(start);
-        throw RunTimeError(ErrorNumber::InvalidCall,
-                           QStringLiteral("The text \"%1\" holds a line break").arg(text));
+    if (gathered.size() - start > setFile::MostLineBytes) {
+        const bool isMended = m_unwritable == Unwritable::Mend;
+        gathered.truncate(isMended ? start + setFile::MostLineBytes : start);
+        if (!isMended)
+            setFile::RefuseLongLine();
     }
     m_lines.EndLine();
 }
 
+void SetWriter::Text(const QString& text)
+{
+    const qsizetype start = AppendText(text);
+    QByteArray& gathered = m_lines.Gathered();
+    if (m_unwritable == Unwritable::Mend) {
+        FlattenFrom(gathered, start, ' ');
+    } else if (setFile::FindLineEnd(QByteArrayView(gathered).sliced(start)) >= 0) {
+        gathered.truncate(start);
+        throw RunTimeError(ErrorNumber::InvalidCall,
+                           QStringLiteral("The text \"%1\" holds a line break").arg(text));
+    }
+    EndText(start);
+}
+
 void SetWriter::Flattened(const QString& text)
 {
-    QByteArray& gathered = m_lines.Gathered();
-    const qsizetype start = gathered.size();
-    AppendInCodePage(gathered, text);
-    FlattenFrom(gathered, start);
-    m_lines.EndLine();
+    const qsizetype start = AppendText(text);
+    FlattenFrom(m_lines.Gathered(), start, setFile::FlattenedBreak);
+    EndText(start);
 }
 
 void SetWriter::Boolean(bool value)

@@ -180,8 +180,7 @@ QString SafeCopyOf(const QString& path)
 /// Whether the file is a set with its end, and not what a failed write left.
 bool IsWholeSet(const QString& path)
 {
-    constexpr qint64 mostBytes = qint64(1) << 30;
-    QByteArray bytes = ReadWholeFile(path, mostBytes);
+    QByteArray bytes = ReadWholeFile(path, setFile::MostBytes);
     if (bytes.endsWith(setFile::LineEnd))
         bytes.chop(sizeof(setFile::LineEnd) - 1);
     return bytes.startsWith(setFile::Signature) &&
@@ -230,6 +229,13 @@ void TellNotSaved(UserPort& user, const RunTimeError& error)
                               error.NumberAndDescription(),
                       .Title = QStringLiteral("Error"),
                       .Style = BoxStyle::Critical});
+}
+
+QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable)
+{
+    SetWriter out(unwritable);
+    WriteSet(out, set);
+    return std::move(out.Gathered());
 }
 
 bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report)

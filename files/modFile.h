@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/CardSet.h"
+#include "files/SetWriter.h"
 #include "platform/UserPort.h"
 
 namespace deckforge {
@@ -18,13 +19,12 @@ enum class Report { Silent, Tell };
 /// the old set.
 bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report);
 
+/// The bytes of the file that the set would be written to.
+[[nodiscard]] QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable);
+
 /// Reads a set file into the set and gives whether it is read. What was read before a failure stays in the
 /// set: there is no way back. A refused file (no set, or of a newer version) changes nothing.
 [[nodiscard]] bool ReadDKF(CardSet& set, const QString& path, UserPort& user);
-
-/// The row of CardTypes that the type texts of a card from an old file belong to, or 0. The first row whose
-/// Name and SubName both occur in the texts wins, so "EVENT" comes before "EVENT-Law".
-[[nodiscard]] int16 FindCardType(const CardSet& set, const QString& typeText, const QString& reversedText);
 
 enum class SaveResult { Saved, Cancelled, Failed };
 

@@ -56,7 +56,7 @@ QString FromCodePage(QByteArrayView bytes)
     return text;
 }
 
-void AppendInCodePage(QByteArray& bytes, QStringView text)
+void AppendInCodePage(QByteArray& bytes, QStringView text, Lacking lacking)
 {
     const qsizetype before = bytes.size();
     bytes.resize(before + text.size());
@@ -73,11 +73,14 @@ void AppendInCodePage(QByteArray& bytes, QStringView text)
         if (c <= LastPlain && !IsSpecialByte(c))
             continue;
         const auto special = std::find(Specials.begin(), Specials.end(), c);
-        if (special == Specials.end()) {
+        if (special != Specials.end()) {
+            out[i] = static_cast<char>(FirstSpecial + (special - Specials.begin()));
+        } else if (lacking == Lacking::QuestionMark) {
+            out[i] = '?';
+        } else {
             bytes.truncate(before);
             RefuseCharacter(text, i);
         }
-        out[i] = static_cast<char>(FirstSpecial + (special - Specials.begin()));
     }
 }
 

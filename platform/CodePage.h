@@ -12,8 +12,11 @@ namespace deckforge {
 /// Never fails.
 [[nodiscard]] QString FromCodePage(QByteArrayView bytes);
 
-/// Appends the text to the bytes. A character that the code page lacks is error 5 with a description that
-/// names it; the bytes then hold what stood before the text.
-void AppendInCodePage(QByteArray& bytes, QStringView text);
+/// What becomes of a character that the code page lacks.
+enum class Lacking { Refuse, QuestionMark };
+
+/// Appends the text to the bytes. A character that is refused is error 5 with a description that names it;
+/// the bytes then hold what stood before the text.
+void AppendInCodePage(QByteArray& bytes, QStringView text, Lacking lacking = Lacking::Refuse);
 
 } // namespace deckforge

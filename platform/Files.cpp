@@ -58,7 +58,8 @@ QByteArray NameForSystem(const QString& path)
 int OpenHandle(const QString& path, int flags)
 {
     constexpr mode_t newFileMode = 0666;
-    const int handle = ::open(NameForSystem(path).constData(), flags | O_CLOEXEC | O_NONBLOCK, newFileMode);
+    const int handle =
+        ::open(NameForSystem(path).constData(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, newFileMode);
     if (handle < 0)
         throw FailureOf(errno, path);
     return handle;
@@ -185,9 +186,14 @@ void CopyFileSafely(const QString& from, const QString& to)
         copy.Write(QByteArrayView(chunk).first(size));
     copy.TakeTimesAndPermissions(AttributesOf(from).value());
     copy.CloseOnDisk();
-    if (std::rename(NameForSystem(unfinished).constData(), NameForSystem(to).constData()) != 0)
-        throw FailureOf(errno, to);
+    RenameFile(unfinished, to);
     removeUnfinished.dismiss();
+}
+
+void RenameFile(const QString& from, const QString& to)
+{
+    if (std::rename(NameForSystem(from).constData(), NameForSystem(to).constData()) != 0)
+        throw FailureOf(errno, to);
     SyncFolderOf(to);
 }
 

@@ -56,6 +56,10 @@ void CopyFileSafely(const QString& from, const QString& to);
 /// Whether there is a regular file at the path, links followed.
 [[nodiscard]] bool IsRegularFile(const QString& path);
 
+/// Gives a file another name in its folder or disk; what has that name goes. It has one of the two names at
+/// any moment, and the new one on the disk before this returns.
+void RenameFile(const QString& from, const QString& to);
+
 /// Takes a file away; no failure when it is not there.
 void RemoveFile(const QString& path);
 

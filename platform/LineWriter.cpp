@@ -14,8 +14,9 @@ constexpr qsizetype RoomForOneLine = 1 << 12;
 
 } // namespace
 
-LineWriter::LineWriter(const QString& path) : m_file(path)
+LineWriter::LineWriter(const QString& path)
 {
+    m_file.emplace(path);
     m_gathered.reserve(PieceBytes + RoomForOneLine);
 }
 
@@ -44,20 +45,22 @@ void LineWriter::EndLine()
 void LineWriter::Close()
 {
     Flush();
-    m_file.Close();
+    m_file->Close();
 }
 
 void LineWriter::CloseOnDisk()
 {
     Flush();
-    m_file.CloseOnDisk();
+    m_file->CloseOnDisk();
 }
 
 void LineWriter::Flush()
 {
+    if (!m_file)
+        return;
     // Also when it fails: what was written in part must not be written again.
     const auto clear = qScopeGuard([this] { m_gathered.resize(0); });
-    m_file.Write(m_gathered);
+    m_file->Write(m_gathered);
 }
 
 } // namespace deckforge

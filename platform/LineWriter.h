@@ -14,6 +14,8 @@ namespace deckforge {
 class LineWriter {
 public:
     explicit LineWriter(const QString& path);
+    /// Without a file: all lines stay with the gathered bytes.
+    LineWriter() = default;
     /// What was gathered goes to the file even when a line failed, as far as the disk takes it.
     ~LineWriter();
     LineWriter(const LineWriter&) = delete;
@@ -32,7 +34,7 @@ public:
 private:
     void Flush();
 
-    OutputFile m_file;
+    std::optional<OutputFile> m_file;
     QByteArray m_gathered;
 };
 

@@ -112,9 +112,12 @@ TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreToldOnTheStandardCard)
     EXPECT_EQ(RowsOf(Shop.Templates.Large.picBackLarge.Surface->GetPicture()), PixelRows{"rr"});
     EXPECT_TRUE(User.Boxes.empty());
 
-    Hero().CardBack = 7;
-    EXPECT_FALSE(ShowCharacter(Shop, 1));
-    EXPECT_TRUE(User.LastBox().Text.endsWith(QStringLiteral("9, Subscript out of range")));
+    for (const int16 unlisted : {int16{7}, int16{-1}}) {
+        Hero().CardBack = unlisted;
+        EXPECT_TRUE(ShowCharacter(Shop, 1));
+        EXPECT_EQ(RowsOf(Shop.Templates.Character.picCharacterBack.Surface->GetPicture()),
+                  RowsOf(Shop.Art.imgChB(0)));
+    }
 }
 
 TEST_F(OtherKindsTest, ACharactersPictureLiesOnThePanel)

@@ -1,0 +1,84 @@
+#include "files/TypeFinder.h"
+
+#include <algorithm>
+
+namespace deckforge {
+
+namespace {
+
+constexpr qsizetype MostSearched = 300;
+
+/// How many characters at the start of both are the same.
+qsizetype CommonStart(QStringView a, QStringView b)
+{
+    const auto [inA, inB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
+    return inA - a.begin();
+}
+
+} // namespace
+
+TypeFinder::TypeFinder(const CardSet& set)
+{
+    std::vector<QStringView> texts;
+    for (int row = 1; row <= set.CardTypeCount; ++row) {
+        texts.push_back(set.CardTypes[row].Name);
+        texts.push_back(set.CardTypes[row].SubName);
+    }
+    std::sort(texts.begin(), texts.end());
+    texts.erase(std::unique(texts.begin(), texts.end()), texts.end());
+    for (const QStringView text : texts)
+        m_texts.push_back({.Text = text, .LongestStart = None, .MetBy = 0});
+    LinkStarts();
+    for (int row = 1; row <= set.CardTypeCount; ++row) {
+        const CardType& type = set.CardTypes[row];
+        m_rows.push_back({PlaceOf(type.Name), PlaceOf(type.SubName)});
+    }
+}
+
+/// In order, what a text starts with stands before it: it is the text before, or one that this starts with.
+void TypeFinder::LinkStarts()
+{
+    for (int i = 0; i < static_cast<int>(m_texts.size()); ++i) {
+        int start = i - 1;
+        while (start != None && !m_texts[i].Text.startsWith(m_texts[start].Text))
+            start = m_texts[start].LongestStart;
+        m_texts[i].LongestStart = start;
+    }
+}
+
+int TypeFinder::PlaceOf(QStringView text) const
+{
+    const auto place = std::lower_bound(m_texts.begin(), m_texts.end(), text,
+                                        [](const Known& known, QStringView t) { return known.Text < t; });
+    return static_cast<int>(place - m_texts.begin());
+}
+
+void TypeFinder::MeetStartsOf(QStringView text)
+{
+    const auto behind = std::upper_bound(m_texts.begin(), m_texts.end(), text,
+                                         [](QStringView t, const Known& known) { return t < known.Text; });
+    if (behind == m_texts.begin())
+        return;
+    int place = static_cast<int>(behind - m_texts.begin()) - 1;
+    const qsizetype common = CommonStart(text, m_texts[place].Text);
+    for (; place != None && m_texts[place].MetBy != m_search; place = m_texts[place].LongestStart) {
+        if (m_texts[place].Text.size() <= common)
+            m_texts[place].MetBy = m_search;
+    }
+}
+
+int16 TypeFinder::FindCardType(const QString& typeText, const QString& reversedText)
+{
+    const QString searched = typeText.trimmed() + QLatin1Char(' ') + reversedText.trimmed();
+    if (searched.size() > MostSearched)
+        return 0;
+    ++m_search;
+    for (qsizetype at = 0; at < searched.size(); ++at)
+        MeetStartsOf(QStringView(searched).sliced(at));
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(), [this](const Row& r) {
+        return m_texts[r.Name].MetBy == m_search && m_texts[r.SubName].MetBy == m_search;
+    });
+    return row == m_rows.end() ? int16{0} : static_cast<int16>(row - m_rows.begin() + 1);
+}
+
+} // namespace deckforge

@@ -1,0 +1,191 @@
+#include "editor/WindowTest.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QtEndian>
+#include <array>
+#include <limits>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace deckforge {
+
+namespace {
+
+enum class Failure { None, Told };
+
+/// Sets from strangers: each has two elements of every kind, of which the first is changed.
+class HostileSetTest : public WindowTest {
+protected:
+    /// Opens the set, looks at everything in it, steps, and makes all images and sheets.
+    void Try(const char* what, const std::function<void(CardSet&)>& change, Failure mayFail = Failure::None)
+    {
+        SCOPED_TRACE(what);
+        QElapsedTimer timer;
+        timer.start();
+        OpenChangedSet([&](CardSet& set) {
+            set = {};
+            InitSet(set);
+            for (int i = 0; i < 2; ++i) {
+                AddElement(set, StandardKind);
+                AddElement(set, LargeKind);
+                AddElement(set, CharacterKind);
+                AddElement(set, NewBackKind);
+            }
+            set.Header.SaveTo = folder.WithSeparator();
+            change(set);
+        });
+        ASSERT_FALSE(user.Boxes.empty());
+        ASSERT_EQ(user.Boxes.front().Text, QStringLiteral("The card set is loaded."));
+        EXPECT_TRUE(user.Boxes.size() == 1 || mayFail == Failure::Told) << user.LastBox().Text.toStdString();
+        for (int tab = 1; tab <= 4; ++tab) {
+            SelectTab(tab);
+            View().grab();
+            Run("createall");
+        }
+        SelectTab(1);
+        Find<QScrollBar>("hsbCard").setValue(2);
+        window.close();
+        EXPECT_LT(timer.elapsed(), MostMilliseconds);
+        // Without a back there are those of the two other cards all the same.
+        EXPECT_TRUE(folder.Has(QStringLiteral("CARD 2.bmp")));
+        QFile::remove(folder.Path(QStringLiteral("CARD 2.bmp")));
+        user.Boxes.clear();
+    }
+
+    static constexpr qint64 MostMilliseconds = 15000; ///< under a sanitizer; a second at most without
+};
+
+/// A field of that type in each kind that has it.
+template <class Value>
+void SetEverywhere(CardSet& set, Value Card::*card, Value LargeCard::*large, Value Character::*character,
+                   const Value& value)
+{
+    set.Cards[1].*card = value;
+    set.LargeCards[1].*large = value;
+    set.Characters[1].*character = value;
+}
+
+void SetFonts(CardSet& set, const FontSpec& font)
+{
+    for (FontSpec SetHeader::*of :
+         {&SetHeader::FontTitle, &SetHeader::FontType, &SetHeader::FontNumber, &SetHeader::FontBold,
+          &SetHeader::FontInformation, &SetHeader::FontAutonumber, &SetHeader::FontTitleLarge,
+          &SetHeader::FontInformationLarge, &SetHeader::FontCharacter, &SetHeader::FontSpecialTitle,
+          &SetHeader::FontSpecial, &SetHeader::FontAlignment, &SetHeader::FontPlayingPiece})
+        set.Header.*of = font;
+    set.NewCardBacks[1].Font = font;
+}
+
+} // namespace
+
+TEST_F(HostileSetTest, NumbersOutsideTheirTablesAreShown)
+{
+    for (const int16 number : std::array<int16, 6>{-32768, -5, -1, 0, 28, 32767}) {
+        Try("indices", [&](CardSet& set) {
+            set.Cards[1].CardBack = number;
+            set.Cards[1].TypeIndex = number;
+            set.Characters[1].CardBack = number;
+            set.LastCardBack = number;
+        });
+        Try("extents", [&](CardSet& set) {
+            SetEverywhere<int16>(set, &Card::FrameHeight, &LargeCard::FrameHeight, &Character::FrameHeight,
+                                 number);
+        });
+        Try("colours", [&](CardSet& set) {
+            const Colour colour = number * 65536;
+            set.Cards[1].Color = set.LargeCards[1].Color = set.Header.ArtistColor = colour;
+            set.NewCardBacks[1].BackColor = set.NewCardBacks[1].InnerColor = set.NewCardBacks[1].FrameColor =
+                colour;
+            SetFonts(set, SmallFont(7, false, colour));
+        });
+        Try("the numbers of the set", [&](CardSet& set) {
+            set.LastNumber = number;
+            set.Cards[1].Copies = number;
+        });
+    }
+    for (const double offset :
+         {1e300, -1e300, 32768.0 * 15, 0.5, std::numeric_limits<double>::denorm_min()}) {
+        Try("offsets", [&](CardSet& set) {
+            const QString picture = PictureFile("a.bmp");
+            SetEverywhere(set, &Card::Picture, &LargeCard::Picture, &Character::Picture, picture);
+            SetEverywhere(set, &Card::PictureLeft, &LargeCard::PictureLeft, &Character::PictureLeft, offset);
+            SetEverywhere(set, &Card::PictureTop, &LargeCard::PictureTop, &Character::PictureTop, -offset);
+            set.Characters[1].PlayingPiece = picture;
+            set.Characters[1].PlayingPieceLeft = set.Characters[1].PlayingPieceTop = offset;
+            set.Cards[1].Resize = set.LargeCards[1].Resize = true;
+        });
+    }
+}
+
+TEST_F(HostileSetTest, FontsThatThereAreNotAreShown)
+{
+    for (const double size : {0.0, -7.0, 0.01, 2160.0, 10000.0, 1e300})
+        Try("a size", [&](CardSet& set) { SetFonts(set, SmallFont(size)); });
+    for (const QString& name : {QString(), QString(60000, QLatin1Char('x')), QStringLiteral("\x01,\x02")})
+        Try("a name", [&](CardSet& set) { SetFonts(set, {.Name = name, .Size = 7}); });
+}
+
+TEST_F(HostileSetTest, TextsThatNoCardHasRoomForAreShown)
+{
+    for (const QString& text :
+         {QString(1 << 16, QLatin1Char('x')), QString(1 << 12, QChar(u'\0')),
+          QStringLiteral("|\r|\n ").repeated(2000), QString(20000, QLatin1Char('/')),
+          QStringLiteral("<b>&amp;%1%n</b>").repeated(1000), QString(QChar(0x9D)) + QLatin1Char('\t')}) {
+        Try("a text", [&](CardSet& set) {
+            Card& card = set.Cards[1];
+            card.Title = card.Type = card.SubType = card.Number = card.Artist = card.BoldText = card.Info =
+                text;
+            set.LargeCards[1].Title = set.LargeCards[1].Info = text;
+            Character& character = set.Characters[1];
+            character.Name = character.SpecialAbilities = character.Alignment = character.Strength =
+                character.StartArea = text;
+            set.NewCardBacks[1].BackText = text.left(1 << 15);
+            set.Header.SetName = text;
+        });
+    }
+}
+
+TEST_F(HostileSetTest, PicturesThatAreNoneAreToldInEveryField)
+{
+    const QString fifo = folder.Path(QStringLiteral("fifo.bmp"));
+    ASSERT_EQ(::mkfifo(fifo.toUtf8().constData(), 0600), 0);
+    const QString circle = folder.Path(QStringLiteral("circle.bmp"));
+    ASSERT_EQ(::symlink(circle.toUtf8().constData(), circle.toUtf8().constData()), 0);
+    QDir(folder.Path()).mkdir(QStringLiteral("folder.bmp"));
+    QFile whole(PictureFile("whole.bmp", {100, 80}));
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    const QByteArray bytes = whole.readAll();
+    QByteArray huge = bytes;
+    qToLittleEndian<qint32>(30000, huge.data() + 18);
+    qToLittleEndian<qint32>(30000, huge.data() + 22);
+
+    for (const QString& picture :
+         {fifo, circle, folder.Path(QStringLiteral("folder.bmp")), QStringLiteral("/dev/zero"),
+          QStringLiteral("/dev/tty"), QStringLiteral("/proc/self/mem"), QStringLiteral("none/none.bmp"),
+          QString(5000, QLatin1Char('x')), QString(QChar(u'\0')),
+          folder.Write(QStringLiteral("half.bmp"), bytes.first(bytes.size() / 2)),
+          folder.Write(QStringLiteral("huge.bmp"), huge)}) {
+        Try(
+            qPrintable(picture.left(100)),
+            [&](CardSet& set) {
+                SetEverywhere(set, &Card::Picture, &LargeCard::Picture, &Character::Picture, picture);
+                SetEverywhere(set, &Card::Background, &LargeCard::Background, &Character::Background,
+                              picture);
+                set.LargeCards[1].CardBack = picture;
+                set.Characters[1].CardBack = 3;
+                set.Characters[1].CardBackPicture = set.Characters[1].PlayingPiece = picture;
+                set.NewCardBacks[1].Picture = picture;
+                set.NewCardBacks[1].UsePicture = true;
+                set.Header.Symbol = picture;
+                set.CardBacks.Resize(28);
+                set.CardBackCount = 28;
+                set.CardBacks[28].Picture = picture;
+                set.Cards[1].CardBack = 28;
+            },
+            Failure::Told);
+    }
+}
+
+} // namespace deckforge

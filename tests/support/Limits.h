@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QtGlobal>
+#include <csignal>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace deckforge {
+
+/// While it lives, no file can grow past so many bytes: every write behind them fails as on a full disk.
+class FullDisk {
+public:
+    explicit FullDisk(qint64 room)
+    {
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small = {static_cast<rlim_t>(room), m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_before = {};
+};
+
+/// While it lives, permissions hold for the process also where the tests run as root.
+class NoPrivileges {
+public:
+    NoPrivileges()
+    {
+        constexpr uid_t nobody = 65534;
+        if (m_before == 0)
+            (void)!::seteuid(nobody);
+    }
+    ~NoPrivileges() { (void)!::seteuid(m_before); }
+    NoPrivileges(const NoPrivileges&) = delete;
+    NoPrivileges& operator=(const NoPrivileges&) = delete;
+
+private:
+    uid_t m_before = ::geteuid();
+};
+
+} // namespace deckforge
