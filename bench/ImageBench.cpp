@@ -1,13 +1,18 @@
+#include "bench/Ratio.h"
+#include "compose/NewBack.h"
 #include "compose/SetView.h"
 #include "compose/StandardCard.h"
+#include "core/modInfo.h"
 #include "imaging/GifWriter.h"
 #include "imaging/mIntelJPEGLibrary.h"
+#include "output/frmCardSheet.h"
 #include "output/modCapture.h"
 #include "platform/SilentUser.h"
 
 #include <QTemporaryDir>
-#include <benchmark/benchmark.h>
 #include <cmath>
+#include <fcntl.h>
+#include <sys/stat.h>
 
 // Composing a card and writing its image beside the limit: the encoder alone on the bitmap of the same card,
 // with its file.
@@ -79,57 +84,114 @@ struct OneCard {
     Workshop Shop;
 };
 
-void CardImage(benchmark::State& state, int16 format)
-{
-    OneCard card(format);
-    for (auto _ : state)
-        card.Write();
-}
-
-/// A card that is only shown, its pictures already decoded.
-void CardShown(benchmark::State& state)
-{
-    OneCard card(Bmp);
-    for (auto _ : state)
-        ShowCard(card.Shop, 1);
-}
-
-void BmpEncoder(benchmark::State& state)
+void CardBmp(benchmark::State& state)
 {
     OneCard card(Bmp);
     const QImage bitmap = card.Bitmap().Pixels();
     const QString target = card.Folder.filePath(QStringLiteral("alone.bmp"));
-    for (auto _ : state)
-        bitmap.save(target, "BMP");
+    MeasureBeside(
+        state, [&] { card.Write(); }, [&] { bitmap.save(target, "BMP"); });
 }
 
-void JpegEncoder(benchmark::State& state)
+void CardJpeg(benchmark::State& state)
 {
     OneCard card(Jpeg);
     cDIBSection surface;
     surface.CreateFromPicture(card.Bitmap());
+    card.Shop.Set.Header.SaveFormat = Jpeg;
     const QString target = card.Folder.filePath(QStringLiteral("alone.jpg"));
-    for (auto _ : state)
-        SaveJPG(surface, target, 90);
+    MeasureBeside(
+        state, [&] { card.Write(); }, [&] { SaveJPG(surface, target, 90); });
 }
 
-void GifEncoder(benchmark::State& state)
+void CardGif(benchmark::State& state)
 {
     OneCard card(Gif);
     const QString source = card.Folder.filePath(QStringLiteral("alone.bmp"));
     SavePicture(card.Bitmap(), source);
+    card.Shop.Set.Header.SaveFormat = Gif;
     const QString target = card.Folder.filePath(QStringLiteral("alone.gif"));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(ConvertBmpToGif(source, target));
+    MeasureBeside(
+        state, [&] { card.Write(); }, [&] { benchmark::DoNotOptimize(ConvertBmpToGif(source, target)); });
 }
 
-BENCHMARK(CardShown)->Unit(benchmark::kMicrosecond);
-BENCHMARK(BmpEncoder)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(CardImage, Bmp, Bmp)->Unit(benchmark::kMicrosecond);
-BENCHMARK(JpegEncoder)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(CardImage, Jpeg, Jpeg)->Unit(benchmark::kMicrosecond);
-BENCHMARK(GifEncoder)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(CardImage, Gif, Gif)->Unit(benchmark::kMicrosecond);
+/// A card that is only shown. Its pictures are decoded already, or have just changed on the disk.
+void CardWarm(benchmark::State& state)
+{
+    OneCard card(Bmp);
+    MeasureBesideFrame(state, [&] { ShowCard(card.Shop, 1); });
+}
+
+void CardCold(benchmark::State& state)
+{
+    OneCard card(Bmp);
+    const Card& record = card.Shop.Set.Cards[1];
+    const auto touch = [&] {
+        for (const QString& path : {record.Picture, record.Background})
+            ::utimensat(AT_FDCWD, path.toUtf8().constData(), nullptr, 0);
+    };
+    MeasureBesideFrame(
+        state, [&] { ShowCard(card.Shop, 1); }, touch);
+}
+
+/// The same beside the decoding of its pictures alone.
+void CardColdBesideDecoders(benchmark::State& state)
+{
+    OneCard card(Bmp);
+    const Card& record = card.Shop.Set.Cards[1];
+    MeasureBeside(
+        state, [&] { ShowCard(card.Shop, 1); },
+        [&] {
+            for (const QString& path : {record.Picture, record.Background}) {
+                benchmark::DoNotOptimize(DecodePicture(path));
+                ::utimensat(AT_FDCWD, path.toUtf8().constData(), nullptr, 0);
+            }
+        });
+}
+
+/// A card back shown and composed, its template coloured anew.
+void NewBack(benchmark::State& state)
+{
+    OneCard card(Bmp);
+    AddElement(card.Shop.Set, NewBackKind);
+    card.Shop.Set.NewCardBacks[1].BackText = QStringLiteral("DUNGEON");
+    MeasureBesideFrame(state, [&] {
+        ShowNewCardBack(card.Shop, 1);
+        DrawNewCardBack(card.Shop, 1);
+    });
+}
+
+/// A sheet of 6 x 8 beside its 48 cards shown one by one and the encoder alone on its bitmap. The flag of the
+/// last card stays set after a run, so each is made in a shop of its own.
+void Sheet(benchmark::State& state)
+{
+    constexpr SheetGrid grid = {SheetGrid::MostCols, SheetGrid::MostRows};
+    constexpr int16 cards = grid.Cols * grid.Rows;
+    OneCard card(Jpeg);
+    cDIBSection sheet;
+    const QString target = card.Folder.filePath(QStringLiteral("alone.jpg"));
+    const auto make = [&] {
+        card.Shop.Sheet = {};
+        CreateCardSheets(card.Shop, grid);
+    };
+    card.Shop.Set.Cards[1].Copies = cards;
+    make();
+    sheet.CreateFromPicture(DecodePicture(card.Folder.filePath(QStringLiteral("New set Sheet 1.jpg"))));
+    MeasureBeside(state, make, [&] {
+        for (int i = 0; i < cards; ++i)
+            ShowCard(card.Shop, 1);
+        SaveJPG(sheet, target, 90);
+    });
+}
+
+BENCHMARK(CardBmp)->Unit(benchmark::kMicrosecond)->UseManualTime();
+BENCHMARK(CardJpeg)->Unit(benchmark::kMicrosecond)->UseManualTime();
+BENCHMARK(CardGif)->Unit(benchmark::kMicrosecond)->UseManualTime();
+BENCHMARK(CardWarm)->Unit(benchmark::kMicrosecond)->UseManualTime();
+BENCHMARK(CardCold)->Unit(benchmark::kMicrosecond)->UseManualTime();
+BENCHMARK(CardColdBesideDecoders)->Unit(benchmark::kMicrosecond)->UseManualTime();
+BENCHMARK(NewBack)->Unit(benchmark::kMicrosecond)->UseManualTime();
+BENCHMARK(Sheet)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 } // namespace
 

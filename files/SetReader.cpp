@@ -31,19 +31,15 @@ QString SetReader::Text()
 
 QString SetReader::Flattened()
 {
-    const QByteArrayView line = Line();
-    const qsizetype breaks = line.count(setFile::FlattenedBreak);
-    if (breaks == 0)
-        return line.isEmpty() ? QString() : FromCodePage(line);
+    QByteArrayView rest = Line();
     QByteArray lines;
-    lines.reserve(line.size() + breaks);
-    for (const char c : line) {
-        if (c == setFile::FlattenedBreak)
-            lines.append(setFile::LineEnd);
-        else
-            lines.append(c);
+    for (qsizetype end = 0; (end = rest.indexOf(setFile::FlattenedBreak)) >= 0; rest = rest.sliced(end + 1)) {
+        lines.append(rest.first(end));
+        lines.append(setFile::LineEnd, sizeof(setFile::LineEnd) - 1);
     }
-    return FromCodePage(lines);
+    if (lines.isEmpty())
+        return rest.isEmpty() ? QString() : FromCodePage(rest);
+    return FromCodePage(lines.append(rest));
 }
 
 bool SetReader::Boolean()

@@ -38,19 +38,19 @@ TypeFinder::TypeFinder(const CardSet& set)
 /// In order, what a text starts with stands before it: it is the text before, or one that this starts with.
 void TypeFinder::LinkStarts()
 {
-    for (int i = 0; i < static_cast<int>(m_texts.size()); ++i) {
-        int start = i - 1;
+    for (std::size_t i = 0; i < m_texts.size(); ++i) {
+        std::size_t start = i == 0 ? None : i - 1;
         while (start != None && !m_texts[i].Text.startsWith(m_texts[start].Text))
             start = m_texts[start].LongestStart;
         m_texts[i].LongestStart = start;
     }
 }
 
-int TypeFinder::PlaceOf(QStringView text) const
+std::size_t TypeFinder::PlaceOf(QStringView text) const
 {
     const auto place = std::lower_bound(m_texts.begin(), m_texts.end(), text,
                                         [](const Known& known, QStringView t) { return known.Text < t; });
-    return static_cast<int>(place - m_texts.begin());
+    return static_cast<std::size_t>(place - m_texts.begin());
 }
 
 void TypeFinder::MeetStartsOf(QStringView text)
@@ -59,7 +59,7 @@ void TypeFinder::MeetStartsOf(QStringView text)
                                          [](QStringView t, const Known& known) { return t < known.Text; });
     if (behind == m_texts.begin())
         return;
-    int place = static_cast<int>(behind - m_texts.begin()) - 1;
+    std::size_t place = static_cast<std::size_t>(behind - m_texts.begin()) - 1;
     const qsizetype common = CommonStart(text, m_texts[place].Text);
     for (; place != None && m_texts[place].MetBy != m_search; place = m_texts[place].LongestStart) {
         if (m_texts[place].Text.size() <= common)

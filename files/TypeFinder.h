@@ -3,6 +3,7 @@
 #include "core/CardSet.h"
 
 #include <QStringView>
+#include <cstdint>
 #include <vector>
 
 namespace deckforge {
@@ -21,21 +22,21 @@ public:
     [[nodiscard]] int16 FindCardType(const QString& typeText, const QString& reversedText);
 
 private:
-    static constexpr int None = -1;
+    static constexpr std::size_t None = SIZE_MAX;
 
     /// A text of the table, and which search has met it last.
     struct Known {
         QStringView Text;
-        int LongestStart; ///< the longest other text that this one starts with
+        std::size_t LongestStart; ///< the longest other text that this one starts with
         int MetBy;
     };
     struct Row {
-        int Name; ///< places in the texts
-        int SubName;
+        std::size_t Name; ///< places in the texts
+        std::size_t SubName;
     };
 
     void LinkStarts();
-    [[nodiscard]] int PlaceOf(QStringView text) const;
+    [[nodiscard]] std::size_t PlaceOf(QStringView text) const;
     void MeetStartsOf(QStringView text);
 
     std::vector<Known> m_texts; ///< in order, each once

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <vector>
+
+namespace deckforge {
+
+/// Seconds of each run of one step; what counts is the median, which a busy machine moves least.
+class Timings {
+public:
+    template <class Step>
+    double Run(Step&& step)
+    {
+        using Clock = std::chrono::steady_clock;
+        const Clock::time_point start = Clock::now();
+        step();
+        const std::chrono::duration<double> taken = Clock::now() - start;
+        m_seconds.push_back(taken.count());
+        return taken.count();
+    }
+
+    [[nodiscard]] double Median()
+    {
+        const auto middle = m_seconds.begin() + static_cast<std::ptrdiff_t>(m_seconds.size() / 2);
+        std::nth_element(m_seconds.begin(), middle, m_seconds.end());
+        return *middle;
+    }
+
+private:
+    std::vector<double> m_seconds;
+};
+
+/// Measures the step with its limit in turns, and prints how many times as long as the limit it takes. The
+/// benchmark needs UseManualTime().
+template <class Step, class Limit>
+void MeasureBeside(benchmark::State& state, Step&& step, Limit&& limit)
+{
+    Timings steps;
+    Timings limits;
+    for (auto _ : state) {
+        limits.Run(limit);
+        state.SetIterationTime(steps.Run(step));
+    }
+    state.counters["times the limit"] = steps.Median() / limits.Median();
+}
+
+/// Measures the step beside the 16 ms that a screen takes from one picture to the next.
+template <class Step, class Before>
+void MeasureBesideFrame(benchmark::State& state, Step&& step, Before&& before)
+{
+    constexpr double frame = 0.016; // seconds
+    Timings steps;
+    for (auto _ : state) {
+        before();
+        state.SetIterationTime(steps.Run(step));
+    }
+    state.counters["of 16 ms"] = steps.Median() / frame;
+}
+
+template <class Step>
+void MeasureBesideFrame(benchmark::State& state, Step&& step)
+{
+    MeasureBesideFrame(state, step, [] {});
+}
+
+} // namespace deckforge

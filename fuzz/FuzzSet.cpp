@@ -1,0 +1,75 @@
+#include "bench/SilentUser.h"
+#include "compose/CharacterCard.h"
+#include "compose/LargeCard.h"
+#include "compose/NewBack.h"
+#include "compose/SetView.h"
+#include "compose/StandardCard.h"
+#include "core/Vocabulary.h"
+#include "files/modFile.h"
+#include "fuzz/FuzzedFile.h"
+
+#include <QGuiApplication>
+
+// A set from a stranger: reading it, showing it and writing it again. What was read is written as it can be
+// read again.
+
+using namespace deckforge;
+
+namespace {
+
+/// Pictures are named by strangers too, and are for another target.
+void ForgetPictures(CardSet& set)
+{
+    set.Header.Symbol.clear();
+    for (int i = 1; i <= set.CardCount; ++i)
+        set.Cards[i].Picture = set.Cards[i].Background = QString();
+    for (int i = 1; i <= set.LargeCardCount; ++i)
+        set.LargeCards[i].Picture = set.LargeCards[i].Background = set.LargeCards[i].CardBack = QString();
+    for (int i = 1; i <= set.CharacterCount; ++i) {
+        Character& character = set.Characters[i];
+        character.Picture = character.Background = character.CardBackPicture = character.PlayingPiece =
+            QString();
+    }
+    for (int i = 1; i <= set.NewCardBackCount; ++i)
+        set.NewCardBacks[i].Picture.clear();
+    for (int row = BuiltInBackCount + 1; row <= set.CardBackCount; ++row)
+        set.CardBacks[row].Picture.clear();
+}
+
+void ShowAll(Workshop& workshop)
+{
+    ShowOpenedSet(workshop); // composes as well, as the others do
+    if (workshop.Set.LargeCardCount > 0)
+        ShowLargeCard(workshop, 1);
+    if (workshop.Set.CharacterCount > 0)
+        ShowCharacter(workshop, 1);
+    if (workshop.Set.NewCardBackCount > 0) {
+        ShowNewCardBack(workshop, 1);
+        DrawNewCardBack(workshop, 1);
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    static int argc = 1;
+    static char name[] = "fuzz-set";
+    static char* argv[] = {name, nullptr};
+    static const QGuiApplication application(argc, argv);
+    static SilentUser user;
+    static Workshop workshop(user);
+    InitForm(workshop);
+    if (!ReadDKF(workshop.Set, FuzzedFile(bytes, size).Path(), user))
+        return 0;
+    const QByteArray written = SetFileBytes(workshop.Set, Unwritable::Fail);
+    CardSet again = workshop.Set;
+    const FuzzedFile file(reinterpret_cast<const std::uint8_t*>(written.data()),
+                          static_cast<std::size_t>(written.size()));
+    if (!ReadDKF(again, file.Path(), user) || SetFileBytes(again, Unwritable::Fail) != written)
+        std::abort();
+    ForgetPictures(workshop.Set);
+    if (workshop.Set.CardCount > 0)
+        ShowAll(workshop);
+    return 0;
+}
