@@ -1,7 +1,7 @@
-#include "platform/SilentUser.h"
 #include "core/modInfo.h"
 #include "editor/frmQDW.h"
 #include "files/modFile.h"
+#include "platform/SilentUser.h"
 
 #include <QApplication>
 #include <QComboBox>
