@@ -66,7 +66,7 @@ Picture BuiltInArt::Rendered(const QString& name, QSize size, Depth depth)
     QPainter painter(&image);
     QSvgRenderer(QStringLiteral(":/deckforge/") + name).render(&painter);
     painter.end();
-    const Picture picture(AtDepth(image, depth), m_scale);
+    Picture picture(AtDepth(image, depth), m_scale);
     m_rendered.insert(name, new Picture(picture), image.sizeInBytes());
     return picture;
 }

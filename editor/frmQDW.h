@@ -390,12 +390,12 @@ private:
 template <class Sender, class Signal, class Handler>
 void frmQDW::On(Sender* sender, Signal signal, Handler handler)
 {
-    connect(sender, signal, this, [this, handler](auto&&... carried) {
+    connect(sender, signal, this, [this, handler]([[maybe_unused]] auto&&... carried) {
         Guarded([&] {
-            if constexpr (std::is_invocable_v<Handler, decltype(carried)...>)
-                handler(carried...);
-            else
+            if constexpr (std::is_invocable_v<Handler>)
                 handler();
+            else
+                handler(carried...);
         });
     });
 }

@@ -27,13 +27,13 @@ void frmQDW::BindModes()
         if (index == tbCard->currentIndex()) // another one changes it
             ModeClicked();
     });
-    const auto onKey = [this](QKeySequence key, Action Mode::*action) {
+    const auto onKey = [this](const QKeySequence& key, Action Mode::*action) {
         On(new QShortcut(key, this), &QShortcut::activated, [this, action] { Run(Selected().*action); });
     };
     onKey(Qt::CTRL | Qt::Key_N, &Mode::Add);
     onKey(Qt::CTRL | Qt::Key_Comma, &Mode::Previous);
     onKey(Qt::CTRL | Qt::Key_Period, &Mode::Next);
-    const auto onTabKey = [this](QKeySequence key, int step) {
+    const auto onTabKey = [this](const QKeySequence& key, int step) {
         On(new QShortcut(key, this), &QShortcut::activated, [this, step] {
             tbCard->setCurrentIndex((tbCard->currentIndex() + tbCard->count() + step) % tbCard->count());
         });

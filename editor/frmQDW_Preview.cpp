@@ -34,7 +34,7 @@ void frmQDW::BindPreview()
        });
     On(m_preview, &CardPreview::TipWanted, [this](const Box* box, QPoint point) { ShowTip(box, point); });
     On(m_zooms, &QButtonGroup::idClicked, [this](int zoom) { SetZoom(zoom); });
-    const auto onKey = [this](QKeySequence key, int step) {
+    const auto onKey = [this](const QKeySequence& key, int step) {
         On(new QShortcut(key, this), &QShortcut::activated,
            [this, step] { SetZoom(m_preview->Zoom() + step); });
     };

@@ -21,7 +21,7 @@ inline constexpr char FlattenedBreak = '|'; ///< ... which is this where such a 
 // What a set file may hold. The largest set, 32,767 of each kind with pages of text on each card, is far
 // below it; files from strangers are not, and no control can show a text of megabytes.
 inline constexpr qint64 MostBytes = qint64(1) << 30;
-inline constexpr qsizetype MostLineBytes = qsizetype(1) << 20; ///< without its end
+inline constexpr qsizetype MostLineBytes = qsizetype(1) << 16; ///< without its end
 
 [[noreturn]] inline void RefuseLongLine()
 {

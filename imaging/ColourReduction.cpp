@@ -54,6 +54,7 @@ QImage WithColours(const QImage& picture, int colours, Dither dither)
     if (reduced.isNull())
         throw RunTimeError(ErrorNumber::OutOfMemory);
     std::vector<unsigned char*> rows;
+    rows.reserve(static_cast<std::size_t>(reduced.height()));
     for (int y = 0; y < reduced.height(); ++y)
         rows.push_back(reduced.scanLine(y));
     Check(liq_write_remapped_image_rows(result.get(), source.get(), rows.data()));

@@ -257,12 +257,13 @@ template <class Record>
 WrittenPages WritePages(const CardSet& set, const HtmlRow<Record>& row, qint64 imageCount)
 {
     const int count = set.*row.Cards.Count;
+    const qint64 pageCount = imageCount / row.Slots + 1;
     Page page{.Header = set.Header,
               .NamePrefix = row.PagePrefix,
               .Title = QLatin1String(row.TitlePrefix) + set.Header.SetName,
               .Images = {},
               .Number = 0,
-              .Count = ToInt16(static_cast<double>(imageCount / row.Slots + 1))};
+              .Count = ToInt16(static_cast<double>(pageCount))};
     page.Links = LinksOf(page);
     WrittenPages written;
     int slot = 0;

@@ -113,7 +113,8 @@ bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
     TakeSymbolPlaces(fine.Templates, workshop.Templates);
     // Twice: some fonts and outlines are those that the composition before left. In a window, too, a card
     // was shown before it is printed.
-    return RowOf(page).Show(fine) && RowOf(page).Show(fine);
+    const bool isShown = RowOf(page).Show(fine);
+    return isShown && RowOf(page).Show(fine);
 }
 
 void LayFinePage(Workshop& workshop, PrintedPage page, QPaintDevice& device)

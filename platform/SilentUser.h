@@ -6,7 +6,8 @@
 
 namespace deckforge {
 
-/// A user who sees nothing and cancels every dialog: where nobody is to be asked or told, or has been already.
+/// A user who sees nothing and cancels every dialog: where nobody is to be asked or told, or has been
+/// already.
 class SilentUser final : public UserPort {
 public:
     Answer ShowMessage(const MessageBoxRequest& /*request*/) override { return deckforge::Answer::Ok; }

@@ -214,7 +214,7 @@ TEST_F(SetFileTest, CountsThatCannotBeAreToldInBoundedTime)
 
 TEST_F(SetFileTest, ALineThatIsTooLongIsNeitherReadNorWritten)
 {
-    constexpr qsizetype longest = 1 << 20;
+    constexpr qsizetype longest = 1 << 16;
     Set.Cards[1].Info = QStringLiteral("\r\n").repeated(longest);
     Set.Cards[1].Title = QString(longest, QLatin1Char('x'));
     const QByteArray whole = Written();
