@@ -133,6 +133,9 @@ void PictureBox::SetFontSize(double points)
 
 const FontMeasures& PictureBox::Measures() const
 {
+    constexpr qsizetype mostKept = 100; // a set from a stranger can have a font on each of its card backs
+    if (m_measures.size() > mostKept)
+        m_measures.clear();
     auto& measures = m_measures[m_font];
     if (!measures)
         measures = std::make_shared<const FontMeasures>(m_font);
