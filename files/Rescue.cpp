@@ -42,7 +42,7 @@ QByteArray PrintOf(const CardSet& set)
 
 QString RescueSet(const CardSet& set, const QString& folder)
 {
-    const QString target = RescuedName(folder, 0);
+    QString target = RescuedName(folder, 0);
     const QString unfinished = target + QStringLiteral("~");
     QLockFile lock(target + QStringLiteral(".lock"));
     lock.tryLock(LockMilliseconds);

@@ -1,4 +1,3 @@
-#include "bench/SilentUser.h"
 #include "compose/CharacterCard.h"
 #include "compose/LargeCard.h"
 #include "compose/NewBack.h"
@@ -7,6 +6,7 @@
 #include "core/Vocabulary.h"
 #include "files/modFile.h"
 #include "fuzz/FuzzedFile.h"
+#include "platform/SilentUser.h"
 
 #include <QGuiApplication>
 
