@@ -33,15 +33,29 @@ void SelectTyped(QComboBox& list)
         list.setCurrentIndex(entry);
 }
 
+/// Whether the text in the list is that of an entry, which Enter then chooses.
+bool ShowsEntry(const QComboBox& list)
+{
+    return list.currentIndex() >= 0 && list.itemText(list.currentIndex()) == list.currentText();
+}
+
 } // namespace
 
 void frmQDW::BindLists()
 {
     On(m_card->cboType, &QComboBox::activated, [this] { TypeChosen(); });
     On(m_card->cboType->lineEdit(), &QLineEdit::textEdited, [this] { TypeTyped(); });
+    On(m_card->cboType->lineEdit(), &QLineEdit::returnPressed, [this] {
+        if (ShowsEntry(*m_card->cboType))
+            TypeChosen();
+    });
     On(m_card->cboCardBack, &QComboBox::activated, [this] { CardBackChosen(); });
     On(m_character->cboStartArea, &QComboBox::activated, [this] { StartAreaChosen(); });
     On(m_character->cboStartArea->lineEdit(), &QLineEdit::textEdited, [this] { StartAreaTyped(); });
+    On(m_character->cboStartArea->lineEdit(), &QLineEdit::returnPressed, [this] {
+        if (ShowsEntry(*m_character->cboStartArea))
+            StartAreaChosen();
+    });
     On(m_character->cboCharacterCardback, &QComboBox::activated, [this] { CharacterBackChosen(); });
     On(m_set->cboSaveFormat, &QComboBox::activated, [this] { SaveFormatChosen(); });
 }

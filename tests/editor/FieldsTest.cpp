@@ -43,6 +43,9 @@ TEST_F(FieldsTest, ATypedTypeIsTheCardsOwn)
     EXPECT_EQ(CardType(), QStringLiteral("PLACE||PLACE||6|2"));
     QTest::keyClick(&cboType, Qt::Key_Tab);
     EXPECT_EQ(CardType(), QStringLiteral("PLACE||PLACE||6|2")) << "leaving the box chooses nothing";
+    QTest::keyClick(cboType.lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(CardType(), QStringLiteral("SPELL||SPELL||13|")) << "Enter chooses the entry";
+    TypeIn(Find<QComboBox>("cboNumber"), QStringLiteral("2"));
     TypeIn(Find<QComboBox>("cboNumber"), QStringLiteral("11"));
     EXPECT_EQ(FirstCard().Number, QStringLiteral("11"));
 }
