@@ -1,11 +1,8 @@
 #include "batch/BatchCommands.h"
 
 #include "batch/ConsoleUser.h"
-#include "compose/CharacterCard.h"
-#include "compose/LargeCard.h"
 #include "compose/NewBack.h"
 #include "compose/SetView.h"
-#include "compose/StandardCard.h"
 #include "core/Vocabulary.h"
 #include "files/modFile.h"
 #include "output/HtmlSheets.h"
@@ -224,14 +221,10 @@ constexpr HtmlKind HtmlKinds[] = {{"card", CreateHtmlCards},
 struct PrintKind {
     const char* Kind;
     PrintedPage Page;
-    int16 CardSet::*Current;
-    bool (*Show)(Workshop&, int16);
 };
 
 constexpr PrintKind PrintKinds[] = {
-    {"card", PrintedPage::Card, &CardSet::CurrentCard, ShowCard},
-    {"large", PrintedPage::LargeCard, &CardSet::CurrentLargeCard, ShowLargeCard},
-    {"character", PrintedPage::Character, &CardSet::CurrentCharacter, ShowCharacter}};
+    {"card", PrintedPage::Card}, {"large", PrintedPage::LargeCard}, {"character", PrintedPage::Character}};
 
 // Commands
 
@@ -315,8 +308,7 @@ ExitStatus RunPrint(const QStringList& paths, const QCommandLineParser& parser)
     const auto index = static_cast<int16>(NumberOption(parser, "index", std::numeric_limits<int16>::max()));
     const int pixelsPerInch = NumberOption(parser, "resolution", 2400, 72);
     return RunOnSet(paths[0], 1, [&](Workshop& workshop) {
-        workshop.Set.*kind.Current = index;
-        if (!kind.Show(workshop, index)) // which tells why
+        if (!ShowForPage(workshop, kind.Page, index))
             return false;
         WritePdf(workshop, kind.Page, AbsolutePath(paths[1]), pixelsPerInch);
         return true;

@@ -1,6 +1,5 @@
 #include "batch/ConsoleUser.h"
 
-#include <QPagedPaintDevice>
 #include <cstdio>
 #include <unistd.h>
 
@@ -15,44 +14,6 @@ Answer ConsoleUser::ShowMessage(const MessageBoxRequest& request)
     std::fprintf(stderr, "%s: %s\n", qUtf8Printable(request.Title), qUtf8Printable(text));
     return request.Buttons == BoxButtons::Ok ? deckforge::Answer::Ok : deckforge::Answer::No;
 }
-
-std::optional<QString> ConsoleUser::AskOpenFile(const FileDialogRequest& /*request*/)
-{
-    return std::nullopt;
-}
-
-std::optional<QString> ConsoleUser::AskSaveFile(const FileDialogRequest& /*request*/)
-{
-    return std::nullopt;
-}
-
-std::optional<QString> ConsoleUser::BrowseForFolder()
-{
-    return std::nullopt;
-}
-
-std::optional<Colour> ConsoleUser::AskColour(const QString& /*title*/, Colour /*colour*/)
-{
-    return std::nullopt;
-}
-
-std::optional<FontSpec> ConsoleUser::AskFont(const QString& /*title*/, const FontSpec& /*font*/)
-{
-    return std::nullopt;
-}
-
-std::optional<QString> ConsoleUser::AskText(const QString& /*prompt*/, const QString& /*title*/,
-                                            const QString& /*text*/)
-{
-    return std::nullopt;
-}
-
-std::unique_ptr<QPagedPaintDevice> ConsoleUser::OpenPrinter(const QString& /*document*/)
-{
-    return nullptr;
-}
-
-void ConsoleUser::SetPointer(Pointer /*pointer*/) {}
 
 void ConsoleUser::ShowProgress(int done, int total)
 {

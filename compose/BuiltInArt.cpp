@@ -1,5 +1,6 @@
 #include "compose/BuiltInArt.h"
 
+#include "compose/CardTemplates.h"
 #include "core/Vocabulary.h"
 #include "imaging/ColourReduction.h"
 
@@ -15,7 +16,7 @@ namespace {
 constexpr qsizetype KeptBytes = qsizetype(32) << 20;
 constexpr QSize CardArtSize = {150, 254};
 constexpr QSize DoubleArtSize = {302, 254};
-constexpr QSize LargeBackArtSize = {304, 256};
+constexpr QSize LargeBackArtSize = DoubleCardSize;
 constexpr QSize BackTemplateSize = {254, 150};
 constexpr int LargeCardBack = 3;
 constexpr std::array PaletteBacks = {15, 16, 18};

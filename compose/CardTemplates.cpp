@@ -62,10 +62,12 @@ Box PictureAt(const char* name, QRect place, int scale)
     return Surface(Label(name, place), scale);
 }
 
-/// A surface that shows a whole card, with the border of a pixel that the window draws round it.
-Box CardSurface(const char* name, QRect place, int scale)
+/// A surface that shows a whole card, with the border of a pixel that the window draws round it. Cards lie
+/// side by side from the left.
+Box CardSurface(const char* name, int left, QSize size, int scale)
 {
-    return Surface(Bordered(Label(name, place)), scale);
+    constexpr int top = 267;
+    return Surface(Bordered(Label(name, {{left, top}, size})), scale);
 }
 
 Box Watermark(QRect place)
@@ -94,7 +96,7 @@ Box BlackStrip(const char* name, QRect place, int scale)
 // Each row: name, then left, top, width and height, then how its text stands.
 
 CardTemplate::CardTemplate(int scale)
-    : picCard(CardSurface("picCard", {8, 267, 152, 256}, scale)),
+    : picCard(CardSurface("picCard", 8, CardSize, scale)),
       lblType{{Label("lblType(0)", {5, 3, 57, 12}), Label("lblType(1)", {88, 3, 56, 12}, Alignment::Right),
                Label("lblType(2)", {5, 15, 57, 12}),
                Label("lblType(3)", {88, 15, 57, 12}, Alignment::Right)}},
@@ -109,12 +111,12 @@ CardTemplate::CardTemplate(int scale)
       lblWatermark(Watermark({55, 245, 40, 9})),
       picSymbol(Hidden(PictureAt("picSymbol", {0, 245, 5, 5}, scale))),
       picArtistDest(Hidden(PictureAt("picArtistDest", {0, 40, 5, 180}, scale))),
-      picBack(CardSurface("picBack", {160, 267, 152, 256}, scale))
+      picBack(CardSurface("picBack", 8 + CardSize.width(), CardSize, scale))
 {
 }
 
 LargeCardTemplate::LargeCardTemplate(int scale)
-    : picCardLarge(Hidden(CardSurface("picCardLarge", {8, 267, 304, 256}, scale))),
+    : picCardLarge(Hidden(CardSurface("picCardLarge", 8, DoubleCardSize, scale))),
       picFrameLarge(Bordered(Label("picFrameLarge", {8, 8, 121, 238}))),
       picImageLarge(PictureAt("picImageLarge", {0, 0, 121, 238}, scale)),
       lblPicSizeLarge(Label("lblPicSizeLarge", {128, 8, 5, 238})),
@@ -123,12 +125,12 @@ LargeCardTemplate::LargeCardTemplate(int scale)
       lblAutonumberLarge(Number("lblAutonumberLarge", {0, 246, 13, 9})),
       lblWatermark(Watermark({132, 246, 40, 9})),
       picSymbolLarge(Hidden(PictureAt("picSymbolLarge", {294, 246, 9, 9}, scale))),
-      picBackLarge(Hidden(CardSurface("picBackLarge", {8, 267, 304, 256}, scale)))
+      picBackLarge(Hidden(CardSurface("picBackLarge", 8, DoubleCardSize, scale)))
 {
 }
 
 CharacterTemplate::CharacterTemplate(int scale)
-    : picCharacter(Hidden(CardSurface("picCharacter", {8, 267, 304, 256}, scale))),
+    : picCharacter(Hidden(CardSurface("picCharacter", 8, DoubleCardSize, scale))),
       lblCharacter(WhiteCaption("lblCharacter", {80, 0, 140, 13}, "")),
       lblObjects(WhiteCaption("lblObjects", {46, 242, 71, 12}, "OBJECTS")),
       lblFollowers(WhiteCaption("lblFollowers", {185, 242, 71, 12}, "FOLLOWERS")),
@@ -149,12 +151,12 @@ CharacterTemplate::CharacterTemplate(int scale)
       lblAutonumberCharacter(Number("lblAutonumberCharacter", {2, 220, 13, 9})),
       lblWatermark(Watermark({113, 220, 40, 9})),
       picSymbolCharacter(Hidden(PictureAt("picSymbolCharacter", {265, 218, 9, 9}, scale))),
-      picCharacterBack(Hidden(CardSurface("picCharacterBack", {8, 267, 304, 256}, scale)))
+      picCharacterBack(Hidden(CardSurface("picCharacterBack", 8, DoubleCardSize, scale)))
 {
 }
 
 PlayingPieceTemplate::PlayingPieceTemplate(int scale)
-    : picPlayingPiece(Hidden(CardSurface("picPlayingPiece", {8, 267, 152, 256}, scale))),
+    : picPlayingPiece(Hidden(CardSurface("picPlayingPiece", 8, CardSize, scale))),
       lblPlayingPieceName(Label("lblPlayingPieceName", {8, 10, 132, 13}, Alignment::Centre)),
       picPlayingPieceFrame(Label("picPlayingPieceFrame", {9, 24, 132, 222})),
       picPlayingPieceImage(PictureAt("picPlayingPieceImage", {0, 0, 132, 222}, scale)),
@@ -163,7 +165,7 @@ PlayingPieceTemplate::PlayingPieceTemplate(int scale)
 }
 
 NewBackTemplate::NewBackTemplate(int scale)
-    : picNewBack(Hidden(CardSurface("picNewBack", {8, 267, 256, 152}, scale))),
+    : picNewBack(Hidden(CardSurface("picNewBack", 8, CardSize.transposed(), scale))),
       lblBackTitle(Label("lblBackTitle", {112, 48, 26, 13}, Alignment::Centre)),
       lblWatermark(Watermark({0, 142, 255, 9}))
 {

@@ -9,6 +9,10 @@ namespace deckforge {
 // The templates of all kinds of card: the boxes that the preview shows and whose places the composers read.
 // The Show... routines lay them out from a record.
 
+// The sizes of cards on their surfaces, in pixels: 40 mm and 80 mm wide at 96 to the inch.
+inline constexpr QSize CardSize = {152, 256};
+inline constexpr QSize DoubleCardSize = {304, 256}; ///< large cards and characters
+
 /// A standard card: all boxes but the last two lie on picCard, picImage in picFrame.
 struct CardTemplate {
     explicit CardTemplate(int scale);

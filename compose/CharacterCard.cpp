@@ -100,11 +100,9 @@ QString AttributeText(const QString& word, const QString& value)
 
 void DrawCharAttributes(Workshop& workshop, const Character& character)
 {
-    const QString* const values[] = {&character.Strength, &character.Craft, &character.Gold,
-                                     &character.Lives};
     int index = 0;
-    for (const QString* value : values)
-        DrawCharAttribute(workshop, index++, *value);
+    for (const auto attribute : CharacterAttributes)
+        DrawCharAttribute(workshop, index++, character.*attribute);
 }
 
 // Composition of the card

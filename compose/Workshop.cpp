@@ -4,7 +4,6 @@ namespace deckforge {
 
 namespace {
 
-constexpr QSize CardSurfaceSize = {152, 256};
 constexpr QSize ArtistStripSize = {180, 5};
 constexpr QSize AttributeStripSize = {52, 12};
 constexpr double ArtistPoints = 5.25;
@@ -20,9 +19,9 @@ Picture WhitePicture()
 } // namespace
 
 WorkSurfaces::WorkSurfaces(int scale)
-    : picACard(CardSurfaceSize, scale), picACardPP(CardSurfaceSize, scale), picWhite(WhitePicture()),
+    : picACard(CardSize, scale), picACardPP(CardSize, scale), picWhite(WhitePicture()),
       picArtist(ArtistStripSize, scale), picCharAttribute(AttributeStripSize, scale),
-      picDone(CardSurfaceSize, scale), picLargeSheet(CardSurfaceSize, scale), picStore(CardSurfaceSize, scale)
+      picDone(CardSize, scale), picLargeSheet(CardSize, scale), picStore(CardSize, scale)
 {
     picArtist.SetFontSize(ArtistPoints);
     picCharAttribute.SetFontSize(AttributePoints);

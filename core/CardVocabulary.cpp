@@ -8,14 +8,6 @@ namespace deckforge {
 
 namespace {
 
-void TakeNames(Card& card, const CardType& type)
-{
-    card.Type = type.Name;
-    card.SubType = type.SubName;
-    card.TypeReversed = type.ReversedName;
-    card.SubTypeReversed = type.ReversedSubName;
-}
-
 /// Where the list of types has the text, from 0; -1 where it has not.
 int ListIndexOf(const CardSet& set, const QString& text)
 {
@@ -28,11 +20,19 @@ int ListIndexOf(const CardSet& set, const QString& text)
 
 } // namespace
 
+void TakeTypeTexts(Card& card, const CardType& type)
+{
+    card.Type = type.Name;
+    card.SubType = type.SubName;
+    card.TypeReversed = type.ReversedName;
+    card.SubTypeReversed = type.ReversedSubName;
+}
+
 void ChooseCardType(const CardSet& set, Card& card, int16 row)
 {
     const CardType& type = set.CardTypes[row];
     card.TypeIndex = row;
-    TakeNames(card, type);
+    TakeTypeTexts(card, type);
     card.Number = QString::number(type.Number);
 }
 
@@ -40,14 +40,14 @@ void TypeCardType(const CardSet& set, Card& card, const QString& text)
 {
     const int listIndex = ListIndexOf(set, text);
     if (listIndex < 0) {
-        TakeNames(card, {.Name = text, .SubName = {}, .ReversedName = text, .ReversedSubName = {}});
+        TakeTypeTexts(card, {.Name = text, .SubName = {}, .ReversedName = text, .ReversedSubName = {}});
         card.TypeIndex = -1;
         return;
     }
     // The list counts from 0 and the table from 1: what was typed gets the entry before it, and the first of
     // all the empty row 0. Sets made so far have their types so.
     const CardType& type = set.CardTypes[static_cast<int16>(listIndex)];
-    TakeNames(card, type);
+    TakeTypeTexts(card, type);
     card.TypeIndex = type.Number;
 }
 

@@ -2,6 +2,8 @@
 
 #include "platform/FontSpec.h"
 
+#include <array>
+
 namespace deckforge {
 
 // The records of a card set: plain data, copied whole. An empty text means that the field is not set.
@@ -130,6 +132,10 @@ struct Character {
     double PlayingPieceTop = 0;
     double PlayingPieceLeft = 0;
 };
+
+/// The attributes of a character in the order of their strips and lists.
+inline constexpr std::array<QString Character::*, 4> CharacterAttributes = {
+    &Character::Strength, &Character::Craft, &Character::Gold, &Character::Lives};
 
 /// A card back that the user designs.
 struct NewCardBack {

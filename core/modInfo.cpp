@@ -45,11 +45,7 @@ void InitSet(CardSet& set)
     set.LastBackground.clear();
     NewSet(set);
 
-    set.CardCount = 1;
-    set.CurrentCard = 1;
-    set.Cards.Recreate(1);
-    InitCard(set, 1);
-
+    MakeFirstElement(set, StandardKind);
     set.LargeCardCount = 0;
     set.CurrentLargeCard = 0;
     set.LargeCards.Recreate(0);

@@ -23,17 +23,6 @@ struct Inside {
     QRect Clip; ///< empty where the parent is hidden
 };
 
-/// A set from a stranger can name a font of no size at all.
-TextFont FontOf(const FontSpec& font)
-{
-    constexpr double usualPoints = 7;
-    const bool hasSize = font.Size > 0 && font.Size <= PictureBox::MostPoints;
-    return {.Name = font.Name.isEmpty() ? QStringLiteral("Small Fonts") : font.Name,
-            .Size = hasSize ? font.Size : usualPoints,
-            .Bold = font.Bold,
-            .Italic = font.Italic};
-}
-
 int TextFlags(Alignment align)
 {
     constexpr int wrapped = Qt::AlignTop | Qt::TextWordWrap;
@@ -51,7 +40,7 @@ int TextFlags(Alignment align)
 void PaintLabel(QPainter& painter, const Box& box, const QRect& place)
 {
     QString caption = box.Caption;
-    painter.setFont(DrawnFont(FontOf(box.Font)));
+    painter.setFont(DrawnFont(DrawableFont(box.Font)));
     painter.setPen(QColor(ToRgb(box.Font.Color)));
     painter.drawText(place, TextFlags(box.Align),
                      caption.replace(QLatin1String("\r\n"), QLatin1String("\n")));

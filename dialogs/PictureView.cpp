@@ -1,14 +1,10 @@
 #include "dialogs/PictureView.h"
 
+#include "compose/CardTemplates.h"
+
 #include <QPainter>
 
 namespace deckforge {
-
-namespace {
-
-constexpr QSize CardSize = {152, 256};
-
-} // namespace
 
 PictureView::PictureView(QWidget* parent) : QWidget(parent)
 {

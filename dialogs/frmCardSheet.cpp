@@ -10,15 +10,15 @@ namespace deckforge {
 
 namespace {
 
-constexpr QSize CardSize = {16, 27}; ///< of a card of the preview, about as wide and high as a card is
-constexpr int Step = 3;              ///< from card to card, beside its size
+constexpr QSize SmallCard = {16, 27}; ///< of a card of the preview, about as wide and high as a card is
+constexpr int Step = 3;               ///< from card to card, beside its size
 constexpr QRgb Paper = qRgb(247, 241, 222);
 constexpr QRgb Ink = qRgb(90, 74, 51);
 constexpr QRgb Sky = qRgb(106, 160, 216);
 
 QRect CellPlace(int col, int row)
 {
-    return {QPoint(col * (CardSize.width() + Step), row * (CardSize.height() + Step)), CardSize};
+    return {QPoint(col * (SmallCard.width() + Step), row * (SmallCard.height() + Step)), SmallCard};
 }
 
 /// As many small cards as the sheet has cells; room for the largest sheet, so that nothing moves.
@@ -103,12 +103,10 @@ std::optional<SheetGrid> AskSheetGrid(bool noBack, QWidget* window)
 
 QString SheetSizeText(SheetGrid grid, bool noBack)
 {
-    constexpr int cardHeight = 256;
-    constexpr int cardWidth = 152;
     constexpr int widthWithBack = 254; // less than the sheet has, but what has always been told
     return QStringLiteral("%1 x %2")
-        .arg(grid.Rows * cardHeight)
-        .arg(grid.Cols * (noBack ? cardWidth : widthWithBack));
+        .arg(grid.Rows * CardSize.height())
+        .arg(grid.Cols * (noBack ? CardSize.width() : widthWithBack));
 }
 
 } // namespace deckforge

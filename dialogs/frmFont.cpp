@@ -34,7 +34,7 @@ QPixmap SamplePicture(const FontSpec& font, double ratio)
     picture.setDevicePixelRatio(ratio);
     QPainter painter(&picture);
     painter.scale(SampleZoom, SampleZoom);
-    painter.setFont(DrawnFont({font.Name, font.Size, font.Bold, font.Italic}));
+    painter.setFont(DrawnFont(DrawableFont(font)));
     painter.setPen(QColor(ToRgb(font.Color)));
     const int half = SampleSize.width() / 2;
     for (const bool isDark : {false, true}) {

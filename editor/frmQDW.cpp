@@ -51,8 +51,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
     [[nodiscard]] QSize minimumSizeHint() const override
     {
-        constexpr QSize smallestCard = {304, 256};
-        return smallestCard;
+        return DoubleCardSize; // at its smallest zoom
     }
 };
 

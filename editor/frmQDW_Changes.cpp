@@ -122,9 +122,7 @@ void frmQDW::NameChanged()
 template <int Index>
 void frmQDW::AttributeChanged()
 {
-    constexpr std::array<QString Character::*, 4> values = {&Character::Strength, &Character::Craft,
-                                                            &Character::Gold, &Character::Lives};
-    DrawCharAttribute(m_workshop, Index, Current<Character>().*values[Index]);
+    DrawCharAttribute(m_workshop, Index, Current<Character>().*CharacterAttributes[Index]);
 }
 
 template void frmQDW::AttributeChanged<0>();

@@ -55,17 +55,15 @@ void frmQDW::ChangeFonts()
 void frmQDW::PrintCurrent()
 {
     struct PrintRow {
-        int16 CardSet::*Current;
-        void (frmQDW::*Show)(int16);
         PrintedPage Page;
+        void (frmQDW::*Show)(int16);
     };
-    static const std::array<PrintRow, 4> rows = {
-        {{&CardSet::CurrentCard, &frmQDW::ShowCard, PrintedPage::Card},
-         {&CardSet::CurrentLargeCard, &frmQDW::ShowLargeCard, PrintedPage::LargeCard},
-         {&CardSet::CurrentCharacter, &frmQDW::ShowCharacter, PrintedPage::Character},
-         {&CardSet::CurrentCharacter, &frmQDW::ShowCharacter, PrintedPage::CharacterAlone}}};
+    static constexpr std::array<PrintRow, 4> rows = {{{PrintedPage::Card, &frmQDW::ShowCard},
+                                                      {PrintedPage::LargeCard, &frmQDW::ShowLargeCard},
+                                                      {PrintedPage::Character, &frmQDW::ShowCharacter},
+                                                      {PrintedPage::CharacterAlone, &frmQDW::ShowCharacter}}};
     const PrintRow& row = rows.at(static_cast<std::size_t>(tbCard->currentIndex()));
-    (this->*row.Show)(Existing(row.Current));
+    (this->*row.Show)(Existing(CurrentOf(row.Page)));
     PrintCard(m_workshop, row.Page);
 }
 

@@ -70,15 +70,14 @@ frmQDW::Fields<Character> frmQDW::FieldsOf()
     CharacterTemplate& t = m_workshop.Templates.Character;
     Box& piece = m_workshop.Templates.PlayingPiece.picPlayingPieceImage;
     return {
-        .Texts = {{form.txtCharName, &Character::Name, Guard::None, &t.lblCharacter, &frmQDW::NameChanged},
-                  {form.cboAlignment, &Character::Alignment, Guard::NotLoading, &t.lblAlignment, nullptr},
-                  {form.cboCharAttr0, &Character::Strength, Guard::None, nullptr,
-                   &frmQDW::AttributeChanged<0>},
-                  {form.cboCharAttr1, &Character::Craft, Guard::None, nullptr, &frmQDW::AttributeChanged<1>},
-                  {form.cboCharAttr2, &Character::Gold, Guard::None, nullptr, &frmQDW::AttributeChanged<2>},
-                  {form.cboCharAttr3, &Character::Lives, Guard::None, nullptr, &frmQDW::AttributeChanged<3>},
-                  {form.txtSpecialAbilities, &Character::SpecialAbilities, Guard::None, &t.lblSpecial,
-                   nullptr}},
+        .Texts =
+            {{form.txtCharName, &Character::Name, Guard::None, &t.lblCharacter, &frmQDW::NameChanged},
+             {form.cboAlignment, &Character::Alignment, Guard::NotLoading, &t.lblAlignment, nullptr},
+             {form.cboCharAttr0, CharacterAttributes[0], Guard::None, nullptr, &frmQDW::AttributeChanged<0>},
+             {form.cboCharAttr1, CharacterAttributes[1], Guard::None, nullptr, &frmQDW::AttributeChanged<1>},
+             {form.cboCharAttr2, CharacterAttributes[2], Guard::None, nullptr, &frmQDW::AttributeChanged<2>},
+             {form.cboCharAttr3, CharacterAttributes[3], Guard::None, nullptr, &frmQDW::AttributeChanged<3>},
+             {form.txtSpecialAbilities, &Character::SpecialAbilities, Guard::None, &t.lblSpecial, nullptr}},
         .Checks = {{form.chkShowPictureCharacter, &Character::ShowPicture,
                     &frmQDW::ShowPictureClicked<Character>},
                    {form.chkFrameCharacter, &Character::Frame, &frmQDW::FrameClicked<Character>}},

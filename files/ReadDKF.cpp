@@ -1,3 +1,4 @@
+#include "core/CardVocabulary.h"
 #include "core/Vocabulary.h"
 #include "files/SetFileFormat.h"
 #include "files/SetReader.h"
@@ -24,10 +25,10 @@ void ReadFont(SetReader& in, FontSpec& font)
 void ReadHeader(SetReader& in, int16 version, SetHeader& header)
 {
     header.SetName = in.Text();
-    header.FileName = in.Text();
-    header.SaveTo = in.Text();
+    header.FileName = in.Path();
+    header.SaveTo = in.Path();
     header.Autonumber = in.Boolean();
-    header.Symbol = in.Text();
+    header.Symbol = in.Path();
     header.FilenamePrefix = in.Text();
     header.FileNr = in.Boolean();
     header.NoBack = in.Boolean();
@@ -53,7 +54,7 @@ void ReadCardType(SetReader& in, int16 version, CardType& type)
 void ReadCardBack(SetReader& in, int16 /*version*/, CardBack& back)
 {
     back.Name = in.Text();
-    back.Picture = in.Text();
+    back.Picture = in.Path();
     back.BuiltIn = in.Boolean();
 }
 
@@ -65,17 +66,9 @@ void ReadNewCardBack(SetReader& in, int16 /*version*/, NewCardBack& back)
     back.InnerColor = in.Int32();
     back.Name = in.Text();
     back.BackColor = in.Int32();
-    back.Picture = in.Text();
+    back.Picture = in.Path();
     back.UsePicture = in.Boolean();
     ReadFont(in, back.Font);
-}
-
-void TakeTypeTexts(Card& card, const CardType& type)
-{
-    card.Type = type.Name;
-    card.TypeReversed = type.ReversedName;
-    card.SubType = type.SubName;
-    card.SubTypeReversed = type.ReversedSubName;
 }
 
 /// Before version 6 a type was one text. Its parts come from the table, by the card's row or by the text.
@@ -101,7 +94,7 @@ void ReadCard(SetReader& in, int16 version, Card& card)
     card.TypeIndex = in.Int16();
     card.Number = in.Text();
     card.ShowPicture = in.Boolean();
-    card.Picture = in.Text();
+    card.Picture = in.Path();
     card.PictureTop = in.Real();
     card.FrameHeight = in.Int16();
     card.PictureLeft = in.Real();
@@ -110,7 +103,7 @@ void ReadCard(SetReader& in, int16 version, Card& card)
     card.Artist = version >= 8 ? in.Text() : QString();
     card.BoldText = in.Text();
     card.Info = in.Flattened();
-    card.Background = in.Text();
+    card.Background = in.Path();
     card.CardBack = in.Int16();
     card.Color = in.Int32();
     card.Filename = in.Text();
@@ -121,15 +114,15 @@ void ReadLargeCard(SetReader& in, int16 /*version*/, LargeCard& card)
     card.Title = in.Text();
     card.Copies = in.Int16();
     card.ShowPicture = in.Boolean();
-    card.Picture = in.Text();
+    card.Picture = in.Path();
     card.PictureTop = in.Real();
     card.PictureLeft = in.Real();
     card.FrameHeight = in.Int16();
     card.Frame = in.Boolean();
     card.Resize = in.Boolean();
     card.Info = in.Flattened();
-    card.Background = in.Text();
-    card.CardBack = in.Text();
+    card.Background = in.Path();
+    card.CardBack = in.Path();
     card.Color = in.Int32();
     card.Filename = in.Text();
 }
@@ -139,22 +132,22 @@ void ReadCharacter(SetReader& in, int16 /*version*/, Character& character)
     character.Name = in.Text();
     character.SpecialAbilities = in.Flattened();
     character.Alignment = in.Text();
-    character.Background = in.Text();
+    character.Background = in.Path();
     character.Craft = in.Text();
     character.Filename = in.Text();
     character.Gold = in.Text();
     character.Lives = in.Text();
     character.PictureLeft = in.Real();
     character.PictureTop = in.Real();
-    character.Picture = in.Text();
+    character.Picture = in.Path();
     character.FrameHeight = in.Int16();
     character.StartArea = in.Text();
     character.Strength = in.Text();
     character.Frame = in.Boolean();
     character.ShowPicture = in.Boolean();
     character.CardBack = in.Int16();
-    character.CardBackPicture = in.Text();
-    character.PlayingPiece = in.Text();
+    character.CardBackPicture = in.Path();
+    character.PlayingPiece = in.Path();
     character.PlayingPieceLeft = in.Real();
     character.PlayingPieceTop = in.Real();
 }
@@ -213,7 +206,7 @@ void ReadClosingLines(SetReader& in, int16 version, CardSet& set)
     set.LastSubType = version >= 7 ? in.Text() : QString();
     set.LastSubTypeReversed = version >= 7 ? in.Text() : QString();
     set.LastNumber = version >= 2 ? in.Int16() : NumberOfOldFiles;
-    set.LastBackground = in.Text();
+    set.LastBackground = in.Path();
 }
 
 void ReadSet(SetReader& in, int16 version, CardSet& set)

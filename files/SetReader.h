@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/StoredPath.h"
 #include "platform/Types.h"
 
 #include <QByteArray>
@@ -18,6 +19,7 @@ public:
 
     [[nodiscard]] QString Text();
     [[nodiscard]] QString Flattened(); ///< every "|" becomes CR LF
+    [[nodiscard]] QString Path() { return PathFromStored(Text()); }
     [[nodiscard]] bool Boolean();
     [[nodiscard]] int16 Int16();
     [[nodiscard]] int32 Int32();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/StoredPath.h"
 #include "platform/LineWriter.h"
 #include "platform/Types.h"
 
@@ -20,6 +21,7 @@ public:
     // Error 6 for texts too long to be read again.
     void Text(const QString& text);      ///< error 5 for one with a line break
     void Flattened(const QString& text); ///< every CR LF becomes "|"
+    void Path(const QString& path) { Text(StoredPath(path)); }
     void Boolean(bool value);
     void Integer(int32 value);
     void Real(double value);

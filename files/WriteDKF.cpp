@@ -24,10 +24,10 @@ void WriteHeader(SetWriter& out, const SetHeader& header)
     out.Text(QStringLiteral("Version %1").arg(setFile::CurrentVersion));
     out.Literal(setFile::Start);
     out.Text(header.SetName);
-    out.Text(header.FileName);
-    out.Text(header.SaveTo);
+    out.Path(header.FileName);
+    out.Path(header.SaveTo);
     out.Boolean(header.Autonumber);
-    out.Text(header.Symbol);
+    out.Path(header.Symbol);
     out.Text(header.FilenamePrefix);
     out.Boolean(header.FileNr);
     out.Boolean(header.NoBack);
@@ -51,7 +51,7 @@ void WriteCardType(SetWriter& out, const CardType& type)
 void WriteCardBack(SetWriter& out, const CardBack& back)
 {
     out.Text(back.Name);
-    out.Text(back.Picture);
+    out.Path(back.Picture);
     out.Boolean(back.BuiltIn);
 }
 
@@ -63,7 +63,7 @@ void WriteNewCardBack(SetWriter& out, const NewCardBack& back)
     out.Integer(back.InnerColor);
     out.Text(back.Name);
     out.Integer(back.BackColor);
-    out.Text(back.Picture);
+    out.Path(back.Picture);
     out.Boolean(back.UsePicture);
     WriteFont(out, back.Font);
 }
@@ -80,7 +80,7 @@ void WriteCard(SetWriter& out, const Card& card)
     out.Integer(card.TypeIndex);
     out.Text(card.Number);
     out.Boolean(card.ShowPicture);
-    out.Text(card.Picture);
+    out.Path(card.Picture);
     out.Real(card.PictureTop);
     out.Integer(card.FrameHeight);
     out.Real(card.PictureLeft);
@@ -89,7 +89,7 @@ void WriteCard(SetWriter& out, const Card& card)
     out.Text(card.Artist);
     out.Text(card.BoldText);
     out.Flattened(card.Info);
-    out.Text(card.Background);
+    out.Path(card.Background);
     out.Integer(card.CardBack);
     out.Integer(card.Color);
     out.Text(card.Filename);
@@ -100,15 +100,15 @@ void WriteLargeCard(SetWriter& out, const LargeCard& card)
     out.Text(card.Title);
     out.Integer(card.Copies);
     out.Boolean(card.ShowPicture);
-    out.Text(card.Picture);
+    out.Path(card.Picture);
     out.Real(card.PictureTop);
     out.Real(card.PictureLeft);
     out.Integer(card.FrameHeight);
     out.Boolean(card.Frame);
     out.Boolean(card.Resize);
     out.Flattened(card.Info);
-    out.Text(card.Background);
-    out.Text(card.CardBack);
+    out.Path(card.Background);
+    out.Path(card.CardBack);
     out.Integer(card.Color);
     out.Text(card.Filename);
 }
@@ -118,22 +118,22 @@ void WriteCharacter(SetWriter& out, const Character& character)
     out.Text(character.Name);
     out.Flattened(character.SpecialAbilities);
     out.Text(character.Alignment);
-    out.Text(character.Background);
+    out.Path(character.Background);
     out.Text(character.Craft);
     out.Text(character.Filename);
     out.Text(character.Gold);
     out.Text(character.Lives);
     out.Real(character.PictureLeft);
     out.Real(character.PictureTop);
-    out.Text(character.Picture);
+    out.Path(character.Picture);
     out.Integer(character.FrameHeight);
     out.Text(character.StartArea);
     out.Text(character.Strength);
     out.Boolean(character.Frame);
     out.Boolean(character.ShowPicture);
     out.Integer(character.CardBack);
-    out.Text(character.CardBackPicture);
-    out.Text(character.PlayingPiece);
+    out.Path(character.CardBackPicture);
+    out.Path(character.PlayingPiece);
     out.Real(character.PlayingPieceLeft);
     out.Real(character.PlayingPieceTop);
 }
@@ -156,7 +156,7 @@ void WriteClosingLines(SetWriter& out, const CardSet& set)
     out.Text(set.LastSubType);
     out.Text(set.LastSubTypeReversed);
     out.Integer(set.LastNumber);
-    out.Text(set.LastBackground);
+    out.Path(set.LastBackground);
     out.Literal(setFile::End);
 }
 

@@ -9,14 +9,6 @@ namespace deckforge {
 
 namespace {
 
-/// What a surface has before anything is set: the scheme's font, so that a text measured with it is nearly as
-/// wide as one set in the scheme's bold.
-const TextFont& FirstFont()
-{
-    static const TextFont font = {.Name = QStringLiteral("Small Fonts"), .Size = 7};
-    return font;
-}
-
 /// A rectangle of logical pixels in the memory.
 QRect InMemory(const QRect& logical, int scale)
 {
@@ -47,7 +39,7 @@ Colour FromRgb(QRgb rgb)
     return (qBlue(rgb) << 16) | (qGreen(rgb) << 8) | qRed(rgb);
 }
 
-PictureBox::PictureBox(QSize size, int scale) : m_size(size), m_scale(scale), m_font(FirstFont())
+PictureBox::PictureBox(QSize size, int scale) : m_size(size), m_scale(scale), m_font(UsualFont())
 {
     Clear();
 }

@@ -49,8 +49,6 @@ public:
     void Print(const QString& text);
     void PrintNumber(int number); ///< with a blank before and behind it
 
-    static constexpr double MostPoints = 2160; ///< letters of thirty inches
-
     // Pictures and lines
     void PaintPicture(const Picture& picture, int x, int y);          ///< at its natural size
     void PaintStretched(const Picture& picture, const QRect& target); ///< the whole picture

@@ -21,6 +21,21 @@ bool IsSubstituted(const QString& name)
 
 } // namespace
 
+const TextFont& UsualFont()
+{
+    static const TextFont font = {.Name = QStringLiteral("Small Fonts"), .Size = 7};
+    return font;
+}
+
+TextFont DrawableFont(const FontSpec& font)
+{
+    const bool hasSize = font.Size > 0 && font.Size <= MostPoints;
+    return {.Name = font.Name.isEmpty() ? UsualFont().Name : font.Name,
+            .Size = hasSize ? font.Size : UsualFont().Size,
+            .Bold = font.Bold,
+            .Italic = font.Italic};
+}
+
 size_t qHash(const TextFont& font, size_t seed)
 {
     return qHashMulti(seed, font.Name, font.Size, font.Bold, font.Italic);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/FontSpec.h"
+
 #include <QFont>
 #include <QFontMetricsF>
 #include <QHash>
@@ -19,6 +21,15 @@ struct TextFont {
 };
 
 size_t qHash(const TextFont& font, size_t seed = 0);
+
+inline constexpr double MostPoints = 2160; ///< letters of thirty inches
+
+/// What a new surface has, so that a text measured with it is nearly as wide as one set in the scheme's bold.
+[[nodiscard]] const TextFont& UsualFont();
+
+/// A font of a set as one that can be drawn. Sets from strangers can have one without a name or with a size
+/// that no font has: these are the usual font's then.
+[[nodiscard]] TextFont DrawableFont(const FontSpec& font);
 
 /// Of a card, whatever the screen; a printer has more.
 inline constexpr double CardPixelsPerInch = 96;

@@ -28,31 +28,31 @@ struct FinalPicture {
 };
 
 constexpr FinalPicture StandardPicture = {&WorkSurfaces::picACard,
-                                          152,
+                                          CardSize.width(),
                                           Beside::Back,
                                           [](const CardTemplates& t) { return &t.Standard.picBack; },
                                           "Saving the card",
                                           "Saving the card"};
 constexpr FinalPicture LargePicture = {&WorkSurfaces::picACard,
-                                       304,
+                                       DoubleCardSize.width(),
                                        Beside::Back,
                                        [](const CardTemplates& t) { return &t.Large.picBackLarge; },
                                        "Saving the large card",
                                        "Saving the large card"};
 constexpr FinalPicture CharacterPicture = {
     &WorkSurfaces::picACard,
-    304,
+    DoubleCardSize.width(),
     Beside::Back,
     [](const CardTemplates& t) { return &t.Character.picCharacterBack; },
     "Saving the character card",
     "Saving the large card"};
 constexpr FinalPicture PiecePicture = {
-    &WorkSurfaces::picACardPP, 152, Beside::SameAgain, nullptr, "Saving the playing piece card",
-    "Saving the large card"};
-constexpr FinalPicture NewBackPicture = {
-    &WorkSurfaces::picACard, 152, Beside::Nothing, nullptr, "Saving the card", "Saving the card"};
+    &WorkSurfaces::picACardPP,       CardSize.width(),       Beside::SameAgain, nullptr,
+    "Saving the playing piece card", "Saving the large card"};
+constexpr FinalPicture NewBackPicture = {&WorkSurfaces::picACard, CardSize.width(), Beside::Nothing, nullptr,
+                                         "Saving the card",       "Saving the card"};
 
-constexpr int OutlineBottom = 255;
+constexpr int OutlineBottom = CardSize.height() - 1;
 
 /// What is painted beside the card; the empty picture for nothing.
 Picture CompanionOf(const Workshop& workshop, const FinalPicture& kind)

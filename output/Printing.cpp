@@ -66,28 +66,25 @@ private:
 
 /// What the pages differ in.
 struct PageRow {
-    QString (*Title)(const CardSet&);
-    bool (*Show)(Workshop&);
+    int16 CardSet::*Current;
+    bool (*Show)(Workshop&, int16);
+    QString (*Name)(const CardSet&, int16);
     Picture (*Front)(Workshop&);
     bool HasPiece;
 };
 
 const PageRow& RowOf(PrintedPage page)
 {
-    static constexpr auto characterName = [](const CardSet& set) {
-        return set.Characters[set.CurrentCharacter].Name;
-    };
-    static constexpr auto showCharacter = [](Workshop& workshop) {
-        return ShowCharacter(workshop, workshop.Set.CurrentCharacter);
+    static constexpr auto characterName = [](const CardSet& set, int16 index) {
+        return set.Characters[index].Name;
     };
     static constexpr PageRow rows[] = {
-        {[](const CardSet& set) { return set.Cards[set.CurrentCard].Title; },
-         [](Workshop& workshop) { return ShowCard(workshop, workshop.Set.CurrentCard); }, FinalCard, false},
-        {[](const CardSet& set) { return set.LargeCards[set.CurrentLargeCard].Title; },
-         [](Workshop& workshop) { return ShowLargeCard(workshop, workshop.Set.CurrentLargeCard); },
-         FinalLargeCard, false},
-        {characterName, showCharacter, FinalCharacter, true},
-        {characterName, showCharacter, FinalCharacter, false}};
+        {&CardSet::CurrentCard, ShowCard,
+         [](const CardSet& set, int16 index) { return set.Cards[index].Title; }, FinalCard, false},
+        {&CardSet::CurrentLargeCard, ShowLargeCard,
+         [](const CardSet& set, int16 index) { return set.LargeCards[index].Title; }, FinalLargeCard, false},
+        {&CardSet::CurrentCharacter, ShowCharacter, characterName, FinalCharacter, true},
+        {&CardSet::CurrentCharacter, ShowCharacter, characterName, FinalCharacter, false}};
     return rows[static_cast<std::size_t>(page)];
 }
 
@@ -113,8 +110,8 @@ bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
     TakeSymbolPlaces(fine.Templates, workshop.Templates);
     // Twice: some fonts and outlines are those that the composition before left. In a window, too, a card
     // was shown before it is printed.
-    const bool isShown = RowOf(page).Show(fine);
-    return isShown && RowOf(page).Show(fine);
+    const int16 index = fine.Set.*CurrentOf(page);
+    return ShowForPage(fine, page, index) && ShowForPage(fine, page, index);
 }
 
 void LayFinePage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
@@ -126,9 +123,20 @@ void LayFinePage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
 
 } // namespace
 
+int16 CardSet::*CurrentOf(PrintedPage page)
+{
+    return RowOf(page).Current;
+}
+
+bool ShowForPage(Workshop& workshop, PrintedPage page, int16 index)
+{
+    workshop.Set.*CurrentOf(page) = index;
+    return RowOf(page).Show(workshop, index);
+}
+
 QString PageTitle(const CardSet& set, PrintedPage page)
 {
-    return set.Header.SetName + QStringLiteral(" - ") + RowOf(page).Title(set);
+    return set.Header.SetName + QStringLiteral(" - ") + RowOf(page).Name(set, set.*CurrentOf(page));
 }
 
 void PrintCard(Workshop& workshop, PrintedPage page)

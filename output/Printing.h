@@ -10,6 +10,16 @@ namespace deckforge {
 /// piece, or not.
 enum class PrintedPage { Card, LargeCard, Character, CharacterAlone };
 
+/// Where the set keeps which card the page is of.
+[[nodiscard]] int16 CardSet::*CurrentOf(PrintedPage page);
+
+/// Makes the card of the index the current one, and shows it. Gives whether it could be composed; why not is
+/// told in a box.
+bool ShowForPage(Workshop& workshop, PrintedPage page, int16 index);
+
+/// What the page says above the card: the set and the card.
+[[nodiscard]] QString PageTitle(const CardSet& set, PrintedPage page);
+
 // The card is composed anew for the page, finer than the window does, from the set as it stands. One that
 // cannot be composed so is printed as it was composed last; whoever showed it has told why.
 
@@ -24,8 +34,5 @@ void WritePdf(Workshop& workshop, PrintedPage page, const QString& path, int pix
 /// and gaps shrink as the device gets finer; pictures and letters have their physical size, 96 pixels of a
 /// card to the inch. Error 482 when the device takes no page.
 void LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device);
-
-/// What the page says above the card: the set and the card.
-[[nodiscard]] QString PageTitle(const CardSet& set, PrintedPage page);
 
 } // namespace deckforge

@@ -13,7 +13,7 @@ namespace {
 
 constexpr char FailureTitle[] = "Saving the cardsheet";
 constexpr char GifFailureTitle[] = "Saving the card";
-constexpr int CardOutline = 152; ///< of the boxes of the grid, in pixels; a back's begins a pixel further
+constexpr int CardOutline = CardSize.width(); ///< of the boxes of the grid; a back's begins a pixel further
 
 QPoint CellCorner(const SheetState& sheet)
 {

@@ -24,6 +24,12 @@ bool IsSpecialByte(char16_t c)
     return c >= FirstSpecial && c <= LastSpecial;
 }
 
+/// Whether the character is the byte of the same value.
+bool IsPlain(char16_t c)
+{
+    return c <= LastPlain && !IsSpecialByte(c);
+}
+
 [[noreturn]] void RefuseCharacter(QStringView text, qsizetype at)
 {
     char32_t character = text[at].unicode();
@@ -56,6 +62,13 @@ QString FromCodePage(QByteArrayView bytes)
     return text;
 }
 
+bool IsInCodePage(QStringView text)
+{
+    return std::all_of(text.utf16(), text.utf16() + text.size(), [](char16_t c) {
+        return IsPlain(c) || std::find(Specials.begin(), Specials.end(), c) != Specials.end();
+    });
+}
+
 void AppendInCodePage(QByteArray& bytes, QStringView text, Lacking lacking)
 {
     const qsizetype before = bytes.size();
@@ -65,12 +78,12 @@ void AppendInCodePage(QByteArray& bytes, QStringView text, Lacking lacking)
     bool isPlain = true; // all characters so far have the value of their byte
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t c = characters[i];
-        isPlain = isPlain && c <= LastPlain && !IsSpecialByte(c);
+        isPlain = isPlain && IsPlain(c);
         out[i] = static_cast<char>(c);
     }
     for (qsizetype i = 0; !isPlain && i < text.size(); ++i) {
         const char16_t c = characters[i];
-        if (c <= LastPlain && !IsSpecialByte(c))
+        if (IsPlain(c))
             continue;
         const auto special = std::find(Specials.begin(), Specials.end(), c);
         if (special != Specials.end()) {

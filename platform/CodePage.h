@@ -12,6 +12,9 @@ namespace deckforge {
 /// Never fails.
 [[nodiscard]] QString FromCodePage(QByteArrayView bytes);
 
+/// Whether the code page has every character of the text.
+[[nodiscard]] bool IsInCodePage(QStringView text);
+
 /// What becomes of a character that the code page lacks.
 enum class Lacking { Refuse, QuestionMark };
 

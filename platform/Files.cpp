@@ -190,17 +190,17 @@ void CopyFileSafely(const QString& from, const QString& to)
     removeUnfinished.dismiss();
 }
 
+bool IsRegularFile(const QString& path)
+{
+    struct stat status = {};
+    return ::stat(NameForSystem(path).constData(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
 void RenameFile(const QString& from, const QString& to)
 {
     if (std::rename(NameForSystem(from).constData(), NameForSystem(to).constData()) != 0)
         throw FailureOf(errno, to);
     SyncFolderOf(to);
-}
-
-bool IsRegularFile(const QString& path)
-{
-    struct stat status = {};
-    return ::stat(NameForSystem(path).constData(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 void RemoveFile(const QString& path)

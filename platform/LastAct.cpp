@@ -15,8 +15,8 @@ namespace {
 constexpr std::array EndsFromOutside = {SIGTERM, SIGHUP, SIGINT};
 constexpr std::array Crashes = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
 
-/// How long the program may take to come to the event loop and act, in seconds.
-constexpr unsigned int Patience = 30;     ///< seconds, for an end that the event loop answers
+// How long the program may take to act before it is ended without, in seconds.
+constexpr unsigned int Patience = 30;     ///< for an end from outside, which the event loop answers
 constexpr unsigned int CrashPatience = 5; ///< the act may wait there for what the crash interrupted
 
 // Handlers of signals and of the end of the program take no arguments: what they work on stands here.

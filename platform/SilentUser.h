@@ -8,7 +8,7 @@ namespace deckforge {
 
 /// A user who sees nothing and cancels every dialog: where nobody is to be asked or told, or has been
 /// already.
-class SilentUser final : public UserPort {
+class SilentUser : public UserPort {
 public:
     Answer ShowMessage(const MessageBoxRequest& /*request*/) override { return deckforge::Answer::Ok; }
     std::optional<QString> AskOpenFile(const FileDialogRequest& /*request*/) override { return std::nullopt; }

@@ -326,4 +326,25 @@ TEST_F(SetFileTest, ATextOfTwoLinesCannotBreakTheLinesOfTheFile)
     EXPECT_FALSE(WriteDKF(Set, Folder.Path(QStringLiteral("written.dkf")), User, Report::Tell));
 }
 
+TEST_F(SetFileTest, FoldersNamedInAnyLanguageAreSavedAndReadAgain)
+{
+    Set.Header.SaveTo = QStringLiteral("/home/иван/Документы/100%/");
+    Set.Header.FileName = QStringLiteral("/home/иван/набор.dkf");
+    Set.Cards[1].Picture = QStringLiteral("/data/Ελλάδα/two\r\nlines.bmp");
+    Set.Cards[1].Background = QStringLiteral("/home/josé/bär €.bmp"); // in the code page, so as it stands
+    Set.LastBackground = QStringLiteral("file:///home/%41.bmp");      // looks like an address, and is none
+    const CardSet before = Set;
+    const QByteArray written = Written();
+    EXPECT_TRUE(written.contains("file:///data/%CE%95%CE%BB%CE%BB%CE%AC%CE%B4%CE%B1/two%0D%0Alines.bmp\r\n"));
+    EXPECT_TRUE(written.contains("/home/jos\xE9/b\xE4r \x80.bmp\r\n"));
+
+    InitSet(Set);
+    ASSERT_TRUE(Read(written));
+    EXPECT_EQ(Set.Header.SaveTo, before.Header.SaveTo);
+    EXPECT_EQ(Set.Header.FileName, before.Header.FileName);
+    EXPECT_EQ(Set.Cards[1].Picture, before.Cards[1].Picture);
+    EXPECT_EQ(Set.Cards[1].Background, before.Cards[1].Background);
+    EXPECT_EQ(Set.LastBackground, before.LastBackground);
+}
+
 } // namespace deckforge
