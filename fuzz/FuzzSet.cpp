@@ -5,10 +5,9 @@
 #include "compose/StandardCard.h"
 #include "core/Vocabulary.h"
 #include "files/modFile.h"
+#include "fuzz/Drawing.h"
 #include "fuzz/FuzzedFile.h"
 #include "platform/SilentUser.h"
-
-#include <QGuiApplication>
 
 // A set from a stranger: reading it, showing it and writing it again. What was read is written as it can be
 // read again.
@@ -53,10 +52,7 @@ void ShowAll(Workshop& workshop)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    static int argc = 1;
-    static char name[] = "fuzz-set";
-    static char* argv[] = {name, nullptr};
-    static const QGuiApplication application(argc, argv);
+    StartDrawing();
     static SilentUser user;
     static Workshop workshop(user);
     InitForm(workshop);

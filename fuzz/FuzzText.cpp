@@ -1,7 +1,7 @@
 #include "compose/Attempt.h"
 #include "compose/TextFitting.h"
+#include "fuzz/Drawing.h"
 
-#include <QGuiApplication>
 #include <cstdint>
 #include <cstring>
 
@@ -33,10 +33,7 @@ void CheckBreaks(const PictureBox& surface, QStringView text, int width)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    static int argc = 1;
-    static char name[] = "fuzz-text";
-    static char* argv[] = {name, nullptr};
-    static const QGuiApplication application(argc, argv);
+    StartDrawing();
     Column column = {};
     if (size < sizeof column)
         return 0;

@@ -46,7 +46,8 @@ QImage DecodeWithReader(QByteArray bytes, const QByteArray& format)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format);
-    const QSize size = reader.size();
+    const QSize told = reader.size();
+    const QSize size(told.width(), qAbs(told.height())); // below 0 where the rows of a BMP run top-down
     if (size.isEmpty() || qint64(size.width()) * size.height() * BytesPerPixel > MostDecodedBytes)
         RefusePicture();
     QImage image = reader.read();

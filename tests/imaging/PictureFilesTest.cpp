@@ -8,6 +8,7 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QtEndian>
@@ -81,6 +82,20 @@ TEST(PictureLoader, DecodesAllFourFormatsAtTheirNaturalSize)
     EXPECT_EQ(metafile.Size(), QSize(96, 48));
     EXPECT_LT(qGray(metafile.Pixels().pixel(20, 24)), 30);
     EXPECT_TRUE(loader.LoadPicture(QString()).IsEmpty());
+}
+
+TEST(PictureLoader, TakesTheFormsThatEachFormatHas)
+{
+    // Compressed, progressive, interlaced, with old headers, bit fields, four colours, several pictures.
+    QDirIterator seeds(QStringLiteral(DECKFORGE_SOURCE_DIR "/fuzz/corpus"), QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (seeds.hasNext()) {
+        const QString path = seeds.next();
+        const QString folder = seeds.fileInfo().dir().dirName();
+        if (folder == QLatin1String("set") || folder == QLatin1String("text"))
+            continue;
+        EXPECT_NO_THROW(EXPECT_FALSE(DecodePicture(path).IsEmpty())) << path.toStdString();
+    }
 }
 
 TEST(PictureLoader, RefusesWhatIsCutDamagedTooLargeOrNoPicture)

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QGuiApplication>
+
+namespace deckforge {
+
+/// What text and pictures need, once for all inputs of a fuzzer.
+inline void StartDrawing()
+{
+    static int argc = 1;
+    static char name[] = "fuzzer";
+    static char* argv[] = {name, nullptr};
+    static const QGuiApplication application(argc, argv);
+}
+
+} // namespace deckforge
