@@ -5,7 +5,9 @@
 
 #include <QAbstractTableModel>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QSortFilterProxyModel>
+#include <array>
 
 namespace deckforge {
 
@@ -63,6 +65,8 @@ public:
         list.header()->setSortIndicatorClearable(true); // the third click brings the set's order back
         list.setSortingEnabled(true);
         list.installEventFilter(this);
+        connect(list.header(), &QHeaderView::sectionResized, this,
+                [this](int column, int /*before*/, int width) { TakeShare(column, width); });
         connect(&list, &QTreeView::doubleClicked, this, [this](const QModelIndex& cell) { Pick(cell); });
         // Letters look for a title, wherever in its row the last click was.
         connect(list.selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -105,14 +109,22 @@ private:
         m_form.lvCard->setCurrentIndex(row);
     }
 
-    /// In sevenths of the list: two each, and one for the last.
     void SizeColumns()
     {
-        constexpr int gap = 10;
-        QHeaderView& header = *m_form.lvCard->header();
-        const int seventh = m_form.lvCard->width() / 7;
-        for (int column = 0; column < CardListColumnCount; ++column)
-            header.resizeSection(column, (column < CardListColumnCount - 1 ? 2 * seventh : seventh) - gap);
+        const QScopedValueRollback sizing(m_isSizing, true);
+        for (std::size_t column = 0; column < m_shares.size(); ++column) {
+            const int width = static_cast<int>(m_shares[column] * m_form.lvCard->width()) - Gap;
+            m_form.lvCard->header()->resizeSection(static_cast<int>(column), width);
+        }
+    }
+
+    /// A column that the user drags keeps its share when the list is sized.
+    void TakeShare(int column, int width)
+    {
+        if (m_isSizing)
+            return;
+        m_shares.at(static_cast<std::size_t>(column)) =
+            static_cast<double>(width + Gap) / m_form.lvCard->width();
     }
 
     void Pick(const QModelIndex& cell)
@@ -121,10 +133,14 @@ private:
         accept();
     }
 
+    static constexpr int Gap = 10; ///< what a column leaves of its share
+
     Ui::frmCardList m_form;
     CardListModel m_model;
     QSortFilterProxyModel m_sorted;
     std::optional<int16> m_chosen;
+    std::array<double, CardListColumnCount> m_shares = {2 / 7.0, 2 / 7.0, 2 / 7.0, 1 / 7.0}; ///< of the list
+    bool m_isSizing = false;
 };
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "dialogs/Choices.h"
 #include "dialogs/DialogHandlers.h"
 #include "dialogs/FontOptions.h"
+#include "dialogs/TabKeys.h"
 #include "platform/Version.h"
 #include "ui_frmChangeFont.h"
 
@@ -95,6 +96,7 @@ public:
         SetDemoFont();
         ShowSample();
         connect(m_form.tbCard, &QTabBar::currentChanged, this, [this] { ShowSample(); });
+        BindTabKeys(*m_form.tbCard);
         OnClick(m_user, m_form.cmdChangeFont, this, [this] { ChangeFont(); });
         OnClick(m_user, m_form.cmdReset, this, [this] { Reset(); });
         OnClick(m_user, m_form.picArtistColor, this, [this] { ChooseArtistColour(); });

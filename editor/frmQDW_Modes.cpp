@@ -3,6 +3,7 @@
 #include "compose/NewBack.h"
 #include "compose/StandardCard.h"
 #include "dialogs/CardPreview.h"
+#include "dialogs/TabKeys.h"
 #include "editor/frmQDW_Tables.h"
 #include "ui_fraCardBack.h"
 #include "ui_fraCharacter.h"
@@ -33,14 +34,7 @@ void frmQDW::BindModes()
     onKey(Qt::CTRL | Qt::Key_N, &Mode::Add);
     onKey(Qt::CTRL | Qt::Key_Comma, &Mode::Previous);
     onKey(Qt::CTRL | Qt::Key_Period, &Mode::Next);
-    const auto onTabKey = [this](const QKeySequence& key, int step) {
-        On(new QShortcut(key, this), &QShortcut::activated, [this, step] {
-            tbCard->setCurrentIndex((tbCard->currentIndex() + tbCard->count() + step) % tbCard->count());
-        });
-    };
-    onTabKey(Qt::CTRL | Qt::Key_Tab, 1);
-    onTabKey(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, -1);
-
+    BindTabKeys(*tbCard);
     On(m_large->chkShowBackLarge, &QCheckBox::clicked, [this] { SwitchLargeView(); });
     On(m_character->chkShowCharacterBack, &QCheckBox::clicked, [this] { SwitchCharacterView(); });
     On(m_character->chkShowPlayingPiece, &QCheckBox::clicked, [this] { SwitchPieceView(); });
