@@ -1,9 +1,9 @@
 #include "imaging/ColourReduction.h"
 
+#include "imaging/Owned.h"
 #include "platform/RunTimeError.h"
 
 #include <libimagequant.h>
-#include <memory>
 #include <vector>
 
 namespace deckforge {
@@ -13,9 +13,6 @@ namespace {
 /// From 1, the best palette, to 10; at 7 a card takes a quarter of the time of the default, and looks the
 /// same.
 constexpr int QuantiserSpeed = 7;
-
-template <class Handle>
-using Owned = std::unique_ptr<Handle, void (*)(Handle*)>;
 
 void Check(liq_error error)
 {

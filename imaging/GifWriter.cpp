@@ -1,6 +1,7 @@
 #include "imaging/GifWriter.h"
 
 #include "imaging/ColourReduction.h"
+#include "imaging/Owned.h"
 #include "imaging/PictureLoader.h"
 #include "platform/Files.h"
 #include "platform/RunTimeError.h"
@@ -9,7 +10,6 @@
 #include <QScopeGuard>
 #include <algorithm>
 #include <gif_lib.h>
-#include <memory>
 #include <vector>
 
 namespace deckforge {
@@ -17,9 +17,6 @@ namespace deckforge {
 namespace {
 
 constexpr int MostColours = 256;
-
-template <class Handle>
-using Owned = std::unique_ptr<Handle, void (*)(Handle*)>;
 
 std::vector<GifColorType> ColoursOf(const QImage& image)
 {
