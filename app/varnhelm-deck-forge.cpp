@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QTimer>
+#include <QWindow>
 
 namespace {
 
@@ -21,6 +22,17 @@ QIcon ProgramIcon()
     for (const int size : {32, 48, 64, 128, 256, 512})
         icon.addPixmap(drawing.pixmap(size));
     return icon;
+}
+
+/// Until the desktop has placed the window; one that it keeps hidden is not waited for long.
+void WaitForPlace(const QWindow& window)
+{
+    constexpr int milliseconds = 1000;
+    QTimer patience;
+    patience.setSingleShot(true);
+    patience.start(milliseconds);
+    while (!window.isExposed() && patience.isActive())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
 }
 
 } // namespace
@@ -38,6 +50,9 @@ int main(int argc, char* argv[])
     });
     // In the event loop, so that what the reader tells stands over the window.
     const QString commandLine = QApplication::arguments().sliced(1).join(QLatin1Char(' '));
-    QTimer::singleShot(0, &window, [&] { window.Start(commandLine); });
+    QTimer::singleShot(0, &window, [&] {
+        WaitForPlace(*window.windowHandle());
+        window.Start(commandLine);
+    });
     return QApplication::exec();
 }

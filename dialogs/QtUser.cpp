@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -83,6 +84,21 @@ protected:
     void closeEvent(QCloseEvent* /*event*/) override { done(QMessageBox::NoButton); }
 };
 
+/// A size for dialogs with lists, in letters of their font.
+QSize Letters(const QWidget& dialog, int across, int down)
+{
+    return {across * dialog.fontMetrics().averageCharWidth(), down * dialog.fontMetrics().height()};
+}
+
+/// A short text would leave the title no room.
+void MakeRoomForTitle(QMessageBox& box)
+{
+    constexpr int lettersOfButtons = 16; // beside the title
+    const int title = box.fontMetrics().boundingRect(box.windowTitle()).width();
+    if (auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
+        text->setMinimumWidth(title + Letters(box, lettersOfButtons, 0).width());
+}
+
 /// With NoButton the box chooses the button that Enter stands for.
 int RunBox(const MessageBoxRequest& request, QMessageBox::StandardButton usual, QWidget* window)
 {
@@ -91,6 +107,7 @@ int RunBox(const MessageBoxRequest& request, QMessageBox::StandardButton usual, 
     box.setTextFormat(Qt::PlainText);
     box.setText(text.replace(QLatin1String("\r\n"), QLatin1String("\n")));
     box.setDefaultButton(usual);
+    MakeRoomForTitle(box);
     return box.exec();
 }
 
@@ -154,12 +171,14 @@ std::optional<QString> QtUser::AskSaveFile(const FileDialogRequest& request)
 
 std::optional<QString> QtUser::BrowseForFolder()
 {
-    const QString folder = QFileDialog::getExistingDirectory(
-        TopWindow(), QStringLiteral("Choose a directory from the list."), m_lastFolder);
-    if (folder.isEmpty())
+    QFileDialog dialog(TopWindow(), QStringLiteral("Choose a directory from the list."));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    Prepare(dialog, {});
+    if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    m_lastFolder = folder;
-    return WithSeparator(folder);
+    m_lastFolder = dialog.selectedFiles().constFirst();
+    return WithSeparator(m_lastFolder);
 }
 
 std::optional<Colour> QtUser::AskColour(const QString& title, Colour colour)
@@ -177,12 +196,11 @@ std::optional<FontSpec> QtUser::AskFont(const QString& title, const FontSpec& fo
 
 std::optional<QString> QtUser::AskText(const QString& prompt, const QString& title, const QString& text)
 {
-    constexpr int letters = 48;
     QInputDialog dialog(TopWindow());
     dialog.setWindowTitle(title);
     dialog.setLabelText(prompt);
     dialog.setTextValue(text);
-    dialog.resize(letters * dialog.fontMetrics().averageCharWidth(), dialog.sizeHint().height());
+    dialog.resize(Letters(dialog, 48, 0).expandedTo(dialog.sizeHint()));
     return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;
 }
 
@@ -226,9 +244,12 @@ QWidget* QtUser::TopWindow() const
 
 void QtUser::Prepare(QFileDialog& dialog, const FileDialogRequest& request) const
 {
-    const QStringList filters = NameFilters(request.Filter);
-    dialog.setNameFilters(filters);
-    dialog.selectNameFilter(filters.value(request.FilterIndex - 1));
+    if (!request.Filter.isEmpty()) {
+        const QStringList filters = NameFilters(request.Filter);
+        dialog.setNameFilters(filters);
+        dialog.selectNameFilter(filters.value(request.FilterIndex - 1));
+    }
+    dialog.resize(Letters(dialog, 120, 30).expandedTo(dialog.sizeHint()));
     const QString folder = request.Folder.isEmpty() ? m_lastFolder : request.Folder;
     dialog.setDirectory(folder.isEmpty() ? QDir::homePath() : PathToOpen(folder));
     if (request.FileName.isEmpty())

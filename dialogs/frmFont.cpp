@@ -85,7 +85,7 @@ public:
 private:
     void PickColour()
     {
-        const auto picked = m_user.AskColour(QStringLiteral("Choose font color"), m_font.Color);
+        const auto picked = m_user.AskColour(QStringLiteral("Choose font colour"), m_font.Color);
         m_font.Color = picked.value_or(m_font.Color);
         Refresh();
     }

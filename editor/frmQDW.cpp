@@ -271,11 +271,16 @@ QSize frmQDW::LargestSize() const
     return screen()->availableSize() - windowFrame;
 }
 
-/// Gives the window what its contents want, as far as the screen has it.
-void frmQDW::GrowToFit()
+/// Gives the window what its contents want, as far as the screen has it. What the user made larger stays so.
+void frmQDW::SizeToFit()
 {
-    if (!isMaximized() && !isFullScreen())
-        resize(size().expandedTo(sizeHint()).boundedTo(LargestSize()));
+    if (isMaximized() || isFullScreen())
+        return;
+    const QSize before = size();
+    const QSize least = before == m_fittedSize ? QSize() : before;
+    resize(least.expandedTo(sizeHint()).boundedTo(LargestSize()));
+    if (size() != before)
+        m_fittedSize = size();
 }
 
 void frmQDW::resizeEvent(QResizeEvent* event)

@@ -126,7 +126,7 @@ private:
     void BindFocus();
     void SelectAll(QObject* box, Qt::FocusReason reason);
     [[nodiscard]] QSize LargestSize() const;
-    void GrowToFit();
+    void SizeToFit();
     void InitForm();
 
     // Tabs (frmQDW_Modes.cpp)
@@ -340,6 +340,7 @@ private:
     QWidget* fraSet;
     QStackedWidget* m_forms; ///< of the four kinds
     CardPreview* m_preview;
+    QSize m_fittedSize; ///< which the window gave itself
     QScrollArea* m_previewArea;
     QButtonGroup* m_zooms;
     QProgressBar* m_progress;

@@ -11,8 +11,7 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
-#include <QCoreApplication>
-#include <QEvent>
+#include <QLayout>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QToolTip>
@@ -166,15 +165,16 @@ void frmQDW::TellCharacterFrameSize()
     m_character->lblPicDimPlay->setText(CharacterFrameSizeText(t.PlayingPiece.picPlayingPieceFrame));
 }
 
-/// The window grows with the preview as far as the screen has room.
+/// The window grows and shrinks with the preview as far as the screen has room.
 void frmQDW::SetZoom(int zoom)
 {
     m_preview->SetZoom(zoom);
     m_zooms->button(m_preview->Zoom())->setChecked(true);
     m_preview->resize(m_preview->sizeHint());
     m_previewArea->updateGeometry();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // all layouts up to the window's
-    GrowToFit();
+    for (QWidget* parent = m_previewArea->parentWidget(); parent; parent = parent->parentWidget())
+        parent->layout()->activate(); // or else the window would want what the zoom before did
+    SizeToFit();
 }
 
 } // namespace deckforge
