@@ -4,6 +4,26 @@
 
 namespace deckforge {
 
+namespace {
+
+std::vector<LabelFont> LabelFonts(CardTemplate& card)
+{
+    using enum FontClicks;
+    return {
+        {&card.lblType[0], &SetHeader::FontType, Two},
+        {&card.lblType[1], &SetHeader::FontType, Two},
+        {&card.lblType[2], &SetHeader::FontType, Two},
+        {&card.lblType[3], &SetHeader::FontType, Two},
+        {&card.lblNumber, &SetHeader::FontNumber, Two},
+        {&card.lblTitle, &SetHeader::FontTitle, Two},
+        {&card.lblBold, &SetHeader::FontBold, Two},
+        {&card.lblInformation, &SetHeader::FontInformation, Two},
+        {&card.lblAutonumber, &SetHeader::FontAutonumber, Two},
+    };
+}
+
+} // namespace
+
 void UseFont(PictureBox& surface, const FontSpec& font)
 {
     Attempt([&] { surface.SetFontName(font.Name); });
@@ -13,42 +33,43 @@ void UseFont(PictureBox& surface, const FontSpec& font)
     surface.ForeColor = font.Color;
 }
 
+std::vector<LabelFont> LabelFonts(CardTemplates& templates)
+{
+    using enum FontClicks;
+    LargeCardTemplate& large = templates.Large;
+    CharacterTemplate& character = templates.Character;
+    PlayingPieceTemplate& piece = templates.PlayingPiece;
+    const std::vector<LabelFont> others = {
+        {&large.lblTitleLarge, &SetHeader::FontTitleLarge, One},
+        {&large.lblInformationLarge, &SetHeader::FontInformationLarge, One},
+        {&large.lblAutonumberLarge, &SetHeader::FontAutonumber, None},
+        {&character.lblCharacter, &SetHeader::FontCharacter, One},
+        {&character.lblSpecialTitle, &SetHeader::FontSpecialTitle, One},
+        {&character.lblSpecial, &SetHeader::FontSpecial, One},
+        {&character.lblAlignment, &SetHeader::FontAlignment, One},
+        {&character.lblAlignmentTitle, &SetHeader::FontAlignment, One},
+        {&character.lblStart, &SetHeader::FontAlignment, One},
+        {&character.lblStartTitle, &SetHeader::FontAlignment, One},
+        {&character.lblAutonumberCharacter, &SetHeader::FontAutonumber, None},
+        {&piece.lblPlayingPieceName, &SetHeader::FontPlayingPiece, One},
+    };
+    std::vector<LabelFont> labels = LabelFonts(templates.Standard);
+    labels.insert(labels.end(), others.begin(), others.end());
+    return labels;
+}
+
 void SetFont(CardTemplates& templates, const SetHeader& header)
 {
-    CardTemplate& card = templates.Standard;
-    for (Box& type : card.lblType)
-        type.Font = header.FontType;
-    card.lblNumber.Font = header.FontNumber;
-    card.lblTitle.Font = header.FontTitle;
-    card.lblBold.Font = header.FontBold;
-    card.lblInformation.Font = header.FontInformation;
-    card.lblAutonumber.Font = header.FontAutonumber;
-
-    LargeCardTemplate& large = templates.Large;
-    large.lblAutonumberLarge.Font = header.FontAutonumber;
-    large.lblTitleLarge.Font = header.FontTitleLarge;
-    large.lblInformationLarge.Font = header.FontInformationLarge;
-
-    CharacterTemplate& character = templates.Character;
-    character.lblAutonumberCharacter.Font = header.FontAutonumber;
-    character.lblCharacter.Font = header.FontCharacter;
-    character.lblSpecialTitle.Font = header.FontSpecialTitle;
-    character.lblSpecial.Font = header.FontSpecial;
-    for (Box* label : {&character.lblAlignmentTitle, &character.lblAlignment, &character.lblStartTitle,
-                       &character.lblStart})
-        label->Font = header.FontAlignment;
-    templates.PlayingPiece.lblPlayingPieceName.Font = header.FontPlayingPiece;
+    for (const LabelFont& row : LabelFonts(templates))
+        row.Label->Font = header.*row.Font;
 }
 
 void DressOpenedSet(CardTemplate& card, const SetHeader& header)
 {
-    card.lblType[0].Font = header.FontType;
-    card.lblType[1].Font = header.FontType;
-    card.lblNumber.Font = header.FontNumber;
-    card.lblTitle.Font = header.FontTitle;
-    card.lblBold.Font = header.FontBold;
-    card.lblInformation.Font = header.FontInformation;
-    card.lblAutonumber.Font = header.FontAutonumber;
+    for (const LabelFont& row : LabelFonts(card)) {
+        if (row.Label != &card.lblType[2] && row.Label != &card.lblType[3])
+            row.Label->Font = header.*row.Font;
+    }
 }
 
 } // namespace deckforge

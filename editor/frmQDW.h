@@ -38,6 +38,8 @@ class fraSet;
 
 namespace deckforge {
 
+enum class FontClicks;
+
 class CardPreview;
 class ColourSwatch;
 
@@ -94,8 +96,6 @@ private:
     using Action = void (frmQDW::*)();
     enum class Guard { None, NotLoading };
 
-    enum class Gesture { Click, DoubleClick };
-
     // Rows of the tables by which the window knows its controls, kinds and commands (frmQDW_Tables.h).
     template <class Record>
     struct TextField;
@@ -112,7 +112,6 @@ private:
     template <class Record>
     struct Page;
     struct Mode;
-    struct FontLabel;
     struct PlacementRow;
 
     /// Keeps guarded handlers quiet while controls are filled.
@@ -270,9 +269,8 @@ private:
 
     // The preview (frmQDW_Preview.cpp)
     void BindPreview();
-    [[nodiscard]] std::vector<FontLabel> FontLabels();
     [[nodiscard]] std::array<PlacementRow, 4> Placements();
-    void LabelClicked(const Box* box, Gesture gesture);
+    void LabelClicked(const Box* box, FontClicks clicks);
     void PreviewDragged(const Box* box, QPoint point, QPoint moved);
     void PreviewKey(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held);
     void ShowTip(const Box* box, QPoint globalPoint);

@@ -24,9 +24,9 @@ void frmQDW::BindPreview()
     On(m_preview, &CardPreview::Pressed, [this](const Box*, QPoint point) { m_dragStart = point; });
     On(m_preview, &CardPreview::Dragged,
        [this](const Box* box, QPoint point, QPoint moved) { PreviewDragged(box, point, moved); });
-    On(m_preview, &CardPreview::Clicked, [this](const Box* box) { LabelClicked(box, Gesture::Click); });
+    On(m_preview, &CardPreview::Clicked, [this](const Box* box) { LabelClicked(box, FontClicks::One); });
     On(m_preview, &CardPreview::DoubleClicked,
-       [this](const Box* box) { LabelClicked(box, Gesture::DoubleClick); });
+       [this](const Box* box) { LabelClicked(box, FontClicks::Two); });
     On(m_preview, &CardPreview::KeyPressed,
        [this](const Box* picture, Qt::Key key, Qt::KeyboardModifiers held) {
            PreviewKey(picture, key, held);
@@ -40,37 +40,6 @@ void frmQDW::BindPreview()
     onKey(QKeySequence::ZoomIn, 1);
     onKey(Qt::CTRL | Qt::Key_Equal, 1); // the same key without Shift
     onKey(QKeySequence::ZoomOut, -1);
-}
-
-/// Labels of the standard card ask for two clicks, all others for one.
-std::vector<frmQDW::FontLabel> frmQDW::FontLabels()
-{
-    using enum Gesture;
-    const CardTemplate& card = m_workshop.Templates.Standard;
-    const LargeCardTemplate& large = m_workshop.Templates.Large;
-    const CharacterTemplate& character = m_workshop.Templates.Character;
-    const PlayingPieceTemplate& piece = m_workshop.Templates.PlayingPiece;
-    return {
-        {&card.lblType[0], DoubleClick, &SetHeader::FontType},
-        {&card.lblType[1], DoubleClick, &SetHeader::FontType},
-        {&card.lblType[2], DoubleClick, &SetHeader::FontType},
-        {&card.lblType[3], DoubleClick, &SetHeader::FontType},
-        {&card.lblNumber, DoubleClick, &SetHeader::FontNumber},
-        {&card.lblTitle, DoubleClick, &SetHeader::FontTitle},
-        {&card.lblBold, DoubleClick, &SetHeader::FontBold},
-        {&card.lblInformation, DoubleClick, &SetHeader::FontInformation},
-        {&card.lblAutonumber, DoubleClick, &SetHeader::FontAutonumber},
-        {&large.lblTitleLarge, Click, &SetHeader::FontTitleLarge},
-        {&large.lblInformationLarge, Click, &SetHeader::FontInformationLarge},
-        {&character.lblCharacter, Click, &SetHeader::FontCharacter},
-        {&character.lblSpecialTitle, Click, &SetHeader::FontSpecialTitle},
-        {&character.lblSpecial, Click, &SetHeader::FontSpecial},
-        {&character.lblAlignment, Click, &SetHeader::FontAlignment},
-        {&character.lblAlignmentTitle, Click, &SetHeader::FontAlignment},
-        {&character.lblStart, Click, &SetHeader::FontAlignment},
-        {&character.lblStartTitle, Click, &SetHeader::FontAlignment},
-        {&piece.lblPlayingPieceName, Click, &SetHeader::FontPlayingPiece},
-    };
 }
 
 std::array<frmQDW::PlacementRow, 4> frmQDW::Placements()
@@ -88,10 +57,10 @@ std::array<frmQDW::PlacementRow, 4> frmQDW::Placements()
     }};
 }
 
-void frmQDW::LabelClicked(const Box* box, Gesture gesture)
+void frmQDW::LabelClicked(const Box* box, FontClicks clicks)
 {
-    for (const FontLabel& row : FontLabels()) {
-        if (row.Label != box || row.Opens != gesture)
+    for (const LabelFont& row : LabelFonts(m_workshop.Templates)) {
+        if (row.Label != box || row.Opens != clicks)
             continue;
         ChooseFont(m_workshop.User, m_workshop.Set.Header.*row.Font);
         SetFont(m_workshop.Templates, m_workshop.Set.Header);
@@ -134,10 +103,10 @@ void frmQDW::PreviewKey(const Box* picture, Qt::Key key, Qt::KeyboardModifiers h
 void frmQDW::ShowTip(const Box* box, QPoint globalPoint)
 {
     QString tip;
-    for (const FontLabel& row : FontLabels()) {
-        if (row.Label == box)
-            tip = row.Opens == Gesture::Click ? QStringLiteral("Click to change the font")
-                                              : QStringLiteral("Double-click to change the font");
+    for (const LabelFont& row : LabelFonts(m_workshop.Templates)) {
+        if (row.Label == box && row.Opens != FontClicks::None)
+            tip = row.Opens == FontClicks::One ? QStringLiteral("Click to change the font")
+                                               : QStringLiteral("Double-click to change the font");
     }
     for (const PlacementRow& row : Placements()) {
         if (row.Image == box)

@@ -97,13 +97,6 @@ struct frmQDW::Mode {
     Action FillAgain; ///< after a run, which has shown other cards
 };
 
-/// A label of the preview that opens the font dialog.
-struct frmQDW::FontLabel {
-    const Box* Label;
-    Gesture Opens;
-    FontSpec SetHeader::*Font;
-};
-
 /// A picture of the preview that the user places.
 struct frmQDW::PlacementRow {
     const Box* Frame;

@@ -7,7 +7,7 @@
 namespace deckforge {
 
 // The set file: lines ended by CR LF in the single-byte code page, one field to a line, no keys. Counts in
-// the file say how long each section is. Version 10 is written; 1 to 10 are read.
+// the file say how long each section is. The current version is written; all up to it are read.
 
 enum class Report { Silent, Tell };
 

@@ -1,4 +1,5 @@
 #include "editor/WindowTest.h"
+#include "files/SetFileFormat.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -69,11 +70,7 @@ void SetEverywhere(CardSet& set, Value Card::*card, Value LargeCard::*large, Val
 
 void SetFonts(CardSet& set, const FontSpec& font)
 {
-    for (FontSpec SetHeader::*of :
-         {&SetHeader::FontTitle, &SetHeader::FontType, &SetHeader::FontNumber, &SetHeader::FontBold,
-          &SetHeader::FontInformation, &SetHeader::FontAutonumber, &SetHeader::FontTitleLarge,
-          &SetHeader::FontInformationLarge, &SetHeader::FontCharacter, &SetHeader::FontSpecialTitle,
-          &SetHeader::FontSpecial, &SetHeader::FontAlignment, &SetHeader::FontPlayingPiece})
+    for (FontSpec SetHeader::*const of : setFile::Fonts)
         set.Header.*of = font;
     set.NewCardBacks[1].Font = font;
 }

@@ -1,0 +1,171 @@
+#pragma once
+
+#include "core/CardSet.h"
+#include "files/SetFileFormat.h"
+
+namespace deckforge::setFile {
+
+// The fields of each section in the order of the file, one line of code for each line of the file, told once
+// for the reader and the writer. A field that older files lack has the version that brought it, and the value
+// that it takes from them where that is not nothing.
+//
+// File is what reads or writes: Text, Flattened (a text of several lines), Path, Boolean, Integer and Real
+// take the field, and Has tells whether files of the version at hand have what that version brought.
+
+struct Since {
+    int16 Version;
+};
+
+/// Of new cards in sets that do not tell it.
+inline constexpr int16 NumberOfOldFiles = 2;
+
+template <class File, class Record>
+void FontFields(File& file, Record& font)
+{
+    file.Text(font.Name);
+    file.Real(font.Size);
+    file.Boolean(font.Bold);
+    file.Boolean(font.Italic);
+    file.Integer(font.Color);
+}
+
+template <class File, class Record>
+void HeaderFields(File& file, Record& header)
+{
+    file.Text(header.SetName);
+    file.Path(header.FileName);
+    file.Path(header.SaveTo);
+    file.Boolean(header.Autonumber);
+    file.Path(header.Symbol);
+    file.Text(header.FilenamePrefix);
+    file.Boolean(header.FileNr);
+    file.Boolean(header.NoBack);
+    file.Integer(header.SaveFormat, Since{2});
+    file.Boolean(header.ReplaceSpace, Since{5});
+    file.Integer(header.ArtistColor, Since{8}, LightGrey);
+    // Fonts that an old file lacks keep what the set before had.
+    const std::size_t fontCount = file.Has(Since{9}) ? Fonts.size() : FontsOfOldFiles;
+    for (std::size_t i = 0; i < fontCount; ++i)
+        FontFields(file, header.*Fonts[i]);
+}
+
+template <class File, class Record>
+void CardTypeFields(File& file, Record& type)
+{
+    file.Text(type.Name);
+    file.Text(type.SubName, Since{6});
+    file.Text(type.ReversedName);
+    file.Text(type.ReversedSubName, Since{6});
+    file.Integer(type.Number);
+    file.Boolean(type.BuiltIn);
+}
+
+template <class File, class Record>
+void CardBackFields(File& file, Record& back)
+{
+    file.Text(back.Name);
+    file.Path(back.Picture);
+    file.Boolean(back.BuiltIn);
+}
+
+template <class File, class Record>
+void NewCardBackFields(File& file, Record& back)
+{
+    file.Text(back.BackText);
+    file.Text(back.Filename);
+    file.Integer(back.FrameColor);
+    file.Integer(back.InnerColor);
+    file.Text(back.Name);
+    file.Integer(back.BackColor);
+    file.Path(back.Picture);
+    file.Boolean(back.UsePicture);
+    FontFields(file, back.Font);
+}
+
+template <class File, class Record>
+void CardFields(File& file, Record& card)
+{
+    file.Text(card.Title);
+    file.Integer(card.Copies, Since{3}, 1);
+    file.Text(card.Type);
+    file.Text(card.SubType, Since{6});
+    file.Text(card.TypeReversed, Since{2}, card.Type);
+    file.Text(card.SubTypeReversed, Since{6});
+    file.Boolean(card.OneLine, Since{2});
+    file.Integer(card.TypeIndex);
+    file.Text(card.Number);
+    file.Boolean(card.ShowPicture);
+    file.Path(card.Picture);
+    file.Real(card.PictureTop);
+    file.Integer(card.FrameHeight);
+    file.Real(card.PictureLeft);
+    file.Boolean(card.Frame);
+    file.Boolean(card.Resize);
+    file.Text(card.Artist, Since{8});
+    file.Text(card.BoldText);
+    file.Flattened(card.Info);
+    file.Path(card.Background);
+    file.Integer(card.CardBack);
+    file.Integer(card.Color);
+    file.Text(card.Filename);
+}
+
+template <class File, class Record>
+void LargeCardFields(File& file, Record& card)
+{
+    file.Text(card.Title);
+    file.Integer(card.Copies);
+    file.Boolean(card.ShowPicture);
+    file.Path(card.Picture);
+    file.Real(card.PictureTop);
+    file.Real(card.PictureLeft);
+    file.Integer(card.FrameHeight);
+    file.Boolean(card.Frame);
+    file.Boolean(card.Resize);
+    file.Flattened(card.Info);
+    file.Path(card.Background);
+    file.Path(card.CardBack);
+    file.Integer(card.Color);
+    file.Text(card.Filename);
+}
+
+template <class File, class Record>
+void CharacterFields(File& file, Record& character)
+{
+    file.Text(character.Name);
+    file.Flattened(character.SpecialAbilities);
+    file.Text(character.Alignment);
+    file.Path(character.Background);
+    file.Text(character.Craft);
+    file.Text(character.Filename);
+    file.Text(character.Gold);
+    file.Text(character.Lives);
+    file.Real(character.PictureLeft);
+    file.Real(character.PictureTop);
+    file.Path(character.Picture);
+    file.Integer(character.FrameHeight);
+    file.Text(character.StartArea);
+    file.Text(character.Strength);
+    file.Boolean(character.Frame);
+    file.Boolean(character.ShowPicture);
+    file.Integer(character.CardBack);
+    file.Path(character.CardBackPicture);
+    file.Path(character.PlayingPiece);
+    file.Real(character.PlayingPieceLeft);
+    file.Real(character.PlayingPieceTop);
+}
+
+/// What new cards take.
+template <class File, class Record>
+void ClosingFields(File& file, Record& set)
+{
+    file.Integer(set.LastCardBack);
+    file.Text(set.LastType);
+    file.Text(set.LastTypeReversed, Since{2}, set.LastType);
+    file.Text(set.LastSubType, Since{7});
+    file.Text(set.LastSubTypeReversed, Since{7});
+    file.Integer(set.LastNumber, Since{2}, NumberOfOldFiles);
+    file.Path(set.LastBackground);
+}
+
+} // namespace deckforge::setFile
