@@ -44,6 +44,8 @@ TEST_F(RescueTest, EarlierOnesMoveOnAndTheTenthGoes)
     for (int age = 1; age <= 9; ++age)
         EXPECT_EQ(NameIn(QStringLiteral("rescued-%1.dkf").arg(age)), QString::number(12 - age));
     EXPECT_FALSE(Folder.Has(QStringLiteral("rescued-10.dkf")));
+    const QString gone = Folder.Path(QStringLiteral("gone/"));
+    EXPECT_EQ(RescueSet(Set, gone), gone + QStringLiteral("rescued.dkf")) << "the folder is made again";
 
     QFile::remove(Folder.Path(QStringLiteral("rescued-2.dkf")));
     RescueAs(QStringLiteral("13"));
