@@ -1,8 +1,10 @@
 #include "support/Failures.h"
+#include "support/Limits.h"
 #include "support/TestFolder.h"
 
 #include <QImage>
 #include <QProcess>
+#include <csignal>
 
 namespace deckforge {
 
@@ -15,9 +17,10 @@ struct Outcome {
 };
 
 /// The built program in a process of its own; blanks part the arguments.
-Outcome Batch(const QString& commandLine)
+Outcome Batch(const QString& commandLine, const QString& standardOutput = {})
 {
     QProcess process;
+    process.setStandardOutputFile(standardOutput);
     process.start(QStringLiteral(DECKFORGE_BATCH), commandLine.split(QLatin1Char(' '), Qt::SkipEmptyParts));
     EXPECT_TRUE(process.waitForFinished()) << "it hangs or does not start";
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
@@ -26,11 +29,13 @@ Outcome Batch(const QString& commandLine)
 }
 
 /// The same on a set, with a folder for what it makes.
-Outcome Batch(const char* commandLine, const QString& set, const QString& folder = {})
+Outcome Batch(const char* commandLine, const QString& set, const QString& folder = {},
+              const QString& standardOutput = {})
 {
     return Batch(QString::fromLatin1(commandLine)
                      .replace(QLatin1String("SET"), set)
-                     .replace(QLatin1String("DIR"), folder));
+                     .replace(QLatin1String("DIR"), folder),
+                 standardOutput);
 }
 
 } // namespace
@@ -104,6 +109,14 @@ TEST(Batch, TellsAFailureInItsStatus)
     run = Batch("images SET --to DIR/file", set, folder.Path());
     EXPECT_EQ(run.Status, 1);
     EXPECT_TRUE(run.Error.contains(QStringLiteral("Saving the card: Something went wrong.\n")));
+    {
+        const FullDisk full(100);
+        ::signal(SIGXFSZ, SIG_DFL); // as a session starts its programs
+        run = Batch("convert SET DIR/b.dkf", set, folder.Path());
+    }
+    EXPECT_EQ(run.Status, 1);
+    EXPECT_TRUE(run.Error.endsWith(QStringLiteral("61, Disk full\n"))) << run.Error.toStdString();
+    EXPECT_EQ(Batch("statistics SET", set, {}, QStringLiteral("/dev/full")).Status, 1);
 }
 
 TEST(Batch, RefusesAWrongCommandLineAndShowsItsUse)
