@@ -112,6 +112,12 @@ TEST(LastActDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
         testing::ExitedWithCode(3), "^last act. $");
     EXPECT_EXIT(
         {
+            const LastAct act(say);
+            std::raise(SIGALRM); // the session has waited long enough for a program that is busy
+        },
+        testing::KilledBySignal(SIGALRM), "^last act. $");
+    EXPECT_EXIT(
+        {
             {
                 const LastAct act(say);
             }
