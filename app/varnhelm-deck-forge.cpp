@@ -48,7 +48,7 @@ int main(int argc, char* argv[])
     user.Serve(&window, [&](int done, int total) { window.ShowProgress(done, total); });
     window.show();
     const deckforge::LastAct lastAct([&window, folder = deckforge::ProgramFolder()] {
-        deckforge::RescueAtTheEnd(window.Works().Set, folder, deckforge::Report::Tell);
+        deckforge::RescueAtTheEnd(window.Works().Set, folder);
     });
     // In the event loop, so that what the reader tells stands over the window.
     const QString commandLine = QApplication::arguments().sliced(1).join(QLatin1Char(' '));

@@ -4,6 +4,7 @@
 #include "core/CardListRows.h"
 #include "core/modInfo.h"
 #include "files/Rescue.h"
+#include "files/modFile.h"
 #include "output/frmCardSheet.h"
 #include "output/modCapture.h"
 
@@ -148,6 +149,7 @@ private:
     void OpenSet();
     void SaveSet();
     void OpenDropped(const QString& path);
+    [[nodiscard]] bool IsKeptOrRescued();
     [[nodiscard]] bool TakesDrop(const QDropEvent& event) const;
     Answer AskToSave(BoxButtons buttons);
     SaveResult AskWhereAndSave();

@@ -1,7 +1,6 @@
 #include "compose/SetView.h"
 #include "dialogs/CardPreview.h"
 #include "editor/frmQDW.h"
-#include "files/modFile.h"
 #include "platform/Paths.h"
 #include "ui_fraCard.h"
 #include "ui_fraCharacter.h"
@@ -155,15 +154,26 @@ void frmQDW::dropEvent(QDropEvent* event)
     Guarded([&] { DropOn(m_preview->BoxAt(m_preview->mapFrom(this, event->position())), path); });
 }
 
-/// A run goes on to its end: it would come back to a window that is gone. The close box asks nothing, so that
-/// what it would lose is rescued.
+/// A run goes on to its end: it would come back to a window that is gone.
 void frmQDW::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(!m_isBusy);
-    if (m_isBusy || !m_kept.Differs(m_workshop.Set))
-        return;
-    RescueAtTheEnd(m_workshop.Set, ProgramFolder(), Report::Silent);
+    event->setAccepted(!m_isBusy && IsKeptOrRescued());
+}
+
+/// The close box asks nothing, so that what it would lose is rescued. Where that fails the window stays, and
+/// the way out is Exit, which asks.
+bool frmQDW::IsKeptOrRescued()
+{
+    if (!m_kept.Differs(m_workshop.Set))
+        return true;
+    try {
+        WithMemoryAsFailure([this] { RescueSet(m_workshop.Set, ProgramFolder()); });
+    } catch (const RunTimeError& error) {
+        TellNotSaved(m_workshop.User, error);
+        return false;
+    }
     m_kept.Keep(m_workshop.Set);
+    return true;
 }
 
 void frmQDW::OpenDropped(const QString& path)

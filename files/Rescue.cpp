@@ -1,5 +1,6 @@
 #include "files/Rescue.h"
 
+#include "files/modFile.h"
 #include "platform/Files.h"
 
 #include <QCryptographicHash>
@@ -56,17 +57,13 @@ QString RescueSet(const CardSet& set, const QString& folder)
     return target;
 }
 
-void RescueAtTheEnd(const CardSet& set, const QString& folder, Report report) noexcept
+void RescueAtTheEnd(const CardSet& set, const QString& folder) noexcept
 {
-    const auto tellFailure = [](const char* reason) {
-        std::fprintf(stderr, "The card set could NOT be rescued: %s\n", reason);
-    };
     try {
         const QString path = RescueSet(set, folder);
-        if (report == Report::Tell)
-            std::fprintf(stderr, "The card set is rescued to %s\n", qUtf8Printable(path));
+        std::fprintf(stderr, "The card set is rescued to %s\n", qUtf8Printable(path));
     } catch (const std::exception& failure) {
-        tellFailure(failure.what());
+        std::fprintf(stderr, "The card set could NOT be rescued: %s\n", failure.what());
     }
 }
 

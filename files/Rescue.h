@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/CardSet.h"
-#include "files/modFile.h"
 
 namespace deckforge {
 
@@ -14,9 +13,9 @@ namespace deckforge {
 /// is thrown; the earlier ones then stand as they did.
 QString RescueSet(const CardSet& set, const QString& folder);
 
-/// The same for a program that ends and has nobody left to ask: standard error tells of a failure, and on
-/// Report::Tell of success. Throws nothing.
-void RescueAtTheEnd(const CardSet& set, const QString& folder, Report report) noexcept;
+/// The same for a program that ends and has nobody left to ask: standard error tells where the set is, or why
+/// it could not be rescued. Throws nothing.
+void RescueAtTheEnd(const CardSet& set, const QString& folder) noexcept;
 
 /// What a set was when it was last read, written, made anew or given up by its user.
 class KeptSet {

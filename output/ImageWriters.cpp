@@ -105,8 +105,10 @@ void WriteGif(UserPort& user, const Picture& picture, const QString& path, const
 {
     const QString temporary = ProgramFolder() + QStringLiteral("qdwtemp.bmp");
     // All runs of the program share the file; another one waits until the picture in it is converted.
+    constexpr int milliseconds = 10000;
     QLockFile lock(temporary + QStringLiteral(".lock"));
-    lock.lock();
+    if (!lock.tryLock(milliseconds))
+        throw RunTimeError(ErrorNumber::PermissionDenied);
     SavePicture(picture, temporary);
     if (const auto failure = ConvertBmpToGif(temporary, path))
         TellWriteFailure(user, failureTitle, *failure);

@@ -30,6 +30,19 @@ TEST_F(ClosingTest, TheCloseBoxRescuesWhatWasNeitherReadNorWritten)
     EXPECT_EQ(rescued.Cards[1].Title, QStringLiteral("Bear"));
 }
 
+TEST_F(ClosingTest, TheWindowStaysWithASetThatCannotBeRescued)
+{
+    Type("txtTitle", QStringLiteral("Bear"));
+    const QString inTheWay = RescuedPath() + QStringLiteral("~");
+    ASSERT_TRUE(QDir().mkdir(inTheWay));
+    window.show();
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(user.LastBox().Text.contains(QStringLiteral("75, Path/File access error")));
+    ASSERT_TRUE(QDir().rmdir(inTheWay));
+    EXPECT_TRUE(window.close());
+    EXPECT_TRUE(IsRescued());
+}
+
 TEST_F(ClosingTest, WhatIsOnTheDiskOrWasAskedForIsNotRescued)
 {
     OpenChangedSet([](CardSet& set) {

@@ -1,5 +1,6 @@
 #include "files/Rescue.h"
 #include "core/modInfo.h"
+#include "files/modFile.h"
 #include "platform/LastAct.h"
 #include "support/Failures.h"
 #include "support/ScriptedUser.h"
@@ -70,7 +71,7 @@ TEST_F(RescueTest, AFailureIsToldAndTheEarlierOnesStay)
     RescueAs(QStringLiteral("earlier"));
     ASSERT_TRUE(QDir(Folder.Path()).mkdir(QStringLiteral("rescued.dkf~"))); // nothing can be written there
     testing::internal::CaptureStderr();
-    RescueAtTheEnd(Set, Folder.WithSeparator(), Report::Silent);
+    RescueAtTheEnd(Set, Folder.WithSeparator());
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               "The card set could NOT be rescued: 75, Path/File access error\n");
     EXPECT_EQ(NameIn(QStringLiteral("rescued.dkf")), QStringLiteral("earlier"));
