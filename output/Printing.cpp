@@ -111,7 +111,8 @@ bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
     // Twice: some fonts and outlines are those that the composition before left. In a window, too, a card
     // was shown before it is printed.
     const int16 index = fine.Set.*CurrentOf(page);
-    return ShowForPage(fine, page, index) && ShowForPage(fine, page, index);
+    const bool isShown = ShowForPage(fine, page, index);
+    return isShown && ShowForPage(fine, page, index);
 }
 
 void LayFinePage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
