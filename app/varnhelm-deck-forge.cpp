@@ -1,6 +1,7 @@
 #include "dialogs/QtUser.h"
 #include "editor/frmQDW.h"
 #include "files/Rescue.h"
+#include "platform/Files.h"
 #include "platform/LastAct.h"
 #include "platform/Paths.h"
 
@@ -39,6 +40,7 @@ void WaitForPlace(const QWindow& window)
 
 int main(int argc, char* argv[])
 {
+    deckforge::TakeSizeLimitAsFullDisk();
     const QApplication application(argc, argv);
     QApplication::setWindowIcon(ProgramIcon());
     deckforge::QtUser user;

@@ -295,6 +295,8 @@ ExitStatus RunStatistics(const QStringList& paths, const QCommandLineParser& /*p
         const QString text =
             StatisticsText(workshop.Set).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
         std::printf("%s\n", qUtf8Printable(text));
+        if (std::fflush(stdout) != 0)
+            throw RunTimeError(ErrorNumber::DeviceIo);
         return true;
     });
 }

@@ -11,7 +11,7 @@ namespace {
 /// Where the list of types has the text, from 0; -1 where it has not.
 int ListIndexOf(const CardSet& set, const QString& text)
 {
-    for (int16 row = 1; row <= set.CardTypeCount; ++row) {
+    for (int row = 1; row <= set.CardTypeCount; ++row) {
         if (TypeListEntry(set.CardTypes[row]) == text)
             return row - 1;
     }

@@ -3,6 +3,7 @@
 #include "platform/Files.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QLockFile>
 #include <cstdio>
 
@@ -42,6 +43,7 @@ QByteArray PrintOf(const CardSet& set)
 
 QString RescueSet(const CardSet& set, const QString& folder)
 {
+    QDir().mkpath(folder); // it may have gone since the program began
     QString target = RescuedName(folder, 0);
     const QString unfinished = target + QStringLiteral("~");
     QLockFile lock(target + QStringLiteral(".lock"));

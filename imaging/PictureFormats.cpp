@@ -1,12 +1,17 @@
 #include "imaging/PictureFormats.h"
 
 #include <QtGlobal>
+#include <array>
 
 namespace deckforge {
 
 namespace {
 
 constexpr qint64 PlaceableHeaderBytes = 22;
+
+// Decoders go through all that a file holds, also past the end of its picture. So much more may stand there.
+constexpr qint64 MostPixels = qint64(1) << 25; ///< of a picture that could be shown
+constexpr qint64 Slack = qint64(1) << 20;      ///< pixels or bytes
 
 /// Reads numbers from a file image; past its end everything is 0 and IsPastEnd() tells so.
 class Scanner {
@@ -68,20 +73,26 @@ bool IsWholeBmp(QByteArrayView bytes)
         return false;
     const bool hasRows = compression == uncompressed || compression == bitFields;
     const qint64 rowBytes = (width * bits + 31) / 32 * 4;
+    // Compressed, a pixel takes two bytes at most, and so does the end of a row.
+    const qint64 mostCompressed = 2 * (width + 1) * qAbs(height) + Slack;
+    if (!hasRows && bytes.size() - offset > mostCompressed)
+        return false;
     return offset + (hasRows ? rowBytes * qAbs(height) : imageSize) <= bytes.size();
 }
 
-/// Segments with their lengths up to the compressed data, which ends at the next marker that is no restart.
+/// Segments with their lengths up to the compressed data, which ends at the next marker that is no restart. A
+/// scan of some bytes can go over all of the picture once more: encoders make a dozen of them.
 bool IsWholeJpeg(QByteArrayView bytes)
 {
     constexpr quint8 markerStart = 0xFF;
     constexpr quint8 endOfImage = 0xD9;
     constexpr quint8 startOfScan = 0xDA;
+    constexpr int mostScans = 64;
     const auto isRestart = [](quint8 marker) { return marker >= 0xD0 && marker <= 0xD7; };
     Scanner in(bytes);
     in.Skip(2);
     bool inScan = false;
-    bool sawScan = false;
+    int scans = 0;
     while (!in.IsAtEnd()) {
         if (in.Byte() != markerStart) {
             if (!inScan)
@@ -92,11 +103,12 @@ bool IsWholeJpeg(QByteArrayView bytes)
         while (marker == markerStart && !in.IsAtEnd())
             marker = in.Byte(); // fill bytes
         if (marker == endOfImage)
-            return sawScan && !in.IsPastEnd();
+            return scans > 0 && !in.IsPastEnd();
         if (inScan && (marker == 0 || isRestart(marker)))
             continue;
         inScan = marker == startOfScan;
-        sawScan = sawScan || inScan;
+        if (inScan && ++scans > mostScans)
+            return false;
         const quint16 length = in.BigEndian16();
         in.Skip(length - 2);
     }
@@ -123,6 +135,99 @@ bool SkipGifBlocks(Scanner& in)
     return false;
 }
 
+/// The compressed codes of a picture, taken byte by byte only to count the pixels that they stand for: twelve
+/// bits can stand for four thousand.
+class GifCodes {
+public:
+    explicit GifCodes(int pixelBits) : m_pixelBits(pixelBits), m_clear(1 << pixelBits) { Clear(); }
+
+    [[nodiscard]] qint64 Pixels() const { return m_pixels; }
+
+    void Take(quint8 byte)
+    {
+        m_bits |= quint32{byte} << m_bitCount;
+        m_bitCount += 8;
+        while (m_bitCount >= m_codeBits && !m_isAtEnd) {
+            const auto code = static_cast<int>(m_bits & ((1U << m_codeBits) - 1));
+            m_bits >>= m_codeBits;
+            m_bitCount -= m_codeBits;
+            TakeCode(code);
+        }
+        if (m_isAtEnd)
+            m_bitCount = 0;
+    }
+
+private:
+    static constexpr int MostCodeBits = 12;
+    static constexpr int LongestCode = 2 << MostCodeBits; ///< decoders give up there
+
+    void Clear()
+    {
+        m_next = m_clear + 2;
+        m_codeBits = m_pixelBits + 1;
+        m_lastLength = 0;
+    }
+
+    /// A code stands for a pixel, or for what the one before stood for when it was made, and a pixel more.
+    /// One that the codes before do not explain is taken for the next, and what is made of it for the
+    /// longest.
+    void TakeCode(int code)
+    {
+        const int end = m_clear + 1;
+        if (code == m_clear || code == end) {
+            m_isAtEnd = code == end;
+            Clear();
+            return;
+        }
+        const int added = m_lastLength + 1;
+        const bool isExplained = code < m_clear || (m_lastLength > 0 && code <= m_next);
+        int length = added;
+        if (code < m_clear)
+            length = 1;
+        else if (code < m_next)
+            length = m_lengths[static_cast<std::size_t>(code)];
+        if (m_lastLength > 0 && m_next < 1 << MostCodeBits) {
+            m_lengths[static_cast<std::size_t>(m_next++)] = static_cast<quint16>(added);
+            if (m_next >= 1 << m_codeBits && m_codeBits < MostCodeBits)
+                ++m_codeBits;
+        }
+        m_lastLength = isExplained ? length : LongestCode;
+        m_pixels += length;
+    }
+
+    int m_pixelBits;
+    int m_clear; ///< the code that begins anew; the next one ends
+    int m_next = 0;
+    int m_codeBits = 0;
+    int m_lastLength = 0;
+    bool m_isAtEnd = false;
+    std::array<quint16, 1 << MostCodeBits> m_lengths = {};
+    quint32 m_bits = 0;
+    int m_bitCount = 0;
+    qint64 m_pixels = 0;
+};
+
+/// The codes of a picture, to the end of their sub-blocks.
+bool SkipGifPicture(Scanner& in, qint64 pixels)
+{
+    constexpr int mostPixelBits = 8;
+    const int pixelBits = in.Byte();
+    if (pixelBits > mostPixelBits)
+        return false;
+    const qint64 most = qMin(pixels, MostPixels) + Slack;
+    GifCodes codes(pixelBits);
+    while (!in.IsAtEnd()) {
+        const int length = in.Byte();
+        if (length == 0)
+            return true;
+        for (int i = 0; i < length; ++i)
+            codes.Take(in.Byte());
+        if (codes.Pixels() > most)
+            return false;
+    }
+    return false;
+}
+
 /// The first picture must be there to its end; what follows is not shown.
 bool IsWholeGif(QByteArrayView bytes)
 {
@@ -140,10 +245,11 @@ bool IsWholeGif(QByteArrayView bytes)
             if (!SkipGifBlocks(in))
                 return false;
         } else if (block == picture) {
-            in.Skip(8); // place and measures
+            in.Skip(4); // place
+            const qint64 width = in.LittleEndian16();
+            const qint64 height = in.LittleEndian16();
             SkipGifColours(in, in.Byte());
-            in.Byte(); // code size
-            return SkipGifBlocks(in);
+            return SkipGifPicture(in, width * height);
         } else {
             return false;
         }

@@ -6,6 +6,7 @@
 
 #include <QProcess>
 #include <QTemporaryDir>
+#include <csignal>
 #include <sys/resource.h>
 
 namespace deckforge {
@@ -27,6 +28,7 @@ void LimitProcess()
     limit(RLIMIT_AS, MemoryBytes);
     limit(RLIMIT_FSIZE, MostPngBytes);
     limit(RLIMIT_CORE, 0);
+    ::signal(SIGXFSZ, SIG_DFL); // it cannot be trusted with a failure
 }
 
 bool RunConverter(const QStringList& arguments)

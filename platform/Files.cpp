@@ -8,6 +8,7 @@
 #include <QScopeGuard>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -74,6 +75,23 @@ void SyncFolderOf(const QString& path)
     ::close(handle);
 }
 
+FileAttributes AttributesIn(const struct stat& status)
+{
+    constexpr mode_t permissionBits = 07777;
+    return {.Size = status.st_size,
+            .LastAccess = status.st_atim,
+            .LastWrite = status.st_mtim,
+            .Permissions = status.st_mode & permissionBits};
+}
+
+struct stat StatusOf(int handle, const QString& path)
+{
+    struct stat status = {};
+    if (::fstat(handle, &status) != 0)
+        throw FailureOf(errno, path);
+    return status;
+}
+
 /// Reads until the bytes are full or the file ends; gives how many came.
 qint64 ReadInto(int handle, char* bytes, qint64 size, const QString& path)
 {
@@ -93,13 +111,16 @@ qint64 ReadInto(int handle, char* bytes, qint64 size, const QString& path)
 
 } // namespace
 
+void TakeSizeLimitAsFullDisk()
+{
+    ::signal(SIGXFSZ, SIG_IGN);
+}
+
 QByteArray ReadWholeFile(const QString& path, qint64 mostBytes)
 {
     const int handle = OpenHandle(path, O_RDONLY);
     const auto close = qScopeGuard([handle] { ::close(handle); });
-    struct stat status = {};
-    if (::fstat(handle, &status) != 0)
-        throw FailureOf(errno, path);
+    const struct stat status = StatusOf(handle, path);
     if (!S_ISREG(status.st_mode))
         throw RunTimeError(ErrorNumber::PathFileAccess);
     if (status.st_size > mostBytes)
@@ -111,14 +132,10 @@ QByteArray ReadWholeFile(const QString& path, qint64 mostBytes)
 
 std::optional<FileAttributes> AttributesOf(const QString& path)
 {
-    constexpr mode_t permissionBits = 07777;
     struct stat status = {};
     if (::stat(NameForSystem(path).constData(), &status) != 0)
         return std::nullopt;
-    return FileAttributes{.Size = status.st_size,
-                          .LastAccess = status.st_atim,
-                          .LastWrite = status.st_mtim,
-                          .Permissions = status.st_mode & permissionBits};
+    return AttributesIn(status);
 }
 
 OutputFile::OutputFile(const QString& path)
@@ -184,7 +201,7 @@ void CopyFileSafely(const QString& from, const QString& to)
     QByteArray chunk(chunkBytes, Qt::Uninitialized);
     while (const qint64 size = ReadInto(source, chunk.data(), chunk.size(), from))
         copy.Write(QByteArrayView(chunk).first(size));
-    copy.TakeTimesAndPermissions(AttributesOf(from).value());
+    copy.TakeTimesAndPermissions(AttributesIn(StatusOf(source, from))); // its name may be gone by now
     copy.CloseOnDisk();
     RenameFile(unfinished, to);
     removeUnfinished.dismiss();

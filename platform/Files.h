@@ -12,6 +12,10 @@ namespace deckforge {
 // Nothing here waits: a fifo or a device is error 75 where it is read, and a fifo that nobody reads where it
 // is written. Paths may hold either separator.
 
+/// From now on a write past the limit that the session sets to files is error 61, as on a full disk. Without
+/// this the system ends the program there.
+void TakeSizeLimitAsFullDisk();
+
 /// The whole of a regular file. A file of more than mostBytes is error 7.
 [[nodiscard]] QByteArray ReadWholeFile(const QString& path, qint64 mostBytes);
 

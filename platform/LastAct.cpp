@@ -13,7 +13,8 @@ namespace deckforge {
 namespace {
 
 constexpr std::array EndsFromOutside = {SIGTERM, SIGHUP, SIGINT};
-constexpr std::array Crashes = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
+constexpr std::array Crashes = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGALRM}; ///< or out of patience
+constexpr int CrashFlags = SA_ONSTACK | SA_NODEFER; ///< another one ends an act that fails itself
 
 // How long the program may take to act before it is ended without, in seconds.
 constexpr unsigned int Patience = 30;     ///< for an end from outside, which the event loop answers
@@ -94,7 +95,7 @@ LastAct::LastAct(std::function<void()> act)
     for (const int signal : EndsFromOutside)
         Handle(signal, OnEndFromOutside, SIG_DFL, SA_RESTART);
     for (const int signal : Crashes)
-        Handle(signal, OnCrash, SIG_DFL, SA_ONSTACK);
+        Handle(signal, OnCrash, SIG_DFL, CrashFlags);
     Handle(SIGPIPE, SIG_IGN, SIG_DFL, 0); // a lost display or terminal is told by the calls on it
     Terminate = std::set_terminate(OnTerminate);
     std::atexit(PerformCurrent);

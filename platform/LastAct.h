@@ -10,7 +10,8 @@ namespace deckforge {
 ///
 /// - in the event loop when the session ends the program (SIGTERM, SIGHUP, SIGINT),
 /// - at exit(), which is how the drawing library takes the loss of the display,
-/// - at a failure that nobody handles and at a crash, there as well as the state of the program allows.
+/// - at a failure that nobody handles, at a crash, and where the event loop does not come to act in half a
+///   minute, there as well as the state of the program allows.
 ///
 /// It runs once; then the program ends as it would have without it. A program or an act that hangs is ended
 /// all the same. Signals that were ignored or handled before stay so. There is one such object at a time.

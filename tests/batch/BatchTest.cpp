@@ -1,6 +1,8 @@
+#include "support/Limits.h"
 #include "support/TestFolder.h"
 
 #include <QProcess>
+#include <csignal>
 
 namespace deckforge {
 
@@ -9,10 +11,11 @@ namespace deckforge {
 class Batch : public testing::Test {
 protected:
     /// Its status, and what it says; blanks part the arguments.
-    int Run(QString commandLine)
+    int Run(QString commandLine, const QString& standardOutput = {})
     {
         commandLine.replace("SET", Folder.Path("a.dkf")).replace("DIR", Folder.Path());
         QProcess process;
+        process.setStandardOutputFile(standardOutput);
         process.start(DECKFORGE_BATCH, commandLine.split(' ', Qt::SkipEmptyParts));
         EXPECT_TRUE(process.waitForFinished()) << "it hangs or does not start";
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
@@ -73,6 +76,13 @@ TEST_F(Batch, TellsAFailureInItsStatus)
     Folder.Write("file", "in the way of the folder");
     EXPECT_EQ(Run("images SET --to DIR/file"), 1);
     EXPECT_TRUE(Error.contains("Saving the card: Something went wrong.\n"));
+    {
+        const FullDisk full(100);
+        ::signal(SIGXFSZ, SIG_DFL); // as a session starts its programs
+        EXPECT_EQ(Run("convert SET DIR/b.dkf"), 1);
+    }
+    EXPECT_TRUE(Error.endsWith("61, Disk full\n")) << Error.toStdString();
+    EXPECT_EQ(Run("statistics SET", "/dev/full"), 1);
 }
 
 TEST_F(Batch, RefusesAWrongCommandLineAndShowsItsUse)

@@ -99,6 +99,11 @@ TEST_F(HostileSetTest, NumbersOutsideTheirTablesAreShown)
             set.Cards[1].Copies = number;
         });
     }
+    Try("as many types and backs as there can be", [](CardSet& set) {
+        set.CardTypeCount = set.CardBackCount = std::numeric_limits<int16>::max();
+        set.CardTypes.Resize(set.CardTypeCount);
+        set.CardBacks.Resize(set.CardBackCount);
+    });
     for (const double offset :
          {1e300, -1e300, 32768.0 * 15, 0.5, std::numeric_limits<double>::denorm_min()}) {
         Try("offsets", [&](CardSet& set) {

@@ -32,6 +32,8 @@ TEST_F(RescueTest, EarlierOnesMoveOnAndTheTenthGoes)
     for (int age = 1; age <= 9; ++age)
         EXPECT_EQ(NameIn(QStringLiteral("rescued-%1.dkf").arg(age)), QString::number(12 - age));
     EXPECT_FALSE(Folder.Has("rescued-10.dkf"));
+    const QString gone = Folder.Path("gone/");
+    EXPECT_EQ(RescueSet(Set, gone), gone + "rescued.dkf") << "the folder is made again";
 
     QFile::remove(Folder.Path("rescued-2.dkf"));
     RescueAs("13");
@@ -96,6 +98,12 @@ TEST(LastActDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
             std::exit(3);
         },
         testing::ExitedWithCode(3), "^last act. $");
+    EXPECT_EXIT(
+        {
+            const LastAct act(say);
+            std::raise(SIGALRM); // the session has waited long enough for a program that is busy
+        },
+        testing::KilledBySignal(SIGALRM), "^last act. $");
     EXPECT_EXIT(
         {
             {

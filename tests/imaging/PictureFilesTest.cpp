@@ -52,6 +52,50 @@ QByteArray Metafile()
     return bytes;
 }
 
+// Pictures of a few pixels that keep a decoder busy for as long as they have bytes.
+
+/// Each code stands for the one before and a pixel more, up to thousands.
+QByteArray GifOfOnePixelAndMillions()
+{
+    QByteArray codes;
+    quint32 bits = 0;
+    int bitCount = 0;
+    const auto put = [&](int code, int size) {
+        bits |= static_cast<quint32>(code) << bitCount;
+        for (bitCount += size; bitCount >= 8; bitCount -= 8, bits >>= 8)
+            codes += static_cast<char>(bits);
+    };
+    int size = 9;
+    put(0, size);
+    for (int code = 258; code < 4096; ++code) {
+        put(code, size);
+        if (code + 1 == 1 << size && size < 12)
+            ++size;
+    }
+    QByteArray bytes("GIF89a\1\0\1\0\x80\0\0\0\0\0\xFF\xFF\xFF,\0\0\0\0\1\0\1\0\0\x08", 30);
+    for (qsizetype at = 0; at < codes.size(); at += 255) {
+        const QByteArray block = codes.mid(at, 255);
+        bytes += static_cast<char>(block.size()) + block;
+    }
+    return bytes.append("\0;", 2);
+}
+
+QByteArray JpegOfManyScans()
+{
+    QByteArray bytes = Encoded("JPEG");
+    const QByteArray scan = bytes.sliced(bytes.indexOf("\xFF\xDA")).chopped(2);
+    bytes.insert(bytes.size() - 2, scan.repeated(99));
+    return bytes;
+}
+
+QByteArray BmpOfManyEmptyRows()
+{
+    QByteArray bytes = Encoded("BMP");
+    bytes[28] = 8; // bits, run-length encoded
+    bytes[30] = 1;
+    return bytes.append(1 << 22, 0);
+}
+
 } // namespace
 
 class PictureFiles : public testing::Test {
@@ -126,6 +170,8 @@ TEST_F(PictureFiles, RefusesWhatIsCutDamagedTooLargeOrNoPicture)
     qToLittleEndian<qint32>(-0x7FFFFFFF, huge.data() + 22);
     qToLittleEndian<qint16>(-1, huge.data() + 28);
     EXPECT_EQ(failure(huge), 481) << "measures whose product no number holds";
+    for (const QByteArray& endless : {GifOfOnePixelAndMillions(), JpegOfManyScans(), BmpOfManyEmptyRows()})
+        EXPECT_EQ(failure(endless), 481) << endless.first(2).toStdString();
     QByteArray hugeMetafile = Metafile();
     qToLittleEndian<qint16>(30000, hugeMetafile.data() + 10);
     qToLittleEndian<qint16>(30000, hugeMetafile.data() + 12);

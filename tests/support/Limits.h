@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QtGlobal>
-#include <csignal>
+#include "platform/Files.h"
+
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -12,7 +12,7 @@ class FullDisk {
 public:
     explicit FullDisk(qint64 room)
     {
-        ::signal(SIGXFSZ, SIG_IGN);
+        TakeSizeLimitAsFullDisk();
         ::getrlimit(RLIMIT_FSIZE, &m_before);
         const rlimit small = {static_cast<rlim_t>(room), m_before.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &small);
