@@ -1,5 +1,6 @@
 #include "compose/FontScheme.h"
 #include "core/modInfo.h"
+#include "files/SetFileFormat.h"
 #include "support/Failures.h"
 
 namespace deckforge {
@@ -11,39 +12,32 @@ TEST(FontScheme, DressesEveryLabelInItsFont)
     CardTemplate& card = templates.Standard;
     LargeCardTemplate& large = templates.Large;
     CharacterTemplate& character = templates.Character;
-    struct Row {
-        FontSpec SetHeader::*Font;
-        std::vector<const Box*> Labels;
-    };
-    const Row rows[] = {
-        {&SetHeader::FontType, {&card.lblType[0], &card.lblType[1], &card.lblType[2], &card.lblType[3]}},
-        {&SetHeader::FontNumber, {&card.lblNumber}},
-        {&SetHeader::FontTitle, {&card.lblTitle}},
-        {&SetHeader::FontBold, {&card.lblBold}},
-        {&SetHeader::FontInformation, {&card.lblInformation}},
-        {&SetHeader::FontAutonumber,
-         {&card.lblAutonumber, &large.lblAutonumberLarge, &character.lblAutonumberCharacter}},
-        {&SetHeader::FontTitleLarge, {&large.lblTitleLarge}},
-        {&SetHeader::FontInformationLarge, {&large.lblInformationLarge}},
-        {&SetHeader::FontCharacter, {&character.lblCharacter}},
-        {&SetHeader::FontSpecialTitle, {&character.lblSpecialTitle}},
-        {&SetHeader::FontSpecial, {&character.lblSpecial}},
-        {&SetHeader::FontAlignment,
-         {&character.lblAlignmentTitle, &character.lblAlignment, &character.lblStartTitle,
-          &character.lblStart}},
-        {&SetHeader::FontPlayingPiece, {&templates.PlayingPiece.lblPlayingPieceName}},
-    };
-    double size = 1;
-    for (const Row& row : rows)
-        (header.*row.Font).Size = size++;
+    int size = 0;
+    for (FontSpec SetHeader::*font : setFile::Fonts)
+        (header.*font).Size = ++size;
     const FontSpec objects = character.lblObjects.Font;
     SetFont(templates, header);
-    size = 1;
-    for (const Row& row : rows) {
-        for (const Box* label : row.Labels)
-            EXPECT_EQ(label->Font.Size, size) << label->Name.toStdString();
-        ++size;
-    }
+    using Sizes = std::vector<double>;
+    const auto sizesOf = [](std::initializer_list<const Box*> labels) {
+        Sizes sizes;
+        for (const Box* label : labels)
+            sizes.push_back(label->Font.Size);
+        return sizes;
+    };
+    EXPECT_EQ(
+        sizesOf({&card.lblTitle, &card.lblType[0], &card.lblType[1], &card.lblType[2], &card.lblType[3]}),
+        (Sizes{1, 2, 2, 2, 2}));
+    EXPECT_EQ(sizesOf({&card.lblNumber, &card.lblBold, &card.lblInformation, &card.lblAutonumber}),
+              (Sizes{3, 4, 5, 6}));
+    EXPECT_EQ(sizesOf({&large.lblAutonumberLarge, &large.lblTitleLarge, &large.lblInformationLarge}),
+              (Sizes{6, 7, 8}));
+    EXPECT_EQ(sizesOf({&character.lblAutonumberCharacter, &character.lblCharacter, &character.lblSpecialTitle,
+                       &character.lblSpecial}),
+              (Sizes{6, 9, 10, 11}));
+    EXPECT_EQ(sizesOf({&character.lblAlignmentTitle, &character.lblAlignment, &character.lblStartTitle,
+                       &character.lblStart}),
+              (Sizes{12, 12, 12, 12}));
+    EXPECT_EQ(sizesOf({&templates.PlayingPiece.lblPlayingPieceName}), Sizes{13});
     EXPECT_EQ(character.lblObjects.Font, objects) << "outside the scheme";
 }
 

@@ -1,61 +1,31 @@
 #include "compose/CharacterCard.h"
 #include "compose/LargeCard.h"
 #include "compose/NewBack.h"
-#include "compose/SetView.h"
 #include "compose/StandardCard.h"
-#include "core/modInfo.h"
-#include "support/Failures.h"
-#include "support/PixelText.h"
-#include "support/ScriptedUser.h"
-#include "support/TestFolder.h"
+#include "support/WorkshopTest.h"
 
 #include <set>
 
 namespace deckforge {
 
-namespace {
-
-constexpr Colour Cream = 0xD0FFFF;
-constexpr Colour Red = 0x0000FF;
-
-class OtherKindsTest : public testing::Test {
+class OtherKindsTest : public WorkshopTest {
 protected:
-    OtherKindsTest() : Shop(User)
+    OtherKindsTest()
     {
-        InitForm(Shop);
         AddElement(Shop.Set, LargeKind);
         AddElement(Shop.Set, CharacterKind);
         AddElement(Shop.Set, NewBackKind);
         Large().Title.clear();
         Large().Color = Cream;
-        Places = Folder.Path(QStringLiteral("places.bmp"));
-        SavePicture(PictureOfPlaces({200, 250}), Places);
     }
 
     LargeCard& Large() { return Shop.Set.LargeCards[1]; }
     Character& Hero() { return Shop.Set.Characters[1]; }
     NewCardBack& Back() { return Shop.Set.NewCardBacks[1]; }
-    PictureBox& Surface() { return Shop.Surfaces.picACard; }
     PictureBox& PieceSurface() { return Shop.Surfaces.picACardPP; }
 
-    static bool HasInk(const PictureBox& surface, QRect area, Colour ground)
-    {
-        for (int y = area.top(); y <= area.bottom(); ++y) {
-            for (int x = area.left(); x <= area.right(); ++x) {
-                if (surface.GetPixel(x, y) != ground)
-                    return true;
-            }
-        }
-        return false;
-    }
-
-    TestFolder Folder;
-    ScriptedUser User;
-    Workshop Shop;
-    QString Places;
+    const QString Places = Folder.WritePicture("places.bmp", PictureOfPlaces({200, 250}));
 };
-
-} // namespace
 
 TEST_F(OtherKindsTest, ALargeCardHasItsPictureAtTheLeftAndItsTextBeside)
 {
@@ -64,8 +34,7 @@ TEST_F(OtherKindsTest, ALargeCardHasItsPictureAtTheLeftAndItsTextBeside)
     Large().PictureLeft = -15 * 30;
     ASSERT_TRUE(ShowLargeCard(Shop, 1));
     EXPECT_EQ(Surface().Size(), QSize(304, 256));
-    EXPECT_EQ(Surface().GetPixel(9, 9), ColourOfPlace(30, 0));
-    EXPECT_EQ(Surface().GetPixel(8, 100), LightGrey);
+    ExpectPixels(Surface(), {{9, 9, ColourOfPlace(30, 0)}, {8, 100, LightGrey}});
     const LargeCardTemplate& t = Shop.Templates.Large;
     EXPECT_EQ(t.lblPicSizeLarge.Left, 108);
     EXPECT_EQ(t.lblTitleLarge.Place(), QRect(113, 8, 183, 25));
@@ -74,31 +43,27 @@ TEST_F(OtherKindsTest, ALargeCardHasItsPictureAtTheLeftAndItsTextBeside)
 
     Large().ShowPicture = false;
     ASSERT_TRUE(ShowLargeCard(Shop, 1));
-    EXPECT_EQ(t.lblInformationLarge.Left, 10);
-    EXPECT_EQ(t.lblInformationLarge.Width, 286);
-}
+    EXPECT_EQ(t.lblInformationLarge.Place(), QRect(10, 32, 286, 212));
 
-TEST_F(OtherKindsTest, OnALargeCardResizeWorksUpAndDown)
-{
-    Large().Picture = Places;
-    Large().Resize = true;
+    Large().ShowPicture = Large().Resize = true;
+    Large().FrameHeight = 121;
+    Large().PictureLeft = 0;
     Large().PictureTop = 15 * 3;
     ASSERT_TRUE(ShowLargeCard(Shop, 1));
-    EXPECT_EQ(Shop.Templates.Large.picFrameLarge.Place(), QRect(8, 11, 121, 250));
-    EXPECT_EQ(Shop.Templates.Large.picImageLarge.Top, 0);
-    EXPECT_EQ(Surface().GetPixel(9, 12), ColourOfPlace(0, 0));
-    EXPECT_EQ(Surface().GetPixel(8 + 119, 12), ColourOfPlace(118, 0));
+    EXPECT_EQ(t.picFrameLarge.Place(), QRect(8, 11, 121, 250));
+    EXPECT_EQ(t.picImageLarge.Top, 0);
+    ExpectPixels(Surface(), {{9, 12, ColourOfPlace(0, 0)}, {8 + 119, 12, ColourOfPlace(118, 0)}});
 }
 
 TEST_F(OtherKindsTest, ALargeCardsNumberStandsAtTheStandardCardsHeight)
 {
-    Shop.Set.Header.Autonumber = true;
-    Shop.Set.Header.FontAutonumber.Size = 7;
+    Header().Autonumber = true;
+    Header().FontAutonumber.Size = 7;
     ASSERT_TRUE(ShowLargeCard(Shop, 1));
     Shop.Templates.Standard.lblAutonumber.Top = 200;
     ASSERT_TRUE(ShowLargeCard(Shop, 1));
-    EXPECT_TRUE(HasInk(Surface(), {0, 200, 8, 11}, Cream));
-    EXPECT_FALSE(HasInk(Surface(), {0, 246, 8, 9}, Cream));
+    EXPECT_FALSE(InkIn(Surface(), {0, 200, 8, 11}, Cream).isNull());
+    EXPECT_TRUE(InkIn(Surface(), {0, 246, 8, 9}, Cream).isNull());
 }
 
 TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreToldOnTheStandardCard)
@@ -106,7 +71,7 @@ TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreToldOnTheStandardCard)
     const Picture kept = PictureOf({"rr"});
     Shop.Templates.Standard.picBack.Surface->SetPicture(kept);
     Shop.Templates.Large.picBackLarge.Surface->SetPicture(kept);
-    Large().CardBack = Folder.Path(QStringLiteral("none.bmp"));
+    Large().CardBack = Folder.Path("none.bmp");
     ASSERT_TRUE(ShowLargeCard(Shop, 1));
     EXPECT_TRUE(Shop.Templates.Standard.picBack.Surface->GetPicture().IsEmpty());
     EXPECT_EQ(RowsOf(Shop.Templates.Large.picBackLarge.Surface->GetPicture()), PixelRows{"rr"});
@@ -125,10 +90,10 @@ TEST_F(OtherKindsTest, ACharactersPictureLiesOnThePanel)
     Hero().Picture = Places;
     Hero().PictureLeft = 15 * 4;
     ASSERT_TRUE(ShowCharacter(Shop, 1));
-    EXPECT_EQ(Surface().GetPixel(13 + 1 + 3, 14 + 5), White);
-    EXPECT_EQ(Surface().GetPixel(13 + 1 + 4, 14), ColourOfPlace(0, 0))
-        << "without an outline it starts at the edge";
-    EXPECT_EQ(Surface().GetPixel(13 + 1 + 120, 14 + 219), ColourOfPlace(116, 219));
+    ExpectPixels(Surface(),
+                 {{13 + 1 + 3, 14 + 5, White},
+                  {13 + 1 + 4, 14, ColourOfPlace(0, 0)}, // without an outline it starts at the edge
+                  {13 + 1 + 120, 14 + 219, ColourOfPlace(116, 219)}});
     Hero().Frame = true;
     ASSERT_TRUE(ShowCharacter(Shop, 1));
     EXPECT_EQ(Shop.Templates.Character.picFrameCharacter.Height, 218);
@@ -136,8 +101,7 @@ TEST_F(OtherKindsTest, ACharactersPictureLiesOnThePanel)
     const CharacterTemplate& t = Shop.Templates.Character;
     EXPECT_EQ(t.lblStart.Place(), QRect(169, 15, 103, 12));
     ShowPictureFrame(Shop.Templates.Character, false);
-    EXPECT_EQ(t.lblSpecial.Left, 6);
-    EXPECT_EQ(t.lblSpecial.Width, 266);
+    EXPECT_EQ(std::tuple(t.lblSpecial.Left, t.lblSpecial.Width), std::tuple(6, 266));
 }
 
 TEST_F(OtherKindsTest, AttributesStandOnTheirSidesAndReadBothWays)
@@ -145,49 +109,33 @@ TEST_F(OtherKindsTest, AttributesStandOnTheirSidesAndReadBothWays)
     const auto strip = [&](std::size_t i) -> const PictureBox& {
         return *Shop.Templates.Character.picCharAttrDisp[i].Surface;
     };
-    DrawCharAttribute(Shop, 0, QStringLiteral("---"));
+    DrawCharAttribute(Shop, 0, "---");
     EXPECT_EQ(strip(0).Size(), QSize(12, 52));
-    const auto inkOf = [&](std::size_t i) {
-        QRect ink;
-        for (int y = 0; y < 52; ++y) {
-            for (int x = 0; x < 12; ++x) {
-                if (strip(i).GetPixel(x, y) != Black)
-                    ink |= QRect(x, y, 1, 1);
-            }
-        }
-        return ink;
-    };
+    const auto inkOf = [&](std::size_t i) { return InkIn(strip(i), {0, 0, 12, 52}, Black); };
     const QRect word = inkOf(0);
     EXPECT_NEAR(word.center().y(), 26, 1);
-    DrawCharAttribute(Shop, 0, QStringLiteral("+1"));
-    const QRect withPlus = inkOf(0);
-    DrawCharAttribute(Shop, 0, QStringLiteral("+1 "));
-    DrawCharAttribute(Shop, 0, QStringLiteral("1"));
-    const QRect withBlank = inkOf(0);
-    EXPECT_GT(withPlus.height(), word.height());
-    EXPECT_GT(withBlank.height(), word.height());
+    DrawCharAttribute(Shop, 0, "+1");
+    EXPECT_GT(inkOf(0).height(), word.height());
+    DrawCharAttribute(Shop, 0, "+1 ");
+    DrawCharAttribute(Shop, 0, "1");
+    EXPECT_GT(inkOf(0).height(), word.height());
 
     // Clockwise the letters stand on the left side of the strip, counter-clockwise on the right.
-    DrawCharAttribute(Shop, 1, QStringLiteral("5"));
-    DrawCharAttribute(Shop, 3, QStringLiteral("5"));
+    DrawCharAttribute(Shop, 1, "5");
+    DrawCharAttribute(Shop, 3, "5");
     EXPECT_NEAR(inkOf(1).center().x() + inkOf(3).center().x(), 11, 2);
-    std::set<Colour> colours;
     for (int y = 0; y < 52; ++y)
-        colours.insert(strip(3).GetPixel(6, y));
-    for (const Colour colour : colours)
-        EXPECT_EQ(colour & 0xFF00FF, 0) << "lives are green";
+        EXPECT_EQ(strip(3).GetPixel(6, y) & 0xFF00FF, 0) << "lives are green";
 }
 
 TEST_F(OtherKindsTest, ThePiecePrintsItsNameInWhatTheSurfaceHadAndDressesTheCard)
 {
-    Shop.Set.Header.FontPlayingPiece.Color = Red;
+    Header().FontPlayingPiece.Color = Red;
     ASSERT_TRUE(ShowCharacter(Shop, 1));
-    EXPECT_TRUE(PieceSurface().GetPixel(8, 8) == Black)
-        << "the first cut line has the colour of a new surface";
+    EXPECT_EQ(PieceSurface().GetPixel(8, 8), Black) << "the first cut line has the colour of a new surface";
     ASSERT_TRUE(ShowCharacter(Shop, 1));
-    EXPECT_EQ(PieceSurface().GetPixel(8, 8), LightGrey);
-    EXPECT_EQ(PieceSurface().GetPixel(141, 246), LightGrey);
-    EXPECT_FALSE(HasInk(PieceSurface(), {10, 30, 130, 200}, White)) << "no picture, no field";
+    ExpectPixels(PieceSurface(), {{8, 8, LightGrey}, {141, 246, LightGrey}});
+    EXPECT_TRUE(InkIn(PieceSurface(), {10, 30, 130, 200}, White).isNull()) << "no picture, no field";
 
     Shop.Set.CurrentCard = 1;
     ASSERT_TRUE(ShowCard(Shop, 1));
@@ -198,29 +146,40 @@ TEST_F(OtherKindsTest, ThePiecePrintsItsNameInWhatTheSurfaceHadAndDressesTheCard
     Hero().PlayingPiece = Places;
     Hero().PlayingPieceTop = -15 * 20;
     ASSERT_TRUE(ShowCharacter(Shop, 1));
-    EXPECT_EQ(PieceSurface().GetPixel(9, 24), ColourOfPlace(0, 20));
-    EXPECT_EQ(PieceSurface().GetPixel(9 + 131, 24 + 221), ColourOfPlace(131, 241));
+    ExpectPixels(PieceSurface(),
+                 {{9, 24, ColourOfPlace(0, 20)}, {9 + 131, 24 + 221, ColourOfPlace(131, 241)}});
 }
 
-TEST_F(OtherKindsTest, ABackHasItsThreeColoursAndNoOther)
+TEST_F(OtherKindsTest, ABackHasItsThreeColoursAndNoOtherAtEveryScale)
 {
     Back().BackText.clear();
     Back().InnerColor = 0x102030;
     Back().FrameColor = 0x405060;
-    for (const Colour outer : {Colour{0x708090}, Back().FrameColor, Back().InnerColor}) {
-        Back().BackColor = outer;
-        ShowNewCardBack(Shop, 1);
-        const PictureBox& design = *Shop.Templates.NewBack.picNewBack.Surface;
-        std::set<Colour> colours;
-        for (int y = 0; y < design.Height(); ++y) {
-            for (int x = 0; x < design.Width(); ++x)
-                colours.insert(design.GetPixel(x, y));
+    const QPoint pieces[] = {{17, 15},  {54, 13},  {88, 13},   {124, 13},  {160, 13},  {191, 13},
+                             {232, 13}, {15, 56},  {237, 54},  {15, 92},   {237, 91},  {16, 133},
+                             {54, 133}, {92, 133}, {123, 133}, {164, 133}, {194, 133}, {226, 133}};
+    for (const int scale : {1, 2, 3, 4, 7}) {
+        Workshop shop(User, scale);
+        InitForm(shop);
+        for (const Colour outer : {Colour{0x708090}, Back().FrameColor, Back().InnerColor}) {
+            SCOPED_TRACE(testing::Message() << "scale " << scale << ", outer colour " << outer);
+            Back().BackColor = outer;
+            shop.Set = Shop.Set;
+            ShowNewCardBack(shop, 1);
+            const PictureBox& design = *shop.Templates.NewBack.picNewBack.Surface;
+            const QImage pixels = design.Image().Pixels();
+            EXPECT_EQ(pixels.size(), QSize(254, 150) * scale);
+            std::set<Colour> colours;
+            for (int y = 0; y < pixels.height(); ++y) {
+                for (int x = 0; x < pixels.width(); ++x)
+                    colours.insert(FromRgb(pixels.pixel(x, y)));
+            }
+            EXPECT_EQ(colours, (std::set<Colour>{Back().InnerColor, Back().FrameColor, outer}));
+            EXPECT_EQ(design.GetPixel(1, 1), outer);
+            EXPECT_EQ(design.GetPixel(50, 50), Back().InnerColor);
+            for (const QPoint piece : pieces)
+                EXPECT_EQ(design.GetPixel(piece.x(), piece.y()), Back().FrameColor) << piece.x();
         }
-        EXPECT_EQ(colours, (std::set<Colour>{Back().InnerColor, Back().FrameColor, outer}));
-        EXPECT_EQ(design.GetPixel(1, 1), outer);
-        EXPECT_EQ(design.GetPixel(50, 50), Back().InnerColor);
-        for (const QPoint piece : {QPoint(17, 15), QPoint(124, 13), QPoint(237, 91), QPoint(226, 133)})
-            EXPECT_EQ(design.GetPixel(piece.x(), piece.y()), Back().FrameColor);
     }
 }
 
@@ -234,20 +193,20 @@ TEST_F(OtherKindsTest, ABackIsTurnedUprightTwoPixelsToTheLeft)
     EXPECT_EQ(Surface().Size(), QSize(152, 256));
     EXPECT_EQ(Surface().GetPixel(152 - 10 - 3, 20), ColourOfPlace(20, 10));
 
-    Back().Picture = Folder.Path(QStringLiteral("none.bmp"));
+    Back().Picture = Folder.Path("none.bmp");
     EXPECT_EQ(FailureOf([&] { ShowNewCardBack(Shop, 1); }), 53);
 }
 
 TEST_F(OtherKindsTest, ABacksTextIsCentredAndBreaksAtBarsOnlyAmongLines)
 {
     const auto rowsOfText = [&](const char* text) {
-        Back().BackText = QString::fromLatin1(text);
+        Back().BackText = text;
         ShowNewCardBack(Shop, 1);
         DrawNewCardBack(Shop, 1);
         int rows = 0;
         bool wasInk = false;
         for (int y = 30; y < 120; ++y) {
-            const bool isInk = HasInk(PieceSurface(), {40, y, 170, 1}, Black);
+            const bool isInk = !InkIn(PieceSurface(), {40, y, 170, 1}, Black).isNull();
             rows += isInk && !wasInk ? 1 : 0;
             wasInk = isInk;
         }

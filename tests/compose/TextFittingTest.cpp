@@ -1,5 +1,6 @@
 #include "compose/TextFitting.h"
 #include "support/Failures.h"
+#include "support/PixelText.h"
 
 namespace deckforge {
 
@@ -9,7 +10,7 @@ namespace {
 QStringList Broken(const QString& text, int letters)
 {
     PictureBox surface(QSize(200, 50));
-    const int width = static_cast<int>(surface.TextWidth(QString(letters, QLatin1Char('m'))));
+    const int width = static_cast<int>(surface.TextWidth(QString(letters, 'm')));
     QStringList lines;
     for (QStringView rest = text; !rest.isEmpty();) {
         const qsizetype length = BreakPosition(surface, rest, width);
@@ -24,15 +25,9 @@ std::vector<std::pair<int, int>> InkedLines(const PictureBox& surface, int pitch
 {
     std::vector<std::pair<int, int>> lines;
     for (int line = 0; line * pitch < surface.Height(); ++line) {
-        int first = surface.Width();
-        for (int y = line * pitch; y < (line + 1) * pitch; ++y) {
-            for (int x = 0; x < first; ++x) {
-                if (surface.GetPixel(x, y) != White && surface.GetPixel(x, y) != InvalidColour)
-                    first = x;
-            }
-        }
-        if (first < surface.Width())
-            lines.emplace_back(line, first);
+        const QRect place(0, line * pitch, surface.Width(), qMin(pitch, surface.Height() - line * pitch));
+        if (const QRect ink = InkIn(surface, place, White); !ink.isNull())
+            lines.emplace_back(line, ink.left());
     }
     return lines;
 }
@@ -41,33 +36,23 @@ std::vector<std::pair<int, int>> InkedLines(const PictureBox& surface, int pitch
 
 TEST(TextFitting, LinesBreakBehindTheLastBreakCharacterThatFits)
 {
-    EXPECT_EQ(Broken(QStringLiteral("mm mmm"), 5),
-              (QStringList{QStringLiteral("mm "), QStringLiteral("mmm")}));
-    EXPECT_EQ(Broken(QStringLiteral("mm-mm-mm"), 6),
-              (QStringList{QStringLiteral("mm-mm-"), QStringLiteral("mm")}));
-    EXPECT_EQ(Broken(QStringLiteral("mmm mmm"), 3 + 1),
-              (QStringList{QStringLiteral("mmm "), QStringLiteral("mmm")}));
+    const std::tuple<const char*, int, const char*, const char*> rows[] = // of lines, parted by bars
+        {{"mm mmm", 5, "mm |mmm", "at a blank"},
+         {"mm-mm-mm", 6, "mm-mm-|mm", "at the last hyphen"},
+         {"mmm mmm", 3 + 1, "mmm |mmm", "the blank itself fits"},
+         {"mmm", 3, "mm|m", "a line that fills the width is refused"},
+         {"mm@mm", 3, "mm@|mm", "a break that overflows stays"},
+         {"m m", 4, "m m", "what fits is not broken"},
+         {"mmmmmmm", 4, "mmm|mmm|m", "a word longer than the line is cut"},
+         {"mm", 0, "m|m", "a narrow column takes a character a line"}};
+    for (const auto& [text, letters, lines, why] : rows)
+        EXPECT_EQ(Broken(text, letters).join('|'), lines) << why;
 }
 
-TEST(TextFitting, ALineThatFillsTheWidthIsRefusedAndABreakThatOverflowsStays)
-{
-    EXPECT_EQ(Broken(QStringLiteral("mmm"), 3), (QStringList{QStringLiteral("mm"), QStringLiteral("m")}));
-    EXPECT_EQ(Broken(QStringLiteral("mm@mm"), 3), (QStringList{QStringLiteral("mm@"), QStringLiteral("mm")}));
-    EXPECT_EQ(Broken(QStringLiteral("m m"), 4), QStringList{QStringLiteral("m m")})
-        << "what fits is not broken";
-}
-
-TEST(TextFitting, AWordLongerThanTheLineIsCutAndANarrowColumnTakesACharacterALine)
-{
-    EXPECT_EQ(Broken(QStringLiteral("mmmmmmm"), 4),
-              (QStringList{QStringLiteral("mmm"), QStringLiteral("mmm"), QStringLiteral("m")}));
-    EXPECT_EQ(Broken(QStringLiteral("mm"), 0), (QStringList{QStringLiteral("m"), QStringLiteral("m")}));
-}
-
-TEST(TextFitting, EmptyLinesTakeAPitchAndTextRunsOnBelow)
+TEST(TextFitting, EmptyLinesTakeAPitchAndCentredOnesStandInTheMiddleOfTheirColumn)
 {
     PictureBox surface(QSize(40, 60));
-    WrapAndPrint(surface, QStringLiteral("H\r\n\r\nH\r\n"), {.Left = 3, .Top = 0, .Width = 30});
+    WrapAndPrint(surface, "H\r\n\r\nH\r\n", {.Left = 3, .Top = 0, .Width = 30});
     const auto lines = InkedLines(surface, 11);
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0].first, 0);
@@ -77,17 +62,13 @@ TEST(TextFitting, EmptyLinesTakeAPitchAndTextRunsOnBelow)
     PictureBox empty(QSize(40, 60));
     WrapAndPrint(empty, QString(), {.Left = 0, .Top = 0, .Width = 30});
     EXPECT_TRUE(InkedLines(empty, 11).empty());
-}
 
-TEST(TextFitting, CentredLinesStandInTheMiddleOfTheirColumn)
-{
-    PictureBox surface(QSize(120, 22));
-    WrapAndPrint(surface, QStringLiteral("H\r\nHHHHH"),
-                 {.Left = 20, .Top = 0, .Width = 80, .Form = LineForm::Centred});
-    const auto lines = InkedLines(surface, 11);
-    ASSERT_EQ(lines.size(), 2U);
-    EXPECT_NEAR(lines[0].second, 60 - surface.TextWidth(u"H") / 2, 1.5);
-    EXPECT_NEAR(lines[1].second, 60 - surface.TextWidth(u"HHHHH") / 2, 1.5);
+    PictureBox wide(QSize(120, 22));
+    WrapAndPrint(wide, "H\r\nHHHHH", {.Left = 20, .Top = 0, .Width = 80, .Form = LineForm::Centred});
+    const auto centred = InkedLines(wide, 11);
+    ASSERT_EQ(centred.size(), 2U);
+    EXPECT_NEAR(centred[0].second, 60 - wide.TextWidth(u"H") / 2, 1.5);
+    EXPECT_NEAR(centred[1].second, 60 - wide.TextWidth(u"HHHHH") / 2, 1.5);
 }
 
 TEST(TextFitting, OneLineIsCentredOnWholePixelsAndRunsOverBothSides)

@@ -1,128 +1,85 @@
 #include "core/SetTables.h"
 #include "core/CardListRows.h"
-#include "support/Failures.h"
+#include "support/SetTest.h"
 
 #include <limits>
 
 namespace deckforge {
 
-namespace {
+using SetTables = SetTest;
 
-CardSet NewTables()
+TEST_F(SetTables, DeletedBackGivesItsRowToTheNext)
 {
-    CardSet set;
-    InitCardTypes(set);
-    InitCardBacks(set);
-    return set;
+    for (const QString name : {"One", "Two", "Three"})
+        AddOwnBack(Set, name, name + ".bmp");
+    DeleteOwnBack(Set, 1);
+    EXPECT_EQ(OwnBackNames(Set), (QStringList{"One", "Three"}));
+    EXPECT_EQ(Set.CardBackCount, 29);
+    EXPECT_EQ(Set.CardBacks[29].Picture, "Three.bmp");
+    EXPECT_FALSE(Set.CardBacks[29].BuiltIn);
+    EXPECT_EQ(FailureOf([&] { DeleteOwnBack(Set, 2); }), 9);
+    EXPECT_EQ(FailureOf([&] { DeleteOwnBack(Set, -1); }), 9) << "a built-in row";
+    EXPECT_EQ(Set.CardBackCount, 29);
+
+    Set.CardBackCount = std::numeric_limits<int16>::max();
+    Set.CardBacks.Resize(Set.CardBackCount);
+    EXPECT_EQ(FailureOf([&] { AddOwnBack(Set, "Past", {}); }), 6) << "a full table stays as it was";
+    EXPECT_EQ(Set.CardBackCount, Set.CardBacks.LastIndex());
+    EXPECT_EQ(OwnBackNames(Set).size(), 32767 - 27);
 }
 
-QString Text(const char* text)
+TEST_F(SetTables, OwnTypesAreListedWithTheirNumbers)
 {
-    return QString::fromLatin1(text);
+    AddOwnType(Set, {"HAZARD-", "Trap", {}, {}, 0, true});
+    AddOwnType(Set, {"OMEN", {}, {}, {}, -1, false});
+    EXPECT_EQ(OwnTypeEntries(Set), (QStringList{"HAZARD-Trap (0)", "OMEN ( )"}));
+    EXPECT_FALSE(Set.CardTypes[16].BuiltIn);
+    DeleteOwnType(Set, 0);
+    EXPECT_EQ(OwnTypeEntries(Set), QStringList("OMEN ( )"));
+    EXPECT_EQ(Set.CardTypeCount, 16);
+    ChooseDefaultType(Set, 16);
+    EXPECT_EQ(DefaultTypeRow(Set), 16);
+    Set.LastType = "typed";
+    EXPECT_EQ(DefaultTypeRow(Set), 0) << "no row of that name";
 }
 
-} // namespace
-
-TEST(SetTables, DeletedBackGivesItsRowToTheNext)
+TEST_F(SetTables, NumberTextIsANumberOrNone)
 {
-    CardSet set = NewTables();
-    for (const char* name : {"One", "Two", "Three"})
-        AddOwnBack(set, Text(name), Text(name) + QStringLiteral(".bmp"));
-    DeleteOwnBack(set, 1);
-    EXPECT_EQ(OwnBackNames(set), QStringList({Text("One"), Text("Three")}));
-    EXPECT_EQ(set.CardBackCount, 29);
-    EXPECT_EQ(set.CardBacks[29].Picture, Text("Three.bmp"));
-    EXPECT_FALSE(set.CardBacks[29].BuiltIn);
-    EXPECT_EQ(FailureOf([&] { DeleteOwnBack(set, 2); }), 9);
-    EXPECT_EQ(FailureOf([&] { DeleteOwnBack(set, -1); }), 9) << "a built-in row";
-    EXPECT_EQ(set.CardBackCount, 29);
+    const std::pair<const char*, int> rows[] = {{"5", 5},   {" 12 ", 12}, {"0", 0},
+                                                {"-3", -3}, {"2.5", 2},   {"1e3", 1000},
+                                                {"", -1},   {"five", -1}, {"5 eyes", -1}};
+    for (const auto& [text, number] : rows)
+        EXPECT_EQ(ParseNumberText(text), number) << text;
 }
 
-TEST(SetTables, OwnTypesAreListedWithTheirNumbers)
+TEST_F(SetTables, TheListOfLargeCardsShowsCharacters)
 {
-    CardSet set = NewTables();
-    AddOwnType(set, {Text("HAZARD-"), Text("Trap"), {}, {}, 3, true});
-    AddOwnType(set, {Text("OMEN"), {}, {}, {}, -1, false});
-    EXPECT_EQ(OwnTypeEntries(set), QStringList({Text("HAZARD-Trap (3)"), Text("OMEN ( )")}));
-    EXPECT_FALSE(set.CardTypes[16].BuiltIn);
-    DeleteOwnType(set, 0);
-    EXPECT_EQ(OwnTypeEntries(set), QStringList(Text("OMEN ( )")));
-    EXPECT_EQ(set.CardTypeCount, 16);
-}
-
-TEST(SetTables, TypeOfNewCardsIsTheLastRowOfThatName)
-{
-    CardSet set = NewTables();
-    EXPECT_EQ(DefaultTypeRow(set), 6) << "the last enemy";
-    AddOwnType(set, {Text("OMEN"), Text("Dark"), Text("NEMO"), Text("kraD"), -1, false});
-    ChooseDefaultType(set, 16);
-    EXPECT_EQ(set.LastType + set.LastSubType + set.LastTypeReversed + set.LastSubTypeReversed,
-              Text("OMENDarkNEMOkraD"));
-    EXPECT_EQ(set.LastNumber, -1);
-    EXPECT_EQ(DefaultTypeRow(set), 16);
-    set.LastType = Text("typed");
-    EXPECT_EQ(DefaultTypeRow(set), 0);
-}
-
-TEST(SetTables, FullTableStaysAsItWas)
-{
-    CardSet set = NewTables();
-    set.CardBackCount = std::numeric_limits<int16>::max();
-    set.CardBacks.Resize(set.CardBackCount);
-    EXPECT_EQ(FailureOf([&] { AddOwnBack(set, Text("Past"), {}); }), 6);
-    EXPECT_EQ(set.CardBackCount, set.CardBacks.LastIndex());
-    EXPECT_EQ(OwnBackNames(set).size(), 32767 - 27);
-}
-
-TEST(SetTables, NumberTextIsANumberOrNone)
-{
-    for (const auto& [text, number] : {std::pair{"5", 5},
-                                       {" 12 ", 12},
-                                       {"0", 0},
-                                       {"-3", -3},
-                                       {"2.5", 2},
-                                       {"1e3", 1000},
-                                       {"", -1},
-                                       {"five", -1},
-                                       {"5 eyes", -1}}) {
-        EXPECT_EQ(ParseNumberText(Text(text)), number) << text;
-    }
-    EXPECT_EQ(FailureOf([] { static_cast<void>(ParseNumberText(Text("40000"))); }), 6);
-    EXPECT_EQ(FormatNumberText(0), Text("0"));
-    EXPECT_EQ(FormatNumberText(-1), Text(" "));
-}
-
-TEST(CardListRows, LargeCardsAreListedAsCharacters)
-{
-    CardSet set = NewTables();
-    set.CardCount = 2;
-    set.Cards.Resize(2);
-    set.Cards[1].Title = Text("Sword");
-    set.Cards[1].Type = Text("OBJECT-");
-    set.Cards[1].SubType = Text("Magic");
-    set.Cards[1].CardBack = 2;
-    set.Cards[1].Picture = Text("a.bmp");
-    set.Cards[2].Type = Text("EVENT");
-    set.Cards[2].CardBack = 28; // past the table
-    set.LargeCardCount = 1;
-    set.LargeCards.Resize(1);
-    set.CharacterCount = 1;
-    set.Characters.Resize(1);
-    set.Characters[1].Name = Text("Knight");
-    set.Characters[1].CardBackPicture = Text("back.bmp");
+    AddElement(Set, StandardKind);
+    AddElement(Set, LargeKind);
+    AddElement(Set, CharacterKind);
+    Set.Cards[1].Title = "Sword";
+    Set.Cards[1].Type = "OBJECT-";
+    Set.Cards[1].SubType = "Magic";
+    Set.Cards[1].CardBack = 2;
+    Set.Cards[1].Picture = "a.bmp";
+    Set.Cards[2] = {};
+    Set.Cards[2].Type = "EVENT";
+    Set.Cards[2].CardBack = 28; // past the table
+    Set.Characters[1].Name = "Knight";
+    Set.Characters[1].CardBackPicture = "back.bmp";
     const auto row = [&](CardListMode mode, int16 index) {
         QStringList texts;
         for (const auto column :
              {CardListColumn::Card, CardListColumn::Type, CardListColumn::Back, CardListColumn::Picture})
-            texts += CardListText(set, mode, index, column);
-        return texts.join(QLatin1Char('|'));
+            texts += CardListText(Set, mode, index, column);
+        return texts.join('|');
     };
-    EXPECT_EQ(CardListCount(set, CardListMode::Cards), 2);
-    EXPECT_EQ(row(CardListMode::Cards, 1), Text("Sword|OBJECT- Magic|City|No"));
-    EXPECT_EQ(row(CardListMode::Cards, 2), Text("|EVENT||Yes"));
+    EXPECT_EQ(CardListCount(Set, CardListMode::Cards), 2);
+    EXPECT_EQ(row(CardListMode::Cards, 1), "Sword|OBJECT- Magic|City|No");
+    EXPECT_EQ(row(CardListMode::Cards, 2), "|EVENT||Yes");
     for (const CardListMode mode : {CardListMode::LargeCards, CardListMode::Characters}) {
-        EXPECT_EQ(CardListCount(set, mode), 1);
-        EXPECT_EQ(row(mode, 1), Text("Knight||back.bmp|Yes"));
+        EXPECT_EQ(CardListCount(Set, mode), 1);
+        EXPECT_EQ(row(mode, 1), "Knight||back.bmp|Yes");
     }
 }
 

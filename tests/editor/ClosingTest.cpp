@@ -3,31 +3,27 @@
 
 namespace deckforge {
 
-namespace {
-
 class ClosingTest : public WindowTest {
 protected:
     ClosingTest() { QFile::remove(RescuedPath()); }
     ~ClosingTest() override { QFile::remove(RescuedPath()); }
 
-    static QString RescuedPath() { return ProgramFolder() + QStringLiteral("rescued.dkf"); }
+    static QString RescuedPath() { return ProgramFolder() + "rescued.dkf"; }
     static bool IsRescued() { return QFile::exists(RescuedPath()); }
 };
-
-} // namespace
 
 TEST_F(ClosingTest, TheCloseBoxRescuesWhatWasNeitherReadNorWritten)
 {
     window.close();
     EXPECT_FALSE(IsRescued()) << "a new set as it was made";
-    Type("txtTitle", QStringLiteral("Bear"));
+    Type("txtTitle", "Bear");
     window.close();
     EXPECT_TRUE(IsRescued());
     EXPECT_TRUE(user.Boxes.empty());
     ScriptedUser reader;
     CardSet rescued;
     ASSERT_TRUE(ReadDKF(rescued, RescuedPath(), reader));
-    EXPECT_EQ(rescued.Cards[1].Title, QStringLiteral("Bear"));
+    EXPECT_EQ(rescued.Cards[1].Title, "Bear");
 }
 
 TEST_F(ClosingTest, TheWindowStaysWithASetThatCannotBeRescued)
@@ -55,13 +51,13 @@ TEST_F(ClosingTest, WhatIsOnTheDiskOrWasAskedForIsNotRescued)
     window.close();
     EXPECT_FALSE(IsRescued()) << "a set that was only looked at";
 
-    Type("txtSetname", QStringLiteral("Saved"));
-    user.WillChoose(folder.Path(QStringLiteral("saved.dkf")));
+    Type("txtSetname", "Saved");
+    user.WillChoose(folder.Path("saved.dkf"));
     Run("save");
     window.close();
     EXPECT_FALSE(IsRescued());
 
-    Type("txtSetname", QStringLiteral("Given up"));
+    Type("txtSetname", "Given up");
     user.WillAnswer(deckforge::Answer::No);
     Run("exit");
     EXPECT_FALSE(IsRescued()) << "the user was asked";

@@ -38,7 +38,7 @@ protected:
             change(set);
         });
         ASSERT_FALSE(user.Boxes.empty());
-        ASSERT_EQ(user.Boxes.front().Text, QStringLiteral("The card set is loaded."));
+        ASSERT_EQ(user.Boxes.front().Text, "The card set is loaded.");
         EXPECT_TRUE(user.Boxes.size() == 1 || mayFail == Failure::Told) << user.LastBox().Text.toStdString();
         for (int tab = 1; tab <= 4; ++tab) {
             SelectTab(tab);
@@ -46,26 +46,25 @@ protected:
             Run("createall");
         }
         SelectTab(1);
-        Find<QScrollBar>("hsbCard").setValue(2);
+        Slide("hsbCard", 2);
         window.close();
         EXPECT_LT(timer.elapsed(), MostMilliseconds);
         // Without a back there are those of the two other cards all the same.
-        EXPECT_TRUE(folder.Has(QStringLiteral("CARD 2.bmp")));
-        QFile::remove(folder.Path(QStringLiteral("CARD 2.bmp")));
+        EXPECT_TRUE(folder.Has("CARD 2.bmp"));
+        QFile::remove(folder.Path("CARD 2.bmp"));
         user.Boxes.clear();
     }
 
     static constexpr qint64 MostMilliseconds = 15000; ///< under a sanitizer; a second at most without
 };
 
-/// A field of that type in each kind that has it.
-template <class Value>
-void SetEverywhere(CardSet& set, Value Card::*card, Value LargeCard::*large, Value Character::*character,
-                   const Value& value)
+/// Makes the same change to the first of each kind that has a picture.
+template <class Change>
+void ChangeEach(CardSet& set, Change&& change)
 {
-    set.Cards[1].*card = value;
-    set.LargeCards[1].*large = value;
-    set.Characters[1].*character = value;
+    change(set.Cards[1]);
+    change(set.LargeCards[1]);
+    change(set.Characters[1]);
 }
 
 void SetFonts(CardSet& set, const FontSpec& font)
@@ -86,10 +85,8 @@ TEST_F(HostileSetTest, NumbersOutsideTheirTablesAreShown)
             set.Characters[1].CardBack = number;
             set.LastCardBack = number;
         });
-        Try("extents", [&](CardSet& set) {
-            SetEverywhere<int16>(set, &Card::FrameHeight, &LargeCard::FrameHeight, &Character::FrameHeight,
-                                 number);
-        });
+        Try("extents",
+            [&](CardSet& set) { ChangeEach(set, [&](auto& element) { element.FrameHeight = number; }); });
         Try("colours", [&](CardSet& set) {
             const Colour colour = number * 65536;
             set.Cards[1].Color = set.LargeCards[1].Color = set.Header.ArtistColor = colour;
@@ -110,10 +107,12 @@ TEST_F(HostileSetTest, NumbersOutsideTheirTablesAreShown)
     for (const double offset :
          {1e300, -1e300, 32768.0 * 15, 0.5, std::numeric_limits<double>::denorm_min()}) {
         Try("offsets", [&](CardSet& set) {
-            const QString picture = PictureFile("a.bmp");
-            SetEverywhere(set, &Card::Picture, &LargeCard::Picture, &Character::Picture, picture);
-            SetEverywhere(set, &Card::PictureLeft, &LargeCard::PictureLeft, &Character::PictureLeft, offset);
-            SetEverywhere(set, &Card::PictureTop, &LargeCard::PictureTop, &Character::PictureTop, -offset);
+            const QString picture = folder.WritePicture("a.bmp");
+            ChangeEach(set, [&](auto& element) {
+                element.Picture = picture;
+                element.PictureLeft = offset;
+                element.PictureTop = -offset;
+            });
             set.Characters[1].PlayingPiece = picture;
             set.Characters[1].PlayingPieceLeft = set.Characters[1].PlayingPieceTop = offset;
             set.Cards[1].Resize = set.LargeCards[1].Resize = true;
@@ -125,16 +124,16 @@ TEST_F(HostileSetTest, FontsThatThereAreNotAreShown)
 {
     for (const double size : {0.0, -7.0, 0.01, 2160.0, 10000.0, 1e300})
         Try("a size", [&](CardSet& set) { SetFonts(set, SmallFont(size)); });
-    for (const QString& name : {QString(), QString(60000, QLatin1Char('x')), QStringLiteral("\x01,\x02")})
+    for (const QString& name : QStringList{QString(), QString(60000, 'x'), "\x01,\x02"})
         Try("a name", [&](CardSet& set) { SetFonts(set, {.Name = name, .Size = 7}); });
 }
 
 TEST_F(HostileSetTest, TextsThatNoCardHasRoomForAreShown)
 {
     for (const QString& text :
-         {QString(1 << 16, QLatin1Char('x')), QString(1 << 12, QChar(u'\0')),
-          QStringLiteral("|\r|\n ").repeated(2000), QString(20000, QLatin1Char('/')),
-          QStringLiteral("<b>&amp;%1%n</b>").repeated(1000), QString(QChar(0x9D)) + QLatin1Char('\t')}) {
+         {QString(1 << 16, 'x'), QString(1 << 12, QChar(u'\0')), QStringLiteral("|\r|\n ").repeated(2000),
+          QString(20000, '/'), QStringLiteral("<b>&amp;%1%n</b>").repeated(1000),
+          QString(QChar(0x9D)) + '\t'}) {
         Try("a text", [&](CardSet& set) {
             Card& card = set.Cards[1];
             card.Title = card.Type = card.SubType = card.Number = card.Artist = card.BoldText = card.Info =
@@ -151,39 +150,33 @@ TEST_F(HostileSetTest, TextsThatNoCardHasRoomForAreShown)
 
 TEST_F(HostileSetTest, PicturesThatAreNoneAreToldInEveryField)
 {
-    const QString fifo = folder.Path(QStringLiteral("fifo.bmp"));
+    const QString fifo = folder.Path("fifo.bmp");
     ASSERT_EQ(::mkfifo(fifo.toUtf8().constData(), 0600), 0);
-    const QString circle = folder.Path(QStringLiteral("circle.bmp"));
+    const QString circle = folder.Path("circle.bmp");
     ASSERT_EQ(::symlink(circle.toUtf8().constData(), circle.toUtf8().constData()), 0);
-    QDir(folder.Path()).mkdir(QStringLiteral("folder.bmp"));
-    QFile whole(PictureFile("whole.bmp", {100, 80}));
+    QDir(folder.Path()).mkdir("folder.bmp");
+    QFile whole(folder.WritePicture("whole.bmp", PictureOfPlaces({100, 80})));
     ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
     const QByteArray bytes = whole.readAll();
     QByteArray huge = bytes;
     qToLittleEndian<qint32>(30000, huge.data() + 18);
     qToLittleEndian<qint32>(30000, huge.data() + 22);
 
-    for (const QString& picture :
-         {fifo, circle, folder.Path(QStringLiteral("folder.bmp")), QStringLiteral("/dev/zero"),
-          QStringLiteral("/dev/tty"), QStringLiteral("/proc/self/mem"), QStringLiteral("none/none.bmp"),
-          QString(5000, QLatin1Char('x')), QString(QChar(u'\0')),
-          folder.Write(QStringLiteral("half.bmp"), bytes.first(bytes.size() / 2)),
-          folder.Write(QStringLiteral("huge.bmp"), huge)}) {
+    for (const QString& picture : QStringList{
+             fifo, circle, folder.Path("folder.bmp"), "/dev/zero", "/dev/tty", "/proc/self/mem",
+             "none/none.bmp", QString(5000, 'x'), QString(QChar(u'\0')),
+             folder.Write("half.bmp", bytes.first(bytes.size() / 2)), folder.Write("huge.bmp", huge)}) {
         Try(
             qPrintable(picture.left(100)),
             [&](CardSet& set) {
-                SetEverywhere(set, &Card::Picture, &LargeCard::Picture, &Character::Picture, picture);
-                SetEverywhere(set, &Card::Background, &LargeCard::Background, &Character::Background,
-                              picture);
+                ChangeEach(set, [&](auto& element) { element.Picture = element.Background = picture; });
                 set.LargeCards[1].CardBack = picture;
                 set.Characters[1].CardBack = 3;
                 set.Characters[1].CardBackPicture = set.Characters[1].PlayingPiece = picture;
                 set.NewCardBacks[1].Picture = picture;
                 set.NewCardBacks[1].UsePicture = true;
                 set.Header.Symbol = picture;
-                set.CardBacks.Resize(28);
-                set.CardBackCount = 28;
-                set.CardBacks[28].Picture = picture;
+                AddOwnBack(set, {}, picture);
                 set.Cards[1].CardBack = 28;
             },
             Failure::Told);

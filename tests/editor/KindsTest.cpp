@@ -4,15 +4,15 @@
 
 namespace deckforge {
 
-namespace {
-
 class KindsTest : public WindowTest {
 protected:
-    void Press(QKeySequence keys)
+    void Press(std::initializer_list<QKeySequence> keys)
     {
-        for (QShortcut* shortcut : window.findChildren<QShortcut*>()) {
-            if (shortcut->key() == keys)
-                Q_EMIT shortcut->activated();
+        for (const QKeySequence& key : keys) {
+            for (QShortcut* shortcut : window.findChildren<QShortcut*>()) {
+                if (shortcut->key() == key)
+                    Q_EMIT shortcut->activated();
+            }
         }
     }
 };
@@ -22,139 +22,146 @@ TEST_F(KindsTest, TheFirstOfAKindComesWithTheFirstLookAtItsTab)
     Click("cmdCardAdd");
     for (int look = 0; look < 2; ++look) {
         SelectTab(2);
-        EXPECT_EQ(Text("txtTitleLarge"), QStringLiteral("LARGE CARD 1"));
-        EXPECT_EQ(Label("lblCurrentCardLarge"), QStringLiteral("1 (1)"));
+        EXPECT_EQ(Text({"txtTitleLarge", "lblCurrentCardLarge"}), "LARGE CARD 1|1 (1)");
         EXPECT_TRUE(Boxes().Large.picCardLarge.Visible);
         SelectTab(3);
-        EXPECT_EQ(Text("txtCharName"), QStringLiteral("CHARACTER 1"));
-        EXPECT_EQ(Find<QComboBox>("cboStartArea").currentText(), QStringLiteral("VILLAGE"));
-        EXPECT_EQ(Find<QComboBox>("cboCharAttr2").currentText(), QStringLiteral("---"));
+        EXPECT_EQ(Text({"txtCharName", "cboStartArea", "cboCharAttr2"}), "CHARACTER 1|VILLAGE|---");
         SelectTab(4);
-        EXPECT_EQ(Text("txtNewCardBackName"), QStringLiteral("Back 1"));
-        EXPECT_EQ(Text("txtBackText"), QStringLiteral("New set"));
+        EXPECT_EQ(Text({"txtNewCardBackName", "txtBackText"}), "Back 1|New set");
         EXPECT_TRUE(Boxes().NewBack.picNewBack.Visible);
         SelectTab(1);
-        EXPECT_EQ(Position(), QStringLiteral("2 (2)"));
+        EXPECT_EQ(Text("lblCurrentCard"), "2 (2)");
     }
     EXPECT_EQ(Set().LargeCardCount + Set().CharacterCount + Set().NewCardBackCount, 3);
 }
 
 TEST_F(KindsTest, ASwitchOfTabComesBackToTheFront)
 {
-    const LargeCardTemplate& large = Boxes().Large;
+    const auto shown = [&] {
+        QStringList names;
+        for (const Box* box :
+             {&Boxes().Large.picCardLarge, &Boxes().Large.picBackLarge, &Boxes().Character.picCharacter,
+              &Boxes().Character.picCharacterBack, &Boxes().PlayingPiece.picPlayingPiece})
+            names += box->Visible ? QStringList(box->Name) : QStringList();
+        return names.join('|');
+    };
     SelectTab(2);
+    EXPECT_EQ(shown(), "picCardLarge");
     Click("chkShowBackLarge");
-    EXPECT_TRUE(large.picBackLarge.Visible);
-    EXPECT_FALSE(large.picCardLarge.Visible);
-    const CharacterTemplate& character = Boxes().Character;
+    EXPECT_EQ(shown(), "picBackLarge");
     SelectTab(3);
-    EXPECT_FALSE(large.picBackLarge.Visible);
     Click("chkShowCharacterBack");
     Click("chkShowPlayingPiece");
-    EXPECT_TRUE(Boxes().PlayingPiece.picPlayingPiece.Visible);
-    EXPECT_FALSE(character.picCharacterBack.Visible);
+    EXPECT_EQ(shown(), "picPlayingPiece");
     Click("chkShowPlayingPiece");
-    EXPECT_TRUE(character.picCharacterBack.Visible);
-    EXPECT_FALSE(character.picCharacter.Visible);
+    EXPECT_EQ(shown(), "picCharacterBack");
     ClickTab(3);
-    EXPECT_TRUE(character.picCharacter.Visible);
-    EXPECT_FALSE(character.picCharacterBack.Visible);
+    EXPECT_EQ(shown(), "picCharacter");
     EXPECT_FALSE(Find<QCheckBox>("chkShowCharacterBack").isChecked());
 }
 
 TEST_F(KindsTest, ANewSetLeavesTheTabAndItsCardsToTheNextClick)
 {
     SelectTab(4);
-    Type("txtNewCardBackName", QStringLiteral("Owls"));
+    Type("txtNewCardBackName", "Owls");
+    SelectTab(2);
     SelectTab(3);
     user.WillAnswer(Answer::No);
     Run("new");
     EXPECT_EQ(Find<QTabBar>("tbCard").currentIndex(), 2);
     EXPECT_TRUE(Boxes().Standard.picCard.Visible);
-    EXPECT_EQ(Set().CharacterCount, 0);
+    EXPECT_EQ(Set().LargeCardCount + Set().CharacterCount, 0);
     for (const char* command : {"copy", "paste", "createone", "printcard"}) {
         user.Boxes.clear();
         Run(command); // there is no character
-        EXPECT_EQ(user.LastBox().Text, QStringLiteral("Run-time error '9':\r\n\r\nSubscript out of range"));
+        EXPECT_EQ(user.LastBox().Text, "Run-time error '9':\r\n\r\nSubscript out of range");
     }
     ClickTab(3);
     EXPECT_EQ(Set().CharacterCount, 1);
     EXPECT_TRUE(Boxes().Character.picCharacter.Visible);
     SelectTab(4);
-    EXPECT_EQ(Text("txtNewCardBackName"), QStringLiteral("Owls"));
+    EXPECT_EQ(Text("txtNewCardBackName"), "Owls");
 }
 
-TEST_F(KindsTest, ASetOutlivesAQuestionPutAsideAndASaveThatFailed)
+TEST_F(KindsTest, OnlyACancelledQuestionAFailedSaveAndARunKeepTheWindowOpen)
 {
     window.show();
-    Type("txtTitle", QStringLiteral("Imp"));
+    Type("txtTitle", "Imp");
     user.WillAnswer(Answer::Cancel);
     Run("new");
     for (const char* command : {"new", "exit"}) {
         user.WillAnswer(Answer::Yes);
-        user.WillChoose(folder.Path(QStringLiteral("none/set.dkf")));
+        user.WillChoose(folder.Path("none/set.dkf"));
         Run(command);
         EXPECT_EQ(user.LastBox().Style, BoxStyle::Critical);
-        EXPECT_EQ(Set().Cards[1].Title, QStringLiteral("Imp"));
+        EXPECT_EQ(FirstCard().Title, "Imp");
         EXPECT_TRUE(window.isVisible());
     }
+    user.WillAnswer(Answer::Cancel);
+    Run("exit");
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(user.LastBox().Buttons, BoxButtons::YesNoCancel);
+    window.ShowProgress(1, 3);
+    window.close();
+    EXPECT_TRUE(window.isVisible()) << "a run is not disturbed";
+    window.ShowProgress(3, 3);
+    user.WillAnswer(Answer::Yes);
+    user.WillCancelDialog();
+    Run("exit");
+    EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(KindsTest, KeysAndCommandsGoByTheTab)
 {
+    const QKeySequence add(Qt::CTRL | Qt::Key_N);
+    const QKeySequence previous(Qt::CTRL | Qt::Key_Comma);
+    const QKeySequence next(Qt::CTRL | Qt::Key_Period);
     for (const int tab : {1, 2, 3}) {
         SelectTab(tab);
-        Press(Qt::CTRL | Qt::Key_N);
+        Press({add});
     }
-    EXPECT_EQ(Label("lblCurrentCardLarge"), QStringLiteral("2 (2)"));
-    EXPECT_EQ(Text("txtCharName"), QStringLiteral("CHARACTER 2"));
-    Press(Qt::CTRL | Qt::Key_Comma);
-    EXPECT_EQ(Text("txtCharName"), QStringLiteral("CHARACTER 1"));
-    Press(Qt::CTRL | Qt::Key_Comma);
-    Press(Qt::CTRL | Qt::Key_Period);
-    Press(Qt::CTRL | Qt::Key_Period);
-    EXPECT_EQ(Label("lblCurrentCardCharacter"), QStringLiteral("2 (2)"));
+    EXPECT_EQ(Text({"lblCurrentCardLarge", "txtCharName"}), "2 (2)|CHARACTER 2");
+    Press({previous});
+    EXPECT_EQ(Text("txtCharName"), "CHARACTER 1");
+    Press({previous, next, next});
+    EXPECT_EQ(Text("lblCurrentCardCharacter"), "2 (2)");
 
     SelectTab(4);
-    Press(Qt::CTRL | Qt::Key_N);
-    Press(Qt::CTRL | Qt::Key_Comma);
+    Press({add, previous});
     EXPECT_EQ(Set().NewCardBackCount, 1);
     EXPECT_EQ(Set().CurrentCharacter, 2);
     Run("copy");
-    EXPECT_EQ(user.LastBox().Text, QStringLiteral("The character card is copied."));
+    EXPECT_EQ(user.LastBox().Text, "The character card is copied.");
     SelectTab(3);
-    Find<QScrollBar>("hsbCharacter").setValue(1);
+    Slide("hsbCharacter", 1);
     Run("paste");
-    EXPECT_EQ(Text("txtCharName"), QStringLiteral("CHARACTER 2"));
-    EXPECT_EQ(Set().Characters[1].Name, QStringLiteral("CHARACTER 2"));
+    EXPECT_EQ(Text("txtCharName"), "CHARACTER 2");
+    EXPECT_EQ(Hero().Name, "CHARACTER 2");
 }
 
 TEST_F(KindsTest, ImagesAreMadeOfTheKindThatTheTabShows)
 {
     OpenChangedSet([&](CardSet& set) { set.Header.SaveTo = folder.WithSeparator(); });
-    SelectTab(2);
-    SelectTab(3);
-    SelectTab(4);
-    user.WillChoose(folder.Path(QStringLiteral("owl.bmp")));
+    for (const int tab : {2, 3, 4})
+        SelectTab(tab);
+    user.WillChoose(folder.Path("owl.bmp"));
     Run("createone");
-    EXPECT_TRUE(folder.Has(QStringLiteral("owl.bmp")));
+    EXPECT_TRUE(folder.Has("owl.bmp"));
     Run("createall");
-    EXPECT_EQ(user.LastBox().Text, QStringLiteral("1 character card is created."));
+    EXPECT_EQ(user.LastBox().Text, "1 character card is created.");
     SelectTab(2);
     Run("createall");
-    EXPECT_EQ(user.LastBox().Text, QStringLiteral("1 large card is created."));
-    EXPECT_TRUE(folder.Has(QStringLiteral("Large  LARGE CARD 1.bmp")));
-    EXPECT_EQ(Text("txtTitleLarge"), QStringLiteral("LARGE CARD 1"));
+    EXPECT_EQ(user.LastBox().Text, "1 large card is created.");
+    EXPECT_TRUE(folder.Has("Large  LARGE CARD 1.bmp"));
+    EXPECT_EQ(Text("txtTitleLarge"), "LARGE CARD 1");
 }
 
 TEST_F(KindsTest, AnOpenedSetLeavesSlidersOfTheOneBefore)
 {
     SelectTab(4);
-    Click("cmdNewCardBackAdd");
-    Click("cmdNewCardBackAdd");
-    Click("cmdCardAdd"); // of the first tab, which is not shown
-    for (int i = 0; i < 4; ++i)
-        Click("cmdCharacterAdd");
+    for (const char* add : {"cmdNewCardBackAdd", "cmdNewCardBackAdd", "cmdCardAdd", "cmdCharacterAdd",
+                            "cmdCharacterAdd", "cmdCharacterAdd", "cmdCharacterAdd"})
+        Click(add); // also of tabs that are not shown
     OpenChangedSet([](CardSet& set) {
         AddElement(set, LargeKind);
         AddElement(set, LargeKind);
@@ -164,42 +171,15 @@ TEST_F(KindsTest, AnOpenedSetLeavesSlidersOfTheOneBefore)
         set.NewCardBacks.Resize(1);
     });
     EXPECT_EQ(Find<QTabBar>("tbCard").currentIndex(), 0);
-    EXPECT_EQ(Position(), QStringLiteral("1 (2)"));
-    EXPECT_EQ(Find<QScrollBar>("hsbCard").value(), 2);
+    EXPECT_EQ(Text({"lblCurrentCard", "hsbCard"}), "1 (2)|2 (2)");
     SelectTab(2);
-    EXPECT_EQ(Label("lblCurrentCardLarge"), QStringLiteral("1 (2)"));
-    EXPECT_EQ(Find<QScrollBar>("hsbCardLarge").maximum(), 2);
+    EXPECT_EQ(Text({"lblCurrentCardLarge", "hsbCardLarge"}), "1 (2)|1 (2)");
     SelectTab(3);
-    EXPECT_EQ(Label("lblCurrentCardCharacter"), QStringLiteral("1 (2)"));
-    EXPECT_EQ(Find<QScrollBar>("hsbCharacter").maximum(), 2);
+    EXPECT_EQ(Text({"lblCurrentCardCharacter", "hsbCharacter"}), "1 (2)|2 (2)");
     SelectTab(4);
-    EXPECT_EQ(Label("lblCurrentNewCardBack"), QStringLiteral("1 (1)"));
-    EXPECT_EQ(Find<QScrollBar>("hsbNewCardBack").maximum(), 3);
-    Find<QScrollBar>("hsbNewCardBack").setValue(2);
-    EXPECT_EQ(Label("lblCurrentNewCardBack"), QStringLiteral("1 (1)"));
-}
-
-TEST_F(KindsTest, SlidersTellWhatTheyTellOfEachKind)
-{
-    const auto drag = [&](const char* name, int position) {
-        auto& slider = Find<QScrollBar>(name);
-        slider.setSliderDown(true);
-        slider.setSliderPosition(position);
-    };
-    SelectTab(2);
-    Click("cmdCardAddLarge");
-    drag("hsbCardLarge", 1);
-    EXPECT_EQ(Label("lblCurrentCardLarge"), QStringLiteral("2 (2)"));
-    EXPECT_EQ(Label("lblCardTitleLarge"), QString());
-    SelectTab(3);
-    Click("cmdCharacterAdd");
-    drag("hsbCharacter", 1);
-    EXPECT_EQ(Label("lblCurrentCardCharacter"), QStringLiteral("1 (2)"));
-    EXPECT_EQ(Label("lblChar"), QStringLiteral("CHARACTER 1"));
-    SelectTab(4);
-    Click("cmdNewCardBackAdd");
-    drag("hsbNewCardBack", 1);
-    EXPECT_EQ(Label("lblCurrentNewCardBack"), QStringLiteral("1 (2)"));
+    EXPECT_EQ(Text({"lblCurrentNewCardBack", "hsbNewCardBack"}), "1 (1)|3 (3)");
+    Slide("hsbNewCardBack", 2);
+    EXPECT_EQ(Text("lblCurrentNewCardBack"), "1 (1)");
 }
 
 TEST_F(KindsTest, OnlyTheLastOfTheOtherKindsStaysWithoutAWord)
@@ -212,33 +192,20 @@ TEST_F(KindsTest, OnlyTheLastOfTheOtherKindsStaysWithoutAWord)
     Click("cmdCharacterAdd");
     user.WillAnswer(Answer::Yes);
     Click("cmdCharacterDelete");
-    EXPECT_EQ(user.LastBox().Text,
-              QStringLiteral("Are you sure you want to delete the character \"CHARACTER 2\"?"));
-    EXPECT_EQ(Label("lblCurrentCardCharacter"), QStringLiteral("1 (1)"));
-}
-
-TEST_F(KindsTest, ARunIsNotDisturbed)
-{
-    window.show();
-    window.ShowProgress(1, 3);
-    window.close();
-    EXPECT_TRUE(window.isVisible());
-    window.ShowProgress(3, 3);
-    window.close();
-    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(user.LastBox().Text, "Are you sure you want to delete the character \"CHARACTER 2\"?");
+    EXPECT_EQ(Text("lblCurrentCardCharacter"), "1 (1)");
+    SelectTab(1);
+    Click("cmdCardDelete");
+    EXPECT_EQ(user.LastTold(), "|You have only one card in your set. This can't be deleted.");
 }
 
 TEST_F(KindsTest, TheWheelTurnsNothingThatTheUserDoesNotWorkIn)
 {
-    for (const char* name : {"cboCardBack", "cboType", "udCopy", "tbCard"}) {
-        auto& control = Find<QWidget>(name);
-        QWheelEvent turn({2, 2}, control.mapToGlobal(QPointF(2, 2)), {}, {0, -120}, Qt::NoButton, {},
-                         Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&control, &turn);
-    }
-    EXPECT_EQ(Set().Cards[1].CardBack, 1);
-    EXPECT_EQ(Set().Cards[1].SubType, QStringLiteral("Animal"));
-    EXPECT_EQ(Set().Cards[1].Copies, 1);
+    for (const char* name : {"cboCardBack", "cboType", "udCopy", "tbCard"})
+        TurnWheel(Find<QWidget>(name), -120);
+    EXPECT_EQ(FirstCard().CardBack, 1);
+    EXPECT_EQ(FirstCard().SubType, "Animal");
+    EXPECT_EQ(FirstCard().Copies, 1);
     EXPECT_EQ(Set().LargeCardCount, 0);
 }
 
@@ -271,7 +238,5 @@ TEST_F(KindsTest, ControlsAreNamedAndTabGoesInReadingOrder)
         EXPECT_GT(stops, 20) << tab;
     }
 }
-
-} // namespace
 
 } // namespace deckforge

@@ -4,18 +4,17 @@
 
 namespace deckforge {
 
-namespace {
-
 class PlacementTest : public WindowTest {
 protected:
-    Card FirstCard() const { return Set().Cards[1]; }
-    void Choose(const char* button, const QString& path)
+    /// How far the picture of an element is moved, in pixels.
+    template <class Record>
+    static QPointF Offset(const Record& element)
     {
-        user.WillChoose(path);
-        Click(button);
+        return QPointF(element.PictureLeft, element.PictureTop) / 15;
     }
     void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(&View(), key, held); }
-    void Drop(QPoint point, const QString& path)
+    void Drop(const QString& path, const Box& box, QPoint inBox = {1, 1}) { Drop(path, PointOn(box, inBox)); }
+    void Drop(const QString& path, QPoint point)
     {
         QMimeData file;
         file.setUrls({QUrl::fromLocalFile(path)});
@@ -31,13 +30,11 @@ protected:
 
 TEST_F(PlacementTest, ADraggedPictureMovesByPixelsOfTheCardAtEveryZoom)
 {
-    Choose("cmdGetPic", PictureFile("imp.bmp", {200, 150}));
+    ChoosePicture("cmdGetPic", folder.WritePicture("imp.bmp", PictureOfPlaces({200, 150})));
     for (const int zoom : {1, 2, 3}) {
-        Find<QAbstractButton>(qPrintable(QStringLiteral("cmdZoom%1").arg(zoom))).click();
-        const Card before = FirstCard();
+        Click(qPrintable(QString("cmdZoom%1").arg(zoom)));
         Drag(Preview().picImage, {50, 50}, {4, -3});
-        EXPECT_EQ(FirstCard().PictureLeft - before.PictureLeft, 60) << zoom;
-        EXPECT_EQ(FirstCard().PictureTop - before.PictureTop, -45) << zoom;
+        EXPECT_EQ(Offset(FirstCard()), QPointF(4, -3) * zoom) << zoom;
     }
     EXPECT_EQ(Preview().picImage.Place(), QRect(12, -9, 200, 150));
     Drag(Preview().lblTitle, {3, 3}, {9, 9});
@@ -46,12 +43,12 @@ TEST_F(PlacementTest, ADraggedPictureMovesByPixelsOfTheCardAtEveryZoom)
 
 TEST_F(PlacementTest, TheTextFollowsTheHandleWhichStopsAtItsBounds)
 {
-    Type("txtBold", QStringLiteral("STRENGTH 2"));
+    Type("txtBold", "STRENGTH 2");
     Drag(Preview().lblPicSize, {20, 1}, {0, 20});
     EXPECT_EQ(FirstCard().FrameHeight, 125);
     EXPECT_EQ(Preview().lblBold.Top, 40 + 125 + 3);
     EXPECT_EQ(Preview().lblInformation.Place(), QRect(5, 180, 139, 61));
-    EXPECT_EQ(Label("lblPicDim"), QStringLiteral("139W * 125H"));
+    EXPECT_EQ(Text("lblPicDim"), "139W * 125H");
     Drag(Preview().lblPicSize, {20, 1}, {0, 200});
     EXPECT_EQ(FirstCard().FrameHeight, 208 - 40);
     Drag(Preview().lblPicSize, {20, 1}, {0, -200});
@@ -61,34 +58,31 @@ TEST_F(PlacementTest, TheTextFollowsTheHandleWhichStopsAtItsBounds)
     Drag(Boxes().Large.lblPicSizeLarge, {1, 50}, {30, 7});
     EXPECT_EQ(Set().LargeCards[1].FrameHeight, 129 + 30 - 8);
     EXPECT_EQ(Boxes().Large.lblTitleLarge.Place(), QRect(164, 8, 132, 25));
-    EXPECT_EQ(Label("lblPicDimLarge"), QStringLiteral("151W * 238H"));
+    EXPECT_EQ(Text("lblPicDimLarge"), "151W * 238H");
     Drag(Boxes().Large.lblPicSizeLarge, {1, 50}, {300, 0});
     EXPECT_EQ(Set().LargeCards[1].FrameHeight, 180 - 8);
 
     SelectTab(3);
     Drag(Boxes().Character.lblPicSizeCharacter, {1, 50}, {-22, 0});
-    EXPECT_EQ(Set().Characters[1].FrameHeight, 100 - 1);
+    EXPECT_EQ(Hero().FrameHeight, 100 - 1);
     EXPECT_EQ(Boxes().Character.lblSpecial.Place(), QRect(106, 43, 166, 177));
-    EXPECT_EQ(Label("lblPicDimChar"), QStringLiteral("(99W*220H)"));
+    EXPECT_EQ(Text("lblPicDimChar"), "(99W*220H)");
 }
 
 TEST_F(PlacementTest, KeysLayThePictureAtTheEdgesOfItsFrame)
 {
-    Choose("cmdGetPic", PictureFile("imp.bmp", {200, 50}));
-    const auto offsets = [&] { return QPointF(FirstCard().PictureLeft, FirstCard().PictureTop) / 15; };
-    const struct {
-        Qt::Key Key;
-        QPointF Expected;
-    } steps[] = {{Qt::Key_Right, {1, 0}}, {Qt::Key_Down, {1, 1}},   {Qt::Key_Left, {0, 1}},
-                 {Qt::Key_Up, {0, 0}},    {Qt::Key_End, {-62, 0}},  {Qt::Key_PageDown, {-62, 52}},
-                 {Qt::Key_Home, {0, 52}}, {Qt::Key_PageUp, {0, 0}}, {Qt::Key_X, {0, 0}},
-                 {Qt::Key_Right, {1, 0}}};
-    for (const auto& step : steps) {
-        Press(step.Key);
-        EXPECT_EQ(offsets(), step.Expected) << step.Key;
+    ChoosePicture("cmdGetPic", folder.WritePicture("imp.bmp", PictureOfPlaces({200, 50})));
+    const std::pair<Qt::Key, QPointF> steps[] = {{Qt::Key_Right, {1, 0}}, {Qt::Key_Down, {1, 1}},
+                                                 {Qt::Key_Left, {0, 1}},  {Qt::Key_Up, {0, 0}},
+                                                 {Qt::Key_End, {-62, 0}}, {Qt::Key_PageDown, {-62, 52}},
+                                                 {Qt::Key_Home, {0, 52}}, {Qt::Key_PageUp, {0, 0}},
+                                                 {Qt::Key_X, {0, 0}},     {Qt::Key_Right, {1, 0}}};
+    for (const auto& [key, expected] : steps) {
+        Press(key);
+        EXPECT_EQ(Offset(FirstCard()), expected) << key;
     }
     Press(Qt::Key_Left, Qt::ControlModifier);
-    EXPECT_EQ(offsets(), QPointF(1, 0));
+    EXPECT_EQ(Offset(FirstCard()), QPointF(1, 0));
     Press(Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_EQ(FirstCard().FrameHeight, 106);
     Press(Qt::Key_End, Qt::ShiftModifier);
@@ -97,18 +91,17 @@ TEST_F(PlacementTest, KeysLayThePictureAtTheEdgesOfItsFrame)
     Press(Qt::Key_Home, Qt::ShiftModifier);
     Press(Qt::Key_Up, Qt::ShiftModifier);
     EXPECT_EQ(FirstCard().FrameHeight, 20);
-    EXPECT_EQ(offsets(), QPointF(1, 0));
+    EXPECT_EQ(Offset(FirstCard()), QPointF(1, 0));
 }
 
 TEST_F(PlacementTest, EdgesOfALargePictureAreFoundByThePictureOfTheStandardCard)
 {
-    Choose("cmdGetPic", PictureFile("imp.bmp", {30, 20}));
+    ChoosePicture("cmdGetPic", folder.WritePicture("imp.bmp", PictureOfPlaces({30, 20})));
     SelectTab(2);
-    Choose("cmdGetPicLarge", PictureFile("hill.bmp", {100, 90}));
+    ChoosePicture("cmdGetPicLarge", folder.WritePicture("hill.bmp", PictureOfPlaces({100, 90})));
     Press(Qt::Key_End);
     Press(Qt::Key_PageDown);
-    EXPECT_EQ(Set().LargeCards[1].PictureLeft, (121 - 1 - 30) * 15);
-    EXPECT_EQ(Set().LargeCards[1].PictureTop, (238 - 3 - 20) * 15);
+    EXPECT_EQ(Offset(Set().LargeCards[1]), QPointF(121 - 1 - 30, 238 - 3 - 20));
     Press(Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(Set().LargeCards[1].FrameHeight, 121);
 }
@@ -116,21 +109,20 @@ TEST_F(PlacementTest, EdgesOfALargePictureAreFoundByThePictureOfTheStandardCard)
 TEST_F(PlacementTest, CharacterAndPieceMoveEachTheirOwnPicture)
 {
     SelectTab(3);
-    Choose("cmdGetCharPic", PictureFile("hero.bmp", {60, 60}));
-    Choose("cmdGetPlayingPiecePic", PictureFile("piece.bmp", {60, 60}));
+    ChoosePicture("cmdGetCharPic", folder.WritePicture("hero.bmp", PictureOfPlaces({60, 60})));
+    ChoosePicture("cmdGetPlayingPiecePic", folder.WritePicture("piece.bmp", PictureOfPlaces({60, 60})));
     Drag(Boxes().Character.picImageCharacter, {10, 10}, {5, 6});
     Press(Qt::Key_Right);
     Click("chkShowPlayingPiece");
     Drag(Boxes().PlayingPiece.picPlayingPieceImage, {10, 10}, {-2, 3});
     Press(Qt::Key_PageDown);
-    const Character& hero = Set().Characters[1];
-    EXPECT_EQ(QPointF(hero.PictureLeft, hero.PictureTop), QPointF(90, 90));
-    EXPECT_EQ(QPointF(hero.PlayingPieceLeft, hero.PlayingPieceTop), QPointF(-30, (222 - 3 - 60) * 15));
+    EXPECT_EQ(Offset(Hero()), QPointF(6, 6));
+    EXPECT_EQ(QPointF(Hero().PlayingPieceLeft, Hero().PlayingPieceTop), QPointF(-30, (222 - 3 - 60) * 15));
 }
 
 TEST_F(PlacementTest, AFrameThatHugsItsPictureStandsInTheMiddle)
 {
-    Choose("cmdGetPic", PictureFile("imp.bmp", {43, 60}));
+    ChoosePicture("cmdGetPic", folder.WritePicture("imp.bmp", PictureOfPlaces({43, 60})));
     Click("chkResize");
     EXPECT_EQ(FirstCard().PictureLeft, (142 - 43) / 2.0 * 15);
     EXPECT_EQ(Preview().picFrame.Width, 43);
@@ -153,59 +145,59 @@ TEST_F(PlacementTest, ThePointerTellsWhatCanBeMoved)
     EXPECT_EQ(pointerOn(Preview().lblTitle), Qt::ArrowCursor);
     Click("chkShowPicture");
     EXPECT_EQ(pointerOn(Preview().picImage), Qt::ArrowCursor);
+    EXPECT_EQ(Preview().lblBold.Top, 28 + 13 + 3) << "the texts move up";
+    Click("chkShowPicture");
+    EXPECT_EQ(Preview().lblBold.Top, 40 + 105 + 3);
     SelectTab(2);
     EXPECT_EQ(pointerOn(Boxes().Large.lblPicSizeLarge), Qt::SizeHorCursor);
 }
 
 TEST_F(PlacementTest, ADroppedPictureGoesWhereItFalls)
 {
-    const QString path = PictureFile("imp.bmp");
-    Drop(PointOn(Preview().picFrame, {80, 80}), path);
-    EXPECT_EQ(FirstCard().Picture, path);
-    const QString other = PictureFile("ogre.bmp");
-    Drop(PointOn(Preview().picFrame, {120, 90}), other); // on the frame, beside the picture
+    const QString path = folder.WritePicture("imp.bmp");
+    const auto expectDropped = [&](const QString& field, const Box& box, QPoint inBox = {1, 1}) {
+        Drop(path, box, inBox);
+        EXPECT_EQ(field, path) << box.Name.toStdString();
+    };
+    expectDropped(FirstCard().Picture, Preview().picFrame, {80, 80});
+    const QString other = folder.WritePicture("ogre.bmp");
+    Drop(other, Preview().picFrame, {120, 90}); // on the frame, beside the picture
     EXPECT_EQ(FirstCard().Picture, other);
     user.WillCancelDialog();
     Click("cmdGetPic");
     EXPECT_EQ(user.OpenDialogs.back().Folder, folder.WithSeparator());
-    Drop(PointOn(Preview().lblInformation), path);
-    EXPECT_EQ(FirstCard().Background, path);
-    Drop(PointOn(Preview().picBack), path);
+    expectDropped(FirstCard().Background, Preview().lblInformation);
+    Drop(path, Preview().picBack);
     EXPECT_EQ(FirstCard().CardBack, 28);
     SelectTab(3);
-    Drop(PointOn(Boxes().Character.lblCharacter), path);
-    EXPECT_EQ(Set().Characters[1].Background, path);
+    expectDropped(Hero().Background, Boxes().Character.lblCharacter);
     Click("chkShowCharacterBack");
-    Drop(PointOn(Boxes().Character.picCharacterBack), path);
-    EXPECT_EQ(Set().Characters[1].CardBackPicture, path);
-    EXPECT_EQ(Set().Characters[1].CardBack, 3);
+    expectDropped(Hero().CardBackPicture, Boxes().Character.picCharacterBack);
+    EXPECT_EQ(Hero().CardBack, 3);
     Click("chkShowPlayingPiece");
-    Drop(PointOn(Boxes().PlayingPiece.picPlayingPieceFrame, {100, 200}), path);
-    EXPECT_EQ(Set().Characters[1].PlayingPiece, path);
+    expectDropped(Hero().PlayingPiece, Boxes().PlayingPiece.picPlayingPieceFrame, {100, 200});
     SelectTab(4);
-    Drop(PointOn(Boxes().NewBack.picNewBack), path);
-    EXPECT_EQ(Set().NewCardBacks[1].Picture, path);
-    Drop(PointOn(Boxes().NewBack.picNewBack), folder.Path(QStringLiteral("notes.txt")));
-    EXPECT_EQ(Set().NewCardBacks[1].Picture, path);
+    expectDropped(Back().Picture, Boxes().NewBack.picNewBack);
+    Drop(folder.Path("notes.txt"), Boxes().NewBack.picNewBack);
+    EXPECT_EQ(Back().Picture, path);
 }
 
 TEST_F(PlacementTest, ADroppedSetIsOpenedAfterTheQuestion)
 {
-    OpenChangedSet([](CardSet& set) { set.Cards[1].Title = QStringLiteral("Stored"); });
-    Type("txtTitle", QStringLiteral("Changed"));
+    OpenChangedSet([](CardSet& set) { set.Cards[1].Title = "Stored"; });
+    const QString set = folder.Path("set.dkf");
+    Type("txtTitle", "Changed");
     user.WillAnswer(Answer::Cancel);
-    Drop({1, 1}, folder.Path(QStringLiteral("set.dkf")));
+    Drop(set, QPoint(1, 1));
     QCoreApplication::processEvents();
-    EXPECT_EQ(Text("txtTitle"), QStringLiteral("Changed"));
+    EXPECT_EQ(Text("txtTitle"), "Changed");
     window.ShowProgress(1, 3);
-    Drop({1, 1}, folder.Path(QStringLiteral("set.dkf"))); // refused while a run goes on
+    Drop(set, QPoint(1, 1)); // refused while a run goes on
     window.ShowProgress(3, 3);
     user.WillAnswer(Answer::No);
-    Drop({1, 1}, folder.Path(QStringLiteral("set.dkf")));
+    Drop(set, QPoint(1, 1));
     QCoreApplication::processEvents();
-    EXPECT_EQ(Text("txtTitle"), QStringLiteral("Stored"));
+    EXPECT_EQ(Text("txtTitle"), "Stored");
 }
-
-} // namespace
 
 } // namespace deckforge

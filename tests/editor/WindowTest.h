@@ -1,11 +1,10 @@
 #pragma once
 
+#include "core/SetTables.h"
 #include "core/modInfo.h"
 #include "dialogs/CardPreview.h"
 #include "editor/frmQDW.h"
 #include "files/modFile.h"
-#include "support/Failures.h"
-#include "support/PixelText.h"
 #include "support/ScriptedUser.h"
 #include "support/TestFolder.h"
 
@@ -26,28 +25,42 @@ namespace deckforge {
 /// The window over a new set, with a user who answers from a script.
 class WindowTest : public testing::Test {
 protected:
+    /// A control or a command of the window, or of the dialog that is open.
     template <class Control>
     Control& Find(const char* name)
     {
-        auto* const control = window.findChild<Control*>(QString::fromLatin1(name));
+        auto* const control = root->findChild<Control*>(name);
         if (!control)
             throw std::runtime_error(name);
         return *control;
     }
 
     // Controls
-    QString Text(const char* name) { return Find<QLineEdit>(name).text(); }
-    QString Label(const char* name) { return Find<QLabel>(name).text(); }
+    /// What controls show, parted by bars: their texts; of a slider its place and its end: "1 (2)".
+    QString Text(std::initializer_list<const char*> names)
+    {
+        QStringList texts;
+        for (const char* name : names) {
+            auto& control = Find<QWidget>(name);
+            if (const auto* slider = qobject_cast<QScrollBar*>(&control))
+                texts.append(
+                    PositionText(static_cast<int16>(slider->value()), static_cast<int16>(slider->maximum())));
+            else
+                texts.append(
+                    control.property(control.inherits("QComboBox") ? "currentText" : "text").toString());
+        }
+        return texts.join('|');
+    }
+    QString Text(const char* name) { return Text({name}); }
+    QLineEdit& Line(const char* name)
+    {
+        auto* const list = root->findChild<QComboBox*>(name);
+        return list ? *list->lineEdit() : Find<QLineEdit>(name);
+    }
     void Type(const char* name, const QString& text)
     {
-        auto& box = Find<QLineEdit>(name);
-        box.selectAll();
-        QTest::keyClicks(&box, text);
-    }
-    void TypeIn(QComboBox& list, const QString& text)
-    {
-        list.lineEdit()->selectAll();
-        QTest::keyClicks(list.lineEdit(), text);
+        Line(name).selectAll();
+        QTest::keyClicks(&Line(name), text);
     }
     /// Chooses an entry as the user does.
     void Choose(const char* name, int entry)
@@ -56,6 +69,7 @@ protected:
         list.setCurrentIndex(entry);
         Q_EMIT list.activated(entry);
     }
+    void Slide(const char* name, int place) { Find<QScrollBar>(name).setValue(place); }
     void Click(const char* name) { Find<QAbstractButton>(name).click(); }
     void Run(const char* command) { Find<QAction>(command).trigger(); }
     void SelectTab(int tab) { Find<QTabBar>("tbCard").setCurrentIndex(tab - 1); }
@@ -65,10 +79,19 @@ protected:
         auto& tabs = Find<QTabBar>("tbCard");
         QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(tab - 1).center());
     }
-    QString Position() { return Label("lblCurrentCard"); }
+    /// A turn of the wheel over a control.
+    static void TurnWheel(QWidget& control, int by)
+    {
+        QWheelEvent turn({2, 2}, control.mapToGlobal(QPointF(2, 2)), {}, {0, by}, Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&control, &turn);
+    }
 
     // The set and its preview
     const CardSet& Set() const { return window.Works().Set; }
+    const Card& FirstCard() const { return Set().Cards[1]; }
+    const Character& Hero() const { return Set().Characters[1]; }
+    const NewCardBack& Back() const { return Set().NewCardBacks[1]; }
     const CardTemplates& Boxes() const { return window.Works().Templates; }
     const CardTemplate& Preview() const { return Boxes().Standard; }
     CardPreview& View() { return *window.findChild<CardPreview*>(); }
@@ -98,12 +121,11 @@ protected:
         QCoreApplication::sendEvent(&View(), &move);
     }
 
-    /// A picture in which no two pixels are alike.
-    QString PictureFile(const char* name, QSize size = {40, 30})
+    /// Answers the dialog of a picture button, and clicks it.
+    void ChoosePicture(const char* button, const QString& path)
     {
-        const QString path = folder.Path(QString::fromLatin1(name));
-        SavePicture(PictureOfPlaces(size), path);
-        return path;
+        user.WillChoose(path);
+        Click(button);
     }
 
     /// Opens a copy of the set that the window holds now, under another name and with its cards changed.
@@ -112,7 +134,7 @@ protected:
     {
         CardSet changed = Set();
         change(changed);
-        const QString path = folder.Path(QStringLiteral("set.dkf"));
+        const QString path = folder.Path("set.dkf");
         ScriptedUser silent;
         ASSERT_TRUE(WriteDKF(changed, path, silent, Report::Silent));
         window.Start(path);
@@ -121,6 +143,7 @@ protected:
     TestFolder folder;
     ScriptedUser user;
     frmQDW window{user};
+    QWidget* root = &window;
 };
 
 } // namespace deckforge

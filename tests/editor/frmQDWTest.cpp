@@ -1,207 +1,163 @@
-#include "dialogs/frmCardSheet.h"
 #include "editor/WindowTest.h"
-
-#include <QApplication>
-#include <QTimer>
 
 namespace deckforge {
 
-namespace {
-
 class frmQDWTest : public WindowTest {};
 
-TEST_F(frmQDWTest, OpenedSetFillsFieldsAndTitle)
+TEST_F(frmQDWTest, OpenedSetFillsFieldsAndTitleAndStaysAsItIs)
 {
     OpenChangedSet([](CardSet& set) {
-        set.Header.SetName = QStringLiteral("Caves");
+        set.Header.SetName = "Caves";
         set.Header.NoBack = true;
         set.Header.SaveFormat = 2;
         AddElement(set, StandardKind);
         Card& card = set.Cards[1];
-        card.Title = QStringLiteral("Troll");
-        card.BoldText = QStringLiteral("STRENGTH 6");
-        card.Info = QStringLiteral("One\r\n\u00A0two");
-        card.Picture = QStringLiteral("C:\\cards\\troll.bmp");
+        card.Title = "Troll";
+        card.BoldText = "STRENGTH 6";
+        card.Info = "One\r\n\u00A0two  ";
+        card.Picture = "C:\\cards\\troll.bmp";
+        card.Artist = "A. Painter";
         card.Frame = false;
+        Card& odd = set.Cards[2]; // in values that no control holds
+        odd.Info = "a\nb\rc";
+        odd.Copies = -7;
+        odd.CardBack = 0;
+        odd.Number = "many";
+        odd.TypeIndex = 9;
     });
-    EXPECT_EQ(window.windowTitle(), QStringLiteral("Caves - Varnhelm Deck Forge"));
-    EXPECT_EQ(Text("txtTitle"), QStringLiteral("Troll"));
-    EXPECT_EQ(Text("txtBold"), QStringLiteral("STRENGTH 6"));
+    EXPECT_EQ(window.windowTitle(), "Caves - Varnhelm Deck Forge");
+    EXPECT_EQ(Text({"txtTitle", "txtBold", "txtPicture", "lblCurrentCard"}),
+              "Troll|STRENGTH 6|troll.bmp|1 (2)");
     EXPECT_EQ(Find<QPlainTextEdit>("txtInfo").blockCount(), 2);
-    EXPECT_EQ(Text("txtPicture"), QStringLiteral("troll.bmp"));
     EXPECT_FALSE(Find<QCheckBox>("chkFrame").isChecked());
     EXPECT_FALSE(Preview().picBack.Visible);
-    EXPECT_EQ(Position(), QStringLiteral("1 (2)"));
-    EXPECT_EQ(user.LastBox().Text, QStringLiteral("The card set is loaded."));
+    EXPECT_EQ(user.LastBox().Text, "The card set is loaded.");
+
+    Slide("hsbCard", 2);
+    EXPECT_EQ(Text("cboNumber"), "many");
+    Slide("hsbCard", 1);
+    EXPECT_EQ(FirstCard().Info, "One\r\n\u00A0two  ");
+    EXPECT_EQ(FirstCard().Artist, "A. Painter");
+    const Card& odd = Set().Cards[2];
+    EXPECT_EQ(odd.Info + odd.Artist, "a\nb\rc");
+    EXPECT_EQ(std::tuple(odd.Copies, odd.CardBack, odd.TypeIndex), std::tuple(-7, 0, 9));
 }
 
-TEST_F(frmQDWTest, ShowingCardsLeavesTheirTextsAsTheyWere)
+TEST_F(frmQDWTest, TypedTextGoesToRecordAndPreviewAndCompletesAttributes)
 {
-    const QString info = QStringLiteral("One\r\n\u00A0two  ");
-    OpenChangedSet([&](CardSet& set) {
-        AddElement(set, StandardKind);
-        set.Cards[1].Info = info;
-        set.Cards[1].Artist = QStringLiteral("A. Painter");
-    });
-    Find<QScrollBar>("hsbCard").setValue(2);
-    Find<QScrollBar>("hsbCard").setValue(1);
-    EXPECT_EQ(Set().Cards[1].Info, info);
-    EXPECT_EQ(Set().Cards[1].Artist, QStringLiteral("A. Painter"));
-    EXPECT_EQ(Set().Cards[2].Info, QString());
-    EXPECT_EQ(Set().Cards[2].Artist, QString());
-}
-
-TEST_F(frmQDWTest, UnreadableSetLeavesTheNewOne)
-{
-    window.Start(folder.Path(QStringLiteral("none.dkf")));
-    EXPECT_EQ(user.LastBox().Style, BoxStyle::Critical);
-    EXPECT_EQ(window.windowTitle(), QStringLiteral("New set - Varnhelm Deck Forge"));
-    EXPECT_EQ(Text("txtTitle"), QStringLiteral("CARD 1"));
-}
-
-TEST_F(frmQDWTest, TypedTextGoesToRecordAndPreview)
-{
-    Type("txtTitle", QStringLiteral("Sword & Shield"));
+    Type("txtTitle", "Sword & Shield");
     auto& txtInfo = Find<QPlainTextEdit>("txtInfo");
     QTest::keyClick(&txtInfo, 'a');
     QTest::keyClick(&txtInfo, Qt::Key_Return);
     QTest::keyClick(&txtInfo, 'b');
-    Type("txtArtist", QStringLiteral("A. Painter"));
-    Type("txtSetname", QStringLiteral("Mine"));
-    EXPECT_EQ(Set().Cards[1].Title, QStringLiteral("Sword & Shield"));
-    EXPECT_EQ(Preview().lblTitle.Caption, QStringLiteral("Sword & Shield"));
-    EXPECT_EQ(Set().Cards[1].Info, QStringLiteral("a\r\nb"));
-    EXPECT_EQ(Set().Cards[1].Artist, QStringLiteral("A. Painter"));
+    Type("txtArtist", "A. Painter");
+    Type("txtSetname", "Mine");
+    EXPECT_EQ(FirstCard().Title, "Sword & Shield");
+    EXPECT_EQ(Preview().lblTitle.Caption, "Sword & Shield");
+    EXPECT_EQ(FirstCard().Info, "a\r\nb");
+    EXPECT_EQ(FirstCard().Artist, "A. Painter");
     EXPECT_TRUE(Preview().picArtistDest.Visible);
-    EXPECT_EQ(Set().Header.SetName, QStringLiteral("Mine"));
-}
+    EXPECT_EQ(Set().Header.SetName, "Mine");
+    Find<QLineEdit>("txtTitle").setText("one\r\ntwo\nthree");
+    EXPECT_EQ(FirstCard().Title, "one two three") << "a line takes pasted line breaks as blanks";
 
-TEST_F(frmQDWTest, FirstLetterOfAttributeIsCompletedAndTypedOver)
-{
     const int emptyTop = Preview().lblInformation.Top;
-    Type("txtBold", QStringLiteral("S"));
-    EXPECT_EQ(Set().Cards[1].BoldText, QStringLiteral("STRENGTH "));
+    Type("txtBold", "S");
+    EXPECT_EQ(FirstCard().BoldText, "STRENGTH ");
     EXPECT_EQ(Preview().lblInformation.Top, emptyTop + 11);
-    QTest::keyClicks(&Find<QLineEdit>("txtBold"), QStringLiteral("pell"));
-    EXPECT_EQ(Set().Cards[1].BoldText, QStringLiteral("Spell"));
-    Type("txtBold", QStringLiteral("s"));
-    EXPECT_EQ(Set().Cards[1].BoldText, QStringLiteral("s"));
+    QTest::keyClicks(&Find<QLineEdit>("txtBold"), "pell");
+    EXPECT_EQ(FirstCard().BoldText, "Spell");
+    Type("txtBold", "s");
+    EXPECT_EQ(FirstCard().BoldText, "s");
 }
 
-TEST_F(frmQDWTest, TextsMoveUpWhereThePictureIsHidden)
+TEST_F(frmQDWTest, SlidersTellOfTheNextElementBeforeItIsShown)
 {
-    const int top = Preview().lblBold.Top;
-    Find<QCheckBox>("chkShowPicture").click();
-    EXPECT_FALSE(Set().Cards[1].ShowPicture);
-    EXPECT_EQ(Preview().lblBold.Top, 28 + 13 + 3);
-    Find<QCheckBox>("chkShowPicture").click();
-    EXPECT_EQ(Preview().lblBold.Top, top);
-}
-
-TEST_F(frmQDWTest, SliderTellsOfTheCardBeforeItIsShown)
-{
+    const auto drag = [&](const char* name, int place) {
+        Find<QScrollBar>(name).setSliderDown(true);
+        Find<QScrollBar>(name).setSliderPosition(place);
+    };
     Click("cmdCardAdd");
-    auto& slider = Find<QScrollBar>("hsbCard");
-    slider.setSliderDown(true);
-    slider.setSliderPosition(1);
-    EXPECT_EQ(Position(), QStringLiteral("1 (2)"));
-    EXPECT_EQ(Find<QLabel>("lblCardTitle").text(), QStringLiteral("CARD 1 (ENEMY- Animal)"));
+    drag("hsbCard", 1);
+    EXPECT_EQ(Text({"lblCurrentCard", "lblCardTitle"}), "1 (2)|CARD 1 (ENEMY- Animal)");
     EXPECT_EQ(Set().CurrentCard, 2);
-    slider.setSliderDown(false);
+    Find<QScrollBar>("hsbCard").setSliderDown(false);
     EXPECT_EQ(Set().CurrentCard, 1);
-    EXPECT_EQ(Find<QLabel>("lblCardTitle").text(), QString());
-    EXPECT_EQ(Text("txtTitle"), QStringLiteral("CARD 1"));
+    EXPECT_EQ(Text({"lblCardTitle", "txtTitle"}), "|CARD 1");
+
+    SelectTab(2);
+    Click("cmdCardAddLarge");
+    drag("hsbCardLarge", 1);
+    EXPECT_EQ(Text({"lblCurrentCardLarge", "lblCardTitleLarge"}), "2 (2)|");
+    SelectTab(3);
+    Click("cmdCharacterAdd");
+    drag("hsbCharacter", 1);
+    EXPECT_EQ(Text({"lblCurrentCardCharacter", "lblChar"}), "1 (2)|CHARACTER 1");
+    SelectTab(4);
+    Click("cmdNewCardBackAdd");
+    drag("hsbNewCardBack", 1);
+    EXPECT_EQ(Text("lblCurrentNewCardBack"), "1 (2)");
 }
 
-TEST_F(frmQDWTest, NewCardTakesTheNextKeysAsItsTitle)
+TEST_F(frmQDWTest, NewCardTakesTheNextKeysAsItsTitleAndALastOneGivesWayToTheOneBefore)
 {
     window.show();
     window.activateWindow();
     Click("cmdCardAdd");
-    QTest::keyClicks(&Find<QLineEdit>("txtTitle"), QStringLiteral("Imp"));
-    EXPECT_EQ(Set().Cards[2].Title, QStringLiteral("Imp"));
-    EXPECT_EQ(Set().Cards[1].Title, QStringLiteral("CARD 1"));
-    EXPECT_EQ(Position(), QStringLiteral("2 (2)"));
-    EXPECT_EQ(Find<QScrollBar>("hsbCard").value(), 2);
-}
-
-TEST_F(frmQDWTest, LastCardOfThreeGivesWayToTheOneBeforeIt)
-{
-    Click("cmdCardAdd");
+    QTest::keyClicks(&Find<QLineEdit>("txtTitle"), "Imp");
+    EXPECT_EQ(Set().Cards[2].Title, "Imp");
+    EXPECT_EQ(FirstCard().Title, "CARD 1");
+    EXPECT_EQ(Text({"lblCurrentCard", "hsbCard"}), "2 (2)|2 (2)");
     Click("cmdCardAdd");
     user.WillAnswer(Answer::Yes);
     Click("cmdCardDelete");
-    EXPECT_EQ(user.LastBox().Text, QStringLiteral("Are you sure you want to delete the card \"CARD 3\"?"));
-    EXPECT_EQ(Position(), QStringLiteral("2 (2)"));
-    EXPECT_EQ(Text("txtTitle"), QStringLiteral("CARD 2"));
-    EXPECT_EQ(Find<QScrollBar>("hsbCard").maximum(), 2);
-}
-
-TEST_F(frmQDWTest, OnlyCardStays)
-{
-    Click("cmdCardDelete");
-    EXPECT_EQ(user.LastBox().Text,
-              QStringLiteral("You have only one card in your set. This can't be deleted."));
-    EXPECT_EQ(Set().CardCount, 1);
+    EXPECT_EQ(user.LastBox().Text, "Are you sure you want to delete the card \"CARD 3\"?");
+    EXPECT_EQ(Text({"lblCurrentCard", "hsbCard", "txtTitle"}), "2 (2)|2 (2)|Imp");
 }
 
 TEST_F(frmQDWTest, NewSetComesAfterItsQuestionAndKeepsTheSavedOne)
 {
-    const QString path = folder.Path(QStringLiteral("old.dkf"));
+    window.Start(folder.Path("none.dkf"));
+    EXPECT_EQ(user.LastBox().Style, BoxStyle::Critical);
+    EXPECT_EQ(window.windowTitle(), "New set - Varnhelm Deck Forge")
+        << "what cannot be read leaves the new one";
+    EXPECT_EQ(Text("txtTitle"), "CARD 1");
+    user.Boxes.clear();
+
+    const QString path = folder.Path("old.dkf");
     Click("cmdCardAdd");
-    Type("txtSetname", QStringLiteral("Old"));
+    Type("txtSetname", "Old");
     user.WillAnswer(Answer::Yes);
     user.WillChoose(path);
     Run("new");
-    EXPECT_EQ(user.Boxes.front().Title + user.Boxes.front().Text, QStringLiteral("Save...Save current set?"));
+    EXPECT_EQ(user.BoxTexts().front(), "Save...|Save current set?");
     EXPECT_EQ(user.Boxes.front().Buttons, BoxButtons::YesNo);
-    EXPECT_EQ(window.windowTitle(), QStringLiteral("New set - Varnhelm Deck Forge"));
-    EXPECT_EQ(Position(), QStringLiteral("1 (1)"));
-    EXPECT_EQ(Find<QScrollBar>("hsbCard").maximum(), 1);
-    EXPECT_EQ(Text("txtTitle"), QStringLiteral("CARD 1"));
+    EXPECT_EQ(window.windowTitle(), "New set - Varnhelm Deck Forge");
+    EXPECT_EQ(Text({"lblCurrentCard", "hsbCard", "txtTitle"}), "1 (1)|1 (1)|CARD 1");
     window.Start(path);
-    EXPECT_EQ(Position(), QStringLiteral("1 (2)"));
-    EXPECT_EQ(Text("txtSetname"), QStringLiteral("Old"));
-}
-
-TEST_F(frmQDWTest, OnlyCancelOfTheQuestionKeepsTheWindowOpen)
-{
-    window.show();
-    user.WillAnswer(Answer::Cancel);
-    Run("exit");
-    EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(user.LastBox().Buttons, BoxButtons::YesNoCancel);
-    user.WillAnswer(Answer::Yes);
-    user.WillCancelDialog();
-    Run("exit");
-    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(Text({"lblCurrentCard", "txtSetname"}), "1 (2)|Old");
 }
 
 TEST_F(frmQDWTest, CopiedCardIsPastedIntoAnotherSet)
 {
-    Type("txtTitle", QStringLiteral("Imp"));
-    Type("txtArtist", QStringLiteral("A. Painter"));
+    Run("paste");
+    EXPECT_TRUE(user.Boxes.empty()) << user.LastTold().toStdString();
+    EXPECT_EQ(Text("txtTitle"), "") << "nothing was copied yet";
+    EXPECT_EQ(FirstCard().CardBack, 0);
+    Type("txtTitle", "Imp");
+    Type("txtArtist", "A. Painter");
     Run("copy");
-    EXPECT_EQ(user.BoxTexts(), std::vector{QStringLiteral("Copy|The card is copied.")});
-    Type("txtTitle", QStringLiteral("Troll"));
+    EXPECT_EQ(user.BoxTexts(), QStringList("Copy|The card is copied."));
+    Type("txtTitle", "Troll");
     user.WillAnswer(Answer::No);
     Run("new");
     OpenChangedSet([](CardSet& set) { AddElement(set, StandardKind); });
-    Find<QScrollBar>("hsbCard").setValue(2);
+    Slide("hsbCard", 2);
     Run("paste");
-    EXPECT_EQ(Text("txtTitle"), QStringLiteral("Imp"));
-    EXPECT_EQ(Text("txtArtist"), QStringLiteral("A. Painter"));
-    EXPECT_EQ(Set().Cards[2].Title, QStringLiteral("Imp"));
-    EXPECT_EQ(Set().Cards[1].Title, QStringLiteral("CARD 1"));
+    EXPECT_EQ(Text({"txtTitle", "txtArtist"}), "Imp|A. Painter");
+    EXPECT_EQ(Set().Cards[2].Title, "Imp");
+    EXPECT_EQ(FirstCard().Title, "CARD 1");
     EXPECT_EQ(Set().CardCount, 2);
-}
-
-TEST_F(frmQDWTest, PasteBeforeAnyCopyEmptiesTheCard)
-{
-    Run("paste");
-    EXPECT_TRUE(user.Boxes.empty()) << user.Boxes.front().Text.toStdString();
-    EXPECT_EQ(Text("txtTitle"), QString());
-    EXPECT_EQ(Set().Cards[1].CardBack, 0);
 }
 
 TEST_F(frmQDWTest, HelpAnswersWhateverModifierIsHeld)
@@ -211,18 +167,17 @@ TEST_F(frmQDWTest, HelpAnswersWhateverModifierIsHeld)
     for (const Qt::KeyboardModifiers held : {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier}) {
         user.Boxes.clear();
         QTest::keyClick(&Find<QPlainTextEdit>("txtInfo"), Qt::Key_F1, held);
-        EXPECT_EQ(user.LastBox().Title, QStringLiteral("Help"));
-        EXPECT_EQ(user.LastBox().Text, QStringLiteral("This is a very small help.\r\n"
-                                                      "\r\n"
-                                                      "Shortcuts\r\n"
-                                                      "  Ctrl-S - Save card set\r\n"
-                                                      "  Ctrl-O - Open card set\r\n"
-                                                      "  Ctrl-N - New card\r\n"
-                                                      "  Ctrl-, - Previous card\r\n"
-                                                      "  Ctrl-. - Next card\r\n"
-                                                      "\r\n"
-                                                      "Click on a picture and nudge it with arrow keys.\r\n"
-                                                      "Change frame size with shift+arrow keys."));
+        EXPECT_EQ(user.LastTold(), "Help|This is a very small help.\r\n"
+                                   "\r\n"
+                                   "Shortcuts\r\n"
+                                   "  Ctrl-S - Save card set\r\n"
+                                   "  Ctrl-O - Open card set\r\n"
+                                   "  Ctrl-N - New card\r\n"
+                                   "  Ctrl-, - Previous card\r\n"
+                                   "  Ctrl-. - Next card\r\n"
+                                   "\r\n"
+                                   "Click on a picture and nudge it with arrow keys.\r\n"
+                                   "Change frame size with shift+arrow keys.");
     }
 }
 
@@ -237,40 +192,7 @@ TEST_F(frmQDWTest, BackgroundTellsTheVersionAndTheCardDoesNot)
     doubleClick(Find<QLabel>("lblCurrentCard"), {2, 2});
     EXPECT_TRUE(user.Boxes.empty());
     doubleClick(View(), {2, -4});
-    EXPECT_EQ(user.BoxTexts(), std::vector{QStringLiteral("Hello!|Version 1.7.4")});
+    EXPECT_EQ(user.BoxTexts(), QStringList("Hello!|Version 1.7.4"));
 }
-
-TEST_F(frmQDWTest, SheetDialogStartsAtTwoByThreeAndFollowsTheKeys)
-{
-    QString preset;
-    QString chosen;
-    QTimer::singleShot(0, [&] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
-        EXPECT_TRUE(QTest::qWaitForWindowActive(dialog)); // or else the options do not take keys
-        const auto* const lblSize = dialog->findChild<QLabel*>(QStringLiteral("lblSize"));
-        preset = lblSize->text();
-        for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Tab, Qt::Key_Down})
-            QTest::keyClick(dialog->focusWidget(), key);
-        chosen = lblSize->text();
-        QTest::keyClick(dialog, Qt::Key_Return);
-    });
-    const std::optional<SheetGrid> grid = AskSheetGrid(false, nullptr);
-    EXPECT_EQ(preset, QStringLiteral("768 x 508"));
-    EXPECT_EQ(chosen, QStringLiteral("1024 x 254"));
-    ASSERT_TRUE(grid.has_value());
-    EXPECT_EQ(grid->Cols, 1);
-    EXPECT_EQ(grid->Rows, 4);
-    EXPECT_EQ(SheetSizeText({.Cols = 1, .Rows = 1}, true), QStringLiteral("256 x 152"));
-}
-
-TEST_F(frmQDWTest, EscapeOfTheSheetDialogMakesNoSheet)
-{
-    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-    Run("createsheet");
-    EXPECT_EQ(user.BoxTexts(), std::vector{QStringLiteral("Create cardsheets|0 cardsheets are created.")});
-}
-
-} // namespace
 
 } // namespace deckforge

@@ -1,26 +1,18 @@
 #include "files/Rescue.h"
-#include "core/modInfo.h"
-#include "files/modFile.h"
 #include "platform/LastAct.h"
-#include "support/Failures.h"
-#include "support/ScriptedUser.h"
-#include "support/TestFolder.h"
+#include "support/SetTest.h"
 
 #include <QDir>
 #include <csignal>
 
 namespace deckforge {
 
-namespace {
-
-class RescueTest : public testing::Test {
+class RescueTest : public SetTest {
 protected:
-    RescueTest() { InitSet(Set); }
-
     void RescueAs(const QString& name)
     {
         Set.Header.SetName = name;
-        EXPECT_EQ(RescueSet(Set, Folder.WithSeparator()), Folder.Path(QStringLiteral("rescued.dkf")));
+        EXPECT_EQ(RescueSet(Set, Folder.WithSeparator()), Folder.Path("rescued.dkf"));
     }
     /// The name of the set in the file; empty where there is none.
     QString NameIn(const QString& file)
@@ -30,52 +22,47 @@ protected:
         ScriptedUser silent;
         return ReadDKF(read, Folder.Path(file), silent) ? read.Header.SetName : QString();
     }
-
-    TestFolder Folder;
-    CardSet Set;
 };
-
-} // namespace
 
 TEST_F(RescueTest, EarlierOnesMoveOnAndTheTenthGoes)
 {
     for (int i = 1; i <= 12; ++i)
         RescueAs(QString::number(i));
-    EXPECT_EQ(NameIn(QStringLiteral("rescued.dkf")), QStringLiteral("12"));
+    EXPECT_EQ(NameIn("rescued.dkf"), "12");
     for (int age = 1; age <= 9; ++age)
         EXPECT_EQ(NameIn(QStringLiteral("rescued-%1.dkf").arg(age)), QString::number(12 - age));
-    EXPECT_FALSE(Folder.Has(QStringLiteral("rescued-10.dkf")));
-    const QString gone = Folder.Path(QStringLiteral("gone/"));
-    EXPECT_EQ(RescueSet(Set, gone), gone + QStringLiteral("rescued.dkf")) << "the folder is made again";
+    EXPECT_FALSE(Folder.Has("rescued-10.dkf"));
+    const QString gone = Folder.Path("gone/");
+    EXPECT_EQ(RescueSet(Set, gone), gone + "rescued.dkf") << "the folder is made again";
 
-    QFile::remove(Folder.Path(QStringLiteral("rescued-2.dkf")));
-    RescueAs(QStringLiteral("13"));
-    EXPECT_EQ(NameIn(QStringLiteral("rescued-2.dkf")), QStringLiteral("11"));
-    EXPECT_EQ(NameIn(QStringLiteral("rescued-9.dkf")), QStringLiteral("3")) << "there was room below it";
+    QFile::remove(Folder.Path("rescued-2.dkf"));
+    RescueAs("13");
+    EXPECT_EQ(NameIn("rescued-2.dkf"), "11");
+    EXPECT_EQ(NameIn("rescued-9.dkf"), "3") << "there was room below it";
 }
 
 TEST_F(RescueTest, TextsThatNoFileCanHoldTakeNothingElseWithThem)
 {
-    Set.Cards[1].Title = QStringLiteral("two\r\nlines");
-    Set.Cards[1].Info = QStringLiteral("Łódź\r\n€");
-    RescueAs(QStringLiteral("mended"));
-    const QByteArray bytes = Folder.Read(QStringLiteral("rescued.dkf"));
+    Set.Cards[1].Title = "two\r\nlines";
+    Set.Cards[1].Info = "Łódź\r\n€";
+    RescueAs("mended");
+    const QByteArray bytes = Folder.Read("rescued.dkf");
     EXPECT_TRUE(bytes.contains("\r\ntwo lines\r\n"));
     EXPECT_TRUE(bytes.contains("\r\n?\xF3"
                                "d?|\x80\r\n"));
-    EXPECT_EQ(NameIn(QStringLiteral("rescued.dkf")), QStringLiteral("mended"));
+    EXPECT_EQ(NameIn("rescued.dkf"), "mended");
 }
 
 TEST_F(RescueTest, AFailureIsToldAndTheEarlierOnesStay)
 {
-    RescueAs(QStringLiteral("earlier"));
-    ASSERT_TRUE(QDir(Folder.Path()).mkdir(QStringLiteral("rescued.dkf~"))); // nothing can be written there
+    RescueAs("earlier");
+    ASSERT_TRUE(QDir(Folder.Path()).mkdir("rescued.dkf~")); // nothing can be written there
     testing::internal::CaptureStderr();
     RescueAtTheEnd(Set, Folder.WithSeparator());
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               "The card set could NOT be rescued: 75, Path/File access error\n");
-    EXPECT_EQ(NameIn(QStringLiteral("rescued.dkf")), QStringLiteral("earlier"));
-    EXPECT_FALSE(Folder.Has(QStringLiteral("rescued-1.dkf")));
+    EXPECT_EQ(NameIn("rescued.dkf"), "earlier");
+    EXPECT_FALSE(Folder.Has("rescued-1.dkf"));
 }
 
 TEST_F(RescueTest, ASetDiffersByWhatItsFileHolds)
@@ -83,13 +70,13 @@ TEST_F(RescueTest, ASetDiffersByWhatItsFileHolds)
     KeptSet kept;
     kept.Keep(Set);
     EXPECT_FALSE(kept.Differs(Set));
-    Set.ClipCard.Title = QStringLiteral("copied");
+    Set.ClipCard.Title = "copied";
     EXPECT_FALSE(kept.Differs(Set)) << "no part of the file";
     Set.Cards[1].PictureLeft = 15;
     EXPECT_TRUE(kept.Differs(Set));
     Set.Cards[1].PictureLeft = 0;
     EXPECT_FALSE(kept.Differs(Set));
-    Set.Cards[1].Info = QStringLiteral("ж");
+    Set.Cards[1].Info = "ж";
     EXPECT_TRUE(kept.Differs(Set));
     kept.Keep(Set);
     EXPECT_TRUE(kept.Differs(Set)) << "what cannot be written has never been";

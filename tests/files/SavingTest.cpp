@@ -1,12 +1,7 @@
-#include "core/modInfo.h"
-#include "files/modFile.h"
-#include "support/Failures.h"
 #include "support/Limits.h"
-#include "support/ScriptedUser.h"
-#include "support/TestFolder.h"
+#include "support/SetTest.h"
 
 #include <QDir>
-#include <QFile>
 #include <csignal>
 #include <sys/ptrace.h>
 #include <sys/stat.h>
@@ -15,51 +10,37 @@
 
 namespace deckforge {
 
-namespace {
-
 /// Saving a set over an older one, which must be on the disk whatever happens: under its name or as its copy.
-class SavingTest : public testing::Test {
+class SavingTest : public SetTest {
 protected:
     SavingTest()
     {
-        InitSet(Old);
-        InitSet(New);
-        New.Header.SetName = QStringLiteral("A set with more in it than the one before");
-        AddElement(New, LargeKind);
-        OldBytes = SetFileBytes(Old, Unwritable::Fail);
-        NewBytes = SetFileBytes(New, Unwritable::Fail);
+        OldBytes = SetFileBytes(Set, Unwritable::Fail);
+        Set.Header.SetName = "A set with more in it than the one before";
+        AddElement(Set, LargeKind);
+        NewBytes = SetFileBytes(Set, Unwritable::Fail);
         Folder.Write(Name, OldBytes);
     }
 
-    bool Save() { return WriteDKF(New, Folder.Path(Name), User, Report::Silent); }
-    [[nodiscard]] QByteArray Bytes(const QString& name) const
+    bool Save() { return WriteDKF(Set, Folder.Path(Name), User, Report::Silent); }
+    /// Whether the file is one of the two sets, whole. The reader does without its last line end.
+    [[nodiscard]] bool IsWhole(const QString& name) const
     {
-        return Folder.Has(name) ? Folder.Read(name) : QByteArray();
-    }
-    /// One of the two sets, whole. The reader does without its last line end.
-    [[nodiscard]] bool IsWhole(QByteArray bytes) const
-    {
+        QByteArray bytes = Folder.Has(name) ? Folder.Read(name) : QByteArray();
         if (!bytes.endsWith("\r\n"))
             bytes += "\r\n";
         return bytes == OldBytes || bytes == NewBytes;
     }
-    [[nodiscard]] bool IsSafe() const
-    {
-        return IsWhole(Bytes(Name)) || IsWhole(Bytes(Name + QLatin1Char('~')));
-    }
+    [[nodiscard]] bool IsSafe() const { return IsWhole(Name) || IsWhole(Name + '~'); }
 
-    const QString Name = QStringLiteral("set.dkf");
-    TestFolder Folder;
-    ScriptedUser User;
-    CardSet Old;
-    CardSet New;
+    const QString Name = "set.dkf";
     QByteArray OldBytes;
     QByteArray NewBytes;
 };
 
 /// Lets a child run to its system call of that number, counted at entry and at return, and kills it there.
 /// False when it has ended by itself before.
-bool KillAtCall(pid_t child, int number)
+static bool KillAtCall(pid_t child, int number)
 {
     int status = 0;
     ::waitpid(child, &status, 0); // stopped before its first call
@@ -74,8 +55,6 @@ bool KillAtCall(pid_t child, int number)
     return true;
 }
 
-} // namespace
-
 TEST_F(SavingTest, ADiskThatIsFullAfterAnyByteLosesNothingAndIsTold)
 {
     for (qsizetype room = 0; room < NewBytes.size(); ++room) {
@@ -85,7 +64,7 @@ TEST_F(SavingTest, ADiskThatIsFullAfterAnyByteLosesNothingAndIsTold)
         }
         ASSERT_TRUE(IsSafe()) << room;
         ASSERT_EQ(User.Boxes.size(), static_cast<std::size_t>(room) + 1);
-        ASSERT_TRUE(User.Boxes.back().Text.endsWith(QStringLiteral("61, Disk full"))) << room;
+        ASSERT_TRUE(User.Boxes.back().Text.endsWith("61, Disk full")) << room;
     }
     EXPECT_TRUE(Save());
     EXPECT_EQ(Folder.Read(Name), NewBytes);
@@ -110,57 +89,35 @@ TEST_F(SavingTest, ASaveThatIsKilledAtAnySystemCallLosesNothing)
         GTEST_SKIP() << "no child can be traced here";
     EXPECT_GT(calls, 30) << "a safe save takes many calls";
     EXPECT_EQ(Folder.Read(Name), NewBytes);
-    EXPECT_FALSE(Folder.Has(Name + QLatin1Char('~')));
+    EXPECT_FALSE(Folder.Has(Name + '~'));
 }
 
 TEST_F(SavingTest, PlacesThatTakeNoSetAreToldAndLeaveAll)
 {
-    struct Case {
-        const char* What;
-        std::function<void(const QDir&)> Prepare;
-        const char* Failure;
+    const auto linkTo = [&](const QString& target) {
+        return [&, target](QDir f) { f.remove(Name), QFile::link(target, f.filePath(Name)); };
     };
-    const auto replaceBy = [&](const QDir& folder, auto&& make) {
-        QFile::remove(folder.filePath(Name));
-        make(folder.filePath(Name).toUtf8());
-    };
-    const std::vector<Case> cases = {
-        {"a folder of its name", [&](const QDir& f) { QFile::remove(f.filePath(Name)), f.mkdir(Name); },
-         "75, Path/File access error"},
-        {"a folder of its copy's name", [&](const QDir& f) { f.mkdir(Name + QLatin1Char('~')); },
-         "75, Path/File access error"},
-        {"a fifo that nobody reads",
-         [&](const QDir& f) { replaceBy(f, [](const QByteArray& p) { ::mkfifo(p.constData(), 0600); }); },
-         "75, Path/File access error"},
-        {"a link round in a circle",
-         [&](const QDir& f) {
-             replaceBy(f, [](const QByteArray& p) { (void)!::symlink(p.constData(), p.constData()); });
-         },
-         "75, Path/File access error"},
-        {"a device without room",
-         [&](const QDir& f) {
-             replaceBy(f, [](const QByteArray& p) { (void)!::symlink("/dev/full", p.constData()); });
-         },
-         "61, Disk full"},
-        {"a folder that has vanished", [](QDir f) { f.removeRecursively(); }, "76, Path not found"},
-        {"a file for a folder",
-         [](QDir f) {
-             f.removeRecursively();
-             QFile file(f.path());
-             EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-         },
-         "76, Path not found"},
-    };
-    for (const Case& c : cases) {
+    const char* const noAccess = "75, Path/File access error";
+    const char* const noPath = "76, Path not found";
+    const std::tuple<const char*, const char*, std::function<void(QDir)>> cases[] = {
+        {"a folder of its name", noAccess, [&](QDir f) { f.remove(Name), f.mkdir(Name); }},
+        {"a folder of its copy's name", noAccess, [&](QDir f) { f.mkdir(Name + '~'); }},
+        {"a fifo that nobody reads", noAccess,
+         [&](QDir f) { f.remove(Name), ::mkfifo(f.filePath(Name).toUtf8().constData(), 0600); }},
+        {"a link round in a circle", noAccess, linkTo(Name)},
+        {"a device without room", "61, Disk full", linkTo("/dev/full")},
+        {"a folder that has vanished", noPath, [](QDir f) { f.removeRecursively(); }},
+        {"a file for a folder", noPath,
+         [](QDir f) { EXPECT_TRUE(f.removeRecursively() && QFile(f.path()).open(QIODevice::WriteOnly)); }}};
+    for (const auto& [what, failure, prepare] : cases) {
+        SCOPED_TRACE(what);
         const TestFolder place;
         place.Write(Name, OldBytes);
-        c.Prepare(QDir(place.Path()));
+        prepare(QDir(place.Path()));
         const bool isThere = QFileInfo(place.Path(Name)).isFile();
-        EXPECT_FALSE(WriteDKF(New, place.Path(Name), User, Report::Silent)) << c.What;
-        EXPECT_EQ(User.LastBox().Text,
-                  QStringLiteral("The file is NOT saved due to an error.\r\n\r\n") + QLatin1String(c.Failure))
-            << c.What;
-        EXPECT_TRUE(!isThere || place.Read(Name) == OldBytes) << c.What;
+        EXPECT_FALSE(WriteDKF(Set, place.Path(Name), User, Report::Silent));
+        EXPECT_EQ(User.LastBox().Text, QString("The file is NOT saved due to an error.\r\n\r\n") + failure);
+        EXPECT_TRUE(!isThere || place.Read(Name) == OldBytes);
         QFile::remove(place.Path());
     }
 }
@@ -177,28 +134,26 @@ TEST_F(SavingTest, WhereNothingMayBeWrittenTheOldSetStays)
             EXPECT_FALSE(Save());
         }
         EXPECT_EQ(Folder.Read(Name), OldBytes);
-        return User.LastBox().Text.section(QStringLiteral("\r\n"), -1);
+        return User.LastBox().Text.section("\r\n", -1);
     };
-    EXPECT_EQ(failure(0444, 0777), QStringLiteral("70, Permission denied"));
-    EXPECT_EQ(failure(0666, 0555), QStringLiteral("70, Permission denied")) << "no copy, no save";
+    EXPECT_EQ(failure(0444, 0777), "70, Permission denied");
+    EXPECT_EQ(failure(0666, 0555), "70, Permission denied") << "no copy, no save";
     ::chmod(folder.constData(), 0700);
 }
 
 TEST_F(SavingTest, ALinkStaysALink)
 {
-    QDir(Folder.Path()).mkdir(QStringLiteral("elsewhere"));
-    const QString link = Folder.Path(QStringLiteral("link.dkf"));
+    QDir(Folder.Path()).mkdir("elsewhere");
+    const QString link = Folder.Path("link.dkf");
     for (const bool isThere : {true, false}) {
-        const QString target = Folder.Path(QStringLiteral("elsewhere/target%1.dkf").arg(isThere));
+        const QString target = isThere ? "elsewhere/old.dkf" : "elsewhere/new.dkf";
         QFile::remove(link);
-        ASSERT_TRUE(QFile::link(target, link));
+        ASSERT_TRUE(QFile::link(Folder.Path(target), link));
         if (isThere)
-            Folder.Write(QStringLiteral("elsewhere/target1.dkf"), OldBytes);
-        EXPECT_TRUE(WriteDKF(New, link, User, Report::Silent));
-        EXPECT_EQ(QFile::symLinkTarget(link), target);
-        QFile written(target);
-        ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-        EXPECT_EQ(written.readAll(), NewBytes);
+            Folder.Write(target, OldBytes);
+        EXPECT_TRUE(WriteDKF(Set, link, User, Report::Silent));
+        EXPECT_EQ(QFile::symLinkTarget(link), Folder.Path(target));
+        EXPECT_EQ(Folder.Read(target), NewBytes);
     }
 }
 

@@ -8,36 +8,28 @@ namespace deckforge {
 TEST(PictureBox, PicturesAreCutAtItsEdgesAndTheRestStays)
 {
     const Picture picture = PictureOf({"rgb", "###"});
-    struct Case {
-        QPoint Target;
-        QRect Source;
-        PixelRows Expected;
-    };
-    for (const Case& c : {
-             Case{{1, 1}, {0, 0, 3, 2}, {"....", ".rgb", ".###"}},
-             Case{{-1, 0}, {0, 0, 3, 2}, {"gb..", "##..", "...."}},
-             Case{{2, 2}, {0, 0, 3, 2}, {"....", "....", "..rg"}},
-             Case{{0, 0}, {1, 0, 5, 1}, {"gb..", "....", "...."}}, // the source reaches past the picture
-             Case{{0, 0}, {-1, 0, 2, 1}, {".r..", "....", "...."}},
-             Case{{0, 0}, {3, 0, 2, 2}, {"....", "....", "...."}},
-         }) {
+    const std::tuple<QPoint, QRect, PixelRows> cases[] = {
+        {{1, 1}, {0, 0, 3, 2}, {"....", ".rgb", ".###"}},
+        {{-1, 0}, {0, 0, 3, 2}, {"gb..", "##..", "...."}},
+        {{2, 2}, {0, 0, 3, 2}, {"....", "....", "..rg"}},
+        {{0, 0}, {1, 0, 5, 1}, {"gb..", "....", "...."}}, // the source reaches past the picture
+        {{0, 0}, {-1, 0, 2, 1}, {".r..", "....", "...."}},
+        {{0, 0}, {3, 0, 2, 2}, {"....", "....", "...."}}};
+    for (const auto& [target, source, expected] : cases) {
         PictureBox surface(QSize(4, 3));
-        surface.PaintPart(picture, c.Target, c.Source);
-        EXPECT_EQ(RowsOf(surface), c.Expected);
+        surface.PaintPart(picture, target, source);
+        EXPECT_EQ(RowsOf(surface), expected);
     }
 }
 
-TEST(PictureBox, OutlinesHoldBothCornersAndBlanksFillTheirArea)
+TEST(PictureBox, OutlinesHoldBothCornersAndColourAndPictureClearWhatWasDrawn)
 {
     PictureBox surface(QSize(5, 4));
     surface.PaintStretched(PictureOf({"b"}), {0, 0, 4, 3});
     surface.LineBox(1, 1, 4, 3);
     EXPECT_EQ(RowsOf(surface), (PixelRows{"bbbb.", "b####", "b#bb#", ".####"}));
-}
 
-TEST(PictureBox, BackColourAndPictureClearWhatWasDrawn)
-{
-    PictureBox surface(QSize(3, 1));
+    surface = PictureBox(QSize(3, 1));
     surface.SetPicture(PictureOf({"r"}));
     surface.SetPixel(2, 0, Black);
     surface.SetBackColor(0x00FF00);
@@ -48,14 +40,9 @@ TEST(PictureBox, BackColourAndPictureClearWhatWasDrawn)
     EXPECT_EQ(RowsOf(surface), PixelRows{"r#g"});
     EXPECT_EQ(surface.GetPixel(3, 0), InvalidColour);
     surface.SetPixel(-1, 0, Black);
-}
-
-TEST(PictureBox, AnImageTakenBeforeIsNotDrawnOver)
-{
-    PictureBox surface(QSize(2, 1));
     const Picture before = surface.Image();
     surface.SetPixel(0, 0, Black);
-    EXPECT_EQ(RowsOf(before), PixelRows{".."});
+    EXPECT_EQ(RowsOf(before), PixelRows{"r#g"}) << "an image taken before is not drawn over";
 }
 
 TEST(PictureBox, FloodFillKeepsToTheConnectedAreaOfItsColour)
@@ -95,13 +82,9 @@ TEST(PictureBox, RefusesFontsThatCannotBeAndKeepsTheOneItHad)
 
 TEST(TextFont, HasThePlatformsMeasures)
 {
-    EXPECT_EQ(PixelSize(5), 7);
-    EXPECT_EQ(PixelSize(5.25), 7);
-    EXPECT_EQ(PixelSize(6), 8);
-    EXPECT_EQ(PixelSize(6.75), 9);
-    EXPECT_EQ(PixelSize(7), 9);
-    EXPECT_EQ(PixelSize(18), 24);
-    const FontMeasures measures({.Name = QStringLiteral("Small Fonts"), .Size = 7});
+    for (const auto& [points, pixels] : {std::pair{5., 7}, {5.25, 7}, {6, 8}, {6.75, 9}, {7, 9}, {18, 24}})
+        EXPECT_EQ(PixelSize(points), pixels) << points;
+    const FontMeasures measures({.Name = "Small Fonts", .Size = 7});
     EXPECT_EQ(measures.LineHeight(), 11);
     EXPECT_NEAR(
         measures.Width(u"The quick brown fox jumps over the lazy dog while the old wizard looks on and on"),
@@ -114,14 +97,10 @@ TEST(TextFont, HasThePlatformsMeasures)
 TEST(TextFont, EveryCharacterIsDrawnAsWideAsItIsMeasured)
 {
     PictureBox surface(QSize(400, 20));
-    const QString text = QStringLiteral("a\tb\u00ADc\u2028d\x01|");
+    const QString text = "a\tb\u00ADc\u2028d\x01|";
     surface.Print(text);
-    int last = 0;
-    for (int x = 0; x < surface.Width(); ++x) {
-        for (int y = 0; y < surface.Height(); ++y)
-            last = surface.GetPixel(x, y) != White ? x : last;
-    }
-    EXPECT_NEAR(last, surface.TextWidth(text), 3);
+    const QRect ink = InkIn(surface, {0, 0, 400, 20}, White);
+    EXPECT_NEAR(ink.right(), surface.TextWidth(text), 3);
 }
 
 TEST(TextFont, TextStandsInItsLineAtEveryScale)
@@ -130,20 +109,12 @@ TEST(TextFont, TextStandsInItsLineAtEveryScale)
         PictureBox surface(QSize(60, 30), scale);
         surface.CurrentX = 10;
         surface.CurrentY = 8;
-        surface.Print(QStringLiteral("ÅHg"));
+        surface.Print("ÅHg");
         const QImage image = surface.Image().Pixels();
-        QRect ink;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                EXPECT_TRUE(qGray(image.pixel(x, y)) == qRed(image.pixel(x, y)))
-                    << "text has no colour of its own";
-                if (qGray(image.pixel(x, y)) < 128)
-                    ink |= QRect(x, y, 1, 1);
-            }
-        }
-        EXPECT_TRUE(QRect(10 * scale, 8 * scale, 30 * scale, 11 * scale).contains(ink)) << scale;
-        EXPECT_EQ(surface.CurrentY, 19);
-        EXPECT_EQ(surface.CurrentX, 0);
+        EXPECT_TRUE(image.allGray()) << "text has no colour of its own";
+        const QRect line(10 * scale, 8 * scale, 30 * scale, 11 * scale);
+        EXPECT_TRUE(line.contains(InkIn(image, image.rect()))) << scale;
+        EXPECT_EQ(QPointF(surface.CurrentX, surface.CurrentY), QPointF(0, 19));
     }
 }
 

@@ -2,12 +2,9 @@
 #include "imaging/PictureFormats.h"
 #include "imaging/PictureLoader.h"
 #include "imaging/mIntelJPEGLibrary.h"
-#include "support/Failures.h"
-#include "support/PixelText.h"
 #include "support/TestFolder.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QImageReader>
@@ -29,31 +26,21 @@ QByteArray Encoded(const char* format)
     return bytes;
 }
 
-QByteArray EncodedGif(const TestFolder& folder)
-{
-    const QString bmp = folder.Path(QStringLiteral("source.bmp"));
-    SavePicture(PictureOfPlaces({Width, Height}), bmp);
-    EXPECT_EQ(ConvertBmpToGif(bmp, folder.Path(QStringLiteral("made.gif"))), std::nullopt);
-    return folder.Read(QStringLiteral("made.gif"));
-}
-
 /// A placeable metafile with one black rectangle in its left half: 96 x 48 units of 1/96 inch.
 QByteArray Metafile()
 {
     QByteArray bytes;
-    const auto word = [&](int value) {
-        const quint16 little = qToLittleEndian(static_cast<quint16>(value));
-        bytes.append(reinterpret_cast<const char*>(&little), 2);
-    };
     const auto words = [&](std::initializer_list<int> values) {
-        for (const int value : values)
-            word(value);
+        for (const int value : values) {
+            const quint16 little = qToLittleEndian(static_cast<quint16>(value));
+            bytes.append(reinterpret_cast<const char*>(&little), 2);
+        }
     };
     words({0xCDD7, 0x9AC6, 0, 0, 0, 96, 48, 96, 0, 0});
     int checksum = 0;
     for (qsizetype i = 0; i < bytes.size(); i += 2)
         checksum ^= qFromLittleEndian<quint16>(bytes.constData() + i);
-    word(checksum);
+    words({checksum});
     const int recordWords = 5 + 5 + 7 + 4 + 7 + 3;
     words({1, 9, 0x0300, 9 + recordWords, 0, 1, 7, 0, 0});
     words({5, 0, 0x020B, 0, 0});         // window origin
@@ -111,47 +98,64 @@ QByteArray BmpOfManyEmptyRows()
 
 } // namespace
 
-TEST(PictureLoader, DecodesAllFourFormatsAtTheirNaturalSize)
+class PictureFiles : public testing::Test {
+protected:
+    Picture Load(const QString& path) { return Loader.LoadPicture(path); }
+    int FailureOfLoading(const QString& path)
+    {
+        return FailureOf([&] { (void)Load(path); });
+    }
+    QByteArray EncodedGif() const
+    {
+        const QString bmp = Folder.WritePicture("source.bmp", PictureOfPlaces({Width, Height}));
+        EXPECT_EQ(ConvertBmpToGif(bmp, Folder.Path("made.gif")), std::nullopt);
+        return Folder.Read("made.gif");
+    }
+    static void SetTime(const QString& path, const QDateTime& time)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+
+    TestFolder Folder;
+    PictureLoader Loader;
+};
+
+TEST_F(PictureFiles, DecodesAllFourFormatsAtTheirNaturalSize)
 {
-    const TestFolder folder;
-    PictureLoader loader;
     const auto load = [&](const char* name, const QByteArray& bytes) {
-        return loader.LoadPicture(folder.Write(QString::fromLatin1(name), bytes));
+        return Load(Folder.Write(name, bytes));
     };
     // The content tells the format, whatever the name.
     EXPECT_EQ(load("a.jpg", Encoded("BMP")).Pixels(), PictureOfPlaces({Width, Height}).Pixels());
     EXPECT_EQ(load("b.bmp", Encoded("JPEG")).Size(), QSize(Width, Height));
-    EXPECT_EQ(load("c.gif", EncodedGif(folder)).Size(), QSize(Width, Height));
+    EXPECT_EQ(load("c.gif", EncodedGif()).Size(), QSize(Width, Height));
     const Picture metafile = load("d.wmf", Metafile());
     EXPECT_EQ(metafile.Size(), QSize(96, 48));
     EXPECT_LT(qGray(metafile.Pixels().pixel(20, 24)), 30);
-    EXPECT_TRUE(loader.LoadPicture(QString()).IsEmpty());
+    EXPECT_TRUE(Load("").IsEmpty());
 }
 
-TEST(PictureLoader, TakesTheFormsThatEachFormatHas)
+TEST_F(PictureFiles, TakesTheFormsThatEachFormatHas)
 {
     // Compressed, progressive, interlaced, with old headers, bit fields, four colours, several pictures.
-    QDirIterator seeds(QStringLiteral(DECKFORGE_SOURCE_DIR "/fuzz/corpus"), QDir::Files,
-                       QDirIterator::Subdirectories);
-    while (seeds.hasNext()) {
-        const QString path = seeds.next();
-        const QString folder = seeds.fileInfo().dir().dirName();
-        if (folder == QLatin1String("set") || folder == QLatin1String("text"))
-            continue;
-        EXPECT_NO_THROW(EXPECT_FALSE(DecodePicture(path).IsEmpty())) << path.toStdString();
+    for (const QString format : {"bmp", "jpeg", "gif", "wmf"}) {
+        QDirIterator seeds(DECKFORGE_SOURCE_DIR "/fuzz/corpus/" + format, QDir::Files);
+        EXPECT_TRUE(seeds.hasNext()) << format.toStdString();
+        while (seeds.hasNext()) {
+            const QString path = seeds.next();
+            EXPECT_NO_THROW(EXPECT_FALSE(DecodePicture(path).IsEmpty())) << path.toStdString();
+        }
     }
 }
 
-TEST(PictureLoader, RefusesWhatIsCutDamagedTooLargeOrNoPicture)
+TEST_F(PictureFiles, RefusesWhatIsCutDamagedTooLargeOrNoPicture)
 {
-    const TestFolder folder;
-    PictureLoader loader;
     const auto failure = [&](const QByteArray& bytes) {
-        const QString path = folder.Write(QStringLiteral("picture"), bytes);
-        return FailureOf([&] { (void)loader.LoadPicture(path); });
+        return FailureOfLoading(Folder.Write("picture", bytes));
     };
-    const QByteArray gif = EncodedGif(folder);
-    for (const QByteArray& whole : {Encoded("BMP"), Encoded("JPEG"), gif, Metafile()}) {
+    for (const QByteArray& whole : {Encoded("BMP"), Encoded("JPEG"), EncodedGif(), Metafile()}) {
         for (const qsizetype cut : {qsizetype(3), qsizetype(20), whole.size() / 2, whole.size() - 3})
             EXPECT_EQ(failure(whole.first(cut)), 481) << whole.first(2).toStdString() << " cut at " << cut;
     }
@@ -172,77 +176,61 @@ TEST(PictureLoader, RefusesWhatIsCutDamagedTooLargeOrNoPicture)
     qToLittleEndian<qint16>(30000, hugeMetafile.data() + 10);
     qToLittleEndian<qint16>(30000, hugeMetafile.data() + 12);
     EXPECT_EQ(failure(hugeMetafile), 481);
-    EXPECT_EQ(FailureOf([&] { (void)loader.LoadPicture(folder.Path(QStringLiteral("none.bmp"))); }), 53);
-    EXPECT_EQ(FailureOf([&] { (void)loader.LoadPicture(folder.Path(QStringLiteral("none/a.bmp"))); }), 76);
-    EXPECT_EQ(FailureOf([&] { (void)loader.LoadPicture(folder.Path()); }), 75);
+    EXPECT_EQ(FailureOfLoading(Folder.Path("none.bmp")), 53);
+    EXPECT_EQ(FailureOfLoading(Folder.Path("none/a.bmp")), 76);
+    EXPECT_EQ(FailureOfLoading(Folder.Path()), 75);
 }
 
-TEST(PictureLoader, ReadsAFileAgainWhenItHasChanged)
+TEST_F(PictureFiles, ReadsAFileAgainWhenItHasChanged)
 {
-    const TestFolder folder;
-    PictureLoader loader;
-    const QString path = folder.Path(QStringLiteral("a.bmp"));
-    SavePicture(PictureOf({"rr"}), path);
-    EXPECT_EQ(RowsOf(loader.LoadPicture(path)), PixelRows{"rr"});
+    const QString path = Folder.WritePicture("a.bmp", PictureOf({"rr"}));
+    EXPECT_EQ(RowsOf(Load(path)), PixelRows{"rr"});
     SavePicture(PictureOf({"gg"}), path);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    file.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime);
-    file.close();
-    EXPECT_EQ(RowsOf(loader.LoadPicture(path)), PixelRows{"gg"});
+    SetTime(path, QDateTime::currentDateTime().addSecs(60));
+    EXPECT_EQ(RowsOf(Load(path)), PixelRows{"gg"});
     QFile::remove(path);
-    EXPECT_EQ(FailureOf([&] { (void)loader.LoadPicture(path); }), 53);
+    EXPECT_EQ(FailureOfLoading(path), 53);
 }
 
-TEST(SavePicture, WritesTwentyFourBitsAtTheResolutionOfTheScale)
+TEST_F(PictureFiles, AreWrittenWithTwentyFourBitsAtTheResolutionOfTheScale)
 {
-    const TestFolder folder;
     PictureBox surface(QSize(5, 4), 4);
-    SavePicture(surface.Image(), folder.Path(QStringLiteral("a.bmp")));
-    const QImage read(folder.Path(QStringLiteral("a.bmp")));
+    const QImage read(Folder.WritePicture("a.bmp", surface.Image()));
     EXPECT_EQ(read.size(), QSize(20, 16));
     EXPECT_EQ(read.dotsPerMeterX(), 15118) << "96 logical pixels to the inch";
-    EXPECT_EQ(qFromLittleEndian<quint16>(folder.Read(QStringLiteral("a.bmp")).constData() + 28), 24);
-    EXPECT_EQ(FailureOf([&] { SavePicture(Picture(), folder.Path(QStringLiteral("b.bmp"))); }), 481);
+    EXPECT_EQ(qFromLittleEndian<quint16>(Folder.Read("a.bmp").constData() + 28), 24);
+    EXPECT_EQ(FailureOf([&] { SavePicture(Picture(), Folder.Path("b.bmp")); }), 481);
 }
 
-TEST(SaveJPG, KeepsTheTimesOfTheFileThatItReplaces)
+TEST_F(PictureFiles, AJpgKeepsTheTimesOfTheFileThatItReplaces)
 {
-    const TestFolder folder;
     cDIBSection surface;
     surface.CreateFromPicture(PictureOfPlaces({153, 40}));
-    const QString path = folder.Write(QStringLiteral("card.jpg"), "an older image");
+    const QString path = Folder.Write("card.jpg", "an older image");
     const QDateTime old = QDateTime::fromSecsSinceEpoch(1000000000);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(file.setFileTime(old, QFileDevice::FileModificationTime));
-    file.close();
+    SetTime(path, old);
     EXPECT_TRUE(SaveJPG(surface, path, 90));
     EXPECT_EQ(QFileInfo(path).lastModified(), old);
     const QImage read(path);
     ASSERT_EQ(read.size(), QSize(153, 40)) << "rows with padding";
     EXPECT_NEAR(qGreen(read.pixel(76, 0)), 0, 12) << "the top row is at the top";
     EXPECT_NEAR(qGreen(read.pixel(76, 39)), 39, 12);
-    EXPECT_EQ(FailureOf([&] { SaveJPG(surface, folder.Path(), 90); }), 75);
-    EXPECT_EQ(FailureOf([&] { SaveJPG(cDIBSection(), folder.Path(QStringLiteral("b.jpg")), 90); }), 26001);
+    EXPECT_EQ(FailureOf([&] { SaveJPG(surface, Folder.Path(), 90); }), 75);
+    EXPECT_EQ(FailureOf([&] { SaveJPG(cDIBSection(), Folder.Path("b.jpg"), 90); }), 26001);
 }
 
-TEST(GifWriter, KeepsTheColoursOfAPictureWithFewAndTellsWhatFails)
+TEST_F(PictureFiles, AGifKeepsTheColoursOfAPictureWithFewAndTellsWhatFails)
 {
-    const TestFolder folder;
-    const QString bmp = folder.Path(QStringLiteral("a.bmp"));
-    const QString gif = folder.Path(QStringLiteral("a.gif"));
     const PixelRows rows = {"rgb", "#.#"};
-    SavePicture(PictureOf(rows), bmp);
+    const QString bmp = Folder.WritePicture("a.bmp", PictureOf(rows));
+    const QString gif = Folder.Path("a.gif");
     EXPECT_EQ(ConvertBmpToGif(bmp, gif), std::nullopt);
     EXPECT_EQ(RowsOf(DecodePicture(gif)), rows);
     SavePicture(PictureOf({".."}), bmp);
     EXPECT_EQ(ConvertBmpToGif(bmp, gif), std::nullopt) << "a single colour";
     EXPECT_EQ(RowsOf(DecodePicture(gif)), PixelRows{".."});
-    EXPECT_EQ(ConvertBmpToGif(folder.Path(QStringLiteral("none.bmp")), gif),
-              QStringLiteral("File not found"));
-    EXPECT_EQ(ConvertBmpToGif(bmp, folder.Path(QStringLiteral("none/a.gif"))),
-              QStringLiteral("Path not found"));
+    EXPECT_EQ(ConvertBmpToGif(Folder.Path("none.bmp"), gif), "File not found");
+    EXPECT_EQ(ConvertBmpToGif(bmp, Folder.Path("none/a.gif")), "Path not found");
 }
 
 } // namespace deckforge

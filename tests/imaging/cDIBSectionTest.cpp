@@ -38,7 +38,7 @@ std::vector<int> BytesOf(const cDIBSection& section)
 
 } // namespace
 
-TEST(cDIBSection, RowsAreFilledUpToFourBytes)
+TEST(cDIBSection, RowsRunBottomUpInBlueGreenRedAndAreFilledUpToFourBytes)
 {
     for (const auto& [width, bytes] :
          {std::pair{1, 4}, {4, 12}, {7, 24}, {151, 456}, {152, 456}, {153, 460}}) {
@@ -47,10 +47,6 @@ TEST(cDIBSection, RowsAreFilledUpToFourBytes)
         EXPECT_EQ(section.BytesPerScanLine(), bytes);
         EXPECT_EQ(section.hDib().size(), static_cast<std::size_t>(2 * bytes));
     }
-}
-
-TEST(cDIBSection, MemoryRunsBottomUpInBlueGreenRed)
-{
     const cDIBSection section = SectionOf({"r", "b"});
     EXPECT_EQ(BytesOf(section), (std::vector<int>{255, 0, 0, 0, 0, 0, 255, 0}));
 }
@@ -70,22 +66,18 @@ TEST(cDIBSection, WhatCannotBeMadeLeavesItEmpty)
 TEST(cDIBSection, CopiesAreCutToBothSurfaces)
 {
     const cDIBSection source = SectionOf({"rg", "b#"});
-    struct Case {
-        int X, Y, Width, Height, SourceX, SourceY;
-        PixelRows Expected;
-    };
-    for (const Case& c : {
-             Case{0, 0, -1, -1, 0, 0, {"rg.", "b#."}},
-             Case{0, 0, -1, 1, 0, 0, {"rg.", "..."}}, // the full width of a strip
-             Case{2, 1, -1, -1, 0, 0, {"...", "..r"}},
-             Case{-1, 0, -1, -1, 0, 0, {"g..", "#.."}},
-             Case{0, 0, -1, -1, 1, 1, {"#..", "..."}},
-             Case{0, 0, -1, -1, -1, 0, {".r.", ".b."}},
-             Case{5, 0, -1, -1, 0, 0, {"...", "..."}},
+    for (const auto& [x, y, width, height, sourceX, sourceY, expected] : {
+             std::tuple{0, 0, -1, -1, 0, 0, PixelRows{"rg.", "b#."}},
+             {0, 0, -1, 1, 0, 0, {"rg.", "..."}}, // the full width of a strip
+             {2, 1, -1, -1, 0, 0, {"...", "..r"}},
+             {-1, 0, -1, -1, 0, 0, {"g..", "#.."}},
+             {0, 0, -1, -1, 1, 1, {"#..", "..."}},
+             {0, 0, -1, -1, -1, 0, {".r.", ".b."}},
+             {5, 0, -1, -1, 0, 0, {"...", "..."}},
          }) {
         const cDIBSection target = SectionOf({"...", "..."});
-        source.PaintPicture(target.hdc(), c.X, c.Y, c.Width, c.Height, c.SourceX, c.SourceY);
-        EXPECT_EQ(RowsOf(target), c.Expected);
+        source.PaintPicture(target.hdc(), x, y, width, height, sourceX, sourceY);
+        EXPECT_EQ(RowsOf(target), expected);
     }
     cDIBSection taken = SectionOf({"...", "..."});
     taken.LoadPictureBlt(source.hdc(), 1, 0);
@@ -126,7 +118,7 @@ TEST(cDIBSection, GoesToTheClipboardAsABitmapOnly)
     const cDIBSection section = SectionOf({"rg"});
     EXPECT_FALSE(section.CopyToClipboard(true, user));
     EXPECT_EQ(user.LastBox().Text,
-              QStringLiteral("I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!"));
+              "I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!");
     ASSERT_TRUE(section.CopyToClipboard(false, user));
     EXPECT_EQ(RowsOf(Picture(QGuiApplication::clipboard()->image())), PixelRows{"rg"});
     EXPECT_FALSE(cDIBSection().CopyToClipboard(false, user));

@@ -1,12 +1,7 @@
-#include "compose/SetView.h"
-#include "core/modInfo.h"
 #include "files/modFile.h"
 #include "output/HtmlSheets.h"
 #include "output/modCapture.h"
-#include "support/Failures.h"
-#include "support/PixelText.h"
-#include "support/ScriptedUser.h"
-#include "support/TestFolder.h"
+#include "support/WorkshopTest.h"
 
 #include <QDir>
 #include <malloc.h>
@@ -22,65 +17,57 @@ struct Resources {
 
 Resources InUse()
 {
-    return {::mallinfo2().uordblks,
-            QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::System | QDir::AllEntries).size()};
-}
-
-/// A set of every kind, of which a picture is damaged and another is missing.
-QString WriteSetIn(const TestFolder& folder)
-{
-    CardSet set;
-    InitSet(set);
-    AddElement(set, StandardKind);
-    AddElement(set, LargeKind);
-    AddElement(set, CharacterKind);
-    AddElement(set, NewBackKind);
-    set.Header.SaveTo = folder.WithSeparator();
-    set.Cards[1].Picture = folder.Path(QStringLiteral("picture.bmp"));
-    SavePicture(PictureOfPlaces({90, 80}), set.Cards[1].Picture);
-    set.Cards[2].Picture = folder.Write(QStringLiteral("damaged.bmp"), "BM");
-    set.LargeCards[1].Picture = folder.Path(QStringLiteral("missing.bmp"));
-    const QString path = folder.Path(QStringLiteral("set.dkf"));
-    ScriptedUser silent;
-    EXPECT_TRUE(WriteDKF(set, path, silent, Report::Silent));
-    return path;
-}
-
-/// Opens the set, steps through it, exports all, saves it, and fails to open and to save others.
-void WorkOn(const QString& path, const TestFolder& folder, ScriptedUser& user, Workshop& workshop, int round)
-{
-    ASSERT_TRUE(ReadDKF(workshop.Set, path, user));
-    ShowOpenedSet(workshop);
-    workshop.Set.Header.SaveFormat = round == 0 ? int16{2} : static_cast<int16>(round % 2);
-    CreateCards(workshop);
-    CreateLargeCards(workshop);
-    CreateCharacters(workshop);
-    SaveNewCardBack(workshop, 1, Ask::No, Tell::No);
-    EXPECT_TRUE(CreateHtmlCards(workshop.Set, user));
-    EXPECT_TRUE(ExportSetText(workshop.Set, folder.Path(QStringLiteral("set.txt")), user));
-    EXPECT_TRUE(WriteDKF(workshop.Set, path, user, Report::Silent));
-    EXPECT_FALSE(ReadDKF(workshop.Set, folder.Path(QStringLiteral("damaged.bmp")), user));
-    EXPECT_FALSE(WriteDKF(workshop.Set, QStringLiteral("/dev/full"), user, Report::Silent));
-    user.Boxes.clear();
-    user.Pointers.clear();
+    return {::mallinfo2().uordblks, QDir("/proc/self/fd").entryList(QDir::System | QDir::AllEntries).size()};
 }
 
 } // namespace
 
-TEST(Leaks, AHundredRoundsOfWorkLeaveMemoryAndOpenFilesWhereTheyWere)
+class Leaks : public WorkshopTest {
+protected:
+    /// Writes a set of every kind, of which a picture is damaged and another is missing.
+    Leaks()
+    {
+        AddElement(Shop.Set, StandardKind);
+        AddElement(Shop.Set, LargeKind);
+        AddElement(Shop.Set, CharacterKind);
+        AddElement(Shop.Set, NewBackKind);
+        FirstCard().Picture = Folder.WritePicture("picture.bmp");
+        Shop.Set.Cards[2].Picture = Folder.Write("damaged.bmp", "BM");
+        Shop.Set.LargeCards[1].Picture = Folder.Path("missing.bmp");
+        EXPECT_TRUE(WriteDKF(Shop.Set, Path, User, Report::Silent));
+    }
+
+    /// Opens the set, steps through it, exports all, saves it, and fails to open and to save others.
+    void Work(int round)
+    {
+        ASSERT_TRUE(ReadDKF(Shop.Set, Path, User));
+        ShowOpenedSet(Shop);
+        Header().SaveFormat = round == 0 ? int16{2} : static_cast<int16>(round % 2);
+        CreateCards(Shop);
+        CreateLargeCards(Shop);
+        CreateCharacters(Shop);
+        SaveNewCardBack(Shop, 1, Ask::No, Tell::No);
+        EXPECT_TRUE(CreateHtmlCards(Shop.Set, User));
+        EXPECT_TRUE(ExportSetText(Shop.Set, Folder.Path("set.txt"), User));
+        EXPECT_TRUE(WriteDKF(Shop.Set, Path, User, Report::Silent));
+        EXPECT_FALSE(ReadDKF(Shop.Set, Folder.Path("damaged.bmp"), User));
+        EXPECT_FALSE(WriteDKF(Shop.Set, "/dev/full", User, Report::Silent));
+        User.Boxes.clear();
+        User.Pointers.clear();
+    }
+
+    const QString Path = Folder.Path("set.dkf");
+};
+
+TEST_F(Leaks, AHundredRoundsOfWorkLeaveMemoryAndOpenFilesWhereTheyWere)
 {
     constexpr int rounds = 100;
     constexpr int warmUp = 12; // fonts, art and pictures are kept from the first rounds on
-    const TestFolder folder;
-    const QString path = WriteSetIn(folder);
-    ScriptedUser user;
-    Workshop workshop(user);
-    InitForm(workshop);
     Resources before = {};
     for (int round = 0; round < rounds; ++round) {
         if (round == warmUp)
             before = InUse();
-        WorkOn(path, folder, user, workshop, round % warmUp);
+        Work(round % warmUp);
     }
     const Resources after = InUse();
     EXPECT_EQ(after.OpenFiles, before.OpenFiles);

@@ -1,24 +1,16 @@
-#include "core/Vocabulary.h"
-#include "core/modInfo.h"
-#include "files/modFile.h"
 #include "output/HtmlSheets.h"
 #include "output/Statistics.h"
 #include "platform/Version.h"
-#include "support/Failures.h"
-#include "support/ScriptedUser.h"
-#include "support/TestFolder.h"
+#include "support/SetTest.h"
 
 namespace deckforge {
 
-namespace {
-
-class PagesTest : public testing::Test {
+class PagesTest : public SetTest {
 protected:
     PagesTest()
     {
-        InitSet(Set);
         Set.Header.SaveTo = Folder.WithSeparator();
-        Set.Header.SetName = QStringLiteral("My Set");
+        Set.Header.SetName = "My Set";
     }
 
     void AddCards(int count)
@@ -28,32 +20,27 @@ protected:
         for (int i = 1; i <= count; ++i)
             Set.Cards[i].Filename = QStringLiteral("card %1").arg(i);
     }
-    QStringList ImagesOf(const char* page)
+    /// The images of a page, parted by bars.
+    QString ImagesOf(const char* page)
     {
         QStringList images;
-        for (const QByteArray& line : Folder.Read(QString::fromLatin1(page)).split('\n')) {
+        for (const QByteArray& line : Folder.Read(page).split('\n')) {
             if (line.contains("IMG SRC"))
-                images.append(QString::fromLatin1(line).section(QLatin1Char('"'), 1, 1));
+                images.append(QString(line).section('"', 1, 1));
         }
-        return images;
+        return images.join('|');
     }
-
-    TestFolder Folder;
-    ScriptedUser User;
-    CardSet Set;
 };
-
-} // namespace
 
 TEST_F(PagesTest, APageOfSixHasTheSameLinesWhateverItsSlots)
 {
     AddCards(1);
-    Set.Header.FilenamePrefix = QStringLiteral("p");
+    Set.Header.FilenamePrefix = "p";
     EXPECT_TRUE(CreateHtmlCards(Set, User));
     const QByteArray table = "<TABLE BORDER=0 BORDERCOLOR=\"#000000\" CELLPADDING=0 CELLSPACING=0>\r\n";
     const QByteArray gap = "</TD>\r\n<TD>&nbsp;&nbsp;</TD>\r\n<TD>\r\n</TD>\r\n</TR>\r\n";
     const QByteArray empty = "<TR>\r\n<TD>\r\n" + gap;
-    EXPECT_EQ(Folder.Read(QStringLiteral("My Set 1.htm")),
+    EXPECT_EQ(Folder.Read("My Set 1.htm"),
               "<HTML>\r\n<HEAD>\r\n   <TITLE>My Set</TITLE>\r\n</HEAD>\r\n<BODY>\r\n\r\n<CENTER>\r\n"
               "<P>Pages:&nbsp;&nbsp;<B>1</B>&nbsp;&nbsp;</P>\r\n" +
                   table + "<TR>\r\n<TD>\r\n   " + table +
@@ -62,7 +49,7 @@ TEST_F(PagesTest, APageOfSixHasTheSameLinesWhateverItsSlots)
                   gap + "\r\n<TR><TD COLSPAN=3>&nbsp;&nbsp;</TD></TR>\r\n\r\n" + empty +
                   "<TR><TD COLSPAN=3>&nbsp;</TD></TR>\r\n" + empty +
                   "\r\n</TABLE>\r\n</CENTER>\r\n\r\n</BODY>\r\n</HTML>\r\n");
-    EXPECT_EQ(User.BoxTexts(), std::vector<QString>{QStringLiteral("Save HTML|1 HTML sheet is created.")});
+    EXPECT_EQ(User.BoxTexts(), QStringList{"Save HTML|1 HTML sheet is created."});
 }
 
 TEST_F(PagesTest, PagesAreLinkedAndCopiesAreRepeatedImages)
@@ -72,59 +59,56 @@ TEST_F(PagesTest, PagesAreLinkedAndCopiesAreRepeatedImages)
     Set.Header.ReplaceSpace = true;
     EXPECT_TRUE(CreateHtmlCards(Set, User));
     // Twelve copies announce three pages and fill two.
-    const QByteArray second = Folder.Read(QStringLiteral("My_Set_2.htm"));
+    const QByteArray second = Folder.Read("My_Set_2.htm");
     EXPECT_TRUE(
         second.contains("<P>Pages:&nbsp;&nbsp;<A HREF=\"My_Set_1.htm\">1</A>&nbsp;&nbsp;<B>2</B>&nbsp;&nbsp;"
                         "<A HREF=\"My_Set_3.htm\">3</A>&nbsp;&nbsp;</P>\r\n"));
-    EXPECT_EQ(ImagesOf("My_Set_1.htm"), QStringList(6, QStringLiteral("card_1.bmp")));
-    EXPECT_EQ(ImagesOf("My_Set_2.htm").size(), 6);
-    EXPECT_EQ(User.LastBox().Text, QStringLiteral("2 HTML sheets are created."));
-    EXPECT_FALSE(Folder.Has(QStringLiteral("My_Set_3.htm")));
+    EXPECT_EQ(ImagesOf("My_Set_1.htm"), QStringList(6, "card_1.bmp").join('|'));
+    EXPECT_EQ(ImagesOf("My_Set_2.htm").count("bmp"), 6);
+    EXPECT_EQ(User.LastBox().Text, "2 HTML sheets are created.");
+    EXPECT_FALSE(Folder.Has("My_Set_3.htm"));
 }
 
 TEST_F(PagesTest, ImagesAreNamedByKindPrefixAndNumber)
 {
     AddElement(Set, LargeKind);
-    Set.LargeCards[1].Filename = QStringLiteral("Whale");
+    Set.LargeCards[1].Filename = "Whale";
     Set.LargeCards[1].Copies = 4;
     AddElement(Set, CharacterKind);
-    Set.Characters[1].Filename = QStringLiteral("Sailor");
+    Set.Characters[1].Filename = "Sailor";
     AddCards(12);
-    Set.Header.FilenamePrefix = QStringLiteral("sea");
+    Set.Header.FilenamePrefix = "sea";
     Set.Header.FileNr = true;
     EXPECT_TRUE(CreateHtmlCards(Set, User) && CreateHtmlLargeCards(Set, User) &&
                 CreateHtmlCharacters(Set, User) && CreateHtmlPieces(Set, User));
-    EXPECT_EQ(ImagesOf("My Set 2.htm").last(), QStringLiteral("sea 12 card 12.bmp"));
-    EXPECT_EQ(ImagesOf("Large My Set 2.htm"), QStringList{QStringLiteral("Large sea 1 Whale.bmp")});
-    EXPECT_EQ(ImagesOf("Character My Set 1.htm"), QStringList{QStringLiteral("Character sea 1 Sailor.bmp")});
-    EXPECT_EQ(ImagesOf("Character Piece My Set 1.htm"),
-              QStringList{QStringLiteral("Character Piece sea 1 Sailor.bmp")});
-    EXPECT_TRUE(Folder.Read(QStringLiteral("Large My Set 1.htm")).contains("<TITLE>My Set</TITLE>"));
-    EXPECT_TRUE(Folder.Read(QStringLiteral("Character Piece My Set 1.htm"))
-                    .contains("<TITLE>Character Piece My Set<"));
+    EXPECT_TRUE(ImagesOf("My Set 2.htm").endsWith("|sea 12 card 12.bmp"));
+    EXPECT_EQ(ImagesOf("Large My Set 2.htm"), "Large sea 1 Whale.bmp");
+    EXPECT_EQ(ImagesOf("Character My Set 1.htm"), "Character sea 1 Sailor.bmp");
+    EXPECT_EQ(ImagesOf("Character Piece My Set 1.htm"), "Character Piece sea 1 Sailor.bmp");
+    EXPECT_TRUE(Folder.Read("Large My Set 1.htm").contains("<TITLE>My Set</TITLE>"));
+    EXPECT_TRUE(Folder.Read("Character Piece My Set 1.htm").contains("<TITLE>Character Piece My Set<"));
     Set.Header.FileNr = false;
     CreateHtmlLargeCards(Set, User);
-    EXPECT_EQ(ImagesOf("Large My Set 2.htm"), QStringList{QStringLiteral("Large sea Whale.bmp")});
+    EXPECT_EQ(ImagesOf("Large My Set 2.htm"), "Large sea Whale.bmp");
 }
 
 TEST_F(PagesTest, ACardWithoutAFileNameStopsThePages)
 {
     EXPECT_FALSE(CreateHtmlCards(Set, User));
-    EXPECT_EQ(User.LastBox().Title, QStringLiteral("Missing information"));
+    EXPECT_EQ(User.LastBox().Title, "Missing information");
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Exclamation);
     EXPECT_TRUE(CreateHtmlPieces(Set, User));
-    EXPECT_EQ(User.LastBox().Text, QStringLiteral("0 character playing piece HTML sheets are created."));
+    EXPECT_EQ(User.LastBox().Text, "0 character playing piece HTML sheets are created.");
     AddCards(1);
-    Set.Header.SetName = QStringLiteral("../outside");
+    Set.Header.SetName = "../outside";
     EXPECT_FALSE(CreateHtmlCards(Set, User));
-    EXPECT_EQ(User.LastBox().Text, QStringLiteral("1 HTML sheet is created."))
-        << "it is counted all the same";
+    EXPECT_EQ(User.LastBox().Text, "1 HTML sheet is created.") << "it is counted all the same";
     AddCards(7);
-    Set.Header.SetName = QStringLiteral("less");
+    Set.Header.SetName = "less";
     Set.Cards[1].Copies = 12;
     Set.Cards[2].Copies = -12;
     EXPECT_TRUE(CreateHtmlCards(Set, User)) << "fewer pages are announced than there are";
-    EXPECT_EQ(ImagesOf("less 2.htm").size(), 6);
+    EXPECT_EQ(ImagesOf("less 2.htm").count("bmp"), 6);
     for (int i = 1; i <= 7; ++i)
         Set.Cards[i].Copies = 32767;
     EXPECT_EQ(FailureOf([&] { CreateHtmlCards(Set, User); }), 6);
@@ -132,41 +116,38 @@ TEST_F(PagesTest, ACardWithoutAFileNameStopsThePages)
 
 TEST_F(PagesTest, TheListingHasTheTextsOfAllKinds)
 {
-    Set.Cards[1].Info = QStringLiteral("one\r\ntwo");
+    Set.Cards[1].Info = "one\r\ntwo";
     AddElement(Set, LargeKind);
     AddElement(Set, CharacterKind);
-    EXPECT_TRUE(ExportSetText(Set, Folder.Path(QStringLiteral("set.txt")), User));
+    EXPECT_TRUE(ExportSetText(Set, Folder.Path("set.txt"), User));
     EXPECT_EQ(
-        Folder.Read(QStringLiteral("set.txt")),
+        Folder.Read("set.txt"),
         QByteArray("Created with Varnhelm Deck Forge\r\n") + WebAddress +
             "\r\n \r\nSet: My Set\r\n \r\n"
             "1 Cards\r\n \r\n1. CARD 1\r\nType: ENEMY-Animal\r\nNr:   2\r\nText: one\r\ntwo\r\n \r\n"
             " \r\n1 Large Cards\r\n \r\n1. LARGE CARD 1\r\nText: \r\n \r\n"
             " \r\n1 Characters\r\n \r\n1. CHARACTER 1\r\nStrength:   3\r\nCraft:      3\r\nGold:       \r\n"
             "Lives:      \r\nAlignment:  NEUTRAL\r\nStart area: VILLAGE\r\nAbilities:  \r\n \r\n");
-    EXPECT_EQ(User.BoxTexts(),
-              std::vector<QString>{QStringLiteral("Save text|The card set text is exported.")});
-    EXPECT_FALSE(ExportSetText(Set, Folder.Path(QStringLiteral("none/set.txt")), User));
-    EXPECT_EQ(User.LastBox().Text,
-              QStringLiteral("The file is NOT saved due to an error.\r\n\r\n76, Path not found"));
+    EXPECT_EQ(User.BoxTexts(), QStringList{"Save text|The card set text is exported."});
+    EXPECT_FALSE(ExportSetText(Set, Folder.Path("none/set.txt"), User));
+    EXPECT_EQ(User.LastBox().Text, "The file is NOT saved due to an error.\r\n\r\n76, Path not found");
 }
 
 TEST_F(PagesTest, StatisticsCountEachCardOnceHighestFirst)
 {
     AddCards(8);
     for (int i = 2; i <= 4; ++i)
-        Set.Cards[i].Type = QStringLiteral("OMEN"), Set.Cards[i].SubType.clear();
-    Set.Cards[5].SubType = QStringLiteral("Dragon");
+        Set.Cards[i].Type = "OMEN", Set.Cards[i].SubType.clear();
+    Set.Cards[5].SubType = "Dragon";
     Set.Cards[5].Copies = 9;
     Set.Cards[8].CardBack = 3;
     Statistics(Set, User);
-    EXPECT_EQ(User.LastBox().Title, QStringLiteral("Statistics"));
-    EXPECT_EQ(
-        User.LastBox().Text,
-        QStringLiteral("Number of cards used/type:\r\n4 - ENEMY- Animal (50%)\r\n3 - OMEN (38%)\r\n"
-                       "1 - ENEMY- Dragon (13%)\r\n\r\nNumber of cards used/set:\r\n7 - Adventure (88%)\r\n"
-                       "1 - Dungeon 1 (13%)\r\n\r\n8 cards in set.\r\n\r\n0 large cards in set.\r\n\r\n"
-                       "0 character cards in set."));
+    EXPECT_EQ(User.LastBox().Title, "Statistics");
+    EXPECT_EQ(User.LastBox().Text,
+              "Number of cards used/type:\r\n4 - ENEMY- Animal (50%)\r\n3 - OMEN (38%)\r\n"
+              "1 - ENEMY- Dragon (13%)\r\n\r\nNumber of cards used/set:\r\n7 - Adventure (88%)\r\n"
+              "1 - Dungeon 1 (13%)\r\n\r\n8 cards in set.\r\n\r\n0 large cards in set.\r\n\r\n"
+              "0 character cards in set.");
     Set.Cards[1].CardBack = 28;
     EXPECT_EQ(FailureOf([&] { (void)StatisticsText(Set); }), 9);
 }

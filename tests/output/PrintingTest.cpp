@@ -1,43 +1,23 @@
 #include "output/Printing.h"
 #include "compose/CharacterCard.h"
 #include "compose/LargeCard.h"
-#include "compose/SetView.h"
 #include "compose/StandardCard.h"
-#include "core/modInfo.h"
-#include "support/Failures.h"
-#include "support/ScriptedUser.h"
-#include "support/TestFolder.h"
+#include "support/WorkshopTest.h"
 
 namespace deckforge {
 
 namespace {
 
-/// A printer's page as pixels, large enough for the place of a playing piece.
-QImage Paper(int dotsPerInch)
-{
-    QImage paper(2500, 4800, QImage::Format_RGB32);
-    paper.fill(Qt::white);
-    paper.setDotsPerMeterX(qRound(dotsPerInch / 0.0254));
-    paper.setDotsPerMeterY(qRound(dotsPerInch / 0.0254));
-    return paper;
-}
-
-/// The rows below a row in which there is ink in a column of pixels, up to the first gap.
+/// The first and the last row of ink, up to a gap.
 struct Ink {
-    int Top = 0;
-    int Bottom = 0;
+    int Top;
+    int Bottom;
 };
 
 /// The next run of ink in the columns from left, at or below a row.
 Ink NextInk(const QImage& paper, int from, int left, int columns)
 {
-    const auto hasInk = [&](int y) {
-        for (int x = left; x < left + columns; ++x) {
-            if (qGray(paper.pixel(x, y)) < 128)
-                return true;
-        }
-        return false;
-    };
+    const auto hasInk = [&](int y) { return !InkIn(paper, {left, y, columns, 1}).isNull(); };
     int top = from;
     while (top < paper.height() && !hasInk(top))
         ++top;
@@ -47,72 +27,57 @@ Ink NextInk(const QImage& paper, int from, int left, int columns)
     return {top, bottom - 1};
 }
 
-int RightmostInk(const QImage& paper, int y)
-{
-    int x = paper.width() - 1;
-    while (x > 0 && qGray(paper.pixel(x, y)) >= 128)
-        --x;
-    return x;
-}
+} // namespace
 
-class PrintingTest : public testing::Test {
+class PrintingTest : public WorkshopTest {
 protected:
-    PrintingTest() : Shop(User)
+    PrintingTest()
     {
-        InitForm(Shop);
         AddElement(Shop.Set, LargeKind);
         AddElement(Shop.Set, CharacterKind);
     }
 
+    /// A printer's page as pixels, large enough for the place of a playing piece.
     QImage Laid(PrintedPage page, int dotsPerInch)
     {
-        QImage paper = Paper(dotsPerInch);
+        QImage paper(2500, 4800, QImage::Format_RGB32);
+        paper.fill(Qt::white);
+        paper.setDotsPerMeterX(qRound(dotsPerInch / 0.0254));
+        paper.setDotsPerMeterY(qRound(dotsPerInch / 0.0254));
         LayPage(Shop, page, paper);
         return paper;
     }
-
-    ScriptedUser User;
-    Workshop Shop;
 };
 
 TEST_F(PrintingTest, PicturesKeepTheirSizeAndMarginsTheirPixels)
 {
-    struct Case {
-        PrintedPage Page;
-        int DotsPerInch;
-        bool NoBack;
-        int Width, Height; ///< of the printed picture, in pixels of the printer
-    };
-    for (const Case& c :
-         {Case{PrintedPage::Card, 300, false, 950, 800}, Case{PrintedPage::Card, 300, true, 475, 800},
-          Case{PrintedPage::Card, 600, true, 950, 1600}, Case{PrintedPage::LargeCard, 300, false, 1900, 800},
-          Case{PrintedPage::LargeCard, 300, true, 950, 800},
-          Case{PrintedPage::CharacterAlone, 300, false, 1900, 800}}) {
-        Shop.Set.Header.NoBack = c.NoBack;
-        if (c.Page == PrintedPage::Card)
+    // The width and the height are those of the printed picture, in pixels of the printer.
+    const std::tuple<PrintedPage, int, bool, int, int> rows[] = {
+        {PrintedPage::Card, 300, false, 950, 800},     {PrintedPage::Card, 300, true, 475, 800},
+        {PrintedPage::Card, 600, true, 950, 1600},     {PrintedPage::LargeCard, 300, false, 1900, 800},
+        {PrintedPage::LargeCard, 300, true, 950, 800}, {PrintedPage::CharacterAlone, 300, false, 1900, 800}};
+    for (const auto& [page, dotsPerInch, noBack, width, height] : rows) {
+        Header().NoBack = noBack;
+        if (page == PrintedPage::Card)
             ShowCard(Shop, 1);
-        else if (c.Page == PrintedPage::LargeCard)
+        else if (page == PrintedPage::LargeCard)
             ShowLargeCard(Shop, 1);
         else
             ShowCharacter(Shop, 1);
-        const QImage paper = Laid(c.Page, c.DotsPerInch);
-        const int lineHeight = FontMeasures({QStringLiteral("Arial"), 12}, c.DotsPerInch).LineHeight();
+        const QImage paper = Laid(page, dotsPerInch);
+        const int lineHeight = FontMeasures({"Arial", 12}, dotsPerInch).LineHeight();
         const int top = 40 + 2 * lineHeight + 20;
         // Its outline runs down the margin; no line of the heading reaches so far down.
         const Ink outline = NextInk(paper, top - 10, 40, 1);
-        EXPECT_EQ(outline.Top, top) << c.Width;
-        EXPECT_NEAR(outline.Bottom, top + c.Height - 1, 1) << c.Width;
-        EXPECT_NEAR(RightmostInk(paper, top + 1), 40 + c.Width - 1, 1) << c.Width;
+        EXPECT_EQ(outline.Top, top) << width;
+        EXPECT_NEAR(outline.Bottom, top + height - 1, 1) << width;
+        EXPECT_NEAR(InkIn(paper, {0, top + 1, paper.width(), 1}).right(), 40 + width - 1, 1) << width;
         EXPECT_EQ(NextInk(paper, outline.Bottom + 10, 0, paper.width()).Top, paper.height()) << "no piece";
     }
 }
 
 TEST_F(PrintingTest, HeadingIsTwoLinesOfTwelvePoints)
 {
-    Shop.Set.Header.SetName = QStringLiteral("Set");
-    EXPECT_EQ(PageTitle(Shop.Set, PrintedPage::Card), QStringLiteral("Set - CARD 1"));
-    EXPECT_EQ(PageTitle(Shop.Set, PrintedPage::LargeCard), QStringLiteral("Set - LARGE CARD 1"));
-    EXPECT_EQ(PageTitle(Shop.Set, PrintedPage::CharacterAlone), QStringLiteral("Set - CHARACTER 1"));
     const QImage paper = Laid(PrintedPage::Card, 600);
     const Ink first = NextInk(paper, 0, 40, 1000);
     const Ink second = NextInk(paper, first.Bottom + 1, 40, 1000);
@@ -127,44 +92,36 @@ TEST_F(PrintingTest, HeadingIsTwoLinesOfTwelvePoints)
 TEST_F(PrintingTest, PieceStandsWhereItAlwaysStood)
 {
     ShowCharacter(Shop, 1);
-    Shop.Set.Header.NoBack = true; // the piece is there twice all the same
+    Header().NoBack = true; // the piece is there twice all the same
     const QImage paper = Laid(PrintedPage::Character, 300);
-    const int lineHeight = FontMeasures({QStringLiteral("Arial"), 12}, 300).LineHeight();
+    const int lineHeight = FontMeasures({"Arial", 12}, 300).LineHeight();
     const int top = 40 + 2 * lineHeight + 40 + 256 * 15;
     const Ink outline = NextInk(paper, 2000, 40, 1);
     EXPECT_EQ(outline.Top, top);
-    EXPECT_NEAR(RightmostInk(paper, top + 1), 40 + 950 - 1, 1);
+    EXPECT_NEAR(InkIn(paper, {0, top + 1, paper.width(), 1}).right(), 40 + 950 - 1, 1);
 }
 
 TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
 {
-    const TestFolder folder;
-    User.PrinterFile = folder.Path(QStringLiteral("page.pdf"));
+    User.PrinterFile = Folder.Path("page.pdf");
     PrintCard(Shop, PrintedPage::Card);
-    EXPECT_EQ(User.PrintedDocuments, QStringList(QStringLiteral("New set - CARD 1")));
-    EXPECT_EQ(User.BoxTexts(), std::vector{QStringLiteral("Print|Printing done!")});
-    EXPECT_TRUE(folder.Read(QStringLiteral("page.pdf")).contains("/Width 1216\n"))
+    EXPECT_EQ(User.PrintedDocuments, QStringList("New set - CARD 1"));
+    EXPECT_EQ(User.BoxTexts(), QStringList("Print|Printing done!"));
+    EXPECT_TRUE(Folder.Read("page.pdf").contains("/Width 1216\n"))
         << "four pixels to each of the card and its back";
-}
 
-TEST_F(PrintingTest, CardThatCannotBeShownIsPrintedAsItWas)
-{
-    const TestFolder folder;
-    Shop.Set.Cards[1].Picture = folder.Write(QStringLiteral("damaged.bmp"), "BM no picture");
-    const QString path = folder.Path(QStringLiteral("page.pdf"));
-    WritePdf(Shop, PrintedPage::Card, path, 600);
-    EXPECT_TRUE(folder.Read(QStringLiteral("page.pdf")).contains("/Width 304\n"));
+    User.Boxes.clear();
+    FirstCard().Picture = Folder.Write("damaged.bmp", "BM no picture");
+    WritePdf(Shop, PrintedPage::Card, Folder.Path("page.pdf"), 600);
+    EXPECT_TRUE(Folder.Read("page.pdf").contains("/Width 304\n")) << "what cannot be shown is as it was";
     EXPECT_TRUE(User.Boxes.empty()) << "showing it has told";
 }
 
-TEST_F(PrintingTest, NothingIsDoneWithoutAPrinter)
+TEST_F(PrintingTest, NothingIsDoneWithAPrinterThatTakesNoPage)
 {
-    EXPECT_EQ(FailureOf([&] { PrintCard(Shop, PrintedPage::Card); }), 482);
-    User.PrinterFile = QStringLiteral("/no/such/folder/page.pdf"); // a printer that takes no page
+    User.PrinterFile = "/no/such/folder/page.pdf";
     EXPECT_EQ(FailureOf([&] { PrintCard(Shop, PrintedPage::Card); }), 482);
     EXPECT_TRUE(User.Boxes.empty());
 }
-
-} // namespace
 
 } // namespace deckforge

@@ -18,20 +18,15 @@ TEST(Numbers, RoundHalvesToEvenAndRefuseWhatDoesNotFit)
     EXPECT_EQ(FailureOf([] { (void)CheckedAdd(32767, 1); }), 6);
 }
 
-TEST(Numbers, AreReadWithTheirBlanksAndTheLocaleDoesNotMatter)
+TEST(Numbers, AreReadWithTheirBlanksWhateverTheLocaleAndAsBooleans)
 {
-    EXPECT_EQ(NumberFromText(" 105 "), 105);
-    EXPECT_EQ(NumberFromText("-1 "), -1);
-    EXPECT_EQ(NumberFromText("+12.5"), 12.5);
-    EXPECT_EQ(NumberFromText(".5"), 0.5);
-    EXPECT_EQ(NumberFromText("1E+20"), 1e20);
+    for (const auto& [text, number] :
+         {std::pair{" 105 ", 105.}, {"-1 ", -1}, {"+12.5", 12.5}, {".5", 0.5}, {"1E+20", 1e20}})
+        EXPECT_EQ(NumberFromText(text), number);
     for (const char* none : {"", " ", "x", "12x", "1 2", "1,5", "inf", "nan", "+-1", "--1", "0x10"})
         EXPECT_EQ(FailureOf([&] { (void)NumberFromText(none); }), 13) << none;
     EXPECT_EQ(FailureOf([] { (void)NumberFromText("1e999"); }), 6);
-}
 
-TEST(Numbers, BooleansAreTheTwoWordsOrANumber)
-{
     for (const char* text : {"True", "TRUE", " true ", "-1", " 1 ", "0.1"})
         EXPECT_TRUE(BooleanFromText(text)) << text;
     for (const char* text : {"False", "false", "0", " 0 "})

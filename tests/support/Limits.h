@@ -18,8 +18,6 @@ public:
         ::setrlimit(RLIMIT_FSIZE, &small);
     }
     ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
 
 private:
     rlimit m_before = {};
@@ -35,8 +33,6 @@ public:
             (void)!::seteuid(nobody);
     }
     ~NoPrivileges() { (void)!::seteuid(m_before); }
-    NoPrivileges(const NoPrivileges&) = delete;
-    NoPrivileges& operator=(const NoPrivileges&) = delete;
 
 private:
     uid_t m_before = ::geteuid();

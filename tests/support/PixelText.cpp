@@ -1,16 +1,28 @@
 #include "support/PixelText.h"
 
+#include <algorithm>
+#include <gtest/gtest.h>
+
 namespace deckforge {
 
 namespace {
 
 char LetterOf(Colour colour)
 {
-    for (const auto& [letter, its] : PixelLetters()) {
-        if (its == colour)
-            return letter;
+    const auto* const its = std::find(std::begin(PixelColours), std::end(PixelColours), colour);
+    return its == std::end(PixelColours) ? '?' : PixelLetters[static_cast<std::size_t>(its - PixelColours)];
+}
+
+/// The least rectangle around the pixels of the area for which that holds.
+template <class Condition>
+QRect Where(QRect area, Condition&& holds)
+{
+    QRect found;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x)
+            found |= holds(x, y) ? QRect(x, y, 1, 1) : QRect();
     }
-    return '?';
+    return found;
 }
 
 } // namespace
@@ -34,20 +46,31 @@ PixelRows RowsOf(const Picture& picture)
     return RowsOf(surface);
 }
 
+void ExpectPixels(const PictureBox& surface, std::initializer_list<Pixel> pixels)
+{
+    for (const auto& [x, y, expected] : pixels)
+        EXPECT_EQ(surface.GetPixel(x, y), expected) << "at " << x << ", " << y;
+}
+
+QRect InkIn(const PictureBox& surface, QRect area, Colour ground)
+{
+    return Where(area, [&](int x, int y) { return surface.GetPixel(x, y) != ground; });
+}
+
+QRect InkIn(const QImage& image, QRect area)
+{
+    return Where(area, [&](int x, int y) { return qGray(image.pixel(x, y)) < 128; });
+}
+
 PictureBox SurfaceOf(const PixelRows& rows)
 {
     PictureBox surface(QSize(static_cast<int>(rows[0].size()), static_cast<int>(rows.size())));
-    for (int y = 0; y < surface.Height(); ++y) {
-        for (int x = 0; x < surface.Width(); ++x)
-            surface.SetPixel(
-                x, y, PixelLetters().at(rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)]));
+    for (std::size_t y = 0; y < rows.size(); ++y) {
+        for (std::size_t x = 0; x < rows[y].size(); ++x)
+            surface.SetPixel(static_cast<int>(x), static_cast<int>(y),
+                             PixelColours[PixelLetters.find(rows[y][x])]);
     }
     return surface;
-}
-
-Picture PictureOf(const PixelRows& rows)
-{
-    return SurfaceOf(rows).Image();
 }
 
 Picture PictureOfPlaces(QSize size)

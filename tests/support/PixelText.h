@@ -2,7 +2,6 @@
 
 #include "imaging/PictureBox.h"
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -11,20 +10,31 @@ namespace deckforge {
 /// A picture laid out as text, a letter to a pixel and an entry to a row.
 using PixelRows = std::vector<std::string>;
 
-/// The letters and the colours they stand for; what is none of them is shown as "?".
-inline const std::map<char, Colour>& PixelLetters()
-{
-    static const std::map<char, Colour> letters = {{'.', White},    {'#', Black},    {'r', 0x0000FF},
-                                                   {'g', 0x00FF00}, {'b', 0xFF0000}, {'y', 0x00FFFF}};
-    return letters;
-}
+/// The letters that stand for colours; what is none of them is shown as "?".
+constexpr std::string_view PixelLetters = ".#rgb";
+constexpr Colour PixelColours[] = {White, Black, 0x0000FF, 0x00FF00, 0xFF0000};
 
 PixelRows RowsOf(const PictureBox& surface);
 PixelRows RowsOf(const Picture& picture);
 
+struct Pixel {
+    int X;
+    int Y;
+    Colour Expected;
+};
+void ExpectPixels(const PictureBox& surface, std::initializer_list<Pixel> pixels);
+
+/// What of the area is not of the colour of its ground, as a rectangle; null where all of it is.
+QRect InkIn(const PictureBox& surface, QRect area, Colour ground);
+/// What of the area is dark.
+QRect InkIn(const QImage& image, QRect area);
+
 /// A surface that shows the rows.
 PictureBox SurfaceOf(const PixelRows& rows);
-Picture PictureOf(const PixelRows& rows);
+inline Picture PictureOf(const PixelRows& rows)
+{
+    return SurfaceOf(rows).Image();
+}
 
 /// A picture in which the colour of each pixel tells its place, so that a copy shows where it came from.
 Picture PictureOfPlaces(QSize size);

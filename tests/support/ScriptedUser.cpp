@@ -1,48 +1,54 @@
 #include "support/ScriptedUser.h"
 
 #include <QPdfWriter>
+#include <array>
 #include <gtest/gtest.h>
 
 namespace deckforge {
 
 ScriptedUser::~ScriptedUser()
 {
-    EXPECT_TRUE(m_answers.empty()) << "an answer was left over";
-    EXPECT_TRUE(m_paths.empty()) << "a path was left over";
-    EXPECT_TRUE(m_colours.empty()) << "a colour was left over";
-    EXPECT_TRUE(m_fonts.empty()) << "a font was left over";
-    EXPECT_TRUE(m_texts.empty()) << "a text was left over";
+    const std::array leftOver = {m_answers.size(), m_paths.size(), m_colours.size(), m_fonts.size(),
+                                 m_texts.size()};
+    EXPECT_EQ(leftOver, decltype(leftOver){})
+        << "answers, paths, colours, fonts, texts that nobody asked for";
+}
+
+template <class Value>
+std::optional<Value> ScriptedUser::Next(std::deque<std::optional<Value>>& queue, const QString& question)
+{
+    if (queue.empty()) {
+        ADD_FAILURE() << "nobody scripted an answer to: " << question.toStdString();
+        return std::nullopt;
+    }
+    const std::optional<Value> value = queue.front();
+    queue.pop_front();
+    return value;
 }
 
 Answer ScriptedUser::ShowMessage(const MessageBoxRequest& request)
 {
     Boxes.push_back(request);
     if (request.Buttons == BoxButtons::Ok)
-        return deckforge::Answer::Ok;
-    if (m_answers.empty()) {
-        ADD_FAILURE() << "nobody scripted an answer to: " << request.Text.toStdString();
-        return deckforge::Answer::No;
-    }
-    const deckforge::Answer answer = m_answers.front();
-    m_answers.pop_front();
-    return answer;
+        return Answer::Ok;
+    return Next(m_answers, request.Text).value_or(Answer::No);
 }
 
 std::optional<QString> ScriptedUser::AskOpenFile(const FileDialogRequest& request)
 {
     OpenDialogs.push_back(request);
-    return NextPath(request.Title);
+    return Next(m_paths, request.Title);
 }
 
 std::optional<QString> ScriptedUser::AskSaveFile(const FileDialogRequest& request)
 {
     SaveDialogs.push_back(request);
-    return NextPath(request.Title);
+    return Next(m_paths, request.Title);
 }
 
 std::optional<QString> ScriptedUser::BrowseForFolder()
 {
-    return NextPath(QStringLiteral("Choose a directory from the list."));
+    return Next(m_paths, "a folder");
 }
 
 std::optional<Colour> ScriptedUser::AskColour(const QString& title, Colour /*colour*/)
@@ -59,7 +65,7 @@ std::optional<FontSpec> ScriptedUser::AskFont(const QString& title, const FontSp
 
 std::optional<QString> ScriptedUser::AskText(const QString& prompt, const QString& title, const QString& text)
 {
-    TextDialogs.push_back(title + QLatin1Char('|') + prompt + QLatin1Char('|') + text);
+    TextDialogs.append(title + '|' + prompt + '|' + text);
     return Next(m_texts, title);
 }
 
@@ -80,43 +86,12 @@ void ScriptedUser::ShowProgress(int done, int total)
     EXPECT_LE(done, total);
 }
 
-std::vector<QString> ScriptedUser::BoxTexts() const
+QStringList ScriptedUser::BoxTexts() const
 {
-    std::vector<QString> texts;
+    QStringList texts;
     for (const MessageBoxRequest& box : Boxes)
-        texts.push_back(box.Title + QLatin1Char('|') + box.Text);
+        texts.append(box.Title + '|' + box.Text);
     return texts;
-}
-
-MessageBoxRequest ScriptedUser::LastBox() const
-{
-    if (Boxes.empty()) {
-        ADD_FAILURE() << "no box was shown";
-        return {};
-    }
-    return Boxes.back();
-}
-
-template <class Value>
-std::optional<Value> ScriptedUser::Next(std::deque<std::optional<Value>>& queue, const QString& title)
-{
-    if (queue.empty()) {
-        ADD_FAILURE() << "nobody scripted a choice for the dialog " << title.toStdString();
-        return std::nullopt;
-    }
-    const std::optional<Value> value = queue.front();
-    queue.pop_front();
-    return value;
-}
-
-std::optional<QString> ScriptedUser::NextPath(const QString& title)
-{
-    if (m_paths.empty()) {
-        ADD_FAILURE() << "nobody scripted a path for the dialog " << title.toStdString();
-        return std::nullopt;
-    }
-    const QString path = m_paths.takeFirst();
-    return path.isNull() ? std::nullopt : std::optional(path);
 }
 
 } // namespace deckforge

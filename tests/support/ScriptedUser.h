@@ -18,14 +18,14 @@ public:
     ~ScriptedUser() override;
 
     void WillAnswer(deckforge::Answer answer) { m_answers.push_back(answer); }
-    void WillChoose(const QString& path) { m_paths.append(path); }
+    void WillChoose(const QString& path) { m_paths.push_back(path); }
     void WillPick(Colour colour) { m_colours.push_back(colour); }
     void WillPick(const FontSpec& font) { m_fonts.push_back(font); }
     void WillType(const QString& text) { m_texts.push_back(text); }
     void WillTypeNothing() { m_texts.push_back(std::nullopt); }
     void WillPickNoColour() { m_colours.push_back(std::nullopt); }
     void WillPickNoFont() { m_fonts.push_back(std::nullopt); }
-    void WillCancelDialog() { m_paths.append(QString()); }
+    void WillCancelDialog() { m_paths.push_back(std::nullopt); }
 
     Answer ShowMessage(const MessageBoxRequest& request) override;
     std::optional<QString> AskOpenFile(const FileDialogRequest& request) override;
@@ -44,26 +44,29 @@ public:
     std::vector<Pointer> Pointers;
     std::vector<FontSpec> FontDialogs; ///< what each started from
     QStringList ColourTitles;
-    std::vector<QString> TextDialogs; ///< "TITLE|prompt|text" of each
-    QString PrinterFile;              ///< what stands for the printer: a PDF file; empty for no printer
+    QStringList TextDialogs; ///< "TITLE|prompt|text" of each
+    QString PrinterFile;     ///< what stands for the printer: a PDF file; empty for no printer
     int PrinterResolution = 600;
     QStringList PrintedDocuments;
     int ProgressSteps = 0;
 
-    /// "TITLE|text" of each box, for comparing all of them at once.
-    [[nodiscard]] std::vector<QString> BoxTexts() const;
-    [[nodiscard]] MessageBoxRequest LastBox() const;
+    /// "TITLE|text" of each box, for comparing all of them at once, and of the last one.
+    [[nodiscard]] QStringList BoxTexts() const;
+    [[nodiscard]] QString LastTold() const { return BoxTexts().value(BoxTexts().size() - 1); }
+    [[nodiscard]] MessageBoxRequest LastBox() const
+    {
+        return Boxes.empty() ? MessageBoxRequest() : Boxes.back();
+    }
 
 private:
-    std::optional<QString> NextPath(const QString& title);
     template <class Value>
-    std::optional<Value> Next(std::deque<std::optional<Value>>& queue, const QString& title);
+    std::optional<Value> Next(std::deque<std::optional<Value>>& queue, const QString& question);
 
-    std::deque<deckforge::Answer> m_answers;
+    std::deque<std::optional<deckforge::Answer>> m_answers;
+    std::deque<std::optional<QString>> m_paths;
     std::deque<std::optional<Colour>> m_colours;
     std::deque<std::optional<FontSpec>> m_fonts;
     std::deque<std::optional<QString>> m_texts;
-    QStringList m_paths; ///< a null text stands for a cancel
 };
 
 } // namespace deckforge

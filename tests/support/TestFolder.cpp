@@ -1,6 +1,5 @@
 #include "support/TestFolder.h"
 
-#include <QFile>
 #include <gtest/gtest.h>
 
 namespace deckforge {
@@ -13,16 +12,17 @@ QString TestFolder::Write(const QString& name, const QByteArray& bytes) const
     return file.fileName();
 }
 
+QString TestFolder::WritePicture(const QString& name, const Picture& picture) const
+{
+    SavePicture(picture, Path(name));
+    return Path(name);
+}
+
 QByteArray TestFolder::Read(const QString& name) const
 {
     QFile file(Path(name));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << "no file " << name.toStdString();
     return file.readAll();
-}
-
-bool TestFolder::Has(const QString& name) const
-{
-    return QFile::exists(Path(name));
 }
 
 } // namespace deckforge

@@ -1,6 +1,9 @@
 #pragma once
 
-#include <QByteArray>
+#include "support/Failures.h"
+#include "support/PixelText.h"
+
+#include <QFile>
 #include <QTemporaryDir>
 
 namespace deckforge {
@@ -10,10 +13,13 @@ class TestFolder {
 public:
     [[nodiscard]] QString Path(const QString& name = {}) const { return m_folder.filePath(name); }
     /// The folder as a set names it, with its separator.
-    [[nodiscard]] QString WithSeparator() const { return m_folder.path() + QLatin1Char('/'); }
+    [[nodiscard]] QString WithSeparator() const { return m_folder.path() + '/'; }
     QString Write(const QString& name, const QByteArray& bytes) const;
+    /// A picture file; without another picture one in which no two pixels are alike.
+    QString WritePicture(const QString& name, const Picture& picture = PictureOfPlaces({40, 30})) const;
     [[nodiscard]] QByteArray Read(const QString& name) const;
-    [[nodiscard]] bool Has(const QString& name) const;
+    [[nodiscard]] QImage Image(const QString& name) const { return QImage(Path(name)); }
+    [[nodiscard]] bool Has(const QString& name) const { return QFile::exists(Path(name)); }
 
 private:
     QTemporaryDir m_folder;
