@@ -175,22 +175,22 @@ LARGE_CARDS = [
 ]
 
 CHARACTERS = [
-    Character("ASH KNIGHT", "knight.jpg", "knight-piece.jpg", "GOOD", "MAIN-CASTLE", "4", "2", "1", "5", frame=True,
+    Character("ASH KNIGHT", "knight.jpg", "knight-piece.jpg", "GOOD", "CASTLE", "4", "2", "1", "5", frame=True,
               abilities="Your burning sword adds 1 to your strength against all trolls and beasts.|Fire never harms you."),
-    Character("MARSH WITCH", "witch.jpg", "witch-piece.jpg", "EVIL", "MAIN-CURSED GLADE", "2", "5", "---", "4", back=1,
+    Character("MARSH WITCH", "witch.jpg", "witch-piece.jpg", "EVIL", "CURSED GLADE", "2", "5", "---", "4", back=1,
               abilities="You begin the game with one spell.|You may turn any animal that you meet into a frog and let it be.|"
                         "For 1 gold you brew a draught in the woods: heal 1 life, your own or another’s.|Spirits do not see you."),
-    Character("TINKER GNOME", "gnome.jpg", "gnome-piece.gif", "AS BEFORE", "CITY-FLASK STREET", "+1", "+1", "3", "---", back=2,
+    Character("TINKER GNOME", "gnome.jpg", "gnome-piece.gif", "AS BEFORE", "FLASK STREET", "+1", "+1", "3", "---", back=2,
               left=-2, width=118, frame=True, piece_top=-2,
               abilities="Keep the objects, followers and gold of the character that you were.|Each turn you may take one object apart. Roll a die:|"
                         "1  A bang. Lose 1 life.|2-3  Scrap.|4-5  Sell it for 2 gold.|6  Draw two objects, keep one.|You may carry 6 objects.|"
                         "No lock stays shut before you."),
-    Character("STORM BARD", "bard.jpg", "bard-piece.jpg", "NEUTRAL", "MAIN-TAVERN", "3", "3", "---", "---", back=3, back_picture="bard-back.jpg",
+    Character("STORM BARD", "bard.jpg", "bard-piece.jpg", "NEUTRAL", "TAVERN", "3", "3", "---", "---", back=3, back_picture="bard-back.jpg",
               background=HAZE,
               abilities="Wherever you meet a stranger you may sing first, and then roll two dice and take the one you like.|"
                         "Storms and floods do you no harm; you may end them.|At an inn, take 1 gold instead of a roll.|"
                         "A follower who joins you never leaves of its own will.||You cannot wear armour: you could not hold the lute."),
-    Character("RANGER OF THE NORTH", "ranger.jpg", "ranger-piece.jpg", "NEUTRAL", "MAIN-CRAGS", "3", "4", "+1", "4", frame=True,
+    Character("RANGER OF THE NORTH", "ranger.jpg", "ranger-piece.jpg", "NEUTRAL", "CRAGS", "3", "4", "+1", "4", frame=True,
               abilities="Before a battle with an enemy you may shoot: roll a die. On a 5 or 6 it is dead before it reaches you.|"
                         "You need not roll in the crags and in the forest.|Cold and snow never cost you a life."),
 ]
