@@ -12,7 +12,7 @@ constexpr char Scheme[] = "file://";
 
 bool FitsInLine(const QString& path)
 {
-    return IsInCodePage(path) && !path.contains(QLatin1String("\r\n"));
+    return IsInCodePage(path) && !(path.contains(u'\r') && path.contains(QLatin1String("\r\n")));
 }
 
 QString AddressOf(const QString& path)

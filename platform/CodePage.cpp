@@ -64,6 +64,12 @@ QString FromCodePage(QByteArrayView bytes)
 
 bool IsInCodePage(QStringView text)
 {
+    // Nearly all texts have only characters below the special ones, which one look at all bits tells.
+    char16_t bits = 0;
+    for (const QChar c : text)
+        bits |= c.unicode();
+    if (bits < FirstSpecial)
+        return true;
     return std::all_of(text.utf16(), text.utf16() + text.size(), [](char16_t c) {
         return IsPlain(c) || std::find(Specials.begin(), Specials.end(), c) != Specials.end();
     });
