@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <exception>
 #include <fcntl.h>
+#include <mutex>
 #include <unistd.h>
 
 namespace deckforge {
@@ -23,6 +24,7 @@ constexpr unsigned int CrashPatience = 5; ///< the act may wait there for what t
 // Handlers of signals and of the end of the program take no arguments: what they work on stands here.
 std::atomic<LastAct*> Current = nullptr;
 std::terminate_handler Terminate = nullptr; ///< the usual one, which tells the failure
+QtMessageHandler TellMessage = nullptr;     ///< the usual one
 std::array<int, 2> WakePipe = {-1, -1}; ///< carries the number of a signal from its handler to the event loop
 
 /// The act needs more room than a stack that has overflowed leaves.
@@ -70,6 +72,18 @@ void OnTerminate()
     Terminate();
 }
 
+/// The drawing library does not come to exit() when it loses a Wayland display; it says so just before, from
+/// several threads, of which none may end the program under another that acts.
+void OnMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    TellMessage(type, context, text);
+    if (type != QtWarningMsg || !text.startsWith(QLatin1String("The Wayland connection")))
+        return;
+    static std::mutex acting;
+    const std::lock_guard oneThread(acting);
+    PerformCurrent();
+}
+
 /// Takes a signal that has its usual meaning; gives it back with SIG_DFL.
 void Handle(int signal, void (*handler)(int), void (*instead)(int), int flags)
 {
@@ -98,6 +112,7 @@ LastAct::LastAct(std::function<void()> act)
         Handle(signal, OnCrash, SIG_DFL, CrashFlags);
     Handle(SIGPIPE, SIG_IGN, SIG_DFL, 0); // a lost display or terminal is told by the calls on it
     Terminate = std::set_terminate(OnTerminate);
+    TellMessage = qInstallMessageHandler(OnMessage);
     std::atexit(PerformCurrent);
 }
 
@@ -109,6 +124,7 @@ LastAct::~LastAct()
     for (const int signal : Crashes)
         Handle(signal, SIG_DFL, OnCrash, 0);
     std::set_terminate(Terminate);
+    qInstallMessageHandler(TellMessage);
 }
 
 void LastAct::Perform()

@@ -9,7 +9,9 @@ namespace deckforge {
 /// What the program does before something ends it that asks nobody. While the object lives, the act runs
 ///
 /// - in the event loop when the session ends the program (SIGTERM, SIGHUP, SIGINT),
-/// - at exit(), which is how the drawing library takes the loss of the display,
+/// - at exit(), which is how the drawing library takes the loss of an X display, and where it tells of the
+/// loss
+///   of a Wayland display,
 /// - at a failure that nobody handles, at a crash, and where the event loop does not come to act in half a
 ///   minute, there as well as the state of the program allows.
 ///

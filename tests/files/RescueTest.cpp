@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <csignal>
+#include <unistd.h>
 
 namespace deckforge {
 
@@ -104,6 +105,13 @@ TEST(LastActDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
             std::raise(SIGALRM); // the session has waited long enough for a program that is busy
         },
         testing::KilledBySignal(SIGALRM), "^last act. $");
+    EXPECT_EXIT(
+        {
+            const LastAct act(say);
+            qWarning("The Wayland connection broke. Did the Wayland compositor die?");
+            ::_exit(1); // the drawing library goes so
+        },
+        testing::ExitedWithCode(1), "last act. $");
     EXPECT_EXIT(
         {
             {
