@@ -10,12 +10,15 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QSplitter>
+#include <QTreeView>
 
 namespace deckforge {
 
@@ -88,6 +91,20 @@ protected:
 QSize Letters(const QWidget& dialog, int across, int down)
 {
     return {across * dialog.fontMetrics().averageCharWidth(), down * dialog.fontMetrics().height()};
+}
+
+/// The library's own file dialog cuts the names of places, sizes and types. A desktop's dialog has none of
+/// its widgets.
+void WidenColumns(QFileDialog& dialog)
+{
+    if (auto* const splitter = dialog.findChild<QSplitter*>(QStringLiteral("splitter"))) {
+        const int places = Letters(dialog, 20, 0).width();
+        splitter->setSizes({places, dialog.width() - places});
+    }
+    if (auto* const list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+        list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
 }
 
 /// A short text would leave the title no room.
@@ -250,6 +267,7 @@ void QtUser::Prepare(QFileDialog& dialog, const FileDialogRequest& request) cons
         dialog.selectNameFilter(filters.value(request.FilterIndex - 1));
     }
     dialog.resize(Letters(dialog, 120, 30).expandedTo(dialog.sizeHint()));
+    WidenColumns(dialog);
     const QString folder = request.Folder.isEmpty() ? m_lastFolder : request.Folder;
     dialog.setDirectory(folder.isEmpty() ? QDir::homePath() : PathToOpen(folder));
     if (request.FileName.isEmpty())
