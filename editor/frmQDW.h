@@ -321,7 +321,8 @@ private:
     Workshop m_workshop;
     KeptSet m_kept;
     bool m_loading = false;
-    bool m_isBusy = false; ///< with a long run, from its first step to its last
+    bool m_isBusy = false;    ///< with a long run, from its first step to its last
+    bool m_isLeaving = false; ///< by Exit, where the user has decided about the set
     QMap<const QAbstractButton*, QString> m_pictureFolders; ///< where each button's file was chosen last
     QString m_lastBackFile;                                 ///< the file chosen last in Customize Set
     QPoint m_dragStart;                                     ///< on the handle that is dragged
