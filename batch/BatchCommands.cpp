@@ -294,8 +294,7 @@ ExitStatus RunStatistics(const QStringList& paths, const QCommandLineParser& /*p
     return RunOnSet(paths[0], 1, [](Workshop& workshop) {
         const QString text =
             StatisticsText(workshop.Set).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-        std::printf("%s\n", qUtf8Printable(text));
-        if (std::fflush(stdout) != 0)
+        if (std::printf("%s\n", qUtf8Printable(text)) < 0 || std::fflush(stdout) != 0)
             throw RunTimeError(ErrorNumber::DeviceIo);
         return true;
     });

@@ -276,11 +276,10 @@ void frmQDW::SizeToFit()
 {
     if (isMaximized() || isFullScreen())
         return;
-    const QSize before = size();
-    const QSize least = before == m_fittedSize ? QSize() : before;
-    resize(least.expandedTo(sizeHint()).boundedTo(LargestSize()));
-    if (size() != before)
-        m_fittedSize = size();
+    if (m_fittedSize.isValid() && size() != m_fittedSize)
+        m_chosenSize = size();
+    resize(m_chosenSize.expandedTo(sizeHint()).boundedTo(LargestSize()));
+    m_fittedSize = size();
 }
 
 void frmQDW::resizeEvent(QResizeEvent* event)

@@ -14,7 +14,6 @@
 #include <functional>
 #include <memory>
 #include <new>
-#include <vector>
 
 class QAbstractButton;
 class QButtonGroup;
@@ -321,7 +320,10 @@ private:
     Workshop m_workshop;
     KeptSet m_kept;
     bool m_loading = false;
-    bool m_isBusy = false; ///< with a long run, from its first step to its last
+    bool m_isBusy = false;    ///< with a long run, from its first step to its last
+    bool m_isLeaving = false; ///< by Exit, where the user has decided about the set
+    QSize m_fittedSize;       ///< which the window gave itself
+    QSize m_chosenSize;       ///< which the user gave it
     QMap<const QAbstractButton*, QString> m_pictureFolders; ///< where each button's file was chosen last
     QString m_lastBackFile;                                 ///< the file chosen last in Customize Set
     QPoint m_dragStart;                                     ///< on the handle that is dragged
@@ -340,7 +342,6 @@ private:
     QWidget* fraSet;
     QStackedWidget* m_forms; ///< of the four kinds
     CardPreview* m_preview;
-    QSize m_fittedSize; ///< which the window gave itself
     QScrollArea* m_previewArea;
     QButtonGroup* m_zooms;
     QProgressBar* m_progress;

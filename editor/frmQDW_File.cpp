@@ -8,6 +8,7 @@
 
 #include <QDropEvent>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QTimer>
@@ -54,7 +55,7 @@ void frmQDW::Exit()
 {
     if (AskToSave(BoxButtons::YesNoCancel) == Answer::Cancel)
         return;
-    m_kept.Keep(m_workshop.Set); // the user has decided about it
+    const QScopedValueRollback leaving(m_isLeaving, true);
     close();
 }
 
@@ -164,7 +165,7 @@ void frmQDW::closeEvent(QCloseEvent* event)
 /// the way out is Exit, which asks.
 bool frmQDW::IsKeptOrRescued()
 {
-    if (!m_kept.Differs(m_workshop.Set))
+    if (m_isLeaving || !m_kept.Differs(m_workshop.Set))
         return true;
     try {
         WithMemoryAsFailure([this] { RescueSet(m_workshop.Set, ProgramFolder()); });

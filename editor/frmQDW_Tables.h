@@ -2,6 +2,8 @@
 
 #include "editor/frmQDW.h"
 
+#include <vector>
+
 // The rows of the tables by which the window knows its controls, kinds and commands.
 
 namespace deckforge {

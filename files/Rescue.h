@@ -17,7 +17,7 @@ QString RescueSet(const CardSet& set, const QString& folder);
 /// it could not be rescued. Throws nothing.
 void RescueAtTheEnd(const CardSet& set, const QString& folder) noexcept;
 
-/// What a set was when it was last read, written, made anew or given up by its user.
+/// What a set was when it was last read, written or made anew.
 class KeptSet {
 public:
     void Keep(const CardSet& set);

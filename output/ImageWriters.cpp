@@ -107,7 +107,8 @@ void WriteGif(UserPort& user, const Picture& picture, const QString& path, const
     // All runs of the program share the file; another one waits until the picture in it is converted.
     constexpr int milliseconds = 10000;
     QLockFile lock(temporary + QStringLiteral(".lock"));
-    if (!lock.tryLock(milliseconds))
+    // Without a lock for another reason the file cannot be written either, and the writing tells why.
+    if (!lock.tryLock(milliseconds) && lock.error() == QLockFile::LockFailedError)
         throw RunTimeError(ErrorNumber::PermissionDenied);
     SavePicture(picture, temporary);
     if (const auto failure = ConvertBmpToGif(temporary, path))

@@ -138,6 +138,7 @@ void LastAct::EndBySignal()
     char signal = 0;
     if (::read(WakePipe[0], &signal, 1) != 1)
         return;
+    ::alarm(Patience); // anew: coming here may have taken most of it
     Perform();
     EndAsUsual(signal);
 }

@@ -2,9 +2,9 @@
 # on the way ($work), and a player's home in it that reads well in pictures. To be sourced; all goes at the end.
 work=$(mktemp -d)
 processes=()
-trap '[ ${#processes[@]} -eq 0 ] || kill "${processes[@]}" 2>/dev/null || true; rm -rf "$work" /tmp/player' EXIT
+trap '[ ${#processes[@]} -eq 0 ] || kill "${processes[@]}" 2>/dev/null || true; rm -rf "$work"; [ ! -L /tmp/player ] || rm /tmp/player' EXIT
 mkdir -p "$work/home/Documents"
-ln -sfn "$work/home" /tmp/player
+ln -sfT "$work/home" /tmp/player # fails where somebody has a folder of that name
 export HOME=/tmp/player XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
 
 # The first free number: another display's windows are not ours to photograph.

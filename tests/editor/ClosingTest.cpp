@@ -34,6 +34,11 @@ TEST_F(ClosingTest, TheWindowStaysWithASetThatCannotBeRescued)
     window.show();
     EXPECT_FALSE(window.close());
     EXPECT_TRUE(user.LastBox().Text.contains(QStringLiteral("75, Path/File access error")));
+    Line("txtTitle").setText("медведь"); // which no file can hold
+    user.WillAnswer(Answer::No);
+    Run("exit");
+    EXPECT_FALSE(window.isVisible()) << "the user was asked";
+    window.show();
     ASSERT_TRUE(QDir().rmdir(inTheWay));
     EXPECT_TRUE(window.close());
     EXPECT_TRUE(IsRescued());
