@@ -146,7 +146,9 @@ void frmQDW::AddUserBack(const QString& path)
     QComboBox& list = *m_card->cboCardBack;
     try {
         const int16 row = AddCardBack(m_workshop.Set, path);
-        list.insertItem(list.count() - 1, m_workshop.Set.CardBacks[row].Name);
+        const QString& name = m_workshop.Set.CardBacks[row].Name;
+        list.insertItem(list.count() - 1, name);
+        HintAtUnsavable(name);
     } catch (const RunTimeError&) {
         FillCardBackList(); // with the row that has no name, so that entries and rows stay in step
         throw;

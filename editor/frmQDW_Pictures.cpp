@@ -175,6 +175,7 @@ void frmQDW::ChooseSaveTo()
 void frmQDW::ChooseBackFont()
 {
     ChooseFont(m_workshop.User, Current<NewCardBack>().Font);
+    HintAtUnsavable(Current<NewCardBack>().Font.Name);
     BackChanged();
 }
 

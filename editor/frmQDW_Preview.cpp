@@ -62,7 +62,9 @@ void frmQDW::LabelClicked(const Box* box, FontClicks clicks)
     for (const LabelFont& row : LabelFonts(m_workshop.Templates)) {
         if (row.Label != box || row.Opens != clicks)
             continue;
-        ChooseFont(m_workshop.User, m_workshop.Set.Header.*row.Font);
+        FontSpec& font = m_workshop.Set.Header.*row.Font;
+        ChooseFont(m_workshop.User, font);
+        HintAtUnsavable(font.Name);
         SetFont(m_workshop.Templates, m_workshop.Set.Header);
         m_preview->update();
     }
@@ -141,8 +143,11 @@ void frmQDW::SetZoom(int zoom)
     m_zooms->button(m_preview->Zoom())->setChecked(true);
     m_preview->resize(m_preview->sizeHint());
     m_previewArea->updateGeometry();
-    for (QWidget* parent = m_previewArea->parentWidget(); parent; parent = parent->parentWidget())
-        parent->layout()->activate(); // or else the window would want what the zoom before did
+    // Up to the window, or else it would want what the zoom before did.
+    for (QWidget* parent = m_previewArea->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (QLayout* const layout = parent->layout())
+            layout->activate();
+    }
     SizeToFit();
 }
 

@@ -19,6 +19,7 @@ public:
 
     [[nodiscard]] QString Text();
     [[nodiscard]] QString Flattened(); ///< every "|" becomes CR LF
+    /// As StoredPath stores it.
     [[nodiscard]] QString Path() { return PathFromStored(Text()); }
     [[nodiscard]] bool Boolean();
     [[nodiscard]] int16 Int16();

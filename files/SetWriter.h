@@ -19,9 +19,9 @@ public:
 
     void Literal(const char* text);
     // Error 6 for texts too long to be read again.
-    void Text(const QString& text);      ///< error 5 for one with a line break
-    void Flattened(const QString& text); ///< every CR LF becomes "|"
-    void Path(const QString& path) { Text(StoredPath(path)); }
+    void Text(const QString& text);                            ///< error 5 for one with a line break
+    void Flattened(const QString& text);                       ///< every CR LF becomes "|"
+    void Path(const QString& path) { Text(StoredPath(path)); } ///< any path
     void Boolean(bool value);
     void Integer(int32 value);
     void Real(double value);

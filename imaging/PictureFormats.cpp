@@ -9,9 +9,9 @@ namespace {
 
 constexpr qint64 PlaceableHeaderBytes = 22;
 
-// Decoders go through all that a file holds, also past the end of its picture. So much more may stand there.
-constexpr qint64 MostPixels = qint64(1) << 25; ///< of a picture that could be shown
-constexpr qint64 Slack = qint64(1) << 20;      ///< pixels or bytes
+/// Decoders go through all that a file holds, also past the end of its picture. So many pixels or bytes may
+/// stand there.
+constexpr qint64 Slack = qint64(1) << 20;
 
 /// Reads numbers from a file image; past its end everything is 0 and IsPastEnd() tells so.
 class Scanner {
@@ -214,7 +214,7 @@ bool SkipGifPicture(Scanner& in, qint64 pixels)
     const int pixelBits = in.Byte();
     if (pixelBits > mostPixelBits)
         return false;
-    const qint64 most = qMin(pixels, MostPixels) + Slack;
+    const qint64 most = qMin(pixels, MostDecodedBytes / DecodedPixelBytes) + Slack;
     GifCodes codes(pixelBits);
     while (!in.IsAtEnd()) {
         const int length = in.Byte();

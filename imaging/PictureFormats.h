@@ -6,6 +6,10 @@
 
 namespace deckforge {
 
+/// Of a picture that can be shown, in four bytes to the pixel.
+inline constexpr qint64 MostDecodedBytes = qint64(128) << 20;
+inline constexpr qint64 DecodedPixelBytes = 4;
+
 enum class PictureFormat { Unknown, Bmp, Jpeg, Gif, Wmf };
 
 /// What a file is by its content. A file that breaks off before the end of its picture is Unknown: decoders

@@ -12,11 +12,9 @@ namespace deckforge {
 
 namespace {
 
-constexpr qint64 MostDecodedBytes = qint64(128) << 20;
 /// A file of more bytes than its decoded picture may have is none that we can show.
 constexpr qint64 MostFileBytes = MostDecodedBytes + (qint64(1) << 20);
 constexpr qsizetype KeptBytes = qsizetype(32) << 20;
-constexpr int BytesPerPixel = 4;
 
 [[noreturn]] void RefusePicture()
 {
@@ -48,7 +46,7 @@ QImage DecodeWithReader(QByteArray bytes, const QByteArray& format)
     QImageReader reader(&buffer, format);
     const QSize told = reader.size();
     const QSize size(told.width(), qAbs(told.height())); // below 0 where the rows of a BMP run top-down
-    if (size.isEmpty() || qint64(size.width()) * size.height() * BytesPerPixel > MostDecodedBytes)
+    if (size.isEmpty() || qint64(size.width()) * size.height() * DecodedPixelBytes > MostDecodedBytes)
         RefusePicture();
     QImage image = reader.read();
     if (image.isNull())
@@ -75,7 +73,7 @@ Picture DecodePicture(const QString& path)
     case PictureFormat::Gif:
         return Picture(DecodeWithReader(bytes, "gif"));
     case PictureFormat::Wmf:
-        return Picture(DecodeWithReader(WmfToPng(bytes, MostDecodedBytes / BytesPerPixel), "png"));
+        return Picture(DecodeWithReader(WmfToPng(bytes, MostDecodedBytes / DecodedPixelBytes), "png"));
     case PictureFormat::Unknown:
         break;
     }

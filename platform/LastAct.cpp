@@ -23,6 +23,7 @@ constexpr unsigned int CrashPatience = 5; ///< the act may wait there for what t
 
 // Handlers of signals and of the end of the program take no arguments: what they work on stands here.
 std::atomic<LastAct*> Current = nullptr;
+std::atomic<bool> IsEnding = false;         ///< the session has asked once
 std::terminate_handler Terminate = nullptr; ///< the usual one, which tells the failure
 QtMessageHandler TellMessage = nullptr;     ///< the usual one
 std::array<int, 2> WakePipe = {-1, -1}; ///< carries the number of a signal from its handler to the event loop
@@ -52,7 +53,8 @@ void EndAsUsual(int signal)
 void OnEndFromOutside(int signal)
 {
     const int before = errno;
-    ::alarm(Patience);
+    if (!IsEnding.exchange(true)) // asked again and again the program gets no more time
+        ::alarm(Patience);
     const char number = static_cast<char>(signal);
     (void)!::write(WakePipe[1], &number, 1);
     errno = before;
