@@ -236,6 +236,18 @@ TEST_F(KindsTest, ControlsAreNamedAndTabGoesInReadingOrder)
             before = stop;
         }
         EXPECT_GT(stops, 20) << tab;
+        QList<QKeySequence> letters;
+        for (const QWidget* control : window.findChildren<QWidget*>()) {
+            const bool hasLetter = control->inherits("QLabel") || control->inherits("QAbstractButton");
+            const QString text =
+                hasLetter && control->isVisible() ? control->property("text").toString() : "";
+            if (const QKeySequence letter = QKeySequence::mnemonic(text); !letter.isEmpty()) {
+                EXPECT_FALSE(letters.contains(letter))
+                    << tab << " has twice the letter of " << text.toStdString();
+                letters += letter;
+            }
+        }
+        EXPECT_GT(letters.size(), 10) << tab;
     }
 }
 
