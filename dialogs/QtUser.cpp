@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QKeyEvent>
@@ -17,6 +18,9 @@
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTreeView>
 
@@ -112,8 +116,24 @@ void MakeRoomForTitle(QMessageBox& box)
 {
     constexpr int lettersOfButtons = 16; // beside the title
     const int title = box.fontMetrics().boundingRect(box.windowTitle()).width();
-    if (auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
-        text->setMinimumWidth(title + Letters(box, lettersOfButtons, 0).width());
+    const int width = title + Letters(box, lettersOfButtons, 0).width();
+    if (auto* const rows = qobject_cast<QGridLayout*>(box.layout()))
+        rows->addItem(new QSpacerItem(width, 0), rows->rowCount(), 0, 1, rows->columnCount());
+}
+
+/// The statistics of a large set have more lines than a screen.
+void LetLongTextScroll(QMessageBox& box)
+{
+    auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    auto* const rows = qobject_cast<QGridLayout*>(box.layout());
+    const int room = box.screen()->availableSize().height() * 2 / 3;
+    if (!text || !rows || text->sizeHint().height() <= room)
+        return;
+    auto* const area = new QScrollArea(&box);
+    delete rows->replaceWidget(text, area);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(text);
+    area->setMinimumSize(text->sizeHint().width() + area->verticalScrollBar()->sizeHint().width(), room);
 }
 
 /// With NoButton the box chooses the button that Enter stands for.
@@ -125,6 +145,7 @@ int RunBox(const MessageBoxRequest& request, QMessageBox::StandardButton usual, 
     box.setText(text.replace(QLatin1String("\r\n"), QLatin1String("\n")));
     box.setDefaultButton(usual);
     MakeRoomForTitle(box);
+    LetLongTextScroll(box);
     return box.exec();
 }
 

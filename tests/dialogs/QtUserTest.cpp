@@ -1,0 +1,60 @@
+#include "dialogs/QtUser.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace deckforge {
+
+namespace {
+
+/// Shows a box, looks at it, and puts it aside with Esc.
+template <class Look>
+Answer Shown(const MessageBoxRequest& request, Look&& look)
+{
+    QTimer looking;
+    looking.callOnTimeout([&] {
+        looking.stop();
+        QWidget* const box = QApplication::activeModalWidget();
+        look(*box, *box->findChild<QLabel*>("qt_msgbox_label"));
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+    looking.start(0);
+    return QtUser().ShowMessage(request);
+}
+
+} // namespace
+
+TEST(QtUser, ABoxHasRoomForItsTitleAndAllOfItsText)
+{
+    const QString title = "Character playing pieces are created";
+    Shown({.Text = "Done", .Title = title}, [&](QWidget& box, QLabel& text) {
+        EXPECT_GT(box.width(), box.fontMetrics().horizontalAdvance(title));
+        EXPECT_EQ(text.text(), "Done");
+    });
+    const QString path =
+        "The card is saved to the filename:\r\n\r\n/home/player/Documents/cards/THE KING.jpg";
+    Shown({.Text = path, .Title = "Save"}, [&](QWidget& /*box*/, QLabel& text) {
+        EXPECT_GE(text.width(), text.fontMetrics().horizontalAdvance(path.section('\n', -1)));
+        EXPECT_GE(text.height(), text.sizeHint().height());
+    });
+}
+
+TEST(QtUser, ABoxWithMoreLinesThanTheScreenKeepsItsButtonsInSight)
+{
+    const QString lines = QString("1 - OMEN (1%)\r\n").repeated(500);
+    const auto answer =
+        Shown({.Text = lines, .Title = {}, .Buttons = BoxButtons::YesNo}, [&](QWidget& box, QLabel& text) {
+            EXPECT_LT(box.height(), box.screen()->availableSize().height());
+            EXPECT_GT(text.height(), box.height()) << "scrolls";
+            for (const QPushButton* button : box.findChildren<QPushButton*>())
+                EXPECT_TRUE(box.rect().contains(QRect(button->mapTo(&box, QPoint()), button->size())));
+        });
+    EXPECT_EQ(answer, Answer::Cancel) << "Esc answers no question";
+}
+
+} // namespace deckforge
