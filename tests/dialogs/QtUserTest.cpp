@@ -18,8 +18,10 @@ Answer Shown(const MessageBoxRequest& request, Look&& look)
 {
     QTimer looking;
     looking.callOnTimeout([&] {
-        looking.stop();
         QWidget* const box = QApplication::activeModalWidget();
+        if (!box)
+            return;
+        looking.stop();
         look(*box, *box->findChild<QLabel*>("qt_msgbox_label"));
         QTest::keyClick(box, Qt::Key_Escape);
     });
