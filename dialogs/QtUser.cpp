@@ -126,14 +126,15 @@ void LetLongTextScroll(QMessageBox& box)
 {
     auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
     auto* const rows = qobject_cast<QGridLayout*>(box.layout());
-    const int room = box.screen()->availableSize().height() * 2 / 3;
-    if (!text || !rows || text->sizeHint().height() <= room)
+    const QSize room = box.screen()->availableSize() * 2 / 3;
+    if (!text || !rows || text->sizeHint().height() <= room.height())
         return;
     auto* const area = new QScrollArea(&box);
     delete rows->replaceWidget(text, area);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidget(text);
-    area->setMinimumSize(text->sizeHint().width() + area->verticalScrollBar()->sizeHint().width(), room);
+    const QSize whole = text->sizeHint() + QSize(area->verticalScrollBar()->sizeHint().width(), 0);
+    area->setMinimumSize(whole.boundedTo(room));
 }
 
 /// With NoButton the box chooses the button that Enter stands for.
