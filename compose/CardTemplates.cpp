@@ -62,12 +62,14 @@ Box PictureAt(const char* name, QRect place, int scale)
     return Surface(Label(name, place), scale);
 }
 
-/// A surface that shows a whole card, with the border of a pixel that the window draws round it. Cards lie
-/// side by side from the left.
-Box CardSurface(const char* name, int left, QSize size, int scale)
+/// Where the front of a card lies on the preview. The back of a standard card lies at its right, all others
+/// in its place.
+constexpr QPoint FrontCorner = {8, 267};
+
+/// A surface that shows a whole card, with the border of a pixel that the window draws round it.
+Box CardSurface(const char* name, QSize size, int scale, QPoint corner = FrontCorner)
 {
-    constexpr int top = 267;
-    return Surface(Bordered(Label(name, {{left, top}, size})), scale);
+    return Surface(Bordered(Label(name, {corner, size})), scale);
 }
 
 Box Watermark(QRect place)
@@ -93,10 +95,10 @@ Box BlackStrip(const char* name, QRect place, int scale)
 
 } // namespace
 
-// Each row: name, then left, top, width and height, then how its text stands.
+// Each row: name, then left, top, width and height, then how its text stands. A whole card has only its size.
 
 CardTemplate::CardTemplate(int scale)
-    : picCard(CardSurface("picCard", 8, CardSize, scale)),
+    : picCard(CardSurface("picCard", CardSize, scale)),
       lblType{{Label("lblType(0)", {5, 3, 57, 12}), Label("lblType(1)", {88, 3, 56, 12}, Alignment::Right),
                Label("lblType(2)", {5, 15, 57, 12}),
                Label("lblType(3)", {88, 15, 57, 12}, Alignment::Right)}},
@@ -111,12 +113,12 @@ CardTemplate::CardTemplate(int scale)
       lblWatermark(Watermark({55, 245, 40, 9})),
       picSymbol(Hidden(PictureAt("picSymbol", {0, 245, 5, 5}, scale))),
       picArtistDest(Hidden(PictureAt("picArtistDest", {0, 40, 5, 180}, scale))),
-      picBack(CardSurface("picBack", 8 + CardSize.width(), CardSize, scale))
+      picBack(CardSurface("picBack", CardSize, scale, FrontCorner + QPoint(CardSize.width(), 0)))
 {
 }
 
 LargeCardTemplate::LargeCardTemplate(int scale)
-    : picCardLarge(Hidden(CardSurface("picCardLarge", 8, DoubleCardSize, scale))),
+    : picCardLarge(Hidden(CardSurface("picCardLarge", DoubleCardSize, scale))),
       picFrameLarge(Bordered(Label("picFrameLarge", {8, 8, 121, 238}))),
       picImageLarge(PictureAt("picImageLarge", {0, 0, 121, 238}, scale)),
       lblPicSizeLarge(Label("lblPicSizeLarge", {128, 8, 5, 238})),
@@ -125,12 +127,12 @@ LargeCardTemplate::LargeCardTemplate(int scale)
       lblAutonumberLarge(Number("lblAutonumberLarge", {0, 246, 13, 9})),
       lblWatermark(Watermark({132, 246, 40, 9})),
       picSymbolLarge(Hidden(PictureAt("picSymbolLarge", {294, 246, 9, 9}, scale))),
-      picBackLarge(Hidden(CardSurface("picBackLarge", 8, DoubleCardSize, scale)))
+      picBackLarge(Hidden(CardSurface("picBackLarge", DoubleCardSize, scale)))
 {
 }
 
 CharacterTemplate::CharacterTemplate(int scale)
-    : picCharacter(Hidden(CardSurface("picCharacter", 8, DoubleCardSize, scale))),
+    : picCharacter(Hidden(CardSurface("picCharacter", DoubleCardSize, scale))),
       lblCharacter(WhiteCaption("lblCharacter", {80, 0, 140, 13}, "")),
       lblObjects(WhiteCaption("lblObjects", {46, 242, 71, 12}, "OBJECTS")),
       lblFollowers(WhiteCaption("lblFollowers", {185, 242, 71, 12}, "FOLLOWERS")),
@@ -151,12 +153,12 @@ CharacterTemplate::CharacterTemplate(int scale)
       lblAutonumberCharacter(Number("lblAutonumberCharacter", {2, 220, 13, 9})),
       lblWatermark(Watermark({113, 220, 40, 9})),
       picSymbolCharacter(Hidden(PictureAt("picSymbolCharacter", {265, 218, 9, 9}, scale))),
-      picCharacterBack(Hidden(CardSurface("picCharacterBack", 8, DoubleCardSize, scale)))
+      picCharacterBack(Hidden(CardSurface("picCharacterBack", DoubleCardSize, scale)))
 {
 }
 
 PlayingPieceTemplate::PlayingPieceTemplate(int scale)
-    : picPlayingPiece(Hidden(CardSurface("picPlayingPiece", 8, CardSize, scale))),
+    : picPlayingPiece(Hidden(CardSurface("picPlayingPiece", CardSize, scale))),
       lblPlayingPieceName(Label("lblPlayingPieceName", {8, 10, 132, 13}, Alignment::Centre)),
       picPlayingPieceFrame(Label("picPlayingPieceFrame", {9, 24, 132, 222})),
       picPlayingPieceImage(PictureAt("picPlayingPieceImage", {0, 0, 132, 222}, scale)),
@@ -165,7 +167,7 @@ PlayingPieceTemplate::PlayingPieceTemplate(int scale)
 }
 
 NewBackTemplate::NewBackTemplate(int scale)
-    : picNewBack(Hidden(CardSurface("picNewBack", 8, CardSize.transposed(), scale))),
+    : picNewBack(Hidden(CardSurface("picNewBack", CardSize.transposed(), scale))),
       lblBackTitle(Label("lblBackTitle", {112, 48, 26, 13}, Alignment::Centre)),
       lblWatermark(Watermark({0, 142, 255, 9}))
 {

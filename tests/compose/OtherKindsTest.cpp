@@ -2,6 +2,7 @@
 #include "compose/LargeCard.h"
 #include "compose/NewBack.h"
 #include "compose/StandardCard.h"
+#include "support/EveryKind.h"
 #include "support/WorkshopTest.h"
 
 #include <set>
@@ -12,9 +13,7 @@ class OtherKindsTest : public WorkshopTest {
 protected:
     OtherKindsTest()
     {
-        AddElement(Shop.Set, LargeKind);
-        AddElement(Shop.Set, CharacterKind);
-        AddElement(Shop.Set, NewBackKind);
+        AddOneOfEachKind(Shop.Set);
         Large().Title.clear();
         Large().Color = Cream;
     }

@@ -1,5 +1,6 @@
 #include "editor/WindowTest.h"
 #include "platform/Paths.h"
+#include "support/EveryKind.h"
 
 namespace deckforge {
 
@@ -46,11 +47,7 @@ TEST_F(ClosingTest, TheWindowStaysWithASetThatCannotBeRescued)
 
 TEST_F(ClosingTest, WhatIsOnTheDiskOrWasAskedForIsNotRescued)
 {
-    OpenChangedSet([](CardSet& set) {
-        AddElement(set, LargeKind);
-        AddElement(set, CharacterKind);
-        AddElement(set, NewBackKind);
-    });
+    OpenChangedSet(AddOneOfEachKind);
     for (int tab = 1; tab <= 4; ++tab)
         SelectTab(tab);
     window.close();

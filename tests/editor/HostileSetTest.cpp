@@ -1,5 +1,6 @@
 #include "editor/WindowTest.h"
 #include "files/SetFileFormat.h"
+#include "support/EveryKind.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -30,9 +31,7 @@ protected:
             InitSet(set);
             for (int i = 0; i < 2; ++i) {
                 AddElement(set, StandardKind);
-                AddElement(set, LargeKind);
-                AddElement(set, CharacterKind);
-                AddElement(set, NewBackKind);
+                AddOneOfEachKind(set);
             }
             set.Header.SaveTo = folder.WithSeparator();
             change(set);

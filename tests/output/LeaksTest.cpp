@@ -1,6 +1,7 @@
 #include "files/modFile.h"
 #include "output/HtmlSheets.h"
 #include "output/modCapture.h"
+#include "support/EveryKind.h"
 #include "support/WorkshopTest.h"
 
 #include <QDir>
@@ -28,9 +29,7 @@ protected:
     Leaks()
     {
         AddElement(Shop.Set, StandardKind);
-        AddElement(Shop.Set, LargeKind);
-        AddElement(Shop.Set, CharacterKind);
-        AddElement(Shop.Set, NewBackKind);
+        AddOneOfEachKind(Shop.Set);
         FirstCard().Picture = Folder.WritePicture("picture.bmp");
         Shop.Set.Cards[2].Picture = Folder.Write("damaged.bmp", "BM");
         Shop.Set.LargeCards[1].Picture = Folder.Path("missing.bmp");
