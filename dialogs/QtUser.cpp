@@ -1,9 +1,9 @@
 #include "dialogs/QtUser.h"
 
-#include "dialogs/PrinterResolution.h"
 #include "dialogs/frmFont.h"
 #include "imaging/PictureBox.h"
 #include "platform/Paths.h"
+#include "platform/PrinterResolution.h"
 
 #include <QApplication>
 #include <QColorDialog>

@@ -1,3 +1,4 @@
+#include "BuildPaths.h"
 #include "support/Limits.h"
 #include "support/TestFolder.h"
 

@@ -1,3 +1,4 @@
+#include "BuildPaths.h"
 #include "imaging/GifWriter.h"
 #include "imaging/PictureFormats.h"
 #include "imaging/PictureLoader.h"
