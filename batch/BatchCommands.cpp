@@ -180,11 +180,11 @@ bool WriteSetTo(Workshop& workshop, const QString& path)
 void CreateNewCardBacks(Workshop& workshop)
 {
     CardSet& set = workshop.Set;
-    for (int i = 1; i <= set.NewCardBackCount; ++i) {
-        set.CurrentNewCardBack = static_cast<int16>(i);
+    for (int i = 1; i <= set.NewCardBacks.Count(); ++i) {
+        set.NewCardBacks.Current = static_cast<int16>(i);
         try {
-            ShowNewCardBack(workshop, set.CurrentNewCardBack);
-            SaveNewCardBack(workshop, set.CurrentNewCardBack, Ask::No, Tell::No);
+            ShowNewCardBack(workshop, set.NewCardBacks.Current);
+            SaveNewCardBack(workshop, set.NewCardBacks.Current, Ask::No, Tell::No);
         } catch (const RunTimeError& error) {
             TellUntrapped(workshop.User, error);
         }

@@ -153,7 +153,7 @@ void CardColdBesideDecoders(benchmark::State& state)
 void NewBack(benchmark::State& state)
 {
     OneCard card(Bmp);
-    AddElement(card.Shop.Set, NewBackKind);
+    AddElement<NewCardBack>(card.Shop.Set);
     card.Shop.Set.NewCardBacks[1].BackText = QStringLiteral("DUNGEON");
     MeasureBesideFrame(state, [&] {
         ShowNewCardBack(card.Shop, 1);

@@ -21,7 +21,7 @@ CardSet SetOf(int count)
     CardSet set;
     InitSet(set);
     for (int i = 2; i <= count; ++i)
-        AddElement(set, StandardKind);
+        AddElement<Card>(set);
     for (int i = 1; i <= count; ++i) {
         Card& card = set.Cards[i];
         card.Picture = QStringLiteral("/home/player/varnhelm/pictures/card %1.jpg").arg(i);

@@ -34,8 +34,8 @@ struct OpenWindow {
         }
         CardSet set = Window.Works().Set;
         for (int i = 1; i < cards; ++i) {
-            AddElement(set, StandardKind);
-            Card& card = set.Cards[set.CardCount];
+            AddElement<Card>(set);
+            Card& card = set.Cards[set.Cards.Count()];
             card.Picture = PictureAt(i % pictures);
             card.Artist = QStringLiteral("Ada Brushwood");
             card.Info = QStringLiteral("Roll one die: on a 1 it wakes and you must fight it at once.");

@@ -29,28 +29,28 @@ PictureRow RowOf(Workshop& workshop, PlacedPicture which)
     CardSet& set = workshop.Set;
     switch (which) {
     case PlacedPicture::Standard: {
-        Card& card = set.Cards[set.CurrentCard];
+        Card& card = set.Cards[set.Cards.Current];
         return {t.Standard.picFrame, t.Standard.picImage, card.PictureLeft,
-                card.PictureTop,     &PlaceCardPicture,   set.CurrentCard};
+                card.PictureTop,     &PlaceCardPicture,   set.Cards.Current};
     }
     case PlacedPicture::Large: {
-        LargeCard& card = set.LargeCards[set.CurrentLargeCard];
+        LargeCard& card = set.LargeCards[set.LargeCards.Current];
         // Its edges are found by the size of the standard card's picture, as they always were.
         return {t.Large.picFrameLarge, t.Standard.picImage, card.PictureLeft,
-                card.PictureTop,       &PlaceLargePicture,  set.CurrentLargeCard};
+                card.PictureTop,       &PlaceLargePicture,  set.LargeCards.Current};
     }
     case PlacedPicture::Character: {
-        Character& character = set.Characters[set.CurrentCharacter];
+        Character& character = set.Characters[set.Characters.Current];
         return {t.Character.picFrameCharacter, t.Character.picImageCharacter, character.PictureLeft,
-                character.PictureTop,          &PlaceCharacterPicture,        set.CurrentCharacter};
+                character.PictureTop,          &PlaceCharacterPicture,        set.Characters.Current};
     }
     case PlacedPicture::PlayingPiece:
         break;
     }
-    Character& character = set.Characters[set.CurrentCharacter];
+    Character& character = set.Characters[set.Characters.Current];
     return {t.PlayingPiece.picPlayingPieceFrame, t.PlayingPiece.picPlayingPieceImage,
             character.PlayingPieceLeft,          character.PlayingPieceTop,
-            &PlacePlayingPiecePicture,           set.CurrentCharacter};
+            &PlacePlayingPiecePicture,           set.Characters.Current};
 }
 
 /// How far the handle of a kind goes, in pixels of the card.
@@ -72,7 +72,7 @@ void MoveStandardHandle(Workshop& workshop, int top)
 {
     CardTemplate& t = workshop.Templates.Standard;
     PlaceHandle(t, top);
-    workshop.Set.Cards[workshop.Set.CurrentCard].FrameHeight = static_cast<int16>(t.picFrame.Height);
+    workshop.Set.Cards[workshop.Set.Cards.Current].FrameHeight = static_cast<int16>(t.picFrame.Height);
 }
 
 } // namespace
@@ -129,11 +129,11 @@ void MoveHandle(Workshop& workshop, PlacedPicture which, int pixels)
         break;
     case PlacedPicture::Large:
         PlaceHandle(t.Large, Moved(t.Large.lblPicSizeLarge.Left, pixels, LargeHandle));
-        set.LargeCards[set.CurrentLargeCard].FrameHeight = static_cast<int16>(t.Large.picFrameLarge.Width);
+        set.LargeCards[set.LargeCards.Current].FrameHeight = static_cast<int16>(t.Large.picFrameLarge.Width);
         break;
     case PlacedPicture::Character:
         PlaceHandle(t.Character, Moved(t.Character.lblPicSizeCharacter.Left, pixels, CharacterHandle));
-        set.Characters[set.CurrentCharacter].FrameHeight =
+        set.Characters[set.Characters.Current].FrameHeight =
             static_cast<int16>(t.Character.picFrameCharacter.Width);
         break;
     case PlacedPicture::PlayingPiece:
@@ -160,7 +160,7 @@ void CentrePicture(Workshop& workshop)
     constexpr int margins = 10;
     const CardTemplate& t = workshop.Templates.Standard;
     const double room = t.picCard.Width - margins - t.picImage.Width;
-    workshop.Set.Cards[workshop.Set.CurrentCard].PictureLeft = room / 2 * TwipsPerPixelX;
+    workshop.Set.Cards[workshop.Set.Cards.Current].PictureLeft = room / 2 * TwipsPerPixelX;
 }
 
 } // namespace deckforge

@@ -55,7 +55,7 @@ void InitForm(Workshop& workshop)
         watermark->Caption = versionMark;
     InitSet(workshop.Set);
     ShowSet(workshop);
-    ShowCard(workshop, workshop.Set.CurrentCard);
+    ShowCard(workshop, workshop.Set.Cards.Current);
 }
 
 void ShowSet(Workshop& workshop)
@@ -93,19 +93,19 @@ void ShowNumbers(Workshop& workshop)
         label.Caption = QString::number(current);
         label.Visible = set.Header.Autonumber;
     };
-    show(templates.Standard.lblAutonumber, set.CurrentCard);
-    show(templates.Large.lblAutonumberLarge, set.CurrentLargeCard);
-    show(templates.Character.lblAutonumberCharacter, set.CurrentCharacter);
+    show(templates.Standard.lblAutonumber, set.Cards.Current);
+    show(templates.Large.lblAutonumberLarge, set.LargeCards.Current);
+    show(templates.Character.lblAutonumberCharacter, set.Characters.Current);
 }
 
 void ShowOpenedSet(Workshop& workshop)
 {
     CardSet& set = workshop.Set;
     ShowSet(workshop);
-    set.CurrentCard = 1;
-    ShowCard(workshop, set.CurrentCard);
-    set.CurrentLargeCard = set.LargeCardCount > 0 ? 1 : 0;
-    set.CurrentCharacter = set.CharacterCount > 0 ? 1 : 0;
+    set.Cards.Current = 1;
+    ShowCard(workshop, set.Cards.Current);
+    set.LargeCards.Current = set.LargeCards.Count() > 0 ? 1 : 0;
+    set.Characters.Current = set.Characters.Count() > 0 ? 1 : 0;
 }
 
 } // namespace deckforge

@@ -93,7 +93,7 @@ void LoadBackground(ShowRun& run, Workshop& workshop, const Card& card)
 void LoadBack(ShowRun& run, Workshop& workshop, Card& card)
 {
     CardSet& set = workshop.Set;
-    if (card.CardBack < 0 || card.CardBack > set.CardBackCount)
+    if (card.CardBack < 0 || card.CardBack > set.CardBacks.Count())
         card.CardBack = 1;
     const CardBack& back = set.CardBacks[card.CardBack];
     Box& picBack = workshop.Templates.Standard.picBack;
@@ -269,10 +269,10 @@ void DrawArtistCredit(Workshop& workshop, const QString& artist)
     const CardSet& set = workshop.Set;
     PictureBox& picArtist = workshop.Surfaces.picArtist;
     Box& picArtistDest = workshop.Templates.Standard.picArtistDest;
-    picArtistDest.Visible = !set.Cards[set.CurrentCard].Artist.isEmpty();
+    picArtistDest.Visible = !set.Cards[set.Cards.Current].Artist.isEmpty();
     if (!picArtistDest.Visible)
         return;
-    ReadArtistBackground(workshop, set.CurrentCard);
+    ReadArtistBackground(workshop, set.Cards.Current);
     picArtist.ForeColor = set.Header.ArtistColor;
     PrintAt(picArtist, 0, cutAbove, artist);
     picArtist.Freeze();

@@ -7,7 +7,7 @@ namespace {
 /// A set can name a back that its table has no row for.
 QString BackName(const CardSet& set, int16 row)
 {
-    return row >= 0 && row <= set.CardBackCount ? set.CardBacks[row].Name : QString();
+    return row >= 0 && row <= set.CardBacks.Count() ? set.CardBacks[row].Name : QString();
 }
 
 QString LacksPicture(const QString& path)
@@ -47,15 +47,15 @@ QString TextOfCharacter(const Character& character, CardListColumn column)
 
 } // namespace
 
-int16 CardListCount(const CardSet& set, CardListMode mode)
+int16 CardListCount(const CardSet& set, CardKind kind)
 {
-    return mode == CardListMode::Cards ? set.CardCount : set.CharacterCount;
+    return kind == CardKind::Standard ? set.Cards.Count() : set.Characters.Count();
 }
 
-QString CardListText(const CardSet& set, CardListMode mode, int16 index, CardListColumn column)
+QString CardListText(const CardSet& set, CardKind kind, int16 index, CardListColumn column)
 {
-    return mode == CardListMode::Cards ? TextOfCard(set, set.Cards[index], column)
-                                       : TextOfCharacter(set.Characters[index], column);
+    return kind == CardKind::Standard ? TextOfCard(set, set.Cards[index], column)
+                                      : TextOfCharacter(set.Characters[index], column);
 }
 
 } // namespace deckforge

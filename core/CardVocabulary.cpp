@@ -11,7 +11,7 @@ namespace {
 /// Where the list of types has the text, from 0; -1 where it has not.
 int ListIndexOf(const CardSet& set, const QString& text)
 {
-    for (int row = 1; row <= set.CardTypeCount; ++row) {
+    for (int row = 1; row <= set.CardTypes.Count(); ++row) {
         if (TypeListEntry(set.CardTypes[row]) == text)
             return row - 1;
     }
@@ -58,8 +58,8 @@ int16 AddCardBack(CardSet& set, const QString& picture)
     const qsizetype dot = name.indexOf(QLatin1Char('.'));
     if (dot < 0)
         throw RunTimeError(ErrorNumber::InvalidCall);
-    set.CardBacks[set.CardBackCount].Name = name.left(dot);
-    return set.CardBackCount;
+    set.CardBacks[set.CardBacks.Count()].Name = name.left(dot);
+    return set.CardBacks.Count();
 }
 
 } // namespace deckforge

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
-#include "platform/Types.h"
 
 #include <vector>
 
 namespace deckforge {
 
 /// A growable array that counts from 1. The element at index 0 exists and stays empty.
-/// Any index outside 0 to LastIndex() is error 9.
+/// Any index outside 0 to Count() is error 9; more than 32,767 elements are error 6.
 template <class Element>
 class OneBasedArray {
 public:
@@ -17,24 +17,26 @@ public:
     [[nodiscard]] Element& operator[](int index) { return m_elements[Checked(index)]; }
     [[nodiscard]] const Element& operator[](int index) const { return m_elements[Checked(index)]; }
 
-    [[nodiscard]] int LastIndex() const { return static_cast<int>(m_elements.size()) - 1; }
+    [[nodiscard]] int16 Count() const { return static_cast<int16>(m_elements.size() - 1); }
 
-    /// Keeps the elements up to the new last index. A negative one is error 9.
-    void Resize(int lastIndex)
+    /// Adds an empty element at the end.
+    Element& Add()
     {
-        if (lastIndex < 0)
+        Resize(CheckedAdd(Count(), 1));
+        return m_elements.back();
+    }
+
+    /// Keeps the elements up to the new count. A negative one is error 9.
+    void Resize(int16 count)
+    {
+        if (count < 0)
             throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-        m_elements.resize(static_cast<std::size_t>(lastIndex) + 1);
+        m_elements.resize(static_cast<std::size_t>(count) + 1);
     }
 
-    /// Makes the array anew with empty elements.
-    void Recreate(int lastIndex)
-    {
-        m_elements.clear();
-        Resize(lastIndex);
-    }
+    void Clear() { m_elements.resize(1); }
 
-    /// Takes one element out; those above it move down by one.
+    /// Removes one element; those above it move down by one.
     void Remove(int index)
     {
         m_elements.erase(m_elements.begin() + static_cast<std::ptrdiff_t>(Checked(index)));
@@ -43,7 +45,7 @@ public:
 private:
     [[nodiscard]] std::size_t Checked(int index) const
     {
-        if (index < 0 || index > LastIndex())
+        if (index < 0 || index > Count())
             throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
         return static_cast<std::size_t>(index);
     }

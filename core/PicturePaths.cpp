@@ -1,5 +1,6 @@
 #include "core/PicturePaths.h"
 
+#include "core/CardKind.h"
 #include "platform/Paths.h"
 
 namespace deckforge {
@@ -16,16 +17,23 @@ bool IsOwnBack(const CardSet& set, int16 row)
     return !set.CardBacks[row].BuiltIn;
 }
 
-template <auto Records, auto Title>
-const QString& TitleOf(const CardSet& set, int16 row)
+template <class Record>
+PathField FieldOf(const char* caption, QString& (*path)(CardSet&, int16),
+                  bool (*isListed)(const CardSet&, int16) = Always)
 {
-    return (set.*Records)[row].*Title;
+    return {.Caption = caption,
+            .Count = [](const CardSet& set) { return ListOf<Record>(set).Count(); },
+            .IsListed = isListed,
+            .Title = [](const CardSet& set, int16 row) -> const QString& {
+                return ListOf<Record>(set)[row].*NameField<Record>;
+            },
+            .Path = path};
 }
 
-template <auto Records, auto Path>
+template <class Record, QString Record::*Field>
 QString& PathOf(CardSet& set, int16 row)
 {
-    return (set.*Records)[row].*Path;
+    return ListOf<Record>(set)[row].*Field;
 }
 
 } // namespace
@@ -33,21 +41,13 @@ QString& PathOf(CardSet& set, int16 row)
 const std::vector<PathField>& PathFields()
 {
     static const std::vector<PathField> fields = {
-        {"Card", &CardSet::CardCount, Always, TitleOf<&CardSet::Cards, &Card::Title>,
-         PathOf<&CardSet::Cards, &Card::Picture>},
-        {"Large Card", &CardSet::LargeCardCount, Always, TitleOf<&CardSet::LargeCards, &LargeCard::Title>,
-         PathOf<&CardSet::LargeCards, &LargeCard::Picture>},
-        {"Character", &CardSet::CharacterCount, Always, TitleOf<&CardSet::Characters, &Character::Name>,
-         PathOf<&CardSet::Characters, &Character::Picture>},
-        {"Card Back", &CardSet::CardBackCount, IsOwnBack, TitleOf<&CardSet::CardBacks, &CardBack::Name>,
-         PathOf<&CardSet::CardBacks, &CardBack::Picture>},
-        {"Playing Piece", &CardSet::CharacterCount, Always, TitleOf<&CardSet::Characters, &Character::Name>,
-         PathOf<&CardSet::Characters, &Character::PlayingPiece>},
-        {"Large Card Back", &CardSet::LargeCardCount, Always,
-         TitleOf<&CardSet::LargeCards, &LargeCard::Title>,
-         PathOf<&CardSet::LargeCards, &LargeCard::CardBack>},
-        {"Card Background", &CardSet::CardCount, Always, TitleOf<&CardSet::Cards, &Card::Title>,
-         PathOf<&CardSet::Cards, &Card::Background>},
+        FieldOf<Card>("Card", PathOf<Card, &Card::Picture>),
+        FieldOf<LargeCard>("Large Card", PathOf<LargeCard, &LargeCard::Picture>),
+        FieldOf<Character>("Character", PathOf<Character, &Character::Picture>),
+        FieldOf<CardBack>("Card Back", PathOf<CardBack, &CardBack::Picture>, IsOwnBack),
+        FieldOf<Character>("Playing Piece", PathOf<Character, &Character::PlayingPiece>),
+        FieldOf<LargeCard>("Large Card Back", PathOf<LargeCard, &LargeCard::CardBack>),
+        FieldOf<Card>("Card Background", PathOf<Card, &Card::Background>),
     };
     return fields;
 }
@@ -55,7 +55,7 @@ const std::vector<PathField>& PathFields()
 std::vector<int16> ListedRows(const CardSet& set, const PathField& field)
 {
     std::vector<int16> rows;
-    for (int row = 1; row <= set.*field.Count; ++row) {
+    for (int row = 1; row <= field.Count(set); ++row) {
         if (field.IsListed(set, static_cast<int16>(row)))
             rows.push_back(static_cast<int16>(row));
     }

@@ -13,7 +13,7 @@ namespace deckforge {
 /// One picture field of all records of a kind.
 struct PathField {
     const char* Caption;
-    int16 CardSet::*Count;
+    int16 (*Count)(const CardSet&);
     bool (*IsListed)(const CardSet&, int16 row);
     const QString& (*Title)(const CardSet&, int16 row);
     QString& (*Path)(CardSet&, int16 row);

@@ -6,23 +6,12 @@ namespace deckforge {
 
 namespace {
 
-/// Makes room for one more row, and gives it.
 template <class Row>
-Row& Grow(OneBasedArray<Row>& table, int16& count)
-{
-    const int16 last = CheckedAdd(count, 1);
-    table.Resize(last);
-    count = last;
-    return table[last];
-}
-
-template <class Row>
-void DeleteOwnRow(OneBasedArray<Row>& table, int16& count, int16 first, int ownRow)
+void DeleteOwnRow(OneBasedArray<Row>& table, int16 first, int ownRow)
 {
     if (ownRow < 0)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     table.Remove(first + ownRow);
-    count = CheckedAdd(count, -1);
 }
 
 } // namespace
@@ -30,7 +19,7 @@ void DeleteOwnRow(OneBasedArray<Row>& table, int16& count, int16 first, int ownR
 QStringList OwnBackNames(const CardSet& set)
 {
     QStringList names;
-    for (int row = FirstOwnBack; row <= set.CardBackCount; ++row)
+    for (int row = FirstOwnBack; row <= set.CardBacks.Count(); ++row)
         names += set.CardBacks[row].Name;
     return names;
 }
@@ -38,7 +27,7 @@ QStringList OwnBackNames(const CardSet& set)
 QStringList OwnTypeEntries(const CardSet& set)
 {
     QStringList entries;
-    for (int row = FirstOwnType; row <= set.CardTypeCount; ++row) {
+    for (int row = FirstOwnType; row <= set.CardTypes.Count(); ++row) {
         const CardType& type = set.CardTypes[row];
         entries += QStringLiteral("%1 (%2)").arg(TypeListEntry(type), FormatNumberText(type.Number));
     }
@@ -47,29 +36,29 @@ QStringList OwnTypeEntries(const CardSet& set)
 
 void AddOwnBack(CardSet& set, const QString& name, const QString& picture)
 {
-    Grow(set.CardBacks, set.CardBackCount) = {.Name = name, .Picture = picture, .BuiltIn = false};
+    set.CardBacks.Add() = {.Name = name, .Picture = picture, .BuiltIn = false};
 }
 
 void DeleteOwnBack(CardSet& set, int ownRow)
 {
-    DeleteOwnRow(set.CardBacks, set.CardBackCount, FirstOwnBack, ownRow);
+    DeleteOwnRow(set.CardBacks, FirstOwnBack, ownRow);
 }
 
 void AddOwnType(CardSet& set, const CardType& type)
 {
-    CardType& row = Grow(set.CardTypes, set.CardTypeCount);
+    CardType& row = set.CardTypes.Add();
     row = type;
     row.BuiltIn = false;
 }
 
 void DeleteOwnType(CardSet& set, int ownRow)
 {
-    DeleteOwnRow(set.CardTypes, set.CardTypeCount, FirstOwnType, ownRow);
+    DeleteOwnRow(set.CardTypes, FirstOwnType, ownRow);
 }
 
 int16 DefaultTypeRow(const CardSet& set)
 {
-    for (int16 row = set.CardTypeCount; row > 0; --row) {
+    for (int16 row = set.CardTypes.Count(); row > 0; --row) {
         if (set.CardTypes[row].Name == set.LastType)
             return row;
     }

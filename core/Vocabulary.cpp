@@ -89,8 +89,8 @@ CardType GetCardType(int row)
 
 void InitCardTypes(CardSet& set)
 {
-    set.CardTypeCount = BuiltInTypeCount;
-    set.CardTypes.Recreate(BuiltInTypeCount);
+    set.CardTypes.Clear();
+    set.CardTypes.Resize(BuiltInTypeCount);
     for (int row = 1; row <= BuiltInTypeCount; ++row)
         set.CardTypes[row] = GetCardType(row);
 
@@ -99,8 +99,8 @@ void InitCardTypes(CardSet& set)
 
 void InitCardBacks(CardSet& set)
 {
-    set.CardBackCount = BuiltInBackCount;
-    set.CardBacks.Recreate(BuiltInBackCount);
+    set.CardBacks.Clear();
+    set.CardBacks.Resize(BuiltInBackCount);
     for (int row = 1; row <= BuiltInBackCount; ++row) {
         set.CardBacks[row] = {
             .Name = Text(BackNames[static_cast<std::size_t>(row) - 1]), .Picture = {}, .BuiltIn = true};

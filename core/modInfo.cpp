@@ -10,6 +10,22 @@ namespace {
 constexpr int16 NewFrameHeight = 105;
 constexpr int16 NewFrameWidth = 121;
 
+/// What the boxes call an element.
+struct Words {
+    QLatin1String Deleted;
+    QLatin1String Copied;
+};
+
+const Words& WordsOf(CardKind kind)
+{
+    static constexpr Words words[] = {
+        {.Deleted = QLatin1String("card"), .Copied = QLatin1String("card")},
+        {.Deleted = QLatin1String("card"), .Copied = QLatin1String("large card")},
+        {.Deleted = QLatin1String("character"), .Copied = QLatin1String("character card")},
+        {.Deleted = QLatin1String("card back"), .Copied = QLatin1String("card back")}};
+    return words[static_cast<std::size_t>(kind)];
+}
+
 } // namespace
 
 void SetDefaultFont(SetHeader& header)
@@ -45,13 +61,11 @@ void InitSet(CardSet& set)
     set.LastBackground.clear();
     NewSet(set);
 
-    MakeFirstElement(set, StandardKind);
-    set.LargeCardCount = 0;
-    set.CurrentLargeCard = 0;
-    set.LargeCards.Recreate(0);
-    set.CharacterCount = 0;
-    set.CurrentCharacter = 0;
-    set.Characters.Recreate(0);
+    MakeFirstElement<Card>(set);
+    set.LargeCards.Clear();
+    set.LargeCards.Current = 0;
+    set.Characters.Clear();
+    set.Characters.Current = 0;
 }
 
 void InitCard(CardSet& set, int16 n)
@@ -114,10 +128,10 @@ void InitNewCardBack(CardSet& set, int16 n)
     back.BackColor = White;
 }
 
-bool MayDelete(UserPort& user, int16 count, const char* question, const QString& name, bool tellsOfLast)
+bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name)
 {
     if (count < 2) {
-        if (tellsOfLast) {
+        if (kind == CardKind::Standard) {
             user.ShowMessage(
                 {.Text = QStringLiteral("You have only one card in your set. This can't be deleted."),
                  .Title = {},
@@ -126,16 +140,17 @@ bool MayDelete(UserPort& user, int16 count, const char* question, const QString&
         return false;
     }
     const Answer answer =
-        user.ShowMessage({.Text = QLatin1String(question) + QStringLiteral("\"%1\"?").arg(name),
+        user.ShowMessage({.Text = QStringLiteral("Are you sure you want to delete the %1 \"%2\"?")
+                                      .arg(WordsOf(kind).Deleted, name),
                           .Title = QStringLiteral("Confirm delete"),
                           .Style = BoxStyle::Question,
                           .Buttons = BoxButtons::YesNo});
     return answer == Answer::Yes;
 }
 
-void TellCopied(UserPort& user, const char* copyName)
+void TellCopied(UserPort& user, CardKind kind)
 {
-    user.ShowMessage({.Text = QStringLiteral("The %1 is copied.").arg(QLatin1String(copyName)),
+    user.ShowMessage({.Text = QStringLiteral("The %1 is copied.").arg(WordsOf(kind).Copied),
                       .Title = QStringLiteral("Copy"),
                       .Style = BoxStyle::Information});
 }

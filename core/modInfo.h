@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/CardSet.h"
-#include "platform/Numbers.h"
+#include "core/CardKind.h"
 #include "platform/UserPort.h"
 
 namespace deckforge {
@@ -23,123 +22,72 @@ void InitLargeCard(CardSet& set, int16 n);
 void InitCharacter(CardSet& set, int16 n);
 void InitNewCardBack(CardSet& set, int16 n);
 
-/// Where a kind of card lies in the set, and what is peculiar to it.
 template <class Record>
-struct Kind {
-    int16 CardSet::*Count;
-    int16 CardSet::*Current;
-    OneBasedArray<Record> CardSet::*Records;
-    QString Record::*Name;
-    void (*Init)(CardSet&, int16);
-    const char* DeleteQuestion; ///< goes on with the name in quotes
-    bool TellsOfLast;           ///< says why the last one stays; the other kinds stay silent
-    Record CardSet::*Clip;      ///< the copied element; null where nothing is copied
-    const char* CopyName;       ///< what the user is told that is copied
-};
-
-inline constexpr Kind<Card> StandardKind = {&CardSet::CardCount,
-                                            &CardSet::CurrentCard,
-                                            &CardSet::Cards,
-                                            &Card::Title,
-                                            &InitCard,
-                                            "Are you sure you want to delete the card ",
-                                            true,
-                                            &CardSet::ClipCard,
-                                            "card"};
-inline constexpr Kind<LargeCard> LargeKind = {&CardSet::LargeCardCount,
-                                              &CardSet::CurrentLargeCard,
-                                              &CardSet::LargeCards,
-                                              &LargeCard::Title,
-                                              &InitLargeCard,
-                                              "Are you sure you want to delete the card ",
-                                              false,
-                                              &CardSet::ClipLargeCard,
-                                              "large card"};
-inline constexpr Kind<Character> CharacterKind = {&CardSet::CharacterCount,
-                                                  &CardSet::CurrentCharacter,
-                                                  &CardSet::Characters,
-                                                  &Character::Name,
-                                                  &InitCharacter,
-                                                  "Are you sure you want to delete the character ",
-                                                  false,
-                                                  &CardSet::ClipCharacter,
-                                                  "character card"};
-inline constexpr Kind<NewCardBack> NewBackKind = {&CardSet::NewCardBackCount,
-                                                  &CardSet::CurrentNewCardBack,
-                                                  &CardSet::NewCardBacks,
-                                                  &NewCardBack::Name,
-                                                  &InitNewCardBack,
-                                                  "Are you sure you want to delete the card back ",
-                                                  false,
-                                                  nullptr,
-                                                  nullptr};
+void InitElement(CardSet& set, int16 n)
+{
+    if constexpr (std::is_same_v<Record, Card>)
+        InitCard(set, n);
+    else if constexpr (std::is_same_v<Record, LargeCard>)
+        InitLargeCard(set, n);
+    else if constexpr (std::is_same_v<Record, Character>)
+        InitCharacter(set, n);
+    else
+        InitNewCardBack(set, n);
+}
 
 /// Adds an element at the end and makes it the current one. Error 6 past 32767; the set is then as before.
 template <class Record>
-void AddElement(CardSet& set, const Kind<Record>& kind)
+void AddElement(CardSet& set)
 {
-    const int16 count = CheckedAdd(set.*kind.Count, 1);
-    (set.*kind.Records).Resize(count);
-    set.*kind.Count = count;
-    kind.Init(set, count);
-    set.*kind.Current = count;
+    CardList<Record>& list = ListOf<Record>(set);
+    list.Add();
+    InitElement<Record>(set, list.Count());
+    list.Current = list.Count();
 }
 
-/// Makes the first element of a kind that the set has none of yet.
+/// Makes the kind have one element, a new one.
 template <class Record>
-void MakeFirstElement(CardSet& set, const Kind<Record>& kind)
+void MakeFirstElement(CardSet& set)
 {
-    (set.*kind.Records).Recreate(1);
-    set.*kind.Count = 1;
-    set.*kind.Current = 1;
-    kind.Init(set, 1);
+    ListOf<Record>(set).Clear();
+    AddElement<Record>(set);
 }
 
 /// Whether the current element may go: it is not the only one, and the user says yes.
-[[nodiscard]] bool MayDelete(UserPort& user, int16 count, const char* question, const QString& name,
-                             bool tellsOfLast);
+[[nodiscard]] bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name);
 
 /// Deletes the current element after a question. The next one moves to its index; behind the last one the
 /// index goes down by one. Gives whether the element is gone.
 template <class Record>
-bool DeleteElement(CardSet& set, UserPort& user, const Kind<Record>& kind)
+bool DeleteElement(CardSet& set, UserPort& user)
 {
-    const int16 current = set.*kind.Current;
-    const QString name = (set.*kind.Records)[current].*kind.Name;
-    if (!MayDelete(user, set.*kind.Count, kind.DeleteQuestion, name, kind.TellsOfLast))
+    CardList<Record>& list = ListOf<Record>(set);
+    const int16 current = list.Current;
+    if (!MayDelete(user, KindOf<Record>, list.Count(), list[current].*NameField<Record>))
         return false;
-    (set.*kind.Records).Remove(current);
-    if (current == set.*kind.Count)
-        set.*kind.Current = CheckedAdd(current, -1);
-    set.*kind.Count = CheckedAdd(set.*kind.Count, -1);
+    list.Remove(current);
+    list.Current = std::min(current, list.Count());
     return true;
 }
 
-/// Error 9 where the set has no element of the kind.
+/// Says that an element is copied.
+void TellCopied(UserPort& user, CardKind kind);
+
+/// Keeps a copy of the current element. It stays when the set is replaced, so that cards go from set to set.
 template <class Record>
-Record& CurrentElement(CardSet& set, const Kind<Record>& kind)
+void CopyElement(CardSet& set, UserPort& user)
 {
-    if (set.*kind.Current < 1)
-        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-    return (set.*kind.Records)[set.*kind.Current];
+    CardList<Record>& list = ListOf<Record>(set);
+    list.Clip = list.CurrentRecord();
+    TellCopied(user, KindOf<Record>);
 }
 
-/// Says that an element of that name is copied.
-void TellCopied(UserPort& user, const char* copyName);
-
-/// Keeps a twin of the current element. It stays when the set is replaced, so that cards go from set to set.
+/// Overwrites the current element with the copied one (an empty one if nothing of the kind was copied).
 template <class Record>
-void CopyElement(CardSet& set, UserPort& user, const Kind<Record>& kind)
+void PasteElement(CardSet& set)
 {
-    set.*kind.Clip = CurrentElement(set, kind);
-    TellCopied(user, kind.CopyName);
-}
-
-/// Writes the twin over the current element: an empty one, if nothing of the kind was copied.
-template <class Record>
-void PasteElement(CardSet& set, const Kind<Record>& kind)
-{
-    CurrentElement(set, kind) = set.*kind.Clip;
+    CardList<Record>& list = ListOf<Record>(set);
+    list.CurrentRecord() = list.Clip;
 }
 
 /// "3 (12)": where the current element stands.

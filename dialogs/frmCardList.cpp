@@ -15,11 +15,11 @@ namespace {
 
 class CardListModel final : public QAbstractTableModel {
 public:
-    CardListModel(const CardSet& set, CardListMode mode) : m_set(set), m_mode(mode) {}
+    CardListModel(const CardSet& set, CardKind kind) : m_set(set), m_kind(kind) {}
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override
     {
-        return parent.isValid() ? 0 : CardListCount(m_set, m_mode);
+        return parent.isValid() ? 0 : CardListCount(m_set, m_kind);
     }
 
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override
@@ -39,20 +39,19 @@ public:
     {
         if (role != Qt::DisplayRole)
             return {};
-        return CardListText(m_set, m_mode, static_cast<int16>(cell.row() + 1),
+        return CardListText(m_set, m_kind, static_cast<int16>(cell.row() + 1),
                             static_cast<CardListColumn>(cell.column()));
     }
 
 private:
     const CardSet& m_set;
-    CardListMode m_mode;
+    CardKind m_kind;
 };
 
 /// Rows go in the order of the set until a header is clicked; that sorts what is seen, never the set.
 class CardListDialog final : public QDialog {
 public:
-    CardListDialog(const CardSet& set, CardListMode mode, QWidget* window)
-        : QDialog(window), m_model(set, mode)
+    CardListDialog(const CardSet& set, CardKind kind, QWidget* window) : QDialog(window), m_model(set, kind)
     {
         m_form.setupUi(this);
         m_sorted.setSourceModel(&m_model);
@@ -76,7 +75,7 @@ public:
                                                                QItemSelectionModel::NoUpdate);
                 });
         connect(m_form.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
-        StartAt(mode == CardListMode::Cards ? set.CurrentCard : set.CurrentCharacter);
+        StartAt(kind == CardKind::Standard ? set.Cards.Current : set.Characters.Current);
     }
 
     [[nodiscard]] std::optional<int16> Chosen() const { return m_chosen; }
@@ -145,9 +144,9 @@ private:
 
 } // namespace
 
-std::optional<int16> ChooseFromCardList(const CardSet& set, CardListMode mode, QWidget* window)
+std::optional<int16> ChooseFromCardList(const CardSet& set, CardKind kind, QWidget* window)
 {
-    CardListDialog dialog(set, mode, window);
+    CardListDialog dialog(set, kind, window);
     dialog.exec();
     return dialog.Chosen();
 }

@@ -10,6 +10,6 @@ namespace deckforge {
 
 /// Shows the records of a list in a dialog over the window and gives the index of the one that the user
 /// picks; nothing when the list is closed without.
-[[nodiscard]] std::optional<int16> ChooseFromCardList(const CardSet& set, CardListMode mode, QWidget* window);
+[[nodiscard]] std::optional<int16> ChooseFromCardList(const CardSet& set, CardKind kind, QWidget* window);
 
 } // namespace deckforge

@@ -46,10 +46,10 @@ void FillSampleSet(CardSet& set)
     card.BoldText = QStringLiteral("STRENGTH 3");
     card.Info = QStringLiteral("Information about the card.");
     card.Artist = QString::fromLatin1(SampleArtist);
-    AddElement(set, LargeKind);
+    AddElement<LargeCard>(set);
     set.LargeCards[1].Title = QStringLiteral("CARD TITLE");
     set.LargeCards[1].Info = QLatin1String(Information) + QLatin1String(WebAddress);
-    AddElement(set, CharacterKind);
+    AddElement<Character>(set);
     set.Characters[1].Name = QStringLiteral("CHARACTER NAME");
     set.Characters[1].SpecialAbilities = QString::fromLatin1(SpecialAbilities);
     set.Header.Autonumber = true;

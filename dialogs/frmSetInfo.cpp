@@ -56,7 +56,7 @@ public:
     {
         m_ownBacks.setStringList(OwnBackNames(m_set));
         QStringList names;
-        for (int row = 1; row <= m_set.CardBackCount; ++row)
+        for (int row = 1; row <= m_set.CardBacks.Count(); ++row)
             names += m_set.CardBacks[row].Name;
         m_allBacks.setStringList(names);
         m_form.cboCBDefault->setCurrentIndex(m_set.LastCardBack - 1);
@@ -64,7 +64,7 @@ public:
 
         m_ownTypes.setStringList(OwnTypeEntries(m_set));
         QStringList types;
-        for (int row = 1; row <= m_set.CardTypeCount; ++row)
+        for (int row = 1; row <= m_set.CardTypes.Count(); ++row)
             types += TypeListEntry(m_set.CardTypes[row]);
         m_allTypes.setStringList(types);
         m_form.cboCTDefault->setCurrentIndex(DefaultTypeRow(m_set) - 1);
@@ -195,7 +195,7 @@ private:
     void ShowDefaultBack()
     {
         const int16 row = m_set.LastCardBack;
-        if (row < 1 || row > m_set.CardBackCount)
+        if (row < 1 || row > m_set.CardBacks.Count())
             m_form.picCB->ShowPicture({});
         else
             Show(*m_form.picCB, [&] { return PictureOfBack(m_workshop, row); });

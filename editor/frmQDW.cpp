@@ -299,7 +299,7 @@ void frmQDW::InitForm()
     FillCardBackList();
     m_card->hsbCard->setRange(1, 1);
     FillSet();
-    CardSizeSwitch(1);
+    CardSizeSwitch(CardKind::Standard);
     FillCard();
 }
 

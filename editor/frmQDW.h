@@ -58,9 +58,8 @@ public:
     /// to open.
     void Start(const QString& commandLine);
 
-    /// Shows what a tab edits: 1 standard cards, 2 large cards, 3 characters, 4 card backs. Comes back to the
-    /// front of the card. The tab itself stays as it is.
-    void CardSizeSwitch(int mode);
+    /// Shows what the tab of a kind edits, the front of the card first. The tab itself stays as it is.
+    void CardSizeSwitch(CardKind kind);
 
     // Each brings the previews up to date, and the controls.
     void ShowCard(int16 index);
@@ -130,6 +129,7 @@ private:
 
     // Tabs (frmQDW_Modes.cpp)
     void BindModes();
+    [[nodiscard]] CardKind SelectedKind() const;
     [[nodiscard]] const Mode& Selected() const;
     void Run(Action action);
     void Copy();
@@ -283,7 +283,7 @@ private:
     // Making images, pages and listings (frmQDW_Output.cpp)
     void ExportBacks();
     void CreateOne();
-    [[nodiscard]] int16 Existing(int16 CardSet::*current) const;
+    [[nodiscard]] int16 Existing(CardKind kind) const;
     void CreateAll();
     void CreateSheets();
     void CreateHtml();
@@ -302,7 +302,7 @@ private:
     void PrintCurrent();
     void About();
     template <class Record>
-    void ChooseFromList(CardListMode mode);
+    void ChooseFromList();
 
     // Help (frmQDW_Help.cpp)
     void ShowHelp();

@@ -45,34 +45,39 @@ template <>
 frmQDW::Page<Card> frmQDW::PageOf()
 {
     const Ui::fraCard& form = *m_card;
-    return {StandardKind,   form.hsbCard,    form.lblCurrentCard, form.lblCardTitle, &TitleAndType,
-            &IndexOfSlider, form.cmdCardAdd, form.cmdCardDelete,  form.txtTitle,     &frmQDW::ShowCard};
+    return {form.hsbCard,    form.lblCurrentCard, form.lblCardTitle, &TitleAndType,    &IndexOfSlider,
+            form.cmdCardAdd, form.cmdCardDelete,  form.txtTitle,     &frmQDW::ShowCard};
 }
 
 template <>
 frmQDW::Page<LargeCard> frmQDW::PageOf()
 {
     const Ui::fraLargeCard& form = *m_large;
-    return {LargeKind,          form.hsbCardLarge,     form.lblCurrentCardLarge, form.lblCardTitleLarge,
-            &Nothing,           &IndexShown,           form.cmdCardAddLarge,     form.cmdCardDeleteLarge,
-            form.txtTitleLarge, &frmQDW::ShowLargeCard};
+    return {form.hsbCardLarge,     form.lblCurrentCardLarge, form.lblCardTitleLarge,  &Nothing,
+            &IndexShown,           form.cmdCardAddLarge,     form.cmdCardDeleteLarge, form.txtTitleLarge,
+            &frmQDW::ShowLargeCard};
 }
 
 template <>
 frmQDW::Page<Character> frmQDW::PageOf()
 {
     const Ui::fraCharacter& form = *m_character;
-    return {CharacterKind,    form.hsbCharacter,     form.lblCurrentCardCharacter, form.lblChar,
-            &NameOf,          &IndexOfSlider,        form.cmdCharacterAdd,         form.cmdCharacterDelete,
-            form.txtCharName, &frmQDW::ShowCharacter};
+    return {form.hsbCharacter,
+            form.lblCurrentCardCharacter,
+            form.lblChar,
+            &NameOf,
+            &IndexOfSlider,
+            form.cmdCharacterAdd,
+            form.cmdCharacterDelete,
+            form.txtCharName,
+            &frmQDW::ShowCharacter};
 }
 
 template <>
 frmQDW::Page<NewCardBack> frmQDW::PageOf()
 {
     const Ui::fraCardBack& form = *m_back;
-    return {NewBackKind,
-            form.hsbNewCardBack,
+    return {form.hsbNewCardBack,
             form.lblCurrentNewCardBack,
             nullptr,
             nullptr,
@@ -106,8 +111,8 @@ template <class Record>
 void frmQDW::FillPosition()
 {
     const Page<Record> page = PageOf<Record>();
-    const CardSet& set = m_workshop.Set;
-    page.Position->setText(PositionText(set.*page.Is.Current, set.*page.Is.Count));
+    const CardList<Record>& cards = ListOf<Record>(m_workshop.Set);
+    page.Position->setText(PositionText(cards.Current, cards.Count()));
 }
 
 template void frmQDW::FillPosition<Card>();
@@ -120,9 +125,9 @@ template <class Record>
 void frmQDW::CardChanged()
 {
     const Page<Record> page = PageOf<Record>();
-    CardSet& set = m_workshop.Set;
-    int16& current = set.*page.Is.Current;
-    current = std::min(static_cast<int16>(page.Bar->value()), set.*page.Is.Count);
+    CardList<Record>& cards = ListOf<Record>(m_workshop.Set);
+    int16& current = cards.Current;
+    current = std::min(static_cast<int16>(page.Bar->value()), cards.Count());
     CardDropped<Record>();
     (this->*page.Show)(current);
 }
@@ -131,12 +136,12 @@ template <class Record>
 void frmQDW::CardDragged()
 {
     const Page<Record> page = PageOf<Record>();
-    const CardSet& set = m_workshop.Set;
+    const CardList<Record>& cards = ListOf<Record>(m_workshop.Set);
     const int slider = page.Bar->sliderPosition();
-    const int16 index = page.DraggedIndex(slider, set.*page.Is.Current);
-    page.Position->setText(PositionText(index, set.*page.Is.Count));
+    const int16 index = page.DraggedIndex(slider, cards.Current);
+    page.Position->setText(PositionText(index, cards.Count()));
     if (page.Dragged)
-        page.Dragged->setText(page.DraggedText((set.*page.Is.Records)[slider]));
+        page.Dragged->setText(page.DraggedText(cards[slider]));
 }
 
 /// Also where the slider is let go where it was taken up, which changes no card.
@@ -167,11 +172,11 @@ template <class Record>
 void frmQDW::AddCard()
 {
     const Page<Record> page = PageOf<Record>();
-    CardSet& set = m_workshop.Set;
-    AddElement(set, page.Is);
-    page.Bar->setMaximum(set.*page.Is.Count);
-    (this->*page.Show)(set.*page.Is.Current);
-    page.Bar->setValue(set.*page.Is.Count);
+    CardList<Record>& cards = ListOf<Record>(m_workshop.Set);
+    AddElement<Record>(m_workshop.Set);
+    page.Bar->setMaximum(cards.Count());
+    (this->*page.Show)(cards.Current);
+    page.Bar->setValue(cards.Count());
     page.Name->selectAll();
     page.Name->setFocus();
 }
@@ -180,30 +185,30 @@ template <class Record>
 void frmQDW::DeleteCard()
 {
     const Page<Record> page = PageOf<Record>();
-    CardSet& set = m_workshop.Set;
-    const bool isLast = set.*page.Is.Current == set.*page.Is.Count;
-    if (!DeleteElement(set, m_workshop.User, page.Is))
+    CardList<Record>& cards = ListOf<Record>(m_workshop.Set);
+    const bool isLast = cards.Current == cards.Count();
+    if (!DeleteElement<Record>(m_workshop.Set, m_workshop.User))
         return;
     if (isLast)
-        page.Bar->setValue(set.*page.Is.Current);
-    (this->*page.Show)(set.*page.Is.Current);
-    page.Bar->setMaximum(set.*page.Is.Count);
+        page.Bar->setValue(cards.Current);
+    (this->*page.Show)(cards.Current);
+    page.Bar->setMaximum(cards.Count());
     FillPosition<Record>();
 }
 
 template <class Record>
 void frmQDW::CopyCard()
 {
-    CopyElement(m_workshop.Set, m_workshop.User, PageOf<Record>().Is);
+    CopyElement<Record>(m_workshop.Set, m_workshop.User);
 }
 
 template <class Record>
 void frmQDW::PasteCard()
 {
     const Page<Record> page = PageOf<Record>();
-    CardSet& set = m_workshop.Set;
-    PasteElement(set, page.Is);
-    (this->*page.Show)(set.*page.Is.Current);
+    const CardList<Record>& cards = ListOf<Record>(m_workshop.Set);
+    PasteElement<Record>(m_workshop.Set);
+    (this->*page.Show)(cards.Current);
 }
 
 // The commands of the tabs and their keys.

@@ -99,19 +99,19 @@ void frmQDW::ArtistChanged()
 
 void frmQDW::OneLineClicked()
 {
-    ShowCard(m_workshop.Set.CurrentCard);
+    ShowCard(m_workshop.Set.Cards.Current);
 }
 
 void frmQDW::ResizeClicked()
 {
     if (Current<Card>().Resize)
         CentrePicture(m_workshop);
-    ShowCard(m_workshop.Set.CurrentCard);
+    ShowCard(m_workshop.Set.Cards.Current);
 }
 
 void frmQDW::LargeResizeClicked()
 {
-    ShowLargeCard(m_workshop.Set.CurrentLargeCard);
+    ShowLargeCard(m_workshop.Set.LargeCards.Current);
 }
 
 void frmQDW::NameChanged()
@@ -135,7 +135,7 @@ void frmQDW::BackChanged()
 {
     const QString picture = Current<NewCardBack>().Picture;
     try {
-        ShowNewCardBack(m_workshop.Set.CurrentNewCardBack);
+        ShowNewCardBack(m_workshop.Set.NewCardBacks.Current);
         m_missingBack.clear();
     } catch (const RunTimeError&) {
         if (std::exchange(m_missingBack, picture) != picture)

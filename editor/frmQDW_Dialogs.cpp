@@ -20,18 +20,16 @@ namespace deckforge {
 
 void frmQDW::BindDialogs()
 {
-    On(m_card->cmdSort, &QAbstractButton::clicked, [this] { ChooseFromList<Card>(CardListMode::Cards); });
-    On(m_large->cmdSortLarge, &QAbstractButton::clicked,
-       [this] { ChooseFromList<LargeCard>(CardListMode::LargeCards); });
-    On(m_character->cmdSortCharacter, &QAbstractButton::clicked,
-       [this] { ChooseFromList<Character>(CardListMode::Characters); });
+    On(m_card->cmdSort, &QAbstractButton::clicked, [this] { ChooseFromList<Card>(); });
+    On(m_large->cmdSortLarge, &QAbstractButton::clicked, [this] { ChooseFromList<LargeCard>(); });
+    On(m_character->cmdSortCharacter, &QAbstractButton::clicked, [this] { ChooseFromList<Character>(); });
 }
 
 void frmQDW::ChangePicPath()
 {
     EditPicturePaths(m_workshop, this);
     const Mode& mode = Selected();
-    if (const int16 current = m_workshop.Set.*mode.Current; current > 0)
+    if (const int16 current = CurrentOf(m_workshop.Set, mode.Kind); current > 0)
         (this->*mode.Show)(current);
 }
 
@@ -40,7 +38,7 @@ void frmQDW::SetInfo()
     EditSetInfo(m_workshop, m_lastBackFile, this);
     FillCardBackList();
     FillCardTypeList();
-    ShowCard(m_workshop.Set.CurrentCard);
+    ShowCard(m_workshop.Set.Cards.Current);
 }
 
 void frmQDW::ChangeFonts()
@@ -63,7 +61,7 @@ void frmQDW::PrintCurrent()
                                                       {PrintedPage::Character, &frmQDW::ShowCharacter},
                                                       {PrintedPage::CharacterAlone, &frmQDW::ShowCharacter}}};
     const PrintRow& row = rows.at(static_cast<std::size_t>(tbCard->currentIndex()));
-    (this->*row.Show)(Existing(CurrentOf(row.Page)));
+    (this->*row.Show)(Existing(KindOnPage(row.Page)));
     PrintCard(m_workshop, row.Page);
 }
 
@@ -73,14 +71,14 @@ void frmQDW::About()
 }
 
 template <class Record>
-void frmQDW::ChooseFromList(CardListMode mode)
+void frmQDW::ChooseFromList()
 {
-    const std::optional<int16> chosen = ChooseFromCardList(m_workshop.Set, mode, this);
+    const std::optional<int16> chosen = ChooseFromCardList(m_workshop.Set, KindOf<Record>, this);
     if (!chosen)
         return;
     const Page<Record> page = PageOf<Record>();
-    CardSet& set = m_workshop.Set;
-    set.*page.Is.Current = *chosen;
+    CardList<Record>& cards = ListOf<Record>(m_workshop.Set);
+    cards.Current = *chosen;
     {
         const QSignalBlocker quiet(page.Bar); // which may not reach as far
         page.Bar->setValue(*chosen);
@@ -88,7 +86,7 @@ void frmQDW::ChooseFromList(CardListMode mode)
     FillPosition<Record>();
     // The list of the large cards has the characters, and may have given one past the last large card. That
     // fails here, and is told once; showing it would fail twice.
-    static_cast<void>((set.*page.Is.Records)[*chosen]);
+    static_cast<void>(cards[*chosen]);
     (this->*page.Show)(*chosen);
 }
 

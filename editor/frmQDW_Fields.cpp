@@ -137,25 +137,25 @@ frmQDW::Fields<SetHeader> frmQDW::FieldsOf()
 template <>
 Card& frmQDW::Current()
 {
-    return m_workshop.Set.Cards[m_workshop.Set.CurrentCard];
+    return m_workshop.Set.Cards[m_workshop.Set.Cards.Current];
 }
 
 template <>
 LargeCard& frmQDW::Current()
 {
-    return m_workshop.Set.LargeCards[m_workshop.Set.CurrentLargeCard];
+    return m_workshop.Set.LargeCards[m_workshop.Set.LargeCards.Current];
 }
 
 template <>
 Character& frmQDW::Current()
 {
-    return m_workshop.Set.Characters[m_workshop.Set.CurrentCharacter];
+    return m_workshop.Set.Characters[m_workshop.Set.Characters.Current];
 }
 
 template <>
 NewCardBack& frmQDW::Current()
 {
-    return m_workshop.Set.NewCardBacks[m_workshop.Set.CurrentNewCardBack];
+    return m_workshop.Set.NewCardBacks[m_workshop.Set.NewCardBacks.Current];
 }
 
 template <>

@@ -108,11 +108,11 @@ void frmQDW::DoOpenDKF(const QString& path)
         const QSignalBlocker quiet(tbCard); // the cards of the set before are gone
         tbCard->setCurrentIndex(0);
     }
-    CardSizeSwitch(1);
+    CardSizeSwitch(CardKind::Standard);
     // Ranges alone: the sliders do not go to the first cards, which are shown.
-    SetMaximumQuietly(*m_card->hsbCard, set.CardCount);
-    SetMaximumQuietly(*m_large->hsbCardLarge, set.LargeCardCount);
-    SetMaximumQuietly(*m_character->hsbCharacter, set.CharacterCount);
+    SetMaximumQuietly(*m_card->hsbCard, set.Cards.Count());
+    SetMaximumQuietly(*m_large->hsbCardLarge, set.LargeCards.Count());
+    SetMaximumQuietly(*m_character->hsbCharacter, set.Characters.Count());
     FillCardBackList();
     FillCardTypeList();
     ShowOpenedSet(m_workshop);

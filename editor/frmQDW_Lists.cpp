@@ -79,7 +79,7 @@ void frmQDW::FillCardTypeList()
     const LoadingScope loading(*this);
     const CardSet& set = m_workshop.Set;
     QStringList entries;
-    for (int row = 1; row <= set.CardTypeCount; ++row)
+    for (int row = 1; row <= set.CardTypes.Count(); ++row)
         entries += TypeListEntry(set.CardTypes[row]);
     FillList(*m_card->cboType, entries);
     m_card->cboType->setCurrentIndex(1);
@@ -90,7 +90,7 @@ void frmQDW::FillCardBackList()
     const LoadingScope loading(*this);
     const CardSet& set = m_workshop.Set;
     QStringList entries;
-    for (int row = 1; row <= set.CardBackCount; ++row)
+    for (int row = 1; row <= set.CardBacks.Count(); ++row)
         entries += set.CardBacks[row].Name;
     FillList(*m_card->cboCardBack, entries << UserDefinedBack());
     m_card->cboCardBack->setCurrentIndex(set.LastCardBack - 1);

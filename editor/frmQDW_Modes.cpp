@@ -15,12 +15,6 @@
 
 namespace deckforge {
 
-namespace {
-
-enum ModeNumber { CardMode = 1, LargeMode, CharacterMode, BackMode };
-
-} // namespace
-
 void frmQDW::BindModes()
 {
     On(tbCard, &QTabBar::currentChanged, [this] { ModeClicked(); });
@@ -40,10 +34,15 @@ void frmQDW::BindModes()
     On(m_character->chkShowPlayingPiece, &QCheckBox::clicked, [this] { SwitchPieceView(); });
 }
 
+CardKind frmQDW::SelectedKind() const
+{
+    return static_cast<CardKind>(tbCard->currentIndex());
+}
+
 const frmQDW::Mode& frmQDW::Selected() const
 {
     static const std::array<Mode, 4> modes = {{
-        {.Current = &CardSet::CurrentCard,
+        {.Kind = CardKind::Standard,
          .Show = &frmQDW::ShowCard,
          .Save = &SaveCard,
          .Add = &frmQDW::AddCard<Card>,
@@ -55,7 +54,7 @@ const frmQDW::Mode& frmQDW::Selected() const
          .CreateSheets = &CreateCardSheets,
          .CreateHtml = &frmQDW::CreateCardHtml,
          .FillAgain = &frmQDW::FillCard},
-        {.Current = &CardSet::CurrentLargeCard,
+        {.Kind = CardKind::Large,
          .Show = &frmQDW::ShowLargeCard,
          .Save = &SaveLargeCard,
          .Add = &frmQDW::AddCard<LargeCard>,
@@ -67,7 +66,7 @@ const frmQDW::Mode& frmQDW::Selected() const
          .CreateSheets = &CreateLargeCardSheets,
          .CreateHtml = &frmQDW::CreateLargeCardHtml,
          .FillAgain = &frmQDW::FillLargeCard},
-        {.Current = &CardSet::CurrentCharacter,
+        {.Kind = CardKind::Character,
          .Show = &frmQDW::ShowCharacter,
          .Save = &SaveCharacter,
          .Add = &frmQDW::AddCard<Character>,
@@ -80,7 +79,7 @@ const frmQDW::Mode& frmQDW::Selected() const
          .CreateHtml = &frmQDW::CreateCharacterHtml,
          .FillAgain = &frmQDW::FillCharacter},
         // Card backs are saved one by one; all other commands take this tab for that of the characters.
-        {.Current = &CardSet::CurrentNewCardBack,
+        {.Kind = CardKind::NewBack,
          .Show = &frmQDW::ShowNewCardBack,
          .Save = &SaveNewCardBack,
          .Add = nullptr,
@@ -93,7 +92,7 @@ const frmQDW::Mode& frmQDW::Selected() const
          .CreateHtml = &frmQDW::CreateCharacterHtml,
          .FillAgain = &frmQDW::FillNewCardBack},
     }};
-    return modes.at(static_cast<std::size_t>(tbCard->currentIndex()));
+    return modes.at(static_cast<std::size_t>(SelectedKind()));
 }
 
 void frmQDW::Run(Action action)
@@ -112,39 +111,40 @@ void frmQDW::Paste()
     Run(Selected().Paste);
 }
 
-void frmQDW::CardSizeSwitch(int mode)
+void frmQDW::CardSizeSwitch(CardKind kind)
 {
     CardTemplates& t = m_workshop.Templates;
-    m_forms->setCurrentIndex(mode - 1);
-    t.Standard.picCard.Visible = mode == CardMode;
-    t.Standard.picBack.Visible = mode == CardMode; // also where the set goes without backs, until it is shown
-    t.Large.picCardLarge.Visible = mode == LargeMode;
+    m_forms->setCurrentIndex(static_cast<int>(kind));
+    t.Standard.picCard.Visible = kind == CardKind::Standard;
+    t.Standard.picBack.Visible =
+        kind == CardKind::Standard; // also where the set goes without backs, until it is shown
+    t.Large.picCardLarge.Visible = kind == CardKind::Large;
     t.Large.picBackLarge.Visible = false;
     m_large->chkShowBackLarge->setChecked(false);
-    t.Character.picCharacter.Visible = mode == CharacterMode;
+    t.Character.picCharacter.Visible = kind == CardKind::Character;
     t.Character.picCharacterBack.Visible = false;
     t.PlayingPiece.picPlayingPiece.Visible = false;
     m_character->chkShowCharacterBack->setChecked(false);
     m_character->chkShowPlayingPiece->setChecked(false);
-    t.NewBack.picNewBack.Visible = mode == BackMode;
+    t.NewBack.picNewBack.Visible = kind == CardKind::NewBack;
     m_preview->SettleFocus();
 }
 
 void frmQDW::ModeClicked()
 {
     tbCard->setFocus(); // it would wander off the fields that go
-    switch (tbCard->currentIndex() + 1) {
-    case CardMode:
-        CardSizeSwitch(CardMode);
-        ShowCard(m_workshop.Set.CurrentCard);
+    switch (SelectedKind()) {
+    case CardKind::Standard:
+        CardSizeSwitch(CardKind::Standard);
+        ShowCard(m_workshop.Set.Cards.Current);
         break;
-    case LargeMode:
+    case CardKind::Large:
         ShowLargeMode();
         break;
-    case CharacterMode:
+    case CardKind::Character:
         ShowCharacterMode();
         break;
-    default:
+    case CardKind::NewBack:
         ShowBackMode();
         break;
     }
@@ -155,22 +155,22 @@ void frmQDW::ModeClicked()
 void frmQDW::ShowLargeMode()
 {
     CardSet& set = m_workshop.Set;
-    if (set.LargeCardCount == 0)
-        MakeFirstElement(set, LargeKind);
-    CardSizeSwitch(LargeMode);
-    ShowLargeCard(set.CurrentLargeCard);
-    m_large->hsbCardLarge->setRange(1, set.LargeCardCount); // at every look
+    if (set.LargeCards.Count() == 0)
+        MakeFirstElement<LargeCard>(set);
+    CardSizeSwitch(CardKind::Large);
+    ShowLargeCard(set.LargeCards.Current);
+    m_large->hsbCardLarge->setRange(1, set.LargeCards.Count()); // at every look
 }
 
 void frmQDW::ShowCharacterMode()
 {
     CardSet& set = m_workshop.Set;
-    if (set.CharacterCount == 0) {
-        MakeFirstElement(set, CharacterKind);
-        m_character->hsbCharacter->setRange(1, set.CharacterCount);
+    if (set.Characters.Count() == 0) {
+        MakeFirstElement<Character>(set);
+        m_character->hsbCharacter->setRange(1, set.Characters.Count());
     }
-    CardSizeSwitch(CharacterMode);
-    ShowCharacter(set.CurrentCharacter);
+    CardSizeSwitch(CardKind::Character);
+    ShowCharacter(set.Characters.Current);
 }
 
 /// The range of the slider stays as it was where there are backs, those of a set that was opened among them.
@@ -178,19 +178,19 @@ void frmQDW::ShowCharacterMode()
 void frmQDW::ShowBackMode()
 {
     CardSet& set = m_workshop.Set;
-    if (set.NewCardBackCount == 0) {
-        MakeFirstElement(set, NewBackKind);
-        m_back->hsbNewCardBack->setRange(1, set.NewCardBackCount);
-    } else if (set.CurrentNewCardBack == 0 || set.CurrentNewCardBack > set.NewCardBackCount) {
-        set.CurrentNewCardBack = 1;
+    if (set.NewCardBacks.Count() == 0) {
+        MakeFirstElement<NewCardBack>(set);
+        m_back->hsbNewCardBack->setRange(1, set.NewCardBacks.Count());
+    } else if (set.NewCardBacks.Current == 0 || set.NewCardBacks.Current > set.NewCardBacks.Count()) {
+        set.NewCardBacks.Current = 1;
     }
-    CardSizeSwitch(BackMode);
-    ShowNewCardBack(set.CurrentNewCardBack);
+    CardSizeSwitch(CardKind::NewBack);
+    ShowNewCardBack(set.NewCardBacks.Current);
 }
 
 void frmQDW::SwitchLargeView()
 {
-    if (tbCard->currentIndex() + 1 != LargeMode)
+    if (SelectedKind() != CardKind::Large)
         return;
     LargeCardTemplate& t = m_workshop.Templates.Large;
     t.picBackLarge.Visible = m_large->chkShowBackLarge->isChecked();
@@ -200,7 +200,7 @@ void frmQDW::SwitchLargeView()
 
 void frmQDW::SwitchCharacterView()
 {
-    if (tbCard->currentIndex() + 1 != CharacterMode)
+    if (SelectedKind() != CardKind::Character)
         return;
     SwitchPieceView(); // the back stays away while the piece is shown
 }

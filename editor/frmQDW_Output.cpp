@@ -15,15 +15,15 @@ void frmQDW::ExportBacks()
 void frmQDW::CreateOne()
 {
     const Mode& mode = Selected();
-    const int16 current = Existing(mode.Current);
+    const int16 current = Existing(mode.Kind);
     (this->*mode.Show)(current);
     mode.Save(m_workshop, current, Ask::Yes, Tell::Yes, {});
 }
 
 /// A new set has only standard cards until the other tabs are looked at; until then error 9.
-int16 frmQDW::Existing(int16 CardSet::*current) const
+int16 frmQDW::Existing(CardKind kind) const
 {
-    const int16 index = m_workshop.Set.*current;
+    const int16 index = CurrentOf(m_workshop.Set, kind);
     if (index < 1)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     return index;
@@ -46,7 +46,7 @@ void frmQDW::CreateSheets()
 /// The run has laid the current card out again; other cards were on the preview before.
 void frmQDW::ShowAfterRun()
 {
-    if (m_workshop.Set.*Selected().Current > 0)
+    if (CurrentOf(m_workshop.Set, Selected().Kind) > 0)
         Run(Selected().FillAgain);
 }
 

@@ -70,7 +70,6 @@ struct frmQDW::Fields {
 /// The controls that step through the cards of a kind, add and delete them.
 template <class Record>
 struct frmQDW::Page {
-    const Kind<Record>& Is;
     QScrollBar* Bar;
     QLabel* Position;
     QLabel* Dragged;                                  ///< tells of the card under the slider; null for none
@@ -84,7 +83,7 @@ struct frmQDW::Page {
 
 /// What the commands do while a tab is selected.
 struct frmQDW::Mode {
-    int16 CardSet::*Current;
+    CardKind Kind;
     void (frmQDW::*Show)(int16);
     void (*Save)(Workshop&, int16, Ask, Tell, SheetNumber);
     Action Add; ///< null for none, as for the next two

@@ -59,7 +59,7 @@ void ConvertType(const CardSet& set, TypeFinder& types, Card& card)
 
 /// A table with built-in rows. With no rows of its own in the file, the rows of the set before stay in it.
 template <class Record>
-void ReadOwnRows(FieldReader& in, OneBasedArray<Record>& table, int16& count, int16 builtIn,
+void ReadOwnRows(FieldReader& in, OneBasedArray<Record>& table, int16 builtIn,
                  void (*read)(FieldReader&, Record&))
 {
     int16 own = in.Count();
@@ -67,36 +67,32 @@ void ReadOwnRows(FieldReader& in, OneBasedArray<Record>& table, int16& count, in
         own = CheckedAdd(own, static_cast<int16>(-builtIn)); // old files count the built-in rows too
     if (own <= 0)
         return;
-    count = CheckedAdd(builtIn, own);
-    table.Resize(count);
-    for (int row = builtIn + 1; row <= count; ++row)
+    table.Resize(CheckedAdd(builtIn, own));
+    for (int row = builtIn + 1; row <= table.Count(); ++row)
         read(in, table[row]);
 }
 
 /// A kind of card that files have since the version given; older files have none of it.
 template <class Record>
-void ReadSection(FieldReader& in, setFile::Since since, OneBasedArray<Record>& records, int16& count,
+void ReadSection(FieldReader& in, setFile::Since since, OneBasedArray<Record>& records,
                  void (*read)(FieldReader&, Record&))
 {
     if (!in.Has(since)) {
-        count = 0;
-        records.Recreate(0);
+        records.Clear();
         return;
     }
-    count = in.Count();
-    records.Resize(count);
-    for (int i = 1; i <= count; ++i)
+    records.Resize(in.Count());
+    for (int i = 1; i <= records.Count(); ++i)
         read(in, records[i]);
 }
 
 void ReadCards(FieldReader& in, CardSet& set)
 {
-    set.CardCount = in.Count();
-    set.Cards.Resize(set.CardCount);
+    set.Cards.Resize(in.Count());
     std::optional<TypeFinder> types;
     if (!in.Has(setFile::Since{6}))
         types.emplace(set);
-    for (int i = 1; i <= set.CardCount; ++i) {
+    for (int i = 1; i <= set.Cards.Count(); ++i) {
         setFile::CardFields(in, set.Cards[i]);
         if (types)
             ConvertType(set, *types, set.Cards[i]);
@@ -107,12 +103,12 @@ void ReadSet(FieldReader& in, CardSet& set)
 {
     using namespace setFile;
     HeaderFields(in, set.Header);
-    ReadOwnRows(in, set.CardTypes, set.CardTypeCount, BuiltInTypeCount, CardTypeFields);
-    ReadOwnRows(in, set.CardBacks, set.CardBackCount, BuiltInBackCount, CardBackFields);
-    ReadSection(in, Since{10}, set.NewCardBacks, set.NewCardBackCount, NewCardBackFields);
+    ReadOwnRows(in, set.CardTypes, BuiltInTypeCount, CardTypeFields);
+    ReadOwnRows(in, set.CardBacks, BuiltInBackCount, CardBackFields);
+    ReadSection(in, Since{10}, set.NewCardBacks, NewCardBackFields);
     ReadCards(in, set);
-    ReadSection(in, Since{4}, set.LargeCards, set.LargeCardCount, LargeCardFields);
-    ReadSection(in, Since{6}, set.Characters, set.CharacterCount, CharacterFields);
+    ReadSection(in, Since{4}, set.LargeCards, LargeCardFields);
+    ReadSection(in, Since{6}, set.Characters, CharacterFields);
     ClosingFields(in, set);
 }
 
@@ -181,7 +177,7 @@ bool ReadDKF(CardSet& set, const QString& path, UserPort& user)
     if (!isRead)
         return false;
     Tell(user, BoxStyle::Information, "Open file", "The card set is loaded.");
-    set.CurrentCard = 1;
+    set.Cards.Current = 1;
     return true;
 }
 

@@ -62,10 +62,9 @@ void ListCharacter(Listing& out, int index, const Character& character)
 }
 
 template <class Record>
-void ListAll(Listing& out, const OneBasedArray<Record>& records, int16 count,
-             void (*list)(Listing&, int, const Record&))
+void ListAll(Listing& out, const OneBasedArray<Record>& records, void (*list)(Listing&, int, const Record&))
 {
-    for (int i = 1; i <= count; ++i)
+    for (int i = 1; i <= records.Count(); ++i)
         list(out, i, records[i]);
 }
 
@@ -77,19 +76,19 @@ void WriteListing(const CardSet& set, const QString& path)
     out.Separator();
     out.Line("Set: ", set.Header.SetName);
     out.Separator();
-    if (set.CardCount > 0) {
-        out.Count(set.CardCount, " Cards");
-        ListAll(out, set.Cards, set.CardCount, ListCard);
+    if (set.Cards.Count() > 0) {
+        out.Count(set.Cards.Count(), " Cards");
+        ListAll(out, set.Cards, ListCard);
     }
-    if (set.LargeCardCount > 0) {
+    if (set.LargeCards.Count() > 0) {
         out.Separator();
-        out.Count(set.LargeCardCount, " Large Cards");
-        ListAll(out, set.LargeCards, set.LargeCardCount, ListLargeCard);
+        out.Count(set.LargeCards.Count(), " Large Cards");
+        ListAll(out, set.LargeCards, ListLargeCard);
     }
-    if (set.CharacterCount > 0) {
+    if (set.Characters.Count() > 0) {
         out.Separator();
-        out.Count(set.CharacterCount, " Characters");
-        ListAll(out, set.Characters, set.CharacterCount, ListCharacter);
+        out.Count(set.Characters.Count(), " Characters");
+        ListAll(out, set.Characters, ListCharacter);
     }
     out.Close();
 }

@@ -20,7 +20,7 @@ qsizetype CommonStart(QStringView a, QStringView b)
 TypeFinder::TypeFinder(const CardSet& set)
 {
     std::vector<QStringView> texts;
-    for (int row = 1; row <= set.CardTypeCount; ++row) {
+    for (int row = 1; row <= set.CardTypes.Count(); ++row) {
         texts.push_back(set.CardTypes[row].Name);
         texts.push_back(set.CardTypes[row].SubName);
     }
@@ -29,7 +29,7 @@ TypeFinder::TypeFinder(const CardSet& set)
     for (const QStringView text : texts)
         m_texts.push_back({.Text = text, .LongestStart = None, .MetBy = 0});
     LinkStarts();
-    for (int row = 1; row <= set.CardTypeCount; ++row) {
+    for (int row = 1; row <= set.CardTypes.Count(); ++row) {
         const CardType& type = set.CardTypes[row];
         m_rows.push_back({PlaceOf(type.Name), PlaceOf(type.SubName)});
     }

@@ -40,12 +40,12 @@ private:
 
 /// A count line and a group of lines for each element behind the built-in ones.
 template <class Record>
-void WriteSection(SetWriter& out, const OneBasedArray<Record>& records, int16 count, int16 builtIn,
+void WriteSection(SetWriter& out, const OneBasedArray<Record>& records, int16 builtIn,
                   void (*write)(FieldWriter&, const Record&))
 {
-    out.Integer(count - builtIn);
+    out.Integer(records.Count() - builtIn);
     FieldWriter fields(out);
-    for (int i = builtIn + 1; i <= count; ++i)
+    for (int i = builtIn + 1; i <= records.Count(); ++i)
         write(fields, records[i]);
 }
 
@@ -56,12 +56,12 @@ void WriteSet(SetWriter& out, const CardSet& set)
     out.Text(QStringLiteral("Version %1").arg(setFile::CurrentVersion));
     out.Literal(setFile::Start);
     setFile::HeaderFields(fields, set.Header);
-    WriteSection(out, set.CardTypes, set.CardTypeCount, BuiltInTypeCount, setFile::CardTypeFields);
-    WriteSection(out, set.CardBacks, set.CardBackCount, BuiltInBackCount, setFile::CardBackFields);
-    WriteSection(out, set.NewCardBacks, set.NewCardBackCount, 0, setFile::NewCardBackFields);
-    WriteSection(out, set.Cards, set.CardCount, 0, setFile::CardFields);
-    WriteSection(out, set.LargeCards, set.LargeCardCount, 0, setFile::LargeCardFields);
-    WriteSection(out, set.Characters, set.CharacterCount, 0, setFile::CharacterFields);
+    WriteSection(out, set.CardTypes, BuiltInTypeCount, setFile::CardTypeFields);
+    WriteSection(out, set.CardBacks, BuiltInBackCount, setFile::CardBackFields);
+    WriteSection(out, set.NewCardBacks, 0, setFile::NewCardBackFields);
+    WriteSection(out, set.Cards, 0, setFile::CardFields);
+    WriteSection(out, set.LargeCards, 0, setFile::LargeCardFields);
+    WriteSection(out, set.Characters, 0, setFile::CharacterFields);
     setFile::ClosingFields(fields, set);
     out.Literal(setFile::End);
 }

@@ -20,29 +20,29 @@ namespace {
 void ForgetPictures(CardSet& set)
 {
     set.Header.Symbol.clear();
-    for (int i = 1; i <= set.CardCount; ++i)
+    for (int i = 1; i <= set.Cards.Count(); ++i)
         set.Cards[i].Picture = set.Cards[i].Background = QString();
-    for (int i = 1; i <= set.LargeCardCount; ++i)
+    for (int i = 1; i <= set.LargeCards.Count(); ++i)
         set.LargeCards[i].Picture = set.LargeCards[i].Background = set.LargeCards[i].CardBack = QString();
-    for (int i = 1; i <= set.CharacterCount; ++i) {
+    for (int i = 1; i <= set.Characters.Count(); ++i) {
         Character& character = set.Characters[i];
         character.Picture = character.Background = character.CardBackPicture = character.PlayingPiece =
             QString();
     }
-    for (int i = 1; i <= set.NewCardBackCount; ++i)
+    for (int i = 1; i <= set.NewCardBacks.Count(); ++i)
         set.NewCardBacks[i].Picture.clear();
-    for (int row = BuiltInBackCount + 1; row <= set.CardBackCount; ++row)
+    for (int row = BuiltInBackCount + 1; row <= set.CardBacks.Count(); ++row)
         set.CardBacks[row].Picture.clear();
 }
 
 void ShowAll(Workshop& workshop)
 {
     ShowOpenedSet(workshop); // composes as well, as the others do
-    if (workshop.Set.LargeCardCount > 0)
+    if (workshop.Set.LargeCards.Count() > 0)
         ShowLargeCard(workshop, 1);
-    if (workshop.Set.CharacterCount > 0)
+    if (workshop.Set.Characters.Count() > 0)
         ShowCharacter(workshop, 1);
-    if (workshop.Set.NewCardBackCount > 0) {
+    if (workshop.Set.NewCardBacks.Count() > 0) {
         ShowNewCardBack(workshop, 1);
         DrawNewCardBack(workshop, 1);
     }
@@ -65,7 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     if (!ReadDKF(again, file.Path(), user) || SetFileBytes(again, Unwritable::Fail) != written)
         std::abort();
     ForgetPictures(workshop.Set);
-    if (workshop.Set.CardCount > 0)
+    if (workshop.Set.Cards.Count() > 0)
         ShowAll(workshop);
     return 0;
 }

@@ -11,14 +11,13 @@ namespace deckforge {
 /// How a run walks over the cards of a kind.
 template <class Record>
 struct CardWalk {
-    const Kind<Record>& Cards;
     bool (*Show)(Workshop&, int16);
     void (*Save)(Workshop&, int16, Ask, Tell, SheetNumber);
 };
 
-inline constexpr CardWalk<Card> StandardWalk = {StandardKind, ShowCard, SaveCard};
-inline constexpr CardWalk<LargeCard> LargeWalk = {LargeKind, ShowLargeCard, SaveLargeCard};
-inline constexpr CardWalk<Character> CharacterWalk = {CharacterKind, ShowCharacter, SaveCharacter};
+inline constexpr CardWalk<Card> StandardWalk = {ShowCard, SaveCard};
+inline constexpr CardWalk<LargeCard> LargeWalk = {ShowLargeCard, SaveLargeCard};
+inline constexpr CardWalk<Character> CharacterWalk = {ShowCharacter, SaveCharacter};
 
 /// Makes each card of the kind the current one, shows it, and carries out the step on it; the one that was
 /// current before is shown at the end. The hourglass stands for the time of the run.
@@ -26,16 +25,16 @@ template <class Record, class Step>
 void ForEachShown(Workshop& workshop, const CardWalk<Record>& walk, Step&& step)
 {
     const HourglassScope hourglass(workshop.User);
-    CardSet& set = workshop.Set;
-    const int16 remembered = set.*walk.Cards.Current;
-    const int count = set.*walk.Cards.Count;
+    CardList<Record>& cards = ListOf<Record>(workshop.Set);
+    const int16 remembered = cards.Current;
+    const int count = cards.Count();
     for (int i = 1; i <= count; ++i) {
-        set.*walk.Cards.Current = static_cast<int16>(i);
-        walk.Show(workshop, set.*walk.Cards.Current);
-        step(set.*walk.Cards.Current);
+        cards.Current = static_cast<int16>(i);
+        walk.Show(workshop, cards.Current);
+        step(cards.Current);
         workshop.User.ShowProgress(i, count);
     }
-    set.*walk.Cards.Current = remembered;
+    cards.Current = remembered;
     walk.Show(workshop, remembered);
 }
 

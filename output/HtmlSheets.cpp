@@ -120,8 +120,6 @@ void WriteThree(LineWriter& out, const Page& page)
 /// What the pages of the kinds differ in.
 template <class Record>
 struct HtmlRow {
-    const Kind<Record>& Cards;
-    QString Record::*Filename;
     int (*Copies)(const Record&);
     int Slots;
     void (*WriteBody)(LineWriter&, const Page&);
@@ -170,8 +168,6 @@ constexpr int OneCopy(const Character& /*character*/)
 }
 
 constexpr HtmlRow<Card> CardPages = {
-    StandardKind,
-    &Card::Filename,
     [](const Card& card) { return int{card.Copies}; },
     6,
     WriteSix,
@@ -181,9 +177,7 @@ constexpr HtmlRow<Card> CardPages = {
     "Some cards are missing their filenames. Please save all cards before creating the HTML sheets.",
     "1 HTML sheet is created.",
     " HTML sheets are created."};
-constexpr HtmlRow<LargeCard> LargePages = {LargeKind,
-                                           &LargeCard::Filename,
-                                           [](const LargeCard& card) { return int{card.Copies}; },
+constexpr HtmlRow<LargeCard> LargePages = {[](const LargeCard& card) { return int{card.Copies}; },
                                            3,
                                            WriteThree,
                                            "Large ",
@@ -196,9 +190,7 @@ constexpr HtmlRow<LargeCard> LargePages = {LargeKind,
 constexpr char MissingCharacters[] =
     "Some character cards are missing their filenames. Please save all character "
     "cards before creating the HTML sheets.";
-constexpr HtmlRow<Character> CharacterPages = {CharacterKind,
-                                               &Character::Filename,
-                                               OneCopy,
+constexpr HtmlRow<Character> CharacterPages = {OneCopy,
                                                3,
                                                WriteThree,
                                                "Character ",
@@ -207,9 +199,7 @@ constexpr HtmlRow<Character> CharacterPages = {CharacterKind,
                                                MissingCharacters,
                                                "1 character HTML sheet is created.",
                                                " character HTML sheets are created."};
-constexpr HtmlRow<Character> PiecePages = {CharacterKind,
-                                           &Character::Filename,
-                                           OneCopy,
+constexpr HtmlRow<Character> PiecePages = {OneCopy,
                                            6,
                                            WriteSix,
                                            "",
@@ -239,9 +229,10 @@ template <class Record>
 std::optional<qint64> ImageCount(const CardSet& set, const HtmlRow<Record>& row)
 {
     qint64 sum = 0;
-    for (int i = 1; i <= set.*row.Cards.Count; ++i) {
-        const Record& record = (set.*row.Cards.Records)[i];
-        if ((record.*row.Filename).isEmpty())
+    const CardList<Record>& cards = ListOf<Record>(set);
+    for (int i = 1; i <= cards.Count(); ++i) {
+        const Record& record = cards[i];
+        if (record.Filename.isEmpty())
             return std::nullopt;
         sum += row.Copies(record);
     }
@@ -256,7 +247,8 @@ struct WrittenPages {
 template <class Record>
 WrittenPages WritePages(const CardSet& set, const HtmlRow<Record>& row, qint64 imageCount)
 {
-    const int count = set.*row.Cards.Count;
+    const CardList<Record>& cards = ListOf<Record>(set);
+    const int count = cards.Count();
     const qint64 pageCount = imageCount / row.Slots + 1;
     Page page{.Header = set.Header,
               .NamePrefix = row.PagePrefix,
@@ -268,7 +260,7 @@ WrittenPages WritePages(const CardSet& set, const HtmlRow<Record>& row, qint64 i
     WrittenPages written;
     int slot = 0;
     for (int i = 1; i <= count; ++i) {
-        const Record& record = (set.*row.Cards.Records)[i];
+        const Record& record = cards[i];
         const int copies = row.Copies(record);
         for (int k = 1; k <= copies; ++k) {
             ++slot;
@@ -277,7 +269,7 @@ WrittenPages WritePages(const CardSet& set, const HtmlRow<Record>& row, qint64 i
                 page.Images = {};
             }
             page.Images[static_cast<std::size_t>(slot) - 1] =
-                row.Image(set.Header, record.*row.Filename, i, count);
+                row.Image(set.Header, record.Filename, i, count);
             if (slot == row.Slots || (i == count && k == copies)) {
                 written.AreAllThere = WritePage(page, row.WriteBody) && written.AreAllThere;
                 slot = 0;

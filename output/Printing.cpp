@@ -66,7 +66,7 @@ private:
 
 /// What the pages differ in.
 struct PageRow {
-    int16 CardSet::*Current;
+    CardKind Kind;
     bool (*Show)(Workshop&, int16);
     QString (*Name)(const CardSet&, int16);
     Picture (*Front)(Workshop&);
@@ -79,12 +79,12 @@ const PageRow& RowOf(PrintedPage page)
         return set.Characters[index].Name;
     };
     static constexpr PageRow rows[] = {
-        {&CardSet::CurrentCard, ShowCard,
-         [](const CardSet& set, int16 index) { return set.Cards[index].Title; }, FinalCard, false},
-        {&CardSet::CurrentLargeCard, ShowLargeCard,
+        {CardKind::Standard, ShowCard, [](const CardSet& set, int16 index) { return set.Cards[index].Title; },
+         FinalCard, false},
+        {CardKind::Large, ShowLargeCard,
          [](const CardSet& set, int16 index) { return set.LargeCards[index].Title; }, FinalLargeCard, false},
-        {&CardSet::CurrentCharacter, ShowCharacter, characterName, FinalCharacter, true},
-        {&CardSet::CurrentCharacter, ShowCharacter, characterName, FinalCharacter, false}};
+        {CardKind::Character, ShowCharacter, characterName, FinalCharacter, true},
+        {CardKind::Character, ShowCharacter, characterName, FinalCharacter, false}};
     return rows[static_cast<std::size_t>(page)];
 }
 
@@ -110,7 +110,7 @@ bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
     TakeSymbolPlaces(fine.Templates, workshop.Templates);
     // Twice: some fonts and outlines are those that the composition before left. In a window, too, a card
     // was shown before it is printed.
-    const int16 index = fine.Set.*CurrentOf(page);
+    const int16 index = CurrentOf(fine.Set, KindOnPage(page));
     const bool isShown = ShowForPage(fine, page, index);
     return isShown && ShowForPage(fine, page, index);
 }
@@ -124,20 +124,21 @@ void LayFinePage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
 
 } // namespace
 
-int16 CardSet::*CurrentOf(PrintedPage page)
+CardKind KindOnPage(PrintedPage page)
 {
-    return RowOf(page).Current;
+    return RowOf(page).Kind;
 }
 
 bool ShowForPage(Workshop& workshop, PrintedPage page, int16 index)
 {
-    workshop.Set.*CurrentOf(page) = index;
+    CurrentOf(workshop.Set, KindOnPage(page)) = index;
     return RowOf(page).Show(workshop, index);
 }
 
 QString PageTitle(const CardSet& set, PrintedPage page)
 {
-    return set.Header.SetName + QStringLiteral(" - ") + RowOf(page).Name(set, set.*CurrentOf(page));
+    return set.Header.SetName + QStringLiteral(" - ") +
+           RowOf(page).Name(set, CurrentOf(set, KindOnPage(page)));
 }
 
 void PrintCard(Workshop& workshop, PrintedPage page)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "compose/Workshop.h"
+#include "core/CardKind.h"
 
 class QPaintDevice;
 
@@ -10,8 +11,8 @@ namespace deckforge {
 /// piece, or not.
 enum class PrintedPage { Card, LargeCard, Character, CharacterAlone };
 
-/// Where the set keeps which card the page is of.
-[[nodiscard]] int16 CardSet::*CurrentOf(PrintedPage page);
+/// The kind of card that the page is of.
+[[nodiscard]] CardKind KindOnPage(PrintedPage page);
 
 /// Makes the card of the index the current one, and shows it. Gives whether it could be composed; why not is
 /// told in a box.

@@ -24,12 +24,12 @@ QString TypeName(const QString& type, const QString& subType)
 std::vector<Row> CountTypes(const CardSet& set)
 {
     std::vector<Row> rows;
-    for (int i = 1; i <= set.CardTypeCount; ++i)
+    for (int i = 1; i <= set.CardTypes.Count(); ++i)
         rows.push_back({TypeName(set.CardTypes[i].Name, set.CardTypes[i].SubName)});
     QHash<QString, std::size_t> rowOf; // the first row of each name
     for (std::size_t row = rows.size(); row-- > 0;)
         rowOf[rows[row].Name] = row;
-    for (int i = 1; i <= set.CardCount; ++i) {
+    for (int i = 1; i <= set.Cards.Count(); ++i) {
         const QString name = TypeName(set.Cards[i].Type, set.Cards[i].SubType);
         const auto found = rowOf.constFind(name);
         const std::size_t row = found == rowOf.constEnd() ? rows.size() : *found;
@@ -45,10 +45,10 @@ std::vector<Row> CountTypes(const CardSet& set)
 std::vector<Row> CountBacks(const CardSet& set)
 {
     OneBasedArray<Row> rows;
-    rows.Recreate(set.CardBackCount);
-    for (int i = 1; i <= set.CardBackCount; ++i)
+    rows.Resize(set.CardBacks.Count());
+    for (int i = 1; i <= set.CardBacks.Count(); ++i)
         rows[i].Name = set.CardBacks[i].Name;
-    for (int i = 1; i <= set.CardCount; ++i) {
+    for (int i = 1; i <= set.Cards.Count(); ++i) {
         const int16 back = set.Cards[i].CardBack;
         if (back < 1)
             throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
@@ -56,7 +56,7 @@ std::vector<Row> CountBacks(const CardSet& set)
         row.Count = CheckedAdd(row.Count, 1);
     }
     std::vector<Row> counted;
-    for (int i = 1; i <= set.CardBackCount; ++i)
+    for (int i = 1; i <= set.CardBacks.Count(); ++i)
         counted.push_back(rows[i]);
     return counted;
 }
@@ -92,13 +92,14 @@ QString UsedRows(std::vector<Row> rows, int16 cardCount)
 
 QString StatisticsText(const CardSet& set)
 {
-    return QStringLiteral("Number of cards used/type:") + UsedRows(CountTypes(set), set.CardCount) +
-           QStringLiteral("\r\n\r\nNumber of cards used/set:") + UsedRows(CountBacks(set), set.CardCount) +
+    return QStringLiteral("Number of cards used/type:") + UsedRows(CountTypes(set), set.Cards.Count()) +
+           QStringLiteral("\r\n\r\nNumber of cards used/set:") +
+           UsedRows(CountBacks(set), set.Cards.Count()) +
            QStringLiteral(
                "\r\n\r\n%1 cards in set.\r\n\r\n%2 large cards in set.\r\n\r\n%3 character cards in set.")
-               .arg(set.CardCount)
-               .arg(set.LargeCardCount)
-               .arg(set.CharacterCount);
+               .arg(set.Cards.Count())
+               .arg(set.LargeCards.Count())
+               .arg(set.Characters.Count());
 }
 
 void Statistics(const CardSet& set, UserPort& user)

@@ -166,7 +166,7 @@ void DropSheets(Workshop& workshop)
 template <class Record>
 int16 PlaceAll(Workshop& workshop, const SheetRow<Record>& row, SheetGrid grid)
 {
-    CardSet& set = workshop.Set;
+    const CardList<Record>& cards = ListOf<Record>(workshop.Set);
     SheetState& sheet = workshop.Sheet;
     sheet.SheetCols = grid.Cols;
     sheet.SheetRows = grid.Rows;
@@ -177,10 +177,10 @@ int16 PlaceAll(Workshop& workshop, const SheetRow<Record>& row, SheetGrid grid)
         PrepareLargeSheet(workshop, *row.LargeSheetCard(workshop.Templates));
     int16 number = 1;
     ForEachShown(workshop, row.Walk, [&](int16 index) {
-        const int copies = row.Copies((set.*row.Walk.Cards.Records)[index]);
+        const int copies = row.Copies(cards[index]);
         for (int k = 1; k <= copies; ++k) {
             number = NextCell(sheet, number);
-            if (index == set.*row.Walk.Cards.Count && k == copies)
+            if (index == cards.Count() && k == copies)
                 sheet.SheetLast = true;
             row.Walk.Save(workshop, index, Ask::No, Tell::No, number);
         }

@@ -16,11 +16,9 @@ namespace {
 /// What the images of the kinds differ in.
 template <class Record>
 struct ImageRow {
-    const Kind<Record>& Cards;
-    QString Record::*Filename;
     const char* NamePrefix;
-    const char* SheetPart;      ///< of a sheet's name
-    int16 CardSet::*SheetCount; ///< by which sheets are numbered
+    const char* SheetPart; ///< of a sheet's name
+    CardKind SheetKind;    ///< whose count sheets are numbered by
     void (*Write)(Workshop&, int16, const FilePath&);
     void (*PlaceOnSheet)(Workshop&, int16, const FilePath&);
     const char* DialogTitle;
@@ -43,7 +41,7 @@ void WriteCharacterImages(Workshop& workshop, int16 index, const FilePath& path)
     WriteCharacter(workshop, path);
     const CardSet& set = workshop.Set;
     const QString piece = ImageName(set.Header, QStringLiteral("Character Piece "),
-                                    set.Characters[index].Filename, index, set.CharacterCount);
+                                    set.Characters[index].Filename, index, set.Characters.Count());
     WritePlayingPiece(workshop, {path.Folder, piece});
 }
 
@@ -78,34 +76,25 @@ void PlaceNewBack(Workshop& workshop, int16 index, const FilePath& path)
     SaveCardSheet(workshop, path);
 }
 
-constexpr ImageRow<Card> StandardImage = {
-    StandardKind,       &Card::Filename,   "",          " Sheet ",   &CardSet::CardCount,
-    WriteStandardImage, PlaceStandardCard, "Save Card", "Save card", "The card is saved to the filename:"};
-constexpr ImageRow<LargeCard> LargeImage = {LargeKind,
-                                            &LargeCard::Filename,
-                                            "Large ",
-                                            " Sheet Large ",
-                                            &CardSet::LargeCardCount,
-                                            WriteLargeImage,
-                                            PlaceLargeCard,
-                                            "Save Large Card",
-                                            "Save large card",
-                                            "The large card is saved to the filename:"};
-constexpr ImageRow<Character> CharacterImage = {CharacterKind,
-                                                &Character::Filename,
-                                                "Character ",
-                                                " Sheet Large ",
-                                                &CardSet::CharacterCount,
-                                                WriteCharacterImages,
-                                                PlaceNoCharacter,
-                                                "Save Character Card",
-                                                "Save character card",
-                                                "The character card is saved to the filename:"};
-constexpr ImageRow<NewCardBack> NewBackImage = {NewBackKind,
-                                                &NewCardBack::Filename,
-                                                "",
+constexpr ImageRow<Card> StandardImage = {"",
+                                          " Sheet ",
+                                          CardKind::Standard,
+                                          WriteStandardImage,
+                                          PlaceStandardCard,
+                                          "Save Card",
+                                          "Save card",
+                                          "The card is saved to the filename:"};
+constexpr ImageRow<LargeCard> LargeImage = {
+    "Large ",       " Sheet Large ",   CardKind::Large,   WriteLargeImage,
+    PlaceLargeCard, "Save Large Card", "Save large card", "The large card is saved to the filename:"};
+constexpr ImageRow<Character> CharacterImage = {
+    "Character ",          " Sheet Large ",
+    CardKind::Character,   WriteCharacterImages,
+    PlaceNoCharacter,      "Save Character Card",
+    "Save character card", "The character card is saved to the filename:"};
+constexpr ImageRow<NewCardBack> NewBackImage = {"",
                                                 " Sheet ",
-                                                &CardSet::CardCount,
+                                                CardKind::Standard,
                                                 WriteNewBackImage,
                                                 PlaceNewBack,
                                                 "Save New Card Back",
@@ -152,19 +141,20 @@ void SaveElement(Workshop& workshop, const ImageRow<Record>& row, int16 index, A
                  SheetNumber sheet)
 {
     CardSet& set = workshop.Set;
-    Record& record = (set.*row.Cards.Records)[index];
+    CardList<Record>& cards = ListOf<Record>(set);
+    Record& record = cards[index];
     // A failure leaves the card its name.
-    auto restoreName = qScopeGuard([&, before = record.*row.Filename] { record.*row.Filename = before; });
+    auto restoreName = qScopeGuard([&, before = record.Filename] { record.Filename = before; });
     const auto folder =
-        ChooseFolder(workshop, row.DialogTitle, record.*row.Cards.Name, record.*row.Filename, ask, tell);
+        ChooseFolder(workshop, row.DialogTitle, record.*NameField<Record>, record.Filename, ask, tell);
     if (!folder)
         return;
     const FilePath path = {*folder, ImageName(set.Header, QString::fromLatin1(row.NamePrefix),
-                                              record.*row.Filename, index, set.*row.Cards.Count)};
+                                              record.Filename, index, cards.Count())};
     if (sheet) {
         const int cardsPerSheet = workshop.Sheet.SheetRows * workshop.Sheet.SheetCols;
         const QString name = SheetName(set.Header, QString::fromLatin1(row.SheetPart), *sheet,
-                                       set.*row.SheetCount, cardsPerSheet);
+                                       CountOf(set, row.SheetKind), cardsPerSheet);
         row.PlaceOnSheet(workshop, index, {*folder, name});
     } else {
         row.Write(workshop, index, path);
@@ -214,21 +204,21 @@ void SaveNewCardBack(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetN
 void CreateCards(Workshop& workshop)
 {
     CreateImages(workshop, StandardWalk);
-    TellCreated(workshop.User, "Create cards", workshop.Set.CardCount, " card is created.",
+    TellCreated(workshop.User, "Create cards", workshop.Set.Cards.Count(), " card is created.",
                 " cards are created.");
 }
 
 void CreateLargeCards(Workshop& workshop)
 {
     CreateImages(workshop, LargeWalk);
-    TellCreated(workshop.User, "Create large cards", workshop.Set.LargeCardCount, " large card is created.",
-                " large cards are created.");
+    TellCreated(workshop.User, "Create large cards", workshop.Set.LargeCards.Count(),
+                " large card is created.", " large cards are created.");
 }
 
 void CreateCharacters(Workshop& workshop)
 {
     CreateImages(workshop, CharacterWalk);
-    TellCreated(workshop.User, "Create large cards", workshop.Set.CharacterCount,
+    TellCreated(workshop.User, "Create large cards", workshop.Set.Characters.Count(),
                 " character card is created.", " characters cards are created.");
 }
 

@@ -136,7 +136,7 @@ TEST_F(OtherKindsTest, ThePiecePrintsItsNameInWhatTheSurfaceHadAndDressesTheCard
     ExpectPixels(PieceSurface(), {{8, 8, LightGrey}, {141, 246, LightGrey}});
     EXPECT_TRUE(InkIn(PieceSurface(), {10, 30, 130, 200}, White).isNull()) << "no picture, no field";
 
-    Shop.Set.CurrentCard = 1;
+    Shop.Set.Cards.Current = 1;
     ASSERT_TRUE(ShowCard(Shop, 1));
     EXPECT_EQ(Surface().GetPixel(5, 60), Red) << "the next outline inherits the piece's colour";
     ASSERT_TRUE(ShowCard(Shop, 1));

@@ -11,10 +11,10 @@ class PicturePathsTest : public SetTest {
 protected:
     PicturePathsTest()
     {
-        AddElement(Set, StandardKind);
+        AddElement<Card>(Set);
         for (int i = 1; i <= 2; ++i) {
-            AddElement(Set, LargeKind);
-            AddElement(Set, CharacterKind);
+            AddElement<LargeCard>(Set);
+            AddElement<Character>(Set);
         }
         Set.Cards[2].Title = "card";
         Set.Cards[2].Picture = "C:\\old\\card.bmp";

@@ -8,30 +8,29 @@ using SetLifecycle = SetTest;
 TEST_F(SetLifecycle, DeletingAsksByNameAndLeavesTheCardBeforeTheLastOne)
 {
     for (int i = 0; i < 3; ++i)
-        AddElement(Set, StandardKind);
-    Set.CurrentCard = 3;
+        AddElement<Card>(Set);
+    Set.Cards.Current = 3;
     User.WillAnswer(Answer::No);
-    EXPECT_FALSE(DeleteElement(Set, User, StandardKind));
-    EXPECT_EQ(Set.CardCount, 4);
+    EXPECT_FALSE(DeleteElement<Card>(Set, User));
+    EXPECT_EQ(Set.Cards.Count(), 4);
     EXPECT_EQ(User.LastTold(), "Confirm delete|Are you sure you want to delete the card \"CARD 3\"?");
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Question);
     User.WillAnswer(Answer::Yes);
-    EXPECT_TRUE(DeleteElement(Set, User, StandardKind));
-    EXPECT_EQ(Set.CurrentCard, 3);
+    EXPECT_TRUE(DeleteElement<Card>(Set, User));
+    EXPECT_EQ(Set.Cards.Current, 3);
     EXPECT_EQ(Set.Cards[3].Title, "CARD 4");
     User.WillAnswer(Answer::Yes);
-    EXPECT_TRUE(DeleteElement(Set, User, StandardKind));
-    EXPECT_EQ(PositionText(Set.CurrentCard, Set.CardCount), "2 (2)");
-    AddElement(Set, StandardKind);
+    EXPECT_TRUE(DeleteElement<Card>(Set, User));
+    EXPECT_EQ(PositionText(Set.Cards.Current, Set.Cards.Count()), "2 (2)");
+    AddElement<Card>(Set);
     EXPECT_EQ(Set.Cards[3].Title, "CARD 3") << "cards are numbered by their place";
 }
 
 TEST_F(SetLifecycle, ThereIsNoCardBehindTheLastNumber)
 {
     Set.Cards.Resize(32767);
-    Set.CardCount = 32767;
-    EXPECT_EQ(FailureOf([&] { AddElement(Set, StandardKind); }), 6);
-    EXPECT_EQ(Set.CardCount, 32767);
+    EXPECT_EQ(FailureOf([&] { AddElement<Card>(Set); }), 6);
+    EXPECT_EQ(Set.Cards.Count(), 32767);
     EXPECT_EQ(FailureOf([&] { (void)Set.Cards[32768]; }), 9);
     EXPECT_EQ(FailureOf([&] { (void)Set.Cards[-1]; }), 9);
 }

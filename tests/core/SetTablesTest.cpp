@@ -14,17 +14,15 @@ TEST_F(SetTables, DeletedBackGivesItsRowToTheNext)
         AddOwnBack(Set, name, name + ".bmp");
     DeleteOwnBack(Set, 1);
     EXPECT_EQ(OwnBackNames(Set), (QStringList{"One", "Three"}));
-    EXPECT_EQ(Set.CardBackCount, 29);
+    EXPECT_EQ(Set.CardBacks.Count(), 29);
     EXPECT_EQ(Set.CardBacks[29].Picture, "Three.bmp");
     EXPECT_FALSE(Set.CardBacks[29].BuiltIn);
     EXPECT_EQ(FailureOf([&] { DeleteOwnBack(Set, 2); }), 9);
     EXPECT_EQ(FailureOf([&] { DeleteOwnBack(Set, -1); }), 9) << "a built-in row";
-    EXPECT_EQ(Set.CardBackCount, 29);
+    EXPECT_EQ(Set.CardBacks.Count(), 29);
 
-    Set.CardBackCount = std::numeric_limits<int16>::max();
-    Set.CardBacks.Resize(Set.CardBackCount);
+    Set.CardBacks.Resize(std::numeric_limits<int16>::max());
     EXPECT_EQ(FailureOf([&] { AddOwnBack(Set, "Past", {}); }), 6) << "a full table stays as it was";
-    EXPECT_EQ(Set.CardBackCount, Set.CardBacks.LastIndex());
     EXPECT_EQ(OwnBackNames(Set).size(), 32767 - 27);
 }
 
@@ -36,7 +34,7 @@ TEST_F(SetTables, OwnTypesAreListedWithTheirNumbers)
     EXPECT_FALSE(Set.CardTypes[16].BuiltIn);
     DeleteOwnType(Set, 0);
     EXPECT_EQ(OwnTypeEntries(Set), QStringList("OMEN ( )"));
-    EXPECT_EQ(Set.CardTypeCount, 16);
+    EXPECT_EQ(Set.CardTypes.Count(), 16);
     ChooseDefaultType(Set, 16);
     EXPECT_EQ(DefaultTypeRow(Set), 16);
     Set.LastType = "typed";
@@ -54,9 +52,9 @@ TEST_F(SetTables, NumberTextIsANumberOrNone)
 
 TEST_F(SetTables, TheListOfLargeCardsShowsCharacters)
 {
-    AddElement(Set, StandardKind);
-    AddElement(Set, LargeKind);
-    AddElement(Set, CharacterKind);
+    AddElement<Card>(Set);
+    AddElement<LargeCard>(Set);
+    AddElement<Character>(Set);
     Set.Cards[1].Title = "Sword";
     Set.Cards[1].Type = "OBJECT-";
     Set.Cards[1].SubType = "Magic";
@@ -67,19 +65,19 @@ TEST_F(SetTables, TheListOfLargeCardsShowsCharacters)
     Set.Cards[2].CardBack = 28; // past the table
     Set.Characters[1].Name = "Knight";
     Set.Characters[1].CardBackPicture = "back.bmp";
-    const auto row = [&](CardListMode mode, int16 index) {
+    const auto row = [&](CardKind kind, int16 index) {
         QStringList texts;
         for (const auto column :
              {CardListColumn::Card, CardListColumn::Type, CardListColumn::Back, CardListColumn::Picture})
-            texts += CardListText(Set, mode, index, column);
+            texts += CardListText(Set, kind, index, column);
         return texts.join('|');
     };
-    EXPECT_EQ(CardListCount(Set, CardListMode::Cards), 2);
-    EXPECT_EQ(row(CardListMode::Cards, 1), "Sword|OBJECT- Magic|City|No");
-    EXPECT_EQ(row(CardListMode::Cards, 2), "|EVENT||Yes");
-    for (const CardListMode mode : {CardListMode::LargeCards, CardListMode::Characters}) {
-        EXPECT_EQ(CardListCount(Set, mode), 1);
-        EXPECT_EQ(row(mode, 1), "Knight||back.bmp|Yes");
+    EXPECT_EQ(CardListCount(Set, CardKind::Standard), 2);
+    EXPECT_EQ(row(CardKind::Standard, 1), "Sword|OBJECT- Magic|City|No");
+    EXPECT_EQ(row(CardKind::Standard, 2), "|EVENT||Yes");
+    for (const CardKind kind : {CardKind::Large, CardKind::Character}) {
+        EXPECT_EQ(CardListCount(Set, kind), 1);
+        EXPECT_EQ(row(kind, 1), "Knight||back.bmp|Yes");
     }
 }
 

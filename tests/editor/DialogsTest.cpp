@@ -117,7 +117,7 @@ TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedAtOnce)
         EXPECT_EQ(Text({"txtCBPicture", "txtCBName"}), "/pics/caves.v2.bmp|");
         Type("txtCBName", "Caves");
         QTest::keyClick(&Line("txtCBName"), Qt::Key_Return);
-        EXPECT_EQ(Set().CardBackCount, 28);
+        EXPECT_EQ(Set().CardBacks.Count(), 28);
         user.WillCancelDialog();
         Click("cmdCBPic");
         EXPECT_EQ(user.OpenDialogs.back().FileName, "/pics/caves.v2.bmp");
@@ -133,7 +133,7 @@ TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedAtOnce)
         EXPECT_EQ(Text("txtCBName"), "Caves");
         Click("cmdCBDelete");
         Click("cmdCBDelete"); // the next row is not selected
-        EXPECT_EQ(Set().CardBackCount, 28);
+        EXPECT_EQ(Set().CardBacks.Count(), 28);
         EXPECT_EQ(Find<QComboBox>("cboCBDefault").count(), 28);
         ChooseLast("cboCBDefault");
         EXPECT_EQ(Set().LastCardBack, 28);
@@ -187,7 +187,7 @@ TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
         Line("txtCTNumber").setText("40000");
         Click("cmdCTAdd");
         EXPECT_EQ(user.LastBox().Text, "Run-time error '6':\r\n\r\nOverflow");
-        EXPECT_EQ(Set().CardTypeCount, 16);
+        EXPECT_EQ(Set().CardTypes.Count(), 16);
         EXPECT_EQ(Text("cboCTDefault"), "ENEMY-Spirit") << "the last of the name";
         ChooseLast("cboCTDefault");
         EXPECT_EQ(Set().LastSubType, "Dark");
@@ -211,7 +211,7 @@ TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
         "OMEN- Dark -OMEN kraD -1");
     user.WillAnswer(Answer::No);
     Run("new");
-    EXPECT_EQ(Set().CardTypes.LastIndex(), 15) << "a new set has no types of its own";
+    EXPECT_EQ(Set().CardTypes.Count(), 15) << "a new set has no types of its own";
 }
 
 TEST_F(DialogsTest, ListFindsACardByItsFirstLettersHoweverItIsSorted)
@@ -227,14 +227,14 @@ TEST_F(DialogsTest, ListFindsACardByItsFirstLettersHoweverItIsSorted)
         QTest::keyClick(&list, Qt::Key_Return);
         EXPECT_FALSE(root->isVisible());
     });
-    EXPECT_EQ(Set().CurrentCard, 1);
+    EXPECT_EQ(Set().Cards.Current, 1);
     EXPECT_EQ(Text({"txtTitle", "hsbCard", "lblCurrentCard"}), "Cave|1 (4)|1 (4)");
     EXPECT_EQ(Set().Cards[3].Title, "Axe") << "the set keeps its order";
 
     WithDialog("cmdSort", [&] { DoubleClick(List("lvCard"), 2); });
-    EXPECT_EQ(Set().CurrentCard, 3);
+    EXPECT_EQ(Set().Cards.Current, 3);
     WithDialog("cmdSort", [&] { Select(List("lvCard"), 0); });
-    EXPECT_EQ(Set().CurrentCard, 3) << "closed without a choice";
+    EXPECT_EQ(Set().Cards.Current, 3) << "closed without a choice";
 }
 
 TEST_F(DialogsTest, ListOfLargeCardsGivesCharactersAndFailsPastTheLastCard)
@@ -248,7 +248,7 @@ TEST_F(DialogsTest, ListOfLargeCardsGivesCharactersAndFailsPastTheLastCard)
         EXPECT_EQ(Cell(list, 2, 0), "CHARACTER 3");
         DoubleClick(list, 2);
     });
-    EXPECT_EQ(Set().CurrentLargeCard, 3);
+    EXPECT_EQ(Set().LargeCards.Current, 3);
     EXPECT_EQ(user.BoxTexts(),
               QStringList("Varnhelm Deck Forge|Run-time error '9':\r\n\r\nSubscript out of range"));
 }

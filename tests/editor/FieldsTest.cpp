@@ -62,7 +62,7 @@ TEST_F(FieldsTest, AUserDefinedBackJoinsTheTable)
 
     user.WillChoose(folder.Path("nodot"));
     Choose("cboCardBack", list.count() - 1);
-    EXPECT_EQ(Set().CardBackCount, 29);
+    EXPECT_EQ(Set().CardBacks.Count(), 29);
     EXPECT_EQ(Set().CardBacks[29].Name, "");
     EXPECT_EQ(FirstCard().CardBack, 28);
     user.WillChoose(path);

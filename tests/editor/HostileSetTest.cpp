@@ -30,7 +30,7 @@ protected:
             set = {};
             InitSet(set);
             for (int i = 0; i < 2; ++i) {
-                AddElement(set, StandardKind);
+                AddElement<Card>(set);
                 AddOneOfEachKind(set);
             }
             set.Header.SaveTo = folder.WithSeparator();
@@ -99,9 +99,8 @@ TEST_F(HostileSetTest, NumbersOutsideTheirTablesAreShown)
         });
     }
     Try("as many types and backs as there can be", [](CardSet& set) {
-        set.CardTypeCount = set.CardBackCount = std::numeric_limits<int16>::max();
-        set.CardTypes.Resize(set.CardTypeCount);
-        set.CardBacks.Resize(set.CardBackCount);
+        set.CardTypes.Resize(std::numeric_limits<int16>::max());
+        set.CardBacks.Resize(std::numeric_limits<int16>::max());
     });
     for (const double offset :
          {1e300, -1e300, 32768.0 * 15, 0.5, std::numeric_limits<double>::denorm_min()}) {

@@ -32,7 +32,7 @@ TEST_F(KindsTest, TheFirstOfAKindComesWithTheFirstLookAtItsTab)
         SelectTab(1);
         EXPECT_EQ(Text("lblCurrentCard"), "2 (2)");
     }
-    EXPECT_EQ(Set().LargeCardCount + Set().CharacterCount + Set().NewCardBackCount, 3);
+    EXPECT_EQ(Set().LargeCards.Count() + Set().Characters.Count() + Set().NewCardBacks.Count(), 3);
 }
 
 TEST_F(KindsTest, ASwitchOfTabComesBackToTheFront)
@@ -70,14 +70,14 @@ TEST_F(KindsTest, ANewSetLeavesTheTabAndItsCardsToTheNextClick)
     Run("new");
     EXPECT_EQ(Find<QTabBar>("tbCard").currentIndex(), 2);
     EXPECT_TRUE(Boxes().Standard.picCard.Visible);
-    EXPECT_EQ(Set().LargeCardCount + Set().CharacterCount, 0);
+    EXPECT_EQ(Set().LargeCards.Count() + Set().Characters.Count(), 0);
     for (const char* command : {"copy", "paste", "createone", "printcard"}) {
         user.Boxes.clear();
         Run(command); // there is no character
         EXPECT_EQ(user.LastBox().Text, "Run-time error '9':\r\n\r\nSubscript out of range");
     }
     ClickTab(3);
-    EXPECT_EQ(Set().CharacterCount, 1);
+    EXPECT_EQ(Set().Characters.Count(), 1);
     EXPECT_TRUE(Boxes().Character.picCharacter.Visible);
     SelectTab(4);
     EXPECT_EQ(Text("txtNewCardBackName"), "Owls");
@@ -128,8 +128,8 @@ TEST_F(KindsTest, KeysAndCommandsGoByTheTab)
 
     SelectTab(4);
     Press({add, previous});
-    EXPECT_EQ(Set().NewCardBackCount, 1);
-    EXPECT_EQ(Set().CurrentCharacter, 2);
+    EXPECT_EQ(Set().NewCardBacks.Count(), 1);
+    EXPECT_EQ(Set().Characters.Current, 2);
     Run("copy");
     EXPECT_EQ(user.LastBox().Text, "The character card is copied.");
     SelectTab(3);
@@ -163,11 +163,9 @@ TEST_F(KindsTest, AnOpenedSetLeavesSlidersOfTheOneBefore)
                             "cmdCharacterAdd", "cmdCharacterAdd", "cmdCharacterAdd"})
         Click(add); // also of tabs that are not shown
     OpenChangedSet([](CardSet& set) {
-        AddElement(set, LargeKind);
-        AddElement(set, LargeKind);
-        set.CharacterCount = 2;
+        AddElement<LargeCard>(set);
+        AddElement<LargeCard>(set);
         set.Characters.Resize(2);
-        set.NewCardBackCount = 1;
         set.NewCardBacks.Resize(1);
     });
     EXPECT_EQ(Find<QTabBar>("tbCard").currentIndex(), 0);
@@ -206,7 +204,7 @@ TEST_F(KindsTest, TheWheelTurnsNothingThatTheUserDoesNotWorkIn)
     EXPECT_EQ(FirstCard().CardBack, 1);
     EXPECT_EQ(FirstCard().SubType, "Animal");
     EXPECT_EQ(FirstCard().Copies, 1);
-    EXPECT_EQ(Set().LargeCardCount, 0);
+    EXPECT_EQ(Set().LargeCards.Count(), 0);
 }
 
 /// What the keyboard and a screen reader need.

@@ -10,7 +10,7 @@ TEST_F(frmQDWTest, OpenedSetFillsFieldsAndTitleAndStaysAsItIs)
         set.Header.SetName = "Caves";
         set.Header.NoBack = true;
         set.Header.SaveFormat = 2;
-        AddElement(set, StandardKind);
+        AddElement<Card>(set);
         Card& card = set.Cards[1];
         card.Title = "Troll";
         card.BoldText = "STRENGTH 6";
@@ -80,9 +80,9 @@ TEST_F(frmQDWTest, SlidersTellOfTheNextElementBeforeItIsShown)
     Click("cmdCardAdd");
     drag("hsbCard", 1);
     EXPECT_EQ(Text({"lblCurrentCard", "lblCardTitle"}), "1 (2)|CARD 1 (ENEMY- Animal)");
-    EXPECT_EQ(Set().CurrentCard, 2);
+    EXPECT_EQ(Set().Cards.Current, 2);
     Find<QScrollBar>("hsbCard").setSliderDown(false);
-    EXPECT_EQ(Set().CurrentCard, 1);
+    EXPECT_EQ(Set().Cards.Current, 1);
     EXPECT_EQ(Text({"lblCardTitle", "txtTitle"}), "|CARD 1");
 
     SelectTab(2);
@@ -151,13 +151,13 @@ TEST_F(frmQDWTest, CopiedCardIsPastedIntoAnotherSet)
     Type("txtTitle", "Troll");
     user.WillAnswer(Answer::No);
     Run("new");
-    OpenChangedSet([](CardSet& set) { AddElement(set, StandardKind); });
+    OpenChangedSet([](CardSet& set) { AddElement<Card>(set); });
     Slide("hsbCard", 2);
     Run("paste");
     EXPECT_EQ(Text({"txtTitle", "txtArtist"}), "Imp|A. Painter");
     EXPECT_EQ(Set().Cards[2].Title, "Imp");
     EXPECT_EQ(FirstCard().Title, "CARD 1");
-    EXPECT_EQ(Set().CardCount, 2);
+    EXPECT_EQ(Set().Cards.Count(), 2);
 }
 
 TEST_F(frmQDWTest, HelpAnswersWhateverModifierIsHeld)

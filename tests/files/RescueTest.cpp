@@ -71,7 +71,7 @@ TEST_F(RescueTest, ASetDiffersByWhatItsFileHolds)
     KeptSet kept;
     kept.Keep(Set);
     EXPECT_FALSE(kept.Differs(Set));
-    Set.ClipCard.Title = "copied";
+    Set.Cards.Clip.Title = "copied";
     EXPECT_FALSE(kept.Differs(Set)) << "no part of the file";
     Set.Cards[1].PictureLeft = 15;
     EXPECT_TRUE(kept.Differs(Set));

@@ -17,7 +17,7 @@ protected:
     {
         OldBytes = SetFileBytes(Set, Unwritable::Fail);
         Set.Header.SetName = "A set with more in it than the one before";
-        AddElement(Set, LargeKind);
+        AddElement<LargeCard>(Set);
         NewBytes = SetFileBytes(Set, Unwritable::Fail);
         Folder.Write(Name, OldBytes);
     }

@@ -74,11 +74,11 @@ TEST_F(SetFileTest, EveryKindOfRecordSurvivesARoundTrip)
     Set.Cards[1].TypeIndex = -1;
     Set.Cards[1].PictureLeft = -12.25;
     Set.Cards[1].Info = "one\r\ntwo\rstill two\r\n";
-    AddElement(Set, LargeKind);
+    AddElement<LargeCard>(Set);
     Set.LargeCards[1].PictureLeft = 7;
-    AddElement(Set, CharacterKind);
+    AddElement<Character>(Set);
     Set.Characters[1].PlayingPieceLeft = 30;
-    AddElement(Set, NewBackKind);
+    AddElement<NewCardBack>(Set);
     const QByteArray first = Written();
     EXPECT_TRUE(first.contains("\r\none|two\rstill two|\r\n"));
 
@@ -126,11 +126,11 @@ TEST_F(SetFileTest, OldTypesAreFoundByTheirRowOrElseByTheirText)
     QByteArray bytes = VersionOne("SPELL", "13", "16");
     bytes.replace("\r\n16\r\n27\r\n", "\r\n16\r\nQUEST\r\nTSEUQ\r\n7\r\nFalse\r\n27\r\n");
     ASSERT_TRUE(Read(bytes));
-    EXPECT_EQ(Set.CardTypeCount, 16);
+    EXPECT_EQ(Set.CardTypes.Count(), 16);
     EXPECT_EQ(Set.CardTypes[16].ReversedName, "TSEUQ");
 
     ASSERT_TRUE(Read(VersionOne("SPELL", "13", "15")));
-    EXPECT_EQ(Set.CardTypeCount, 16) << "rows of the set before stay when the file has none";
+    EXPECT_EQ(Set.CardTypes.Count(), 16) << "rows of the set before stay when the file has none";
 }
 
 TEST_F(SetFileTest, WhatIsNoSetChangesNothing)

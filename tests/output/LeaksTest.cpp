@@ -28,7 +28,7 @@ protected:
     /// Writes a set of every kind, of which a picture is damaged and another is missing.
     Leaks()
     {
-        AddElement(Shop.Set, StandardKind);
+        AddElement<Card>(Shop.Set);
         AddOneOfEachKind(Shop.Set);
         FirstCard().Picture = Folder.WritePicture("picture.bmp");
         Shop.Set.Cards[2].Picture = Folder.Write("damaged.bmp", "BM");

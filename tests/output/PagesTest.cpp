@@ -16,7 +16,7 @@ protected:
     void AddCards(int count)
     {
         for (int i = 2; i <= count; ++i)
-            AddElement(Set, StandardKind);
+            AddElement<Card>(Set);
         for (int i = 1; i <= count; ++i)
             Set.Cards[i].Filename = QStringLiteral("card %1").arg(i);
     }
@@ -71,10 +71,10 @@ TEST_F(PagesTest, PagesAreLinkedAndCopiesAreRepeatedImages)
 
 TEST_F(PagesTest, ImagesAreNamedByKindPrefixAndNumber)
 {
-    AddElement(Set, LargeKind);
+    AddElement<LargeCard>(Set);
     Set.LargeCards[1].Filename = "Whale";
     Set.LargeCards[1].Copies = 4;
-    AddElement(Set, CharacterKind);
+    AddElement<Character>(Set);
     Set.Characters[1].Filename = "Sailor";
     AddCards(12);
     Set.Header.FilenamePrefix = "sea";
@@ -117,8 +117,8 @@ TEST_F(PagesTest, ACardWithoutAFileNameStopsThePages)
 TEST_F(PagesTest, TheListingHasTheTextsOfAllKinds)
 {
     Set.Cards[1].Info = "one\r\ntwo";
-    AddElement(Set, LargeKind);
-    AddElement(Set, CharacterKind);
+    AddElement<LargeCard>(Set);
+    AddElement<Character>(Set);
     EXPECT_TRUE(ExportSetText(Set, Folder.Path("set.txt"), User));
     EXPECT_EQ(
         Folder.Read("set.txt"),

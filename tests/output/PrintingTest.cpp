@@ -33,8 +33,8 @@ class PrintingTest : public WorkshopTest {
 protected:
     PrintingTest()
     {
-        AddElement(Shop.Set, LargeKind);
-        AddElement(Shop.Set, CharacterKind);
+        AddElement<LargeCard>(Shop.Set);
+        AddElement<Character>(Shop.Set);
     }
 
     /// A printer's page as pixels, large enough for the place of a playing piece.

@@ -13,7 +13,7 @@ protected:
     {
         Header().SetName = "Sea";
         for (int i = 2; i <= 5; ++i)
-            AddElement(Shop.Set, StandardKind);
+            AddElement<Card>(Shop.Set);
         for (int i = 1; i <= 5; ++i)
             Shop.Set.Cards[i].Color = 0x10 * i;
     }
@@ -89,8 +89,8 @@ TEST_F(SheetTest, ASecondRunWritesAtEveryCard)
 
 TEST_F(SheetTest, LargeCardsStandAboveTheirBacksAndGoToTheClipboard)
 {
-    AddElement(Shop.Set, LargeKind);
-    AddElement(Shop.Set, LargeKind);
+    AddElement<LargeCard>(Shop.Set);
+    AddElement<LargeCard>(Shop.Set);
     for (int i = 1; i <= 2; ++i) {
         Shop.Set.LargeCards[i].Color = 0x10 * i;
         Shop.Set.LargeCards[i].ShowPicture = false;
@@ -103,7 +103,7 @@ TEST_F(SheetTest, LargeCardsStandAboveTheirBacksAndGoToTheClipboard)
     EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(304, 256));
     EXPECT_EQ(User.LastBox().Text, "1 large cardsheet is created.");
 
-    AddElement(Shop.Set, CharacterKind);
+    AddElement<Character>(Shop.Set);
     CreateCharacterSheets(Shop, SheetGrid{1, 1});
     EXPECT_EQ(User.LastTold(), "Create large cardsheets|1 character cardsheet is created.");
     EXPECT_FALSE(Folder.Has("Sea Sheet Large 2.bmp"));

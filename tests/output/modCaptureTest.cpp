@@ -71,7 +71,7 @@ TEST_F(ImageTest, ACardAndItsBackStandSideBySideInTheirOutlines)
 
 TEST_F(ImageTest, ABatchNamesCardsByTheirTitlesAndComesBackToTheCurrentOne)
 {
-    AddElement(Shop.Set, StandardKind);
+    AddElement<Card>(Shop.Set);
     Shop.Set.Cards[1].Title = "Dr. Who";
     Shop.Set.Cards[2].Filename = "kept";
     Header().ReplaceSpace = true;
@@ -79,7 +79,7 @@ TEST_F(ImageTest, ABatchNamesCardsByTheirTitlesAndComesBackToTheCurrentOne)
     EXPECT_TRUE(Folder.Has("Dr._Who.bmp"));
     EXPECT_TRUE(Folder.Has("kept.bmp"));
     EXPECT_EQ(Shop.Set.Cards[1].Filename, "Dr. Who");
-    EXPECT_EQ(Shop.Set.CurrentCard, 2);
+    EXPECT_EQ(Shop.Set.Cards.Current, 2);
     EXPECT_EQ(User.BoxTexts(), QStringList{"Create cards|2 cards are created."});
     EXPECT_EQ(User.Pointers, (std::vector<Pointer>{Pointer::Hourglass, Pointer::Default}));
     EXPECT_EQ(User.ProgressSteps, 2);
@@ -115,7 +115,7 @@ TEST_F(ImageTest, TheDialogGivesFolderAndNameAndTheBoxTellsThePathBeforeReplacem
 
 TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
 {
-    AddElement(Shop.Set, StandardKind);
+    AddElement<Card>(Shop.Set);
     FirstCard().Title = "../outside";
     for (const int16 format : {int16{0}, int16{1}, int16{2}}) {
         Header().SaveFormat = format;
@@ -140,7 +140,7 @@ TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
 
 TEST_F(ImageTest, ABackThatCannotBeShownKeepsItsNameAndItsOlderImage)
 {
-    AddElement(Shop.Set, NewBackKind);
+    AddElement<NewCardBack>(Shop.Set);
     NewCardBack& back = Shop.Set.NewCardBacks[1];
     User.WillCancelDialog();
     SaveNewCardBack(Shop, 1, Ask::No, Tell::Yes);

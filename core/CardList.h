@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/OneBasedArray.h"
+
+namespace deckforge {
+
+/// The records of one kind of card.
+template <class Record>
+class CardList : public OneBasedArray<Record> {
+public:
+    int16 Current = 0; ///< index of the record being edited; 0 where there is none
+    Record Clip;       ///< the copied record, which outlives the set it was copied from
+
+    /// Error 9 where there is none.
+    [[nodiscard]] Record& CurrentRecord()
+    {
+        if (Current < 1)
+            throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+        return (*this)[Current];
+    }
+};
+
+} // namespace deckforge
