@@ -24,6 +24,7 @@ public:
         m_form.setupUi(this);
         m_form.Picture1->setPixmap(AboutPicture(devicePixelRatioF()));
         m_form.lblURL->setText(QStringLiteral("<a href=\"%1\">%1</a>").arg(QLatin1String(WebAddress)));
+        m_form.lblURL->setAccessibleName(QString::fromLatin1(WebAddress)); // without the markup
         m_form.lblVersion->setText(QStringLiteral("Version: %1.%2 (Build %3)")
                                        .arg(VersionMajor)
                                        .arg(VersionMinor)
