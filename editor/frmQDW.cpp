@@ -2,7 +2,9 @@
 #include "compose/SetView.h"
 #include "dialogs/CardPreview.h"
 #include "dialogs/FocusSelection.h"
+#include "dialogs/PlainTexts.h"
 #include "dialogs/WheelGuard.h"
+#include "platform/Paths.h"
 #include "ui_fraCard.h"
 #include "ui_fraCardBack.h"
 #include "ui_fraCharacter.h"
@@ -66,6 +68,7 @@ frmQDW::frmQDW(UserPort& user)
     setWindowTitle(QStringLiteral("Varnhelm Deck Forge"));
     setContextMenuPolicy(Qt::PreventContextMenu); // it would offer to hide the tool bar
     setAcceptDrops(true);
+    ShowTextsAsPlain(*this);
     BuildForms();
     BuildLayout();
     BuildToolBar();
