@@ -8,14 +8,14 @@ namespace deckforge {
 
 namespace {
 
-/// Where the list of types has the text, from 0; -1 where it has not.
-int ListIndexOf(const CardSet& set, const QString& text)
+/// The row of the type that the list shows as the text; 0 for none.
+int16 RowOfEntry(const CardSet& set, const QString& text)
 {
     for (int row = 1; row <= set.CardTypes.Count(); ++row) {
         if (TypeListEntry(set.CardTypes[row]) == text)
-            return row - 1;
+            return static_cast<int16>(row);
     }
-    return -1;
+    return 0;
 }
 
 } // namespace
@@ -33,22 +33,18 @@ void ChooseCardType(const CardSet& set, Card& card, int16 row)
     const CardType& type = set.CardTypes[row];
     card.TypeIndex = row;
     TakeTypeTexts(card, type);
-    card.Number = QString::number(type.Number);
+    card.Number = type.Number < 0 ? QString() : QString::number(type.Number);
 }
 
-void TypeCardType(const CardSet& set, Card& card, const QString& text)
+bool TypeCardType(const CardSet& set, Card& card, const QString& text)
 {
-    const int listIndex = ListIndexOf(set, text);
-    if (listIndex < 0) {
-        TakeTypeTexts(card, {.Name = text, .SubName = {}, .ReversedName = text, .ReversedSubName = {}});
-        card.TypeIndex = -1;
-        return;
+    if (const int16 row = RowOfEntry(set, text)) {
+        ChooseCardType(set, card, row);
+        return true;
     }
-    // The list counts from 0 and the table from 1: what was typed gets the entry before it, and the first of
-    // all the empty row 0. Sets made so far have their types so.
-    const CardType& type = set.CardTypes[static_cast<int16>(listIndex)];
-    TakeTypeTexts(card, type);
-    card.TypeIndex = type.Number;
+    TakeTypeTexts(card, {.Name = text, .SubName = {}, .ReversedName = text, .ReversedSubName = {}});
+    card.TypeIndex = -1;
+    return false;
 }
 
 int16 AddCardBack(CardSet& set, const QString& picture)

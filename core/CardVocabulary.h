@@ -9,13 +9,13 @@ namespace deckforge {
 /// Gives the card the four texts of a type.
 void TakeTypeTexts(Card& card, const CardType& type);
 
-/// Gives the card a row of the table of types, with its number. Error 9 when there is no such row.
+/// Gives the card a row of the table of types, with its number; a negative one is none. Error 9 when there is
+/// no such row.
 void ChooseCardType(const CardSet& set, Card& card, int16 row);
 
-/// Gives the card a type that was typed. One that no row has is the card's own, with the same text on both
-/// sides. One that is spelled like an entry of the list takes the row above that entry, which is empty above
-/// the first, and the number of that row as its index.
-void TypeCardType(const CardSet& set, Card& card, const QString& text);
+/// Gives the card a type that was typed, and returns whether it is that of a row: one that is spelled like
+/// its entry in the list. Any other is the card's own, with the same text on both sides.
+bool TypeCardType(const CardSet& set, Card& card, const QString& text);
 
 /// Adds a back of the user's own to the table, and gives its row. It is called like the file up to the first
 /// dot; without one error 5 leaves a row without a name. Error 6 past 32767 rows.

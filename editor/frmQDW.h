@@ -231,7 +231,7 @@ private:
     void FillCardBackList();
     void TypeChosen();
     void TypeTyped();
-    void ShowTypeLines();
+    void ShowType();
     void CardBackChosen();
     void AddUserBack(const QString& path);
     void CharacterBackChosen();
@@ -327,6 +327,7 @@ private:
     QMap<const QAbstractButton*, QString> m_pictureFolders; ///< where each button's file was chosen last
     QString m_lastBackFile;                                 ///< the file chosen last in Customize Set
     QPoint m_dragStart;                                     ///< on the handle that is dragged
+    std::optional<QString> m_numberBeforeType;              ///< of the card whose type is being typed
     QString m_missingBack; ///< the picture of a card back that was told to be missing
 
     std::unique_ptr<Ui::fraCard> m_card;

@@ -271,6 +271,7 @@ void frmQDW::FillCard()
     const LoadingScope loading(*this);
     Fill<Card>();
     const Card& card = Current<Card>();
+    m_numberBeforeType.reset();
     ShowEntry(*m_card->cboType, card.Type + card.SubType);
     m_card->cboCardBack->setCurrentIndex(card.CardBack - 1);
     TellFrameSize();

@@ -49,6 +49,7 @@ void frmQDW::BindLists()
         if (ShowsEntry(*m_card->cboType))
             TypeChosen();
     });
+    On(m_card->cboType->lineEdit(), &QLineEdit::editingFinished, [this] { m_numberBeforeType.reset(); });
     On(m_card->cboCardBack, &QComboBox::activated, [this] { CardBackChosen(); });
     On(m_character->cboStartArea, &QComboBox::activated, [this] { StartAreaChosen(); });
     On(m_character->cboStartArea->lineEdit(), &QLineEdit::textEdited, [this] { StartAreaTyped(); });
@@ -101,27 +102,31 @@ void frmQDW::TypeChosen()
     Card& card = Current<Card>();
     const auto row = static_cast<int16>(m_card->cboType->currentIndex() + 1);
     ChooseCardType(m_workshop.Set, card, row);
-    ShowTypeLines();
-    const int16 number = m_workshop.Set.CardTypes[row].Number;
-    card.Number = number < 0 ? QString() : QString::number(number);
-    m_workshop.Templates.Standard.lblNumber.Caption = card.Number;
-    SetTextOf(*m_card->cboNumber, card.Number);
-    m_preview->update();
+    ShowType();
 }
 
+/// A type of the card's own leaves the number alone, also where the name of another type was typed on the
+/// way.
 void frmQDW::TypeTyped()
 {
+    Card& card = Current<Card>();
+    if (!m_numberBeforeType)
+        m_numberBeforeType = card.Number;
     SelectTyped(*m_card->cboType);
-    TypeCardType(m_workshop.Set, Current<Card>(), m_card->cboType->currentText());
-    ShowTypeLines();
-    m_preview->update();
+    if (!TypeCardType(m_workshop.Set, card, m_card->cboType->currentText()))
+        card.Number = *m_numberBeforeType;
+    ShowType();
 }
 
 /// The parts of the type as they are, also on a card that has its type on one line; it joins them when it is
 /// shown again.
-void frmQDW::ShowTypeLines()
+void frmQDW::ShowType()
 {
-    ShowTypeNames(m_workshop.Templates.Standard, Current<Card>());
+    const Card& card = Current<Card>();
+    ShowTypeNames(m_workshop.Templates.Standard, card);
+    m_workshop.Templates.Standard.lblNumber.Caption = card.Number;
+    SetTextOf(*m_card->cboNumber, card.Number);
+    m_preview->update();
 }
 
 void frmQDW::CardBackChosen()

@@ -29,13 +29,18 @@ TEST_F(FieldsTest, AChosenTypeBringsItsNumberAndATypedOneIsTheCardsOwn)
     EXPECT_EQ(CardType(), "HERO||HERO||-1|2");
     EXPECT_EQ(Preview().lblType[1].Caption, "HERO");
     EXPECT_EQ(Text("cboType"), "HERO");
-    // Spelled like an entry it takes the row above, and leaves the number.
+    Type("cboType", "EVENT-Law");
+    EXPECT_EQ(CardType(), "EVENT-Law||Law-EVENT||8|1") << "spelled like an entry it is that type";
+    EXPECT_EQ(Text("cboNumber") + Preview().lblNumber.Caption, "11");
+    QTest::keyClicks(&Line("cboType"), "yer");
+    EXPECT_EQ(CardType(), "EVENT-Lawyer||EVENT-Lawyer||-1|2") << "typing on brings the number back";
     Type("cboType", "SPELL");
-    EXPECT_EQ(CardType(), "PLACE||PLACE||6|2");
+    EXPECT_EQ(CardType(), "SPELL||SPELL||13|");
     QTest::keyClick(&Find<QComboBox>("cboType"), Qt::Key_Tab);
-    EXPECT_EQ(CardType(), "PLACE||PLACE||6|2") << "leaving the box chooses nothing";
+    EXPECT_EQ(CardType(), "SPELL||SPELL||13|");
+    Type("cboNumber", "4");
     QTest::keyClick(&Line("cboType"), Qt::Key_Return);
-    EXPECT_EQ(CardType(), "SPELL||SPELL||13|") << "Enter chooses the entry";
+    EXPECT_EQ(CardType(), "SPELL||SPELL||13|") << "Enter chooses the entry again";
     Type("cboNumber", "2");
     Type("cboNumber", "11");
     EXPECT_EQ(FirstCard().Number, "11");
