@@ -35,7 +35,7 @@ frmQDW::Fields<Card> frmQDW::FieldsOf()
                      {form.cmdBackPic, form.cmdDelBackPic, "Choose picture", &Card::Background, &t.picCard,
                       form.txtBackground, &frmQDW::ArtistChanged, &frmQDW::ArtistChanged}},
         .Colours = {{form.cmdColour, form.picColour, "Choose card background colour",
-                     [](Card& card) -> Colour& { return card.Color; }, &t.picCard, nullptr}},
+                     [](Card& card) -> Colour& { return card.Color; }, &t.picCard, &frmQDW::ArtistChanged}},
     };
 }
 

@@ -181,10 +181,12 @@ TEST_F(FieldsTest, ACharacterTakesThePlaceOfAnAreaAndAttributesAsTyped)
 TEST_F(FieldsTest, ColoursGoToRecordSwatchAndSurface)
 {
     constexpr Colour red = 0x0000FF;
+    Type("txtArtist", "A. Painter");
     user.WillPick(red);
     Click("picColour");
     EXPECT_EQ(FirstCard().Color, red);
     EXPECT_EQ(Preview().picCard.Surface->GetPixel(3, 250), red);
+    EXPECT_EQ(Preview().picArtistDest.Surface->GetPixel(3, 5), red) << "no strip beside the artist's name";
     user.WillPickNoColour();
     Click("cmdColour");
     EXPECT_EQ(FirstCard().Color, red);
