@@ -1,4 +1,5 @@
 #include "BuildPaths.h"
+#include "support/DefaultSignals.h"
 #include "support/TestFolder.h"
 
 #include <QProcess>
@@ -42,6 +43,7 @@ protected:
 
     static constexpr int MostMilliseconds = 20000;
     TestFolder Home;
+    DefaultSignals Signals; ///< for the program
     QProcess Program;
 
 private:
