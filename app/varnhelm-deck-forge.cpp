@@ -1,9 +1,7 @@
 #include "dialogs/QtUser.h"
 #include "editor/frmQDW.h"
-#include "files/Rescue.h"
 #include "platform/Files.h"
 #include "platform/LastAct.h"
-#include "platform/Paths.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -47,9 +45,7 @@ int main(int argc, char* argv[])
     deckforge::frmQDW window(user);
     user.Serve(&window, [&](int done, int total) { window.ShowProgress(done, total); });
     window.show();
-    const deckforge::LastAct lastAct([&window, folder = deckforge::ProgramFolder()] {
-        deckforge::RescueAtTheEnd(window.Works().Set, folder);
-    });
+    const deckforge::LastAct lastAct([&window] { window.RescueAtTheEnd(); });
     // In the event loop, so that what the reader tells stands over the window.
     const QString commandLine = QApplication::arguments().sliced(1).join(QLatin1Char(' '));
     QTimer::singleShot(0, &window, [&] {

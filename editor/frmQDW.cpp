@@ -59,8 +59,8 @@ public:
 
 } // namespace
 
-frmQDW::frmQDW(UserPort& user)
-    : m_workshop(user), m_card(std::make_unique<Ui::fraCard>()),
+frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
+    : m_workshop(user), m_work(ProgramFolder(), renewRescueAfter), m_card(std::make_unique<Ui::fraCard>()),
       m_large(std::make_unique<Ui::fraLargeCard>()), m_character(std::make_unique<Ui::fraCharacter>()),
       m_back(std::make_unique<Ui::fraCardBack>()), m_set(std::make_unique<Ui::fraSet>())
 {
@@ -96,6 +96,7 @@ void frmQDW::Start(const QString& commandLine)
 {
     if (!commandLine.isEmpty())
         Guarded([&] { DoOpenDKF(commandLine); });
+    NoteEarlierRescue();
 }
 
 void frmQDW::ShowProgress(int done, int total)
@@ -214,7 +215,9 @@ void frmQDW::BuildStatusBar()
     m_progress->setObjectName(QStringLiteral("progress"));
     m_progress->setAccessibleName(QStringLiteral("Progress"));
     m_progress->hide();
-    statusBar()->addWidget(m_progress, 1);
+    statusBar()->addPermanentWidget(m_progress, 1); // others make way for a message
+
+    connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QWidget::setToolTip);
 
     m_zooms = new QButtonGroup(this);
     for (int zoom = 1; zoom <= CardPreview::MostZoom; ++zoom) {
@@ -297,13 +300,24 @@ void frmQDW::resizeEvent(QResizeEvent* event)
 void frmQDW::InitForm()
 {
     deckforge::InitForm(m_workshop);
-    m_kept.Keep(m_workshop.Set);
+    m_work.Keep(m_workshop.Set);
     FillCardTypeList();
     FillCardBackList();
     m_card->hsbCard->setRange(1, 1);
     FillSet();
     CardSizeSwitch(CardKind::Standard);
     FillCard();
+}
+
+/// The set may have changed.
+void frmQDW::AfterHandler()
+{
+    try {
+        WithMemoryAsFailure([this] { m_work.Renew(m_workshop.Set); });
+    } catch (const RunTimeError& error) {
+        statusBar()->showMessage(
+            QStringLiteral("Unsaved changes cannot be rescued: %1. Save the set.").arg(error.Description()));
+    }
 }
 
 void frmQDW::TellFailure(const RunTimeError& error)

@@ -11,6 +11,7 @@
 #include <QMainWindow>
 #include <QMap>
 #include <array>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <new>
@@ -50,8 +51,8 @@ class ColourSwatch;
 /// told to the user, and the program goes on with the set in memory.
 class frmQDW final : public QMainWindow {
 public:
-    /// With a new set.
-    explicit frmQDW(UserPort& user);
+    /// With a new set, whose rescue file is at most as old as given.
+    explicit frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter = std::chrono::minutes(1));
     ~frmQDW() override;
 
     /// What the program does once its window is visible: the command line, unless empty, is the path of a set
@@ -74,6 +75,9 @@ public:
     /// Shows in the status bar how far a long run is, until done is total. What the user presses meanwhile
     /// waits; drops are refused, and the window does not close.
     void ShowProgress(int done, int total);
+
+    /// For an end of the program that asks nobody.
+    void RescueAtTheEnd() noexcept { m_work.RescueAtTheEnd(m_workshop.Set); }
 
     [[nodiscard]] const Workshop& Works() const { return m_workshop; }
 
@@ -148,7 +152,10 @@ private:
     void OpenSet();
     void SaveSet();
     void OpenDropped(const QString& path);
-    [[nodiscard]] bool IsKeptOrRescued();
+    [[nodiscard]] bool LeaveSet(std::optional<QString>& rescued);
+    void AddNote(const QString& note);
+    void NoteRescued(const std::optional<QString>& rescued);
+    void NoteEarlierRescue();
     [[nodiscard]] bool TakesDrop(const QDropEvent& event) const;
     Answer AskToSave(BoxButtons buttons);
     SaveResult AskWhereAndSave();
@@ -315,15 +322,17 @@ private:
     void On(Sender* sender, Signal signal, Handler handler);
     template <class Work>
     void Guarded(Work&& work);
+    void AfterHandler();
     void TellFailure(const RunTimeError& error);
 
     Workshop m_workshop;
-    KeptSet m_kept;
+    UnsavedWork m_work;
+    int m_handlers = 0; ///< that run now, one within another
     bool m_loading = false;
-    bool m_isBusy = false;    ///< with a long run, from its first step to its last
-    bool m_isLeaving = false; ///< by Exit, where the user has decided about the set
-    QSize m_fittedSize;       ///< which the window gave itself
-    QSize m_chosenSize;       ///< which the user gave it
+    bool m_isBusy = false;  ///< with a long run, from its first step to its last
+    bool m_mayLose = false; ///< the user has said so
+    QSize m_fittedSize;     ///< which the window gave itself
+    QSize m_chosenSize;     ///< which the user gave it
     QMap<const QAbstractButton*, QString> m_pictureFolders; ///< where each button's file was chosen last
     QString m_lastBackFile;                                 ///< the file chosen last in Customize Set
     QPoint m_dragStart;                                     ///< on the handle that is dragged
@@ -414,11 +423,12 @@ std::optional<Picture> frmQDW::Attempted(Load&& load)
     }
 }
 
-/// The one place where a failure that left a handler ends. Qt's own code, which calls the handlers, cannot be
-/// left by an exception.
+/// The one place where a failure that left a handler ends, and what follows any change. Qt's own code, which
+/// calls the handlers, cannot be left by an exception.
 template <class Work>
 void frmQDW::Guarded(Work&& work)
 {
+    ++m_handlers;
     try {
         work();
     } catch (const RunTimeError& error) {
@@ -426,6 +436,8 @@ void frmQDW::Guarded(Work&& work)
     } catch (const std::bad_alloc&) {
         TellFailure(RunTimeError(ErrorNumber::OutOfMemory));
     }
+    if (--m_handlers == 0)
+        AfterHandler();
 }
 
 } // namespace deckforge

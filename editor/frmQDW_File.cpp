@@ -10,6 +10,7 @@
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
 #include <algorithm>
@@ -53,17 +54,21 @@ bool IsPictureFile(const QString& path)
 
 void frmQDW::Exit()
 {
-    if (AskToSave(BoxButtons::YesNoCancel) == Answer::Cancel)
+    const Answer answer = AskToSave(BoxButtons::YesNoCancel);
+    if (answer == Answer::Cancel)
         return;
-    const QScopedValueRollback leaving(m_isLeaving, true);
+    const QScopedValueRollback mayLose(m_mayLose, answer == Answer::No);
     close();
 }
 
 /// A question that is put aside makes no new set.
 void frmQDW::NewSet()
 {
-    if (AskToSave(BoxButtons::YesNo) != Answer::Cancel)
-        InitForm();
+    std::optional<QString> rescued;
+    if (AskToSave(BoxButtons::YesNo) == Answer::Cancel || !LeaveSet(rescued))
+        return;
+    InitForm();
+    NoteRescued(rescued);
 }
 
 void frmQDW::OpenSet()
@@ -80,8 +85,10 @@ void frmQDW::SaveSet()
 SaveResult frmQDW::AskWhereAndSave()
 {
     const SaveResult result = deckforge::SaveSet(m_workshop.Set, m_workshop.User);
-    if (result == SaveResult::Saved)
-        m_kept.Keep(m_workshop.Set);
+    if (result == SaveResult::Saved) {
+        statusBar()->clearMessage();
+        m_work.Keep(m_workshop.Set, FolderPart(m_workshop.Set.Header.FileName));
+    }
     return result;
 }
 
@@ -101,9 +108,15 @@ Answer frmQDW::AskToSave(BoxButtons buttons)
 void frmQDW::DoOpenDKF(const QString& path)
 {
     CardSet& set = m_workshop.Set;
-    if (!ReadDKF(set, path, m_workshop.User))
+    std::optional<QString> rescued;
+    if (!LeaveSet(rescued))
         return;
-    m_kept.Keep(set);
+    const bool isRead = ReadDKF(set, path, m_workshop.User);
+    if (isRead || !m_work.ReturnTo(set))
+        NoteRescued(rescued);
+    if (!isRead)
+        return;
+    m_work.Keep(set, FolderPart(PathToOpen(path)));
     {
         const QSignalBlocker quiet(tbCard); // the cards of the set before are gone
         tbCard->setCurrentIndex(0);
@@ -158,23 +171,45 @@ void frmQDW::dropEvent(QDropEvent* event)
 /// A run goes on to its end: it would come back to a window that is gone.
 void frmQDW::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(!m_isBusy && IsKeptOrRescued());
+    std::optional<QString> rescued;
+    event->setAccepted(!m_isBusy && (LeaveSet(rescued) || m_mayLose));
+    if (event->isAccepted())
+        m_work.Keep(m_workshop.Set);
 }
 
-/// The close box asks nothing, so that what it would lose is rescued. Where that fails the window stays, and
-/// the way out is Exit, which asks.
-bool frmQDW::IsKeptOrRescued()
+/// Before the set is replaced or the window closes: what is in no file is rescued. Where that fails the set
+/// stays; the way out is to save it, or Exit without.
+bool frmQDW::LeaveSet(std::optional<QString>& rescued)
 {
-    if (m_isLeaving || !m_kept.Differs(m_workshop.Set))
-        return true;
+    statusBar()->clearMessage();
     try {
-        WithMemoryAsFailure([this] { RescueSet(m_workshop.Set, ProgramFolder()); });
+        WithMemoryAsFailure([&] { rescued = m_work.Leave(m_workshop.Set); });
     } catch (const RunTimeError& error) {
         TellNotSaved(m_workshop.User, error);
         return false;
     }
-    m_kept.Keep(m_workshop.Set);
     return true;
+}
+
+/// Shows a note in the status bar, behind the one that is there.
+void frmQDW::AddNote(const QString& note)
+{
+    const QString before = statusBar()->currentMessage();
+    statusBar()->showMessage(before.isEmpty() ? note : before + QStringLiteral("  ") + note);
+}
+
+void frmQDW::NoteRescued(const std::optional<QString>& rescued)
+{
+    if (rescued)
+        AddNote(QStringLiteral("The unsaved changes of the set before are in “%1”.").arg(*rescued));
+}
+
+/// For those who lost a set in a run before this one.
+void frmQDW::NoteEarlierRescue()
+{
+    if (const auto rescued = m_work.LatestRescued())
+        AddNote(QStringLiteral("There is a rescued set from %1: “%2”.")
+                    .arg(rescued->Time.toString(QStringLiteral("yyyy-MM-dd hh:mm")), rescued->Path));
 }
 
 void frmQDW::OpenDropped(const QString& path)

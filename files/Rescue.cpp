@@ -1,18 +1,21 @@
 #include "files/Rescue.h"
 
 #include "files/modFile.h"
-#include "platform/Files.h"
+#include "platform/Paths.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QLockFile>
+#include <QScopeGuard>
 #include <cstdio>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace deckforge {
 
 namespace {
 
-constexpr int MostEarlier = 9;
+constexpr int MaxEarlier = 9;
 constexpr int LockMilliseconds = 3000; ///< the end of a session waits for nobody longer
 
 QString RescuedName(const QString& folder, int age)
@@ -25,57 +28,182 @@ QString RescuedName(const QString& folder, int age)
 void MakeRoom(const QString& folder)
 {
     int age = 0;
-    while (age < MostEarlier && AttributesOf(RescuedName(folder, age)))
+    while (age < MaxEarlier && AttributesOf(RescuedName(folder, age)))
         ++age;
     for (; age > 0; --age)
         RenameFile(RescuedName(folder, age - 1), RescuedName(folder, age));
 }
 
-QByteArray PrintOf(const CardSet& set)
+bool IsSameTime(const timespec& one, const timespec& other)
 {
-    try {
-        return QCryptographicHash::hash(SetFileBytes(set, Unwritable::Fail), QCryptographicHash::Sha256);
-    } catch (const RunTimeError&) {
-        return {};
-    }
+    return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
+}
+
+/// Everybody may write into the temporary folder: one of ours is made by us and open to nobody else.
+QString TemporaryFolder()
+{
+    return QStringLiteral("%1/varnhelm-deck-forge-%2/").arg(QDir::tempPath()).arg(::getuid());
+}
+
+bool IsOurs(const QString& folder)
+{
+    struct stat status = {};
+    const QByteArray name =
+        QFile::encodeName(folder.chopped(1)); // with its separator a link would be followed
+    return ::lstat(name.constData(), &status) == 0 && S_ISDIR(status.st_mode) &&
+           status.st_uid == ::getuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+}
+
+QByteArray Fingerprint(const CardSet& set, Unwritable unwritable)
+{
+    return QCryptographicHash::hash(SetFileBytes(set, unwritable), QCryptographicHash::Sha256);
 }
 
 } // namespace
 
-QString RescueSet(const CardSet& set, const QString& folder)
+UnsavedWork::UnsavedWork(QString programFolder, std::chrono::milliseconds renewAfter)
+    : m_programFolder(std::move(programFolder)), m_renewAfter(renewAfter)
+{
+    m_sinceRenewed.start();
+}
+
+void UnsavedWork::Keep(const CardSet& set, const QString& setFolder)
+{
+    m_setFolder = setFolder;
+    m_leftFile.reset();
+    m_sinceRenewed.start();
+    try {
+        m_kept = Fingerprint(set, Unwritable::Fail);
+    } catch (const RunTimeError&) {
+        m_kept.clear();
+    }
+    RemoveOwn();
+}
+
+bool UnsavedWork::Differs(const CardSet& set) const
+{
+    try {
+        return Fingerprint(set, Unwritable::Fail) != m_kept;
+    } catch (const RunTimeError&) {
+        return true;
+    }
+}
+
+void UnsavedWork::Renew(const CardSet& set)
+{
+    if (m_sinceRenewed.elapsed() < m_renewAfter.count())
+        return;
+    m_sinceRenewed.start();
+    if (Differs(set))
+        Rescue(set);
+}
+
+std::optional<QString> UnsavedWork::Leave(const CardSet& set)
+{
+    if (!Differs(set)) {
+        RemoveOwn();
+        return std::nullopt;
+    }
+    const QString path = Rescue(set);
+    m_leftFile = std::exchange(m_own, std::nullopt);
+    m_left = Fingerprint(set, Unwritable::Mend);
+    return path;
+}
+
+bool UnsavedWork::ReturnTo(const CardSet& set)
+{
+    if (!m_leftFile || Fingerprint(set, Unwritable::Mend) != m_left)
+        return false;
+    m_own = std::exchange(m_leftFile, std::nullopt);
+    return true;
+}
+
+QString UnsavedWork::Rescue(const CardSet& set)
+{
+    const QByteArray bytes = SetFileBytes(set, Unwritable::Mend);
+    for (const QString& folder : {m_programFolder, m_setFolder}) {
+        try {
+            if (!folder.isEmpty())
+                return WriteTo(folder, bytes);
+        } catch (const RunTimeError&) {
+        }
+    }
+    const QString temporary = TemporaryFolder();
+    ::mkdir(QFile::encodeName(temporary).constData(), S_IRWXU);
+    if (!IsOurs(temporary))
+        throw RunTimeError(ErrorNumber::PathFileAccess);
+    return WriteTo(temporary, bytes);
+}
+
+QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes)
 {
     QDir().mkpath(folder); // it may have gone since the program began
-    QString target = RescuedName(folder, 0);
-    const QString unfinished = target + QStringLiteral("~");
-    QLockFile lock(target + QStringLiteral(".lock"));
+    const QString first = RescuedName(folder, 0);
+    const QString unfinished = first + QStringLiteral("~");
+    QLockFile lock(first + QStringLiteral(".lock"));
     lock.tryLock(LockMilliseconds);
+    auto removeUnfinished = qScopeGuard([&] { QFile::remove(unfinished); });
     OutputFile file(unfinished);
-    file.Write(SetFileBytes(set, Unwritable::Mend));
+    file.Write(bytes);
     file.CloseOnDisk();
-    MakeRoom(folder);
+    QString target = m_own && m_own->Folder == folder ? PathOfOwn() : QString();
+    if (target.isEmpty()) {
+        MakeRoom(folder);
+        target = first;
+    }
     RenameFile(unfinished, target);
+    removeUnfinished.dismiss();
+    m_own = {.Folder = folder, .Attributes = AttributesOf(target).value_or(FileAttributes())};
     return target;
 }
 
-void RescueAtTheEnd(const CardSet& set, const QString& folder) noexcept
+/// Empty where it is no more, or was changed by somebody.
+QString UnsavedWork::PathOfOwn() const
+{
+    for (int age = 0; age <= MaxEarlier; ++age) {
+        const QString path = RescuedName(m_own->Folder, age);
+        const std::optional<FileAttributes> there = AttributesOf(path);
+        if (there && there->Size == m_own->Attributes.Size &&
+            IsSameTime(there->LastWrite, m_own->Attributes.LastWrite))
+            return path;
+    }
+    return {};
+}
+
+void UnsavedWork::RemoveOwn()
+{
+    if (!m_own)
+        return;
+    QLockFile lock(RescuedName(m_own->Folder, 0) + QStringLiteral(".lock"));
+    lock.tryLock(LockMilliseconds);
+    QFile::remove(PathOfOwn()); // one that cannot be removed is one too many, and no loss
+    m_own.reset();
+}
+
+void UnsavedWork::RescueAtTheEnd(const CardSet& set) noexcept
 {
     try {
-        const QString path = RescueSet(set, folder);
+        const QString path = Rescue(set);
         std::fprintf(stderr, "The card set is rescued to %s\n", qUtf8Printable(path));
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "The card set could NOT be rescued: %s\n", failure.what());
     }
 }
 
-void KeptSet::Keep(const CardSet& set)
+std::optional<UnsavedWork::RescuedSet> UnsavedWork::LatestRescued() const
 {
-    m_print = PrintOf(set);
-}
-
-bool KeptSet::Differs(const CardSet& set) const
-{
-    const QByteArray print = PrintOf(set);
-    return print.isEmpty() || print != m_print;
+    std::optional<RescuedSet> latest;
+    const QString temporary = TemporaryFolder();
+    for (const QString& folder : {m_programFolder, m_setFolder, IsOurs(temporary) ? temporary : QString()}) {
+        for (int age = 0; age <= MaxEarlier && !folder.isEmpty(); ++age) {
+            const QString path = RescuedName(folder, age);
+            const std::optional<FileAttributes> there = AttributesOf(path);
+            const QDateTime time = QDateTime::fromSecsSinceEpoch(there ? there->LastWrite.tv_sec : 0);
+            if (there && (!latest || time > latest->Time))
+                latest = RescuedSet{.Path = path, .Time = time};
+        }
+    }
+    return latest;
 }
 
 } // namespace deckforge

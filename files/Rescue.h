@@ -1,32 +1,76 @@
 #pragma once
 
 #include "core/CardSet.h"
+#include "platform/Files.h"
+
+#include <QDateTime>
+#include <QElapsedTimer>
+#include <chrono>
 
 namespace deckforge {
 
-// A way back for a set that was in memory when the program ended without a question.
-
-/// Writes the set to "rescued.dkf" in the folder and gives the path. The ones of earlier times become
-/// "rescued-1.dkf", the latest, to "rescued-9.dkf"; the tenth goes. Several programs may do so at once.
+/// The set of one run of the program as it was last read, written or made anew, and the rescue file that the
+/// run keeps of what differs from it.
 ///
-/// A text that no set file can hold is mended, so that it takes nothing else with it. A failure of the file
-/// is thrown; the earlier ones then stand as they did.
-QString RescueSet(const CardSet& set, const QString& folder);
-
-/// The same for a program that ends and has nobody left to ask: standard error tells where the set is, or why
-/// it could not be rescued. Throws nothing.
-void RescueAtTheEnd(const CardSet& set, const QString& folder) noexcept;
-
-/// What a set was when it was last read, written or made anew.
-class KeptSet {
+/// The rescue file is "rescued.dkf" in the program's folder; where that takes none, in the folder of the
+/// set's own file; else in a folder of the user's in the temporary one. The ones from before become
+/// "rescued-1.dkf", the latest, to "rescued-9.dkf"; the tenth is removed. Writing the file again replaces it,
+/// whatever number it has by then, so several programs can do so at once. A text that no set file can hold is
+/// changed as far as it must be.
+class UnsavedWork {
 public:
-    void Keep(const CardSet& set);
+    /// While the set is worked on its rescue file is at most `renewAfter` older than the last change.
+    UnsavedWork(QString programFolder, std::chrono::milliseconds renewAfter);
+
+    /// The set is what the file in that folder holds; without a folder it is a new set. A rescue file of the
+    /// set is removed.
+    void Keep(const CardSet& set, const QString& setFolder = {});
 
     /// Whether the file of the set would be another now. A set that no file can hold always differs.
     [[nodiscard]] bool Differs(const CardSet& set) const;
 
+    /// To be called after each change: writes the rescue file if it is due and the set differs.
+    void Renew(const CardSet& set);
+
+    /// To be called before the set is given up. Writes the rescue file if the set differs and returns its
+    /// path, else nothing. No later call touches that file.
+    [[nodiscard]] std::optional<QString> Leave(const CardSet& set);
+
+    /// To be called where a set that was left may still be there; it then has its rescue file again. Returns
+    /// whether it is there unchanged.
+    bool ReturnTo(const CardSet& set);
+
+    /// Writes the rescue file and returns its path.
+    QString Rescue(const CardSet& set);
+
+    /// The same for a program that ends: standard error says where the file is, or why there is none.
+    void RescueAtTheEnd(const CardSet& set) noexcept;
+
+    struct RescuedSet {
+        QString Path;
+        QDateTime Time;
+    };
+    /// The latest rescued set that is there, of whatever run.
+    [[nodiscard]] std::optional<RescuedSet> LatestRescued() const;
+
 private:
-    QByteArray m_print; ///< of the bytes of the file; empty where there can be none
+    struct OwnFile {
+        QString Folder;
+        FileAttributes Attributes; ///< by which it is found again under another number
+    };
+
+    [[nodiscard]] QString WriteTo(const QString& folder, const QByteArray& bytes);
+    [[nodiscard]] QString PathOfOwn() const;
+    void RemoveOwn();
+
+    QString m_programFolder;
+    QString m_setFolder;
+    QByteArray m_kept; ///< fingerprint of the set's file; empty where there can be none
+    QByteArray m_left; ///< fingerprint of the set that was left
+    std::optional<OwnFile> m_own;
+    std::optional<OwnFile> m_leftFile;
+    std::chrono::milliseconds m_renewAfter;
+    QElapsedTimer m_sinceRenewed;
 };
 
 } // namespace deckforge

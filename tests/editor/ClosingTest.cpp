@@ -2,51 +2,134 @@
 #include "platform/Paths.h"
 #include "support/EveryKind.h"
 
+#include <QMimeData>
+#include <QScopeGuard>
+#include <QStatusBar>
+#include <unistd.h>
+
 namespace deckforge {
 
 class ClosingTest : public WindowTest {
 protected:
-    ClosingTest() { QFile::remove(RescuedPath()); }
-    ~ClosingTest() override { QFile::remove(RescuedPath()); }
+    ClosingTest() { RemoveRescued(); }
+    ~ClosingTest() override { RemoveRescued(); }
 
-    static QString RescuedPath() { return ProgramFolder() + "rescued.dkf"; }
+    static void RemoveRescued()
+    {
+        QDir folder(ProgramFolder());
+        for (const QString& file : folder.entryList({"rescued*"}, QDir::Files))
+            folder.remove(file);
+    }
+    static QString RescuedPath(int age = 0)
+    {
+        return ProgramFolder() + (age == 0 ? QString("rescued.dkf") : QString("rescued-%1.dkf").arg(age));
+    }
     static bool IsRescued() { return QFile::exists(RescuedPath()); }
+    /// Of the first card; empty where there is no rescued set.
+    static QString RescuedTitle(int age = 0)
+    {
+        ScriptedUser reader;
+        CardSet rescued;
+        InitSet(rescued);
+        return ReadDKF(rescued, RescuedPath(age), reader) ? rescued.Cards[1].Title : QString();
+    }
+    QString Note() { return window.statusBar()->currentMessage(); }
+
+    /// A set with one card of that title.
+    QString WriteSet(const QString& file, const QString& title)
+    {
+        CardSet set;
+        InitSet(set);
+        set.Cards[1].Title = title;
+        ScriptedUser silent;
+        EXPECT_TRUE(WriteDKF(set, folder.Path(file), silent, Report::Silent));
+        return folder.Path(file);
+    }
+    void Open(const QString& path)
+    {
+        user.WillChoose(path);
+        Run("open");
+    }
+    void Drop(const QString& path)
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&window, &enter);
+        QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&window, &drop);
+        QCoreApplication::processEvents();
+    }
+    void RunAndAnswer(const char* command, Answer answer)
+    {
+        user.WillAnswer(answer);
+        if (answer == Answer::Yes)
+            user.WillCancelDialog();
+        Run(command);
+    }
 };
 
-TEST_F(ClosingTest, TheCloseBoxRescuesWhatWasNeitherReadNorWritten)
+TEST_F(ClosingTest, NoWayToLoseUnsavedWorkLeavesNoRescuedSet)
 {
-    window.close();
-    EXPECT_FALSE(IsRescued()) << "a new set as it was made";
-    Type("txtTitle", "Bear");
-    window.close();
-    EXPECT_TRUE(IsRescued());
-    EXPECT_TRUE(user.Boxes.empty());
-    ScriptedUser reader;
-    CardSet rescued;
-    ASSERT_TRUE(ReadDKF(rescued, RescuedPath(), reader));
-    EXPECT_EQ(rescued.Cards[1].Title, "Bear");
+    const QString other = WriteSet("other.dkf", "Other");
+    QByteArray half = folder.Read("other.dkf");
+    half.truncate(half.indexOf("Other") + 20);
+    folder.Write("half.dkf", half);
+    const std::pair<const char*, std::function<void()>> ways[] = {
+        {"the close box", [&] { window.close(); }},
+        {"Exit, Yes, and Esc in the dialog", [&] { RunAndAnswer("exit", Answer::Yes); }},
+        {"Exit, No", [&] { RunAndAnswer("exit", Answer::No); }},
+        {"New, Yes, and Esc in the dialog", [&] { RunAndAnswer("new", Answer::Yes); }},
+        {"New, No", [&] { RunAndAnswer("new", Answer::No); }},
+        {"Open", [&] { Open(other); }},
+        {"a drop, No", [&] { user.WillAnswer(Answer::No), Drop(other); }},
+        {"a set that ends in the middle", [&] { Open(folder.Path("half.dkf")); }},
+    };
+    int lost = 0;
+    for (const auto& [way, leave] : ways) {
+        SCOPED_TRACE(way);
+        const QString title = QStringLiteral("Bear %1").arg(++lost);
+        window.show();
+        Type("txtTitle", title);
+        leave();
+        EXPECT_EQ(RescuedTitle(), title);
+        EXPECT_TRUE(!window.isVisible() || Note().contains(RescuedPath())) << Note().toStdString();
+    }
+    EXPECT_EQ(RescuedTitle(lost - 1), "Bear 1") << "none has pushed another out";
 }
 
 TEST_F(ClosingTest, TheWindowStaysWithASetThatCannotBeRescued)
 {
     Type("txtTitle", QStringLiteral("Bear"));
+    const QByteArray before = qgetenv("TMPDIR");
+    const auto restore = qScopeGuard([&] { qputenv("TMPDIR", before); });
+    qputenv("TMPDIR", folder.Path().toUtf8());
+    folder.Write(QStringLiteral("varnhelm-deck-forge-%1").arg(::getuid()), "in the way");
     const QString inTheWay = RescuedPath() + QStringLiteral("~");
     ASSERT_TRUE(QDir().mkdir(inTheWay));
+    const QString other = WriteSet("other.dkf", "Other");
     window.show();
     EXPECT_FALSE(window.close());
     EXPECT_TRUE(user.LastBox().Text.contains(QStringLiteral("75, Path/File access error")));
+    RunAndAnswer("exit", Answer::Yes);
+    EXPECT_TRUE(window.isVisible()) << "the user wants to keep it";
+    RunAndAnswer("new", Answer::No);
+    Open(other);
+    EXPECT_EQ(FirstCard().Title, "Bear");
     Line("txtTitle").setText("медведь"); // which no file can hold
-    user.WillAnswer(Answer::No);
-    Run("exit");
+    RunAndAnswer("exit", Answer::No);
     EXPECT_FALSE(window.isVisible()) << "the user was asked";
     window.show();
     ASSERT_TRUE(QDir().rmdir(inTheWay));
+    Line("txtTitle").setText("гризли");
     EXPECT_TRUE(window.close());
     EXPECT_TRUE(IsRescued());
 }
 
-TEST_F(ClosingTest, WhatIsOnTheDiskOrWasAskedForIsNotRescued)
+TEST_F(ClosingTest, WhatIsOnTheDiskIsNotRescued)
 {
+    window.close();
+    EXPECT_FALSE(IsRescued()) << "a new set as it was made";
     OpenChangedSet(AddOneOfEachKind);
     for (int tab = 1; tab <= 4; ++tab)
         SelectTab(tab);
@@ -58,11 +141,37 @@ TEST_F(ClosingTest, WhatIsOnTheDiskOrWasAskedForIsNotRescued)
     Run("save");
     window.close();
     EXPECT_FALSE(IsRescued());
+}
 
-    Type("txtSetname", "Given up");
-    user.WillAnswer(deckforge::Answer::No);
-    Run("exit");
-    EXPECT_FALSE(IsRescued()) << "the user was asked";
+TEST_F(ClosingTest, ChangesRenewTheRescuedSetUntilTheyAreSaved)
+{
+    frmQDW eager(user, {});
+    root = &eager;
+    Slide("hsbCard", 1);
+    EXPECT_FALSE(IsRescued());
+    for (const char* title : {"Bear", "Bears"}) {
+        Type("txtTitle", title);
+        EXPECT_EQ(RescuedTitle(), title);
+    }
+    folder.Write("none.dkf", "no set");
+    Open(folder.Path("none.dkf"));
+    Type("txtTitle", "Bear");
+    EXPECT_EQ(RescuedTitle(), "Bear");
+    EXPECT_EQ(RescuedTitle(1), QString()) << "a set that was not read has replaced none";
+    user.WillChoose(folder.Path("saved.dkf"));
+    Run("save");
+    EXPECT_FALSE(IsRescued());
+}
+
+TEST_F(ClosingTest, TheStartTellsOfARescuedSet)
+{
+    window.Start({});
+    EXPECT_EQ(Note(), QString());
+    QFile::copy(WriteSet("lost.dkf", "Lost"), RescuedPath(3));
+    window.Start({});
+    const QString day = QDate::currentDate().toString(Qt::ISODate);
+    EXPECT_TRUE(Note().contains(RescuedPath(3))) << Note().toStdString();
+    EXPECT_TRUE(Note().contains(day)) << Note().toStdString();
 }
 
 } // namespace deckforge

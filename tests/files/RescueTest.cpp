@@ -1,8 +1,11 @@
 #include "files/Rescue.h"
+#include "files/modFile.h"
 #include "platform/LastAct.h"
+#include "support/DefaultSignals.h"
 #include "support/SetTest.h"
 
 #include <QDir>
+#include <QScopeGuard>
 #include <csignal>
 #include <unistd.h>
 
@@ -10,10 +13,16 @@ namespace deckforge {
 
 class RescueTest : public SetTest {
 protected:
-    void RescueAs(const QString& name)
+    /// Rescues the set under a name, as a run of its own does or as the one given.
+    QString RescueAs(const QString& name)
+    {
+        UnsavedWork run(Folder.WithSeparator(), {});
+        return RescueAs(name, run);
+    }
+    QString RescueAs(const QString& name, UnsavedWork& run)
     {
         Set.Header.SetName = name;
-        EXPECT_EQ(RescueSet(Set, Folder.WithSeparator()), Folder.Path("rescued.dkf"));
+        return run.Rescue(Set);
     }
     /// The name of the set in the file; empty where there is none.
     QString NameIn(const QString& file)
@@ -23,23 +32,110 @@ protected:
         ScriptedUser silent;
         return ReadDKF(read, Folder.Path(file), silent) ? read.Header.SetName : QString();
     }
+    /// The names in the latest files.
+    QString Names()
+    {
+        return QStringList{NameIn("rescued.dkf"), NameIn("rescued-1.dkf"), NameIn("rescued-2.dkf")}.join('|');
+    }
 };
 
-TEST_F(RescueTest, EarlierOnesMoveOnAndTheTenthGoes)
+TEST_F(RescueTest, EarlierOnesMoveOnAndTheTenthIsRemoved)
 {
     for (int i = 1; i <= 12; ++i)
-        RescueAs(QString::number(i));
+        EXPECT_EQ(RescueAs(QString::number(i)), Folder.Path("rescued.dkf"));
     EXPECT_EQ(NameIn("rescued.dkf"), "12");
     for (int age = 1; age <= 9; ++age)
         EXPECT_EQ(NameIn(QStringLiteral("rescued-%1.dkf").arg(age)), QString::number(12 - age));
     EXPECT_FALSE(Folder.Has("rescued-10.dkf"));
     const QString gone = Folder.Path("gone/");
-    EXPECT_EQ(RescueSet(Set, gone), gone + "rescued.dkf") << "the folder is made again";
+    EXPECT_EQ(UnsavedWork(gone, {}).Rescue(Set), gone + "rescued.dkf") << "the folder is made again";
 
     QFile::remove(Folder.Path("rescued-2.dkf"));
     RescueAs("13");
     EXPECT_EQ(NameIn("rescued-2.dkf"), "11");
     EXPECT_EQ(NameIn("rescued-9.dkf"), "3") << "there was room below it";
+}
+
+TEST_F(RescueTest, ARunReplacesItsOwnFileWhateverItsNumber)
+{
+    RescueAs("before");
+    UnsavedWork one(Folder.WithSeparator(), {});
+    UnsavedWork other(Folder.WithSeparator(), {});
+    for (const char* name : {"one", "one again"})
+        RescueAs(name, one);
+    EXPECT_EQ(Names(), "one again|before|");
+    RescueAs("other", other);
+    EXPECT_EQ(RescueAs("one at last", one), Folder.Path("rescued-1.dkf"));
+    EXPECT_EQ(Names(), "other|one at last|before");
+    one.Keep(Set); // it is saved
+    EXPECT_EQ(Names(), "other||before");
+
+    Folder.Write("rescued.dkf", "somebody's");
+    RescueAs("other again", other);
+    EXPECT_EQ(NameIn("rescued.dkf"), "other again");
+    EXPECT_EQ(Folder.Read("rescued-1.dkf"), "somebody's") << "it was not its own any more";
+}
+
+TEST_F(RescueTest, IsRenewedWhereItIsDueAndTheSetDiffers)
+{
+    UnsavedWork idle(Folder.WithSeparator(), std::chrono::hours(1));
+    UnsavedWork run(Folder.WithSeparator(), {});
+    idle.Keep(Set);
+    run.Keep(Set);
+    run.Renew(Set);
+    EXPECT_FALSE(Folder.Has("rescued.dkf")) << "nothing differs";
+    Set.Header.SetName = "changed";
+    idle.Renew(Set);
+    EXPECT_FALSE(Folder.Has("rescued.dkf")) << "not yet due";
+    run.Renew(Set);
+    EXPECT_EQ(Names(), "changed||");
+}
+
+TEST_F(RescueTest, WhatWasLeftStaysUnlessItWasNotLeftAfterAll)
+{
+    UnsavedWork run(Folder.WithSeparator(), {});
+    run.Keep(Set);
+    EXPECT_FALSE(run.Leave(Set)) << "nothing differs";
+    Set.Header.SetName = "here";
+    EXPECT_EQ(run.Leave(Set), Folder.Path("rescued.dkf"));
+    EXPECT_TRUE(run.ReturnTo(Set));
+    Set.Header.SetName = "left";
+    EXPECT_EQ(run.Leave(Set), Folder.Path("rescued.dkf"));
+    EXPECT_EQ(Names(), "left||");
+    Set.Header.SetName = "half read";
+    EXPECT_FALSE(run.ReturnTo(Set));
+    run.Renew(Set);
+    EXPECT_EQ(Names(), "half read|left|");
+    run.Keep(Set);
+    EXPECT_EQ(Names(), "|left|");
+}
+
+TEST_F(RescueTest, GoesBesideTheSetOrToTheTemporaryFolderWhereItMust)
+{
+    const QByteArray before = qgetenv("TMPDIR");
+    const auto restore = qScopeGuard([&] { qputenv("TMPDIR", before); });
+    qputenv("TMPDIR", Folder.Path().toUtf8());
+    const QString noFolder = Folder.Write("file", "") + '/';
+    QDir(Folder.Path()).mkdir("set");
+    UnsavedWork run(noFolder, {});
+    EXPECT_FALSE(run.LatestRescued());
+    run.Keep(Set, Folder.Path("set/"));
+    EXPECT_EQ(RescueAs("beside", run), Folder.Path("set/rescued.dkf"));
+    EXPECT_EQ(run.LatestRescued()->Path, Folder.Path("set/rescued.dkf"));
+
+    run.Keep(Set);
+    const QString temporary = Folder.Path(QString("varnhelm-deck-forge-%1").arg(::getuid()));
+    EXPECT_EQ(RescueAs("temporary", run), temporary + "/rescued.dkf");
+    EXPECT_EQ(run.LatestRescued()->Path, temporary + "/rescued.dkf");
+    EXPECT_EQ(QFile::permissions(temporary) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+
+    QDir(temporary).removeRecursively();
+    ASSERT_TRUE(QFile::link(Folder.Path("set"), temporary)); // somebody else's work
+    testing::internal::CaptureStderr();
+    run.RescueAtTheEnd(Set);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "The card set could NOT be rescued: 75, Path/File access error\n");
+    EXPECT_TRUE(QDir(Folder.Path("set")).isEmpty());
 }
 
 TEST_F(RescueTest, TextsThatNoFileCanHoldTakeNothingElseWithThem)
@@ -54,21 +150,9 @@ TEST_F(RescueTest, TextsThatNoFileCanHoldTakeNothingElseWithThem)
     EXPECT_EQ(NameIn("rescued.dkf"), "mended");
 }
 
-TEST_F(RescueTest, AFailureIsToldAndTheEarlierOnesStay)
-{
-    RescueAs("earlier");
-    ASSERT_TRUE(QDir(Folder.Path()).mkdir("rescued.dkf~")); // nothing can be written there
-    testing::internal::CaptureStderr();
-    RescueAtTheEnd(Set, Folder.WithSeparator());
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "The card set could NOT be rescued: 75, Path/File access error\n");
-    EXPECT_EQ(NameIn("rescued.dkf"), "earlier");
-    EXPECT_FALSE(Folder.Has("rescued-1.dkf"));
-}
-
 TEST_F(RescueTest, ASetDiffersByWhatItsFileHolds)
 {
-    KeptSet kept;
+    UnsavedWork kept(Folder.WithSeparator(), {});
     kept.Keep(Set);
     EXPECT_FALSE(kept.Differs(Set));
     Set.Cards.Clip.Title = "copied";
@@ -86,6 +170,7 @@ TEST_F(RescueTest, ASetDiffersByWhatItsFileHolds)
 TEST(LastActDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
 {
     testing::FLAGS_gtest_death_test_style = "fast";
+    const DefaultSignals defaults;
     const auto say = [] { std::fputs("last act. ", stderr); };
     const auto fail = [] { throw RunTimeError(ErrorNumber::DeviceIo); };
     const auto failUnhandled = [&]() noexcept {
