@@ -14,6 +14,7 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QButtonGroup>
+#include <QLabel>
 #include <QProgressBar>
 #include <QScreen>
 #include <QScrollArea>
@@ -217,6 +218,11 @@ void frmQDW::BuildStatusBar()
     m_progress->hide();
     statusBar()->addPermanentWidget(m_progress, 1); // others make way for a message
 
+    m_hint = new QLabel(this);
+    m_hint->setObjectName(QStringLiteral("hint"));
+    m_hint->setMinimumWidth(1); // a long text is cut, and does not widen the window
+    m_hint->hide();
+    statusBar()->addPermanentWidget(m_hint);
     connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QWidget::setToolTip);
 
     m_zooms = new QButtonGroup(this);
@@ -312,6 +318,8 @@ void frmQDW::InitForm()
 /// The set may have changed.
 void frmQDW::AfterHandler()
 {
+    if (!m_hint->isHidden())
+        RenewHint();
     try {
         WithMemoryAsFailure([this] { m_work.Renew(m_workshop.Set); });
     } catch (const RunTimeError& error) {

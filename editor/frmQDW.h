@@ -203,6 +203,7 @@ private:
     template <class Record>
     void TextChanged(const TextField<Record>& row);
     void HintAtUnsavable(const QString& text);
+    void RenewHint();
     template <class Record>
     void Fill();
     void BindFields();
@@ -355,6 +356,7 @@ private:
     QScrollArea* m_previewArea;
     QButtonGroup* m_zooms;
     QProgressBar* m_progress;
+    QLabel* m_hint; ///< why the set cannot be saved as it is
 };
 
 // The four kinds and the set itself, each told in frmQDW_Fields.cpp, and their pages in frmQDW_Cards.cpp.

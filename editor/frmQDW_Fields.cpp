@@ -9,7 +9,7 @@
 #include "ui_fraLargeCard.h"
 #include "ui_fraSet.h"
 
-#include <QStatusBar>
+#include <QLabel>
 #include <limits>
 
 namespace deckforge {
@@ -214,16 +214,25 @@ void frmQDW::TextChanged(const TextField<Record>& row)
     m_preview->update();
 }
 
-/// Says at once why the next save would fail, until the text is mended.
+/// Says at once why the next save would fail.
 void frmQDW::HintAtUnsavable(const QString& text)
 {
+    if (!IsInCodePage(text))
+        m_hint->show(); // with its text when the handler ends
+}
+
+/// The hint stays until the set can be saved.
+void frmQDW::RenewHint()
+{
+    QString hint;
     try {
-        QByteArray bytes;
-        AppendInCodePage(bytes, text);
-        statusBar()->clearMessage();
+        static_cast<void>(SetFileBytes(m_workshop.Set, Unwritable::Fail));
     } catch (const RunTimeError& error) {
-        statusBar()->showMessage(error.Description());
+        hint = error.Description();
     }
+    m_hint->setText(hint);
+    m_hint->setToolTip(hint);
+    m_hint->setHidden(hint.isEmpty());
 }
 
 template <class Record>

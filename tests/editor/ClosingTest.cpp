@@ -174,4 +174,23 @@ TEST_F(ClosingTest, TheStartTellsOfARescuedSet)
     EXPECT_TRUE(Note().contains(day)) << Note().toStdString();
 }
 
+TEST_F(ClosingTest, AHintAtWhatCannotBeSavedStaysUntilItIsChanged)
+{
+    window.show();
+    const auto& hint = Find<QLabel>("hint");
+    EXPECT_FALSE(hint.isVisible());
+    Line("txtTitle").setText("медведь");
+    EXPECT_TRUE(hint.isVisible());
+    const QString text = hint.text();
+    EXPECT_FALSE(text.isEmpty());
+    Type("txtArtist", "A. Painter");
+    Click("cmdCardAdd");
+    window.statusBar()->showMessage("The work of another.");
+    EXPECT_TRUE(hint.isVisible());
+    EXPECT_EQ(hint.text(), text);
+    Slide("hsbCard", 1);
+    Line("txtTitle").setText("Bear");
+    EXPECT_FALSE(hint.isVisible());
+}
+
 } // namespace deckforge
