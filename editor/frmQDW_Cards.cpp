@@ -178,7 +178,8 @@ void frmQDW::AddCard()
     (this->*page.Show)(cards.Current);
     page.Bar->setValue(cards.Count());
     page.Name->selectAll();
-    page.Name->setFocus();
+    if (page.Name->isVisibleTo(this)) // after New the form may not be that of the tab
+        page.Name->setFocus();
 }
 
 template <class Record>

@@ -60,6 +60,23 @@ TEST_F(KindsTest, ASwitchOfTabComesBackToTheFront)
     EXPECT_FALSE(Find<QCheckBox>("chkShowCharacterBack").isChecked());
 }
 
+TEST_F(KindsTest, AfterANewSetNothingIsTypedIntoAHiddenBox)
+{
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    for (const char* box : {"txtCharName", "cboStartArea", "txtSpecialAbilities", "chkShowPlayingPiece"}) {
+        SelectTab(3);
+        ClickTab(3);
+        Find<QWidget>(box).setFocus();
+        user.WillAnswer(Answer::No);
+        Run("new");
+        ASSERT_NE(window.focusWidget(), nullptr) << box;
+        EXPECT_TRUE(window.focusWidget()->isVisible()) << box;
+        QTest::keyClick(&window, Qt::Key_N, Qt::ControlModifier); // the tab adds a character
+        EXPECT_TRUE(window.focusWidget()->isVisible()) << box;
+    }
+}
+
 TEST_F(KindsTest, ANewSetLeavesTheTabAndItsCardsToTheNextClick)
 {
     SelectTab(4);
