@@ -2,12 +2,18 @@
 
 #include "platform/RunTimeError.h"
 
+#include <QRect>
 #include <gtest/gtest.h>
 #include <ostream>
 
 inline void PrintTo(const QString& text, std::ostream* out)
 {
     *out << '"' << text.toStdString() << '"';
+}
+
+inline void PrintTo(const QRect& rect, std::ostream* out)
+{
+    *out << rect.x() << ", " << rect.y() << ", " << rect.width() << " x " << rect.height();
 }
 
 namespace deckforge {
