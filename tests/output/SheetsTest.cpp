@@ -57,6 +57,19 @@ TEST_F(SheetTest, TheGridLiesOnTheOuterPixelsAndBacksAtTheRight)
     EXPECT_EQ(sheet.pixel(152 + 70, 100), back.pixel(70, 100));
 }
 
+TEST_F(SheetTest, EachCellHasTheBackOfItsCard)
+{
+    for (int16 i = 1; i <= 5; ++i)
+        Shop.Set.Cards[i].CardBack = i;
+    CreateCardSheets(Shop, SheetGrid{2, 3});
+    const QImage sheet = Folder.Image("Sea Sheet 1.bmp");
+    for (int i = 0; i < 5; ++i) {
+        const QRect back(i % 2 * 304 + 152 + 1, i / 2 * 256, 149, 254); // its first column is under the grid
+        const QImage art = Shop.Art.imgCB(i).Pixels().copy(1, 0, 149, 254);
+        EXPECT_EQ(sheet.copy(back).convertToFormat(art.format()), art) << "card " << i + 1;
+    }
+}
+
 TEST_F(SheetTest, WithoutBacksACellIsACard)
 {
     Header().NoBack = true;
@@ -107,6 +120,47 @@ TEST_F(SheetTest, LargeCardsStandAboveTheirBacksAndGoToTheClipboard)
     CreateCharacterSheets(Shop, SheetGrid{1, 1});
     EXPECT_EQ(User.LastTold(), "Create large cardsheets|1 character cardsheet is created.");
     EXPECT_FALSE(Folder.Has("Sea Sheet Large 2.bmp"));
+}
+
+TEST_F(SheetTest, BelowALargeCardIsItsBackInAnOutlineUnlessARowFollows)
+{
+    for (int i = 1; i <= 3; ++i) {
+        AddElement<LargeCard>(Shop.Set);
+        Shop.Set.LargeCards[i].Color = 0x10 * i;
+        Shop.Set.LargeCards[i].ShowPicture = false;
+    }
+    Shop.Set.LargeCards[2].CardBack = Folder.WritePicture("rear.bmp", PictureOfPlaces({304, 256}));
+    CreateLargeCardSheets(Shop, SheetGrid{2, 2});
+    const QImage sheet = Folder.Image("Sea Sheet Large 1.bmp");
+    ASSERT_EQ(sheet.size(), QSize(2 * 608, 512));
+    EXPECT_EQ(CardsIn(sheet, {{0, 0}, {608, 0}, {0, 256}}), (std::vector{1, 2, 3}));
+    PictureBox back({304, 256});
+    back.PaintPicture(PictureOfPlaces({304, 256}), 0, 0);
+    back.LineBox(0, 0, 303, 255);
+    const QImage expected = back.Image().Pixels();
+    EXPECT_EQ(sheet.copy(608, 256, 304, 256).convertToFormat(expected.format()), expected);
+
+    Header().NoBack = true;
+    CreateLargeCardSheets(Shop, SheetGrid{2, 2});
+    const QImage bare = Folder.Image("Sea Sheet Large 1.bmp");
+    ASSERT_EQ(bare.size(), QSize(2 * 304, 512));
+    EXPECT_EQ(CardsIn(bare, {{0, 0}, {304, 0}, {0, 256}, {304, 256}}), (std::vector{0, 0, 3, 0}))
+        << "after the first run each card is written alone";
+}
+
+TEST_F(SheetTest, SheetsHaveTheNameAndTheFormatOfTheSet)
+{
+    Header().NoBack = true;
+    Header().ReplaceSpace = true;
+    Header().FileNr = true; // is of no account
+    for (const auto& [prefix, format, name] : {std::tuple{"", int16{0}, "Sea_Sheet_2.bmp"},
+                                               {"my sea", int16{1}, "my_sea_Sheet_2.jpg"},
+                                               {"my sea", int16{2}, "my_sea_Sheet_2.gif"}}) {
+        Header().FilenamePrefix = prefix;
+        Header().SaveFormat = format;
+        CreateCardSheets(Shop, SheetGrid{3, 1});
+        EXPECT_EQ(Folder.Image(name).size(), QSize(3 * 152, 256)) << name;
+    }
 }
 
 TEST_F(SheetTest, AFailureIsToldAndTheRunGoesOn)

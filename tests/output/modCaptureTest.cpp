@@ -1,6 +1,10 @@
 #include "output/modCapture.h"
+#include "compose/CharacterCard.h"
+#include "compose/LargeCard.h"
+#include "compose/StandardCard.h"
 #include "output/ImageWriters.h"
 #include "platform/Paths.h"
+#include "support/EveryKind.h"
 #include "support/WorkshopTest.h"
 
 namespace deckforge {
@@ -48,25 +52,44 @@ TEST(ImageNames, LoseOuterBlanksAndNumberSheetsByTheCards)
     EXPECT_EQ(SheetName(header, " Sheet Large ", 2, 53, 6), "s Sheet Large 2.bmp");
 }
 
-TEST_F(ImageTest, ACardAndItsBackStandSideBySideInTheirOutlines)
+TEST_F(ImageTest, CardAndBackStandSideBySideInTheirOutlines)
 {
-    FirstCard().Color = 0x0000FF;
-    CreateCards(Shop);
-    const QImage image = Folder.Image("CARD 1.bmp");
-    ASSERT_EQ(image.size(), QSize(304, 256));
-    for (const int x : {0, 151, 152, 303})
-        EXPECT_EQ(image.pixel(x, 100), qRgb(0, 0, 0)) << x;
-    for (const int y : {0, 255})
-        EXPECT_EQ(image.pixel(200, y), qRgb(0, 0, 0)) << y;
-    EXPECT_EQ(image.pixel(1, 1), qRgb(255, 0, 0));
-    EXPECT_EQ(image.pixel(150, 254), qRgb(255, 0, 0));
-    const QImage back = Shop.Art.imgCB(0).Pixels();
-    EXPECT_EQ(image.copy(153, 1, 150, 254).convertToFormat(back.format()), back);
-
-    Header().NoBack = true;
-    CreateCards(Shop);
-    EXPECT_EQ(Folder.Image("CARD 1.bmp").size(), QSize(152, 256));
-    EXPECT_EQ(User.LastTold(), "Create cards|1 card is created.");
+    AddOneOfEachKind(Shop.Set);
+    FirstCard().CardBack = 2;
+    Shop.Set.LargeCards[1].CardBack = Folder.WritePicture("rear.bmp", PictureOfPlaces({302, 254}));
+    Shop.Set.Characters[1].CardBack = 1;
+    const struct {
+        const char* Name;
+        bool (*Show)(Workshop&, int16);
+        Picture (*Final)(Workshop&);
+        PictureBox WorkSurfaces::*Front;
+        Picture Back; ///< empty for the front again
+    } rows[] = {
+        {"card", ShowCard, FinalCard, &WorkSurfaces::picACard, Shop.Art.imgCB(1)},
+        {"large card", ShowLargeCard, FinalLargeCard, &WorkSurfaces::picACard, PictureOfPlaces({302, 254})},
+        {"character", ShowCharacter, FinalCharacter, &WorkSurfaces::picACard, Shop.Art.imgChB(1)},
+        {"piece", ShowCharacter, FinalPlayingPiece, &WorkSurfaces::picACardPP, {}}};
+    for (const auto& row : rows) {
+        for (const bool noBack : {false, true}) {
+            SCOPED_TRACE(testing::Message() << row.Name << (noBack ? " without back" : ""));
+            Header().NoBack = noBack;
+            ASSERT_TRUE(row.Show(Shop, 1));
+            const Picture front = (Shop.Surfaces.*row.Front).Image();
+            const int w = front.Size().width();
+            const bool isDouble = !noBack || row.Back.IsEmpty();
+            PictureBox expected(QSize(isDouble ? 2 * w : w, 256));
+            if (isDouble)
+                expected.PaintPicture(row.Back.IsEmpty() ? front : row.Back, w + 1, 1);
+            expected.PaintPicture(front, 1, 1);
+            expected.LineBox(0, 0, w - 1, 255);
+            expected.LineBox(w, 0, 2 * w - 1, 255);
+            EXPECT_EQ(row.Final(Shop).Pixels(), expected.Image().Pixels());
+        }
+    }
+    SaveNewCardBack(Shop, 1, Ask::No, Tell::No);
+    const QImage back = Folder.Image("Back 1.bmp");
+    EXPECT_EQ(back.size(), QSize(152, 256));
+    EXPECT_EQ(back.pixel(151, 255), qRgb(0, 0, 0)) << "an outline, and nothing beside it";
 }
 
 TEST_F(ImageTest, ABatchNamesCardsByTheirTitlesAndComesBackToTheCurrentOne)
