@@ -57,7 +57,9 @@ TEST_F(PicturePathsTest, EveryFieldTakesTheFolderAndKeepsItsName)
         EXPECT_EQ(field.Title(set, row), title);
         ChangeFolder(set, field, {row}, "/new/");
         EXPECT_EQ(field.Path(set, row), changed);
-        EXPECT_EQ(set.Cards[1].Picture + set.LargeCards[1].Picture + set.Characters[1].PlayingPiece, "");
+        for (const QString& other :
+             {set.Cards[1].Picture, set.LargeCards[1].Picture, set.Characters[1].PlayingPiece})
+            EXPECT_EQ(other, "") << "of a row that was not chosen";
     }
 }
 

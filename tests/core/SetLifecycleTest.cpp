@@ -1,4 +1,6 @@
+#include "core/SetTables.h"
 #include "core/Vocabulary.h"
+#include "support/EveryKind.h"
 #include "support/SetTest.h"
 
 namespace deckforge {
@@ -35,10 +37,93 @@ TEST_F(SetLifecycle, ThereIsNoCardBehindTheLastNumber)
     EXPECT_EQ(FailureOf([&] { (void)Set.Cards[-1]; }), 9);
 }
 
+TEST_F(SetLifecycle, ANewElementHasTheDefaultsOfItsKind)
+{
+    AddOneOfEachKind(Set);
+    const QByteArray written = SetFileBytes(Set, Unwritable::Fail);
+    for (const char* lines :
+         {"; 1 ;LARGE CARD 1; 1 ;True;; 0 ; 0 ; 121 ;True;False;;;; 16777215 ;;",
+          "; 1 ;CHARACTER 1;;NEUTRAL;;3;;---;---; 0 ; 0 ;; 121 ;VILLAGE;3;False;True; 0 ;;; 0 ; 0 ;",
+          "; 1 ;New set;; 16777215 ; 0 ;Back 1; 16777215 ;;False;Arial; 18 ;True;False; 16777215 ;"})
+        EXPECT_TRUE(written.contains(QByteArray(lines).replace(";", "\r\n"))) << lines;
+
+    Set.LastType = "type";
+    Set.LastSubType = "second";
+    Set.LastTypeReversed = "reversed";
+    Set.LastSubTypeReversed = "its second";
+    Set.LastNumber = 4;
+    Set.LastBackground = "ground.bmp";
+    Set.LastCardBack = 6;
+    AddElement<Card>(Set);
+    const Card& card = Set.Cards[2];
+    EXPECT_EQ(card.Type, "type");
+    EXPECT_EQ(card.SubType, "second");
+    EXPECT_EQ(card.TypeReversed, "reversed");
+    EXPECT_EQ(card.SubTypeReversed, "its second");
+    EXPECT_EQ(card.Number, "4");
+    EXPECT_EQ(card.Background, "ground.bmp");
+    EXPECT_EQ(card.CardBack, 6);
+}
+
+TEST_F(SetLifecycle, ANewSetKeepsNothingButTheDesignedBacks)
+{
+    AddOneOfEachKind(Set);
+    AddElement<Card>(Set);
+    AddOwnType(Set, {"QUEST", {}, {}, {}, 0, false});
+    AddOwnBack(Set, "own", "own.bmp");
+    ChooseDefaultType(Set, 13);
+    Set.LastCardBack = 5;
+    Set.LastBackground = "ground.bmp";
+    InitSet(Set);
+    const std::tuple<const char*, int, int> rows[] = {{"cards", Set.Cards.Count(), 1},
+                                                      {"current card", Set.Cards.Current, 1},
+                                                      {"large cards", Set.LargeCards.Count(), 0},
+                                                      {"current large card", Set.LargeCards.Current, 0},
+                                                      {"characters", Set.Characters.Count(), 0},
+                                                      {"current character", Set.Characters.Current, 0},
+                                                      {"designed backs", Set.NewCardBacks.Count(), 1},
+                                                      {"types", Set.CardTypes.Count(), 15},
+                                                      {"backs", Set.CardBacks.Count(), 27},
+                                                      {"last back", Set.LastCardBack, 1},
+                                                      {"last number", Set.LastNumber, 2}};
+    for (const auto& [what, count, expected] : rows)
+        EXPECT_EQ(count, expected) << what;
+    EXPECT_EQ(Set.LastType, "ENEMY-");
+    EXPECT_EQ(Set.LastBackground, "");
+}
+
 TEST_F(SetLifecycle, TheVocabularyIsThatOfThePrintedGame)
 {
-    EXPECT_EQ(TypeListEntry(Set.CardTypes[4]), "ENEMY-Fey");
-    EXPECT_EQ(TypeListEntry(Set.CardTypes[15]), "ENEMY-Troll");
+    const char* const types[] = {"ENEMY-|Alien|-ENEMY|Alien|2",
+                                 "ENEMY-|Animal|-ENEMY|Animal|2",
+                                 "ENEMY-|Dragon|-ENEMY|Dragon|2",
+                                 "ENEMY-Fey||Fey-ENEMY||2",
+                                 "ENEMY-|Monster|-ENEMY|Monster|2",
+                                 "ENEMY-|Spirit|-ENEMY|Spirit|3",
+                                 "EVENT||EVENT||1",
+                                 "EVENT-Law||Law-EVENT||1",
+                                 "FOLLOWER||FOLLOWER||5",
+                                 "OBJECT||OBJECT||5",
+                                 "OBJECT-|Magic|-OBJECT|Magic|5",
+                                 "PLACE||PLACE||6",
+                                 "SPELL||SPELL||-1",
+                                 "STRANGER||STRANGER||4",
+                                 "ENEMY-Troll||Troll-ENEMY||2"};
+    ASSERT_EQ(Set.CardTypes.Count(), std::ssize(types));
+    for (int row = 1; row <= Set.CardTypes.Count(); ++row) {
+        const CardType& type = Set.CardTypes[row];
+        EXPECT_EQ(QStringList({type.Name, type.SubName, type.ReversedName, type.ReversedSubName,
+                               QString::number(type.Number)})
+                      .join('|'),
+                  types[row - 1]);
+        EXPECT_TRUE(type.BuiltIn) << row;
+    }
+    EXPECT_EQ(TypeListEntry(Set.CardTypes[2]), "ENEMY-Animal");
+    ASSERT_EQ(Set.CardBacks.Count(), 27);
+    for (const auto& [row, name] : {std::pair{1, "Adventure"}, {14, "Mystic Brew"}, {27, "Blank"}})
+        EXPECT_EQ(Set.CardBacks[row].Name, name);
+    for (int row = 1; row <= Set.CardBacks.Count(); ++row)
+        EXPECT_TRUE(Set.CardBacks[row].BuiltIn) << row;
     EXPECT_EQ(StartAreas().size(), 87);
     EXPECT_EQ(StartAreas()[33], "CITY-HIGH TEMPLE");
     EXPECT_TRUE(StartAreas().contains("CITY-SPEAKERS’ CORNER"));
