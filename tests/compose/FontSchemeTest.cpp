@@ -9,35 +9,37 @@ TEST(FontScheme, DressesEveryLabelInItsFont)
 {
     SetHeader header;
     CardTemplates templates(1);
-    CardTemplate& card = templates.Standard;
-    LargeCardTemplate& large = templates.Large;
-    CharacterTemplate& character = templates.Character;
+    const CardTemplate& card = templates.Standard;
+    const LargeCardTemplate& large = templates.Large;
+    const CharacterTemplate& character = templates.Character;
+    const FontSpec objects = character.lblObjects.Font;
     int size = 0;
     for (FontSpec SetHeader::*font : setFile::Fonts)
         (header.*font).Size = ++size;
-    const FontSpec objects = character.lblObjects.Font;
     SetFont(templates, header);
-    using Sizes = std::vector<double>;
-    const auto sizesOf = [](std::initializer_list<const Box*> labels) {
-        Sizes sizes;
-        for (const Box* label : labels)
-            sizes.push_back(label->Font.Size);
-        return sizes;
-    };
-    EXPECT_EQ(
-        sizesOf({&card.lblTitle, &card.lblType[0], &card.lblType[1], &card.lblType[2], &card.lblType[3]}),
-        (Sizes{1, 2, 2, 2, 2}));
-    EXPECT_EQ(sizesOf({&card.lblNumber, &card.lblBold, &card.lblInformation, &card.lblAutonumber}),
-              (Sizes{3, 4, 5, 6}));
-    EXPECT_EQ(sizesOf({&large.lblAutonumberLarge, &large.lblTitleLarge, &large.lblInformationLarge}),
-              (Sizes{6, 7, 8}));
-    EXPECT_EQ(sizesOf({&character.lblAutonumberCharacter, &character.lblCharacter, &character.lblSpecialTitle,
-                       &character.lblSpecial}),
-              (Sizes{6, 9, 10, 11}));
-    EXPECT_EQ(sizesOf({&character.lblAlignmentTitle, &character.lblAlignment, &character.lblStartTitle,
-                       &character.lblStart}),
-              (Sizes{12, 12, 12, 12}));
-    EXPECT_EQ(sizesOf({&templates.PlayingPiece.lblPlayingPieceName}), Sizes{13});
+    const std::pair<const Box&, double> rows[] = {{card.lblTitle, 1},
+                                                  {card.lblType[0], 2},
+                                                  {card.lblType[1], 2},
+                                                  {card.lblType[2], 2},
+                                                  {card.lblType[3], 2},
+                                                  {card.lblNumber, 3},
+                                                  {card.lblBold, 4},
+                                                  {card.lblInformation, 5},
+                                                  {card.lblAutonumber, 6},
+                                                  {large.lblAutonumberLarge, 6},
+                                                  {large.lblTitleLarge, 7},
+                                                  {large.lblInformationLarge, 8},
+                                                  {character.lblAutonumberCharacter, 6},
+                                                  {character.lblCharacter, 9},
+                                                  {character.lblSpecialTitle, 10},
+                                                  {character.lblSpecial, 11},
+                                                  {character.lblAlignmentTitle, 12},
+                                                  {character.lblAlignment, 12},
+                                                  {character.lblStartTitle, 12},
+                                                  {character.lblStart, 12},
+                                                  {templates.PlayingPiece.lblPlayingPieceName, 13}};
+    for (const auto& [label, points] : rows)
+        EXPECT_EQ(label.Font.Size, points) << label.Name.toStdString();
     EXPECT_EQ(character.lblObjects.Font, objects) << "outside the scheme";
 }
 

@@ -26,43 +26,20 @@ protected:
     const QString Places = Folder.WritePicture("places.bmp", PictureOfPlaces({200, 250}));
 };
 
-TEST_F(OtherKindsTest, ALargeCardHasItsPictureAtTheLeftAndItsTextBeside)
+TEST_F(OtherKindsTest, TheTextOfALargeCardFollowsItsFrame)
 {
-    Large().Picture = Places;
+    const LargeCardTemplate& t = Shop.Templates.Large;
     Large().FrameHeight = 100;
-    Large().PictureLeft = -15 * 30;
     ASSERT_TRUE(ShowLargeCard(Shop, 1));
     EXPECT_EQ(Surface().Size(), QSize(304, 256));
-    ExpectPixels(Surface(), {{9, 9, ColourOfPlace(30, 0)}, {8, 100, LightGrey}});
-    const LargeCardTemplate& t = Shop.Templates.Large;
     EXPECT_EQ(t.lblPicSizeLarge.Left, 108);
     EXPECT_EQ(t.lblTitleLarge.Place(), QRect(113, 8, 183, 25));
     EXPECT_EQ(t.lblInformationLarge.Place(), QRect(113, 32, 183, 212));
-    EXPECT_EQ(t.picBackLarge.Surface->GetPicture().Pixels(), Shop.Art.imgChB(3).Pixels());
-
     Large().ShowPicture = false;
     ASSERT_TRUE(ShowLargeCard(Shop, 1));
+    EXPECT_EQ(t.lblTitleLarge.Place(), QRect(10, 8, 286, 25));
     EXPECT_EQ(t.lblInformationLarge.Place(), QRect(10, 32, 286, 212));
-
-    Large().ShowPicture = Large().Resize = true;
-    Large().FrameHeight = 121;
-    Large().PictureLeft = 0;
-    Large().PictureTop = 15 * 3;
-    ASSERT_TRUE(ShowLargeCard(Shop, 1));
-    EXPECT_EQ(t.picFrameLarge.Place(), QRect(8, 11, 121, 250));
-    EXPECT_EQ(t.picImageLarge.Top, 0);
-    ExpectPixels(Surface(), {{9, 12, ColourOfPlace(0, 0)}, {8 + 119, 12, ColourOfPlace(118, 0)}});
-}
-
-TEST_F(OtherKindsTest, ALargeCardsNumberStandsAtTheStandardCardsHeight)
-{
-    Header().Autonumber = true;
-    Header().FontAutonumber.Size = 7;
-    ASSERT_TRUE(ShowLargeCard(Shop, 1));
-    Shop.Templates.Standard.lblAutonumber.Top = 200;
-    ASSERT_TRUE(ShowLargeCard(Shop, 1));
-    EXPECT_FALSE(InkIn(Surface(), {0, 200, 8, 11}, Cream).isNull());
-    EXPECT_TRUE(InkIn(Surface(), {0, 246, 8, 9}, Cream).isNull());
+    EXPECT_EQ(t.picBackLarge.Surface->GetPicture().Pixels(), Shop.Art.imgChB(3).Pixels());
 }
 
 TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreToldOnTheStandardCard)
@@ -84,47 +61,19 @@ TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreToldOnTheStandardCard)
     }
 }
 
-TEST_F(OtherKindsTest, ACharactersPictureLiesOnThePanel)
+TEST_F(OtherKindsTest, TheTextOfACharacterFollowsItsFrame)
 {
-    Hero().Picture = Places;
-    Hero().PictureLeft = 15 * 4;
-    ASSERT_TRUE(ShowCharacter(Shop, 1));
-    ExpectPixels(Surface(),
-                 {{13 + 1 + 3, 14 + 5, White},
-                  {13 + 1 + 4, 14, ColourOfPlace(0, 0)}, // without an outline it starts at the edge
-                  {13 + 1 + 120, 14 + 219, ColourOfPlace(116, 219)}});
-    Hero().Frame = true;
-    ASSERT_TRUE(ShowCharacter(Shop, 1));
-    EXPECT_EQ(Shop.Templates.Character.picFrameCharacter.Height, 218);
-    EXPECT_EQ(Surface().GetPixel(13 + 1 + 4 + 1, 14 + 1), ColourOfPlace(0, 0));
     const CharacterTemplate& t = Shop.Templates.Character;
+    ASSERT_TRUE(ShowCharacter(Shop, 1));
+    EXPECT_EQ(t.picFrameCharacter.Height, 220);
+    EXPECT_EQ(t.lblPicSizeCharacter.Left, 122);
     EXPECT_EQ(t.lblStart.Place(), QRect(169, 15, 103, 12));
-    ShowPictureFrame(Shop.Templates.Character, false);
-    EXPECT_EQ(std::tuple(t.lblSpecial.Left, t.lblSpecial.Width), std::tuple(6, 266));
-}
-
-TEST_F(OtherKindsTest, AttributesStandOnTheirSidesAndReadBothWays)
-{
-    const auto strip = [&](std::size_t i) -> const PictureBox& {
-        return *Shop.Templates.Character.picCharAttrDisp[i].Surface;
-    };
-    DrawCharAttribute(Shop, 0, "---");
-    EXPECT_EQ(strip(0).Size(), QSize(12, 52));
-    const auto inkOf = [&](std::size_t i) { return InkIn(strip(i), {0, 0, 12, 52}, Black); };
-    const QRect word = inkOf(0);
-    EXPECT_NEAR(word.center().y(), 26, 1);
-    DrawCharAttribute(Shop, 0, "+1");
-    EXPECT_GT(inkOf(0).height(), word.height());
-    DrawCharAttribute(Shop, 0, "+1 ");
-    DrawCharAttribute(Shop, 0, "1");
-    EXPECT_GT(inkOf(0).height(), word.height());
-
-    // Clockwise the letters stand on the left side of the strip, counter-clockwise on the right.
-    DrawCharAttribute(Shop, 1, "5");
-    DrawCharAttribute(Shop, 3, "5");
-    EXPECT_NEAR(inkOf(1).center().x() + inkOf(3).center().x(), 11, 2);
-    for (int y = 0; y < 52; ++y)
-        EXPECT_EQ(strip(3).GetPixel(6, y) & 0xFF00FF, 0) << "lives are green";
+    EXPECT_EQ(t.lblSpecial.Place(), QRect(128, 43, 144, 177));
+    Hero().Frame = true;
+    Hero().ShowPicture = false;
+    ASSERT_TRUE(ShowCharacter(Shop, 1));
+    EXPECT_EQ(t.picFrameCharacter.Height, 218);
+    EXPECT_EQ(t.lblSpecial.Place(), QRect(6, 43, 266, 177));
 }
 
 TEST_F(OtherKindsTest, ThePiecePrintsItsNameInWhatTheSurfaceHadAndDressesTheCard)
