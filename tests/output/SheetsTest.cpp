@@ -1,3 +1,5 @@
+#include "compose/LargeCard.h"
+#include "compose/StandardCard.h"
 #include "output/frmCardSheet.h"
 #include "support/WorkshopTest.h"
 
@@ -28,6 +30,13 @@ protected:
         }
         return cards;
     }
+
+    QImage Composed(bool (*show)(Workshop&, int16), int card)
+    {
+        EXPECT_TRUE(show(Shop, static_cast<int16>(card)));
+        return Surface().Image().Pixels();
+    }
+
     static constexpr QRgb BlackPixel = qRgb(0, 0, 0);
 };
 
@@ -57,7 +66,7 @@ TEST_F(SheetTest, TheGridLiesOnTheOuterPixelsAndBacksAtTheRight)
     EXPECT_EQ(sheet.pixel(152 + 70, 100), back.pixel(70, 100));
 }
 
-TEST_F(SheetTest, EachCellHasTheBackOfItsCard)
+TEST_F(SheetTest, EachCellHasItsCardAndTheBackOfIt)
 {
     for (int16 i = 1; i <= 5; ++i)
         Shop.Set.Cards[i].CardBack = i;
@@ -67,6 +76,9 @@ TEST_F(SheetTest, EachCellHasTheBackOfItsCard)
         const QRect back(i % 2 * 304 + 152 + 1, i / 2 * 256, 149, 254); // its first column is under the grid
         const QImage art = Shop.Art.imgCB(i).Pixels().copy(1, 0, 149, 254);
         EXPECT_EQ(sheet.copy(back).convertToFormat(art.format()), art) << "card " << i + 1;
+        const QImage card = Composed(ShowCard, i + 1).copy(0, 0, 151, 255);
+        const QRect front(i % 2 * 304, i / 2 * 256, 151, 255); // the rest is under the grid
+        EXPECT_EQ(sheet.copy(front).convertToFormat(card.format()), card) << "card " << i + 1;
     }
 }
 
@@ -134,6 +146,8 @@ TEST_F(SheetTest, BelowALargeCardIsItsBackInAnOutlineUnlessARowFollows)
     const QImage sheet = Folder.Image("Sea Sheet Large 1.bmp");
     ASSERT_EQ(sheet.size(), QSize(2 * 608, 512));
     EXPECT_EQ(CardsIn(sheet, {{0, 0}, {608, 0}, {0, 256}}), (std::vector{1, 2, 3}));
+    const QImage front = Composed(ShowLargeCard, 2);
+    EXPECT_EQ(sheet.copy(608, 0, 304, 256).convertToFormat(front.format()), front);
     PictureBox back({304, 256});
     back.PaintPicture(PictureOfPlaces({304, 256}), 0, 0);
     back.LineBox(0, 0, 303, 255);
