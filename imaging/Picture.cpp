@@ -4,6 +4,7 @@
 #include "platform/RunTimeError.h"
 
 #include <QBuffer>
+#include <algorithm>
 
 namespace deckforge {
 
@@ -11,6 +12,18 @@ namespace {
 
 constexpr double InchesPerMetre = 1000 / 25.4;
 constexpr int LogicalPixelsPerInch = 96;
+
+/// The BMP encoder writes the rows of a picture with a palette as they are in memory. Without this, bytes of
+/// the heap would get into files that people share.
+void ClearRowPadding(QImage& image)
+{
+    constexpr int bitsPerByte = 8;
+    const int used = (image.width() * image.depth() + bitsPerByte - 1) / bitsPerByte;
+    if (used == image.bytesPerLine())
+        return;
+    for (int y = 0; y < image.height(); ++y)
+        std::fill(image.scanLine(y) + used, image.scanLine(y) + image.bytesPerLine(), uchar{0});
+}
 
 } // namespace
 
@@ -26,6 +39,7 @@ void SavePicture(const Picture& picture, const QString& path)
         image.setDotsPerMeterX(dotsPerMetre);
         image.setDotsPerMeterY(dotsPerMetre);
     }
+    ClearRowPadding(image);
     QBuffer buffer;
     buffer.buffer().reserve(image.sizeInBytes());
     buffer.open(QIODevice::WriteOnly);

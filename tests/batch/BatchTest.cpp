@@ -1,7 +1,10 @@
 #include "BuildPaths.h"
+#include "support/FileBytes.h"
 #include "support/Limits.h"
 #include "support/TestFolder.h"
 
+#include <QDir>
+#include <QMap>
 #include <QProcess>
 #include <csignal>
 
@@ -58,6 +61,36 @@ TEST_F(Batch, WritesEveryOutputOfASet)
     EXPECT_FALSE(Folder.Has("out/Blank.bmp"));
     Run("statistics SET");
     EXPECT_TRUE(Output.startsWith("Number of cards used/type:\n1 - ENEMY- Animal (100%)\n"));
+}
+
+TEST_F(Batch, TheSameInputGivesTheSameBytesWhateverIsInMemory)
+{
+    const auto run = [&](const char* usedMemory) {
+        qputenv("MALLOC_PERTURB_", usedMemory);
+        for (const char* command :
+             {"backs DIR/out", "images SET --to DIR/out --format bmp", "images SET --to DIR/out --format jpg",
+              "images SET --to DIR/out --format gif",
+              "sheets SET --kind card --columns 2 --rows 1 --to DIR/out --format bmp"})
+            EXPECT_EQ(Run(command), 0) << command;
+        qunsetenv("MALLOC_PERTURB_");
+        QMap<QString, QByteArray> files;
+        for (const QString& name : QDir(Folder.Path("out")).entryList(QDir::Files))
+            files[name] = Folder.Read("out/" + name);
+        QDir(Folder.Path("out")).removeRecursively();
+        return files;
+    };
+    const auto first = run("1");
+    const auto second = run("170");
+    EXPECT_GT(first.size(), 25);
+    ASSERT_EQ(first.keys(), second.keys());
+    for (const QString& name : first.keys())
+        EXPECT_TRUE(first[name] == second[name]) << name.toStdString();
+}
+
+TEST_F(Batch, WritesJpegImagesAtQuality90)
+{
+    EXPECT_EQ(Run("images SET --to DIR/out --format jpg"), 0);
+    EXPECT_EQ(CoarsestJpegStep(Folder.Read("out/CARD 1.jpg"), 0), 24);
 }
 
 TEST_F(Batch, PrintsOnePageOfAnyKind)

@@ -109,7 +109,8 @@ TEST(cDIBSection, TestPatternsHaveTheirChannels)
     for (int byte = 0; byte < 12; byte += 3)
         EXPECT_EQ(section.hDib()[static_cast<std::size_t>(byte)], 0) << "never any blue";
     section.RandomiseBits(true);
-    EXPECT_TRUE(section.hDib()[3] == section.hDib()[4] && section.hDib()[4] == section.hDib()[5]);
+    EXPECT_EQ(section.hDib()[3], section.hDib()[4]);
+    EXPECT_EQ(section.hDib()[4], section.hDib()[5]);
 }
 
 TEST(cDIBSection, GoesToTheClipboardAsABitmapOnly)

@@ -18,6 +18,13 @@ QString TestFolder::WritePicture(const QString& name, const Picture& picture) co
     return Path(name);
 }
 
+void TestFolder::SetTime(const QString& name, const QDateTime& time) const
+{
+    QFile file(Path(name));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
+}
+
 QByteArray TestFolder::Read(const QString& name) const
 {
     QFile file(Path(name));

@@ -3,6 +3,7 @@
 #include "support/Failures.h"
 #include "support/PixelText.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -17,6 +18,7 @@ public:
     QString Write(const QString& name, const QByteArray& bytes) const;
     /// A picture file; without another picture one in which no two pixels are alike.
     QString WritePicture(const QString& name, const Picture& picture = PictureOfPlaces({40, 30})) const;
+    void SetTime(const QString& name, const QDateTime& time) const;
     [[nodiscard]] QByteArray Read(const QString& name) const;
     [[nodiscard]] QImage Image(const QString& name) const { return QImage(Path(name)); }
     [[nodiscard]] bool Has(const QString& name) const { return QFile::exists(Path(name)); }
