@@ -1,17 +1,17 @@
 #include "imaging/PictureFormats.h"
 
+#include "imaging/Owned.h"
+
 #include <QtGlobal>
-#include <array>
+#include <algorithm>
+#include <gif_lib.h>
+#include <vector>
 
 namespace deckforge {
 
 namespace {
 
 constexpr qint64 PlaceableHeaderBytes = 22;
-
-/// Decoders go through all that a file holds, also past the end of its picture. So many pixels or bytes may
-/// stand there.
-constexpr qint64 Slack = qint64(1) << 20;
 
 /// Reads numbers from a file image; past its end everything is 0 and IsPastEnd() tells so.
 class Scanner {
@@ -67,15 +67,17 @@ bool IsWholeBmp(QByteArrayView bytes)
     const qint64 bits = in.LittleEndian16();
     const quint32 compression = isOld ? uncompressed : in.LittleEndian32();
     const qint64 imageSize = isOld ? 0 : in.LittleEndian32();
-    constexpr qint64 mostPixels = 1 << 20; // along one side, far more than could be decoded
-    constexpr qint64 mostBits = 32;
-    if (in.IsPastEnd() || width <= 0 || width > mostPixels || qAbs(height) > mostPixels || bits > mostBits)
+    constexpr qint64 maxPixels = 1 << 20; // along one side, far more than could be decoded
+    constexpr qint64 maxBits = 32;
+    if (in.IsPastEnd() || width <= 0 || width > maxPixels || qAbs(height) > maxPixels || bits > maxBits)
         return false;
     const bool hasRows = compression == uncompressed || compression == bitFields;
     const qint64 rowBytes = (width * bits + 31) / 32 * 4;
-    // Compressed, a pixel takes two bytes at most, and so does the end of a row.
-    const qint64 mostCompressed = 2 * (width + 1) * qAbs(height) + Slack;
-    if (!hasRows && bytes.size() - offset > mostCompressed)
+    // Compressed, a pixel takes two bytes at most, and so does the end of a row. The decoder goes through all
+    // that follows, too.
+    constexpr qint64 slack = qint64(1) << 20;
+    const qint64 maxCompressed = 2 * (width + 1) * qAbs(height) + slack;
+    if (!hasRows && bytes.size() - offset > maxCompressed)
         return false;
     return offset + (hasRows ? rowBytes * qAbs(height) : imageSize) <= bytes.size();
 }
@@ -115,115 +117,57 @@ bool IsWholeJpeg(QByteArrayView bytes)
     return false;
 }
 
-void SkipGifColours(Scanner& in, quint8 flags)
+int TakeGifBytes(GifFileType* gif, GifByteType* target, int size)
 {
-    constexpr quint8 hasColours = 0x80;
-    constexpr quint8 sizeBits = 0x07;
-    if (flags & hasColours)
-        in.Skip(3 << ((flags & sizeBits) + 1));
+    auto& left = *static_cast<QByteArrayView*>(gif->UserData);
+    const auto taken = left.first(qMin<qsizetype>(size, left.size()));
+    left = left.sliced(taken.size());
+    std::copy(taken.begin(), taken.end(), target);
+    return static_cast<int>(taken.size());
 }
 
-/// Sub-blocks, each behind its length, up to one of length 0.
-bool SkipGifBlocks(Scanner& in)
+/// Reads up to the description of the first picture.
+bool FindGifPicture(GifFileType* gif)
 {
-    while (!in.IsAtEnd()) {
-        const quint8 length = in.Byte();
-        if (length == 0)
-            return true;
-        in.Skip(length);
-    }
-    return false;
-}
-
-/// The compressed codes of a picture, taken byte by byte only to count the pixels that they stand for: twelve
-/// bits can stand for four thousand.
-class GifCodes {
-public:
-    explicit GifCodes(int pixelBits) : m_pixelBits(pixelBits), m_clear(1 << pixelBits) { Clear(); }
-
-    [[nodiscard]] qint64 Pixels() const { return m_pixels; }
-
-    void Take(quint8 byte)
-    {
-        m_bits |= quint32{byte} << m_bitCount;
-        m_bitCount += 8;
-        while (m_bitCount >= m_codeBits && !m_isAtEnd) {
-            const auto code = static_cast<int>(m_bits & ((1U << m_codeBits) - 1));
-            m_bits >>= m_codeBits;
-            m_bitCount -= m_codeBits;
-            TakeCode(code);
-        }
-        if (m_isAtEnd)
-            m_bitCount = 0;
-    }
-
-private:
-    static constexpr int MostCodeBits = 12;
-    static constexpr int LongestCode = 2 << MostCodeBits; ///< decoders give up there
-
-    void Clear()
-    {
-        m_next = m_clear + 2;
-        m_codeBits = m_pixelBits + 1;
-        m_lastLength = 0;
-    }
-
-    /// A code stands for a pixel, or for what the one before stood for when it was made, and a pixel more.
-    /// One that the codes before do not explain is taken for the next, and what is made of it for the
-    /// longest.
-    void TakeCode(int code)
-    {
-        const int end = m_clear + 1;
-        if (code == m_clear || code == end) {
-            m_isAtEnd = code == end;
-            Clear();
-            return;
-        }
-        const int added = m_lastLength + 1;
-        const bool isExplained = code < m_clear || (m_lastLength > 0 && code <= m_next);
-        int length = added;
-        if (code < m_clear)
-            length = 1;
-        else if (code < m_next)
-            length = m_lengths[static_cast<std::size_t>(code)];
-        if (m_lastLength > 0 && m_next < 1 << MostCodeBits) {
-            m_lengths[static_cast<std::size_t>(m_next++)] = static_cast<quint16>(added);
-            if (m_next >= 1 << m_codeBits && m_codeBits < MostCodeBits)
-                ++m_codeBits;
-        }
-        m_lastLength = isExplained ? length : LongestCode;
-        m_pixels += length;
-    }
-
-    int m_pixelBits;
-    int m_clear; ///< the code that begins anew; the next one ends
-    int m_next = 0;
-    int m_codeBits = 0;
-    int m_lastLength = 0;
-    bool m_isAtEnd = false;
-    std::array<quint16, 1 << MostCodeBits> m_lengths = {};
-    quint32 m_bits = 0;
-    int m_bitCount = 0;
-    qint64 m_pixels = 0;
-};
-
-/// The codes of a picture, to the end of their sub-blocks.
-bool SkipGifPicture(Scanner& in, qint64 pixels)
-{
-    constexpr int mostPixelBits = 8;
-    const int pixelBits = in.Byte();
-    if (pixelBits > mostPixelBits)
-        return false;
-    const qint64 most = qMin(pixels, MostDecodedBytes / DecodedPixelBytes) + Slack;
-    GifCodes codes(pixelBits);
-    while (!in.IsAtEnd()) {
-        const int length = in.Byte();
-        if (length == 0)
-            return true;
-        for (int i = 0; i < length; ++i)
-            codes.Take(in.Byte());
-        if (codes.Pixels() > most)
+    GifRecordType record = UNDEFINED_RECORD_TYPE;
+    while (DGifGetRecordType(gif, &record) == GIF_OK && record == EXTENSION_RECORD_TYPE) {
+        int label = 0;
+        GifByteType* block = nullptr;
+        if (DGifGetExtension(gif, &label, &block) != GIF_OK)
             return false;
+        while (block != nullptr) {
+            if (DGifGetExtensionNext(gif, &block) != GIF_OK)
+                return false;
+        }
+    }
+    return record == IMAGE_DESC_RECORD_TYPE && DGifGetImageDesc(gif) == GIF_OK;
+}
+
+/// Decodes all pixels of the picture but the last one: behind that the library skips all codes that are left.
+bool HasGifPixels(GifFileType* gif)
+{
+    const qint64 pixels = qint64{gif->Image.Width} * gif->Image.Height;
+    if (pixels < 1 || pixels > MaxDecodedPixels)
+        return false;
+    std::vector<GifPixelType> line(static_cast<std::size_t>(gif->Image.Width));
+    for (qint64 left = pixels - 1; left > 0; left -= gif->Image.Width) {
+        if (DGifGetLine(gif, line.data(), static_cast<int>(qMin<qint64>(left, gif->Image.Width))) != GIF_OK)
+            return false;
+    }
+    return true;
+}
+
+/// Whether little follows the pixels. A decoder would go on with codes that are left, and twelve bits can
+/// stand for four thousand pixels.
+bool EndsGifPicture(GifFileType* gif)
+{
+    constexpr int maxBytes = 1024;
+    GifByteType* block = nullptr;
+    for (int bytes = 0; bytes <= maxBytes; bytes += *block) {
+        if (DGifGetCodeNext(gif, &block) != GIF_OK)
+            return false;
+        if (block == nullptr)
+            return true;
     }
     return false;
 }
@@ -231,30 +175,10 @@ bool SkipGifPicture(Scanner& in, qint64 pixels)
 /// The first picture must be there to its end; what follows is not shown.
 bool IsWholeGif(QByteArrayView bytes)
 {
-    constexpr quint8 extension = 0x21;
-    constexpr quint8 picture = 0x2C;
-    Scanner in(bytes);
-    in.Skip(10); // signature and measures
-    const quint8 flags = in.Byte();
-    in.Skip(2); // background and aspect
-    SkipGifColours(in, flags);
-    while (!in.IsAtEnd()) {
-        const quint8 block = in.Byte();
-        if (block == extension) {
-            in.Byte(); // its label
-            if (!SkipGifBlocks(in))
-                return false;
-        } else if (block == picture) {
-            in.Skip(4); // place
-            const qint64 width = in.LittleEndian16();
-            const qint64 height = in.LittleEndian16();
-            SkipGifColours(in, in.Byte());
-            return SkipGifPicture(in, width * height);
-        } else {
-            return false;
-        }
-    }
-    return false;
+    const Owned<GifFileType> gif(DGifOpen(&bytes, TakeGifBytes, nullptr),
+                                 [](GifFileType* opened) { DGifCloseFile(opened, nullptr); });
+    return gif != nullptr && FindGifPicture(gif.get()) && HasGifPixels(gif.get()) &&
+           EndsGifPicture(gif.get());
 }
 
 /// A header that tells its own length and the file's, behind the one of a placeable file where there is one.

@@ -12,8 +12,8 @@ namespace deckforge {
 
 namespace {
 
-/// A file of more bytes than its decoded picture may have is none that we can show.
-constexpr qint64 MostFileBytes = MostDecodedBytes + (qint64(1) << 20);
+/// A picture that can be shown takes no more bytes as a file than decoded, but for headers.
+constexpr qint64 MaxFileBytes = MaxDecodedBytes + (qint64(1) << 20);
 constexpr qsizetype KeptBytes = qsizetype(32) << 20;
 
 [[noreturn]] void RefusePicture()
@@ -24,7 +24,7 @@ constexpr qsizetype KeptBytes = qsizetype(32) << 20;
 QByteArray ReadPictureFile(const QString& path)
 {
     try {
-        return ReadWholeFile(path, MostFileBytes);
+        return ReadWholeFile(path, MaxFileBytes);
     } catch (const RunTimeError& error) {
         if (error.Number() == ErrorNumber::OutOfMemory)
             RefusePicture();
@@ -46,7 +46,7 @@ QImage DecodeWithReader(QByteArray bytes, const QByteArray& format)
     QImageReader reader(&buffer, format);
     const QSize told = reader.size();
     const QSize size(told.width(), qAbs(told.height())); // below 0 where the rows of a BMP run top-down
-    if (size.isEmpty() || qint64(size.width()) * size.height() * DecodedPixelBytes > MostDecodedBytes)
+    if (size.isEmpty() || qint64(size.width()) * size.height() > MaxDecodedPixels)
         RefusePicture();
     QImage image = reader.read();
     if (image.isNull())
@@ -73,7 +73,7 @@ Picture DecodePicture(const QString& path)
     case PictureFormat::Gif:
         return Picture(DecodeWithReader(bytes, "gif"));
     case PictureFormat::Wmf:
-        return Picture(DecodeWithReader(WmfToPng(bytes, MostDecodedBytes / DecodedPixelBytes), "png"));
+        return Picture(DecodeWithReader(WmfToPng(bytes, MaxDecodedPixels), "png"));
     case PictureFormat::Unknown:
         break;
     }
@@ -97,7 +97,7 @@ Picture PictureLoader::LoadPicture(const QString& path)
         picture = DecodePicture(path);
     } catch (const RunTimeError& error) {
         if (error.Number() == ErrorNumber::InvalidPicture && file)
-            m_kept.insert(path, new Kept{{}, *file}); // to find that out can take seconds
+            m_kept.insert(path, new Kept{{}, *file}); // finding that out can take seconds
         throw;
     }
     if (file)

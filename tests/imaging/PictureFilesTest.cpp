@@ -1,15 +1,13 @@
 #include "BuildPaths.h"
 #include "imaging/GifWriter.h"
+#include "imaging/PictureBox.h"
 #include "imaging/PictureFormats.h"
 #include "imaging/PictureLoader.h"
-#include "imaging/mIntelJPEGLibrary.h"
+#include "support/FileBytes.h"
 #include "support/TestFolder.h"
 
 #include <QBuffer>
 #include <QDirIterator>
-#include <QFileInfo>
-#include <QImageReader>
-#include <QtEndian>
 
 namespace deckforge {
 
@@ -27,36 +25,59 @@ QByteArray Encoded(const char* format)
     return bytes;
 }
 
-/// A placeable metafile with one black rectangle in its left half: 96 x 48 units of 1/96 inch.
-QByteArray Metafile()
+/// A file that the fuzzer begins with.
+QByteArray Seed(const QString& name)
+{
+    QFile file(DECKFORGE_SOURCE_DIR "/fuzz/corpus/" + name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+    return file.readAll();
+}
+
+QByteArray Words(std::initializer_list<int> values)
 {
     QByteArray bytes;
-    const auto words = [&](std::initializer_list<int> values) {
-        for (const int value : values) {
-            const quint16 little = qToLittleEndian(static_cast<quint16>(value));
-            bytes.append(reinterpret_cast<const char*>(&little), 2);
-        }
-    };
-    words({0xCDD7, 0x9AC6, 0, 0, 0, 96, 48, 96, 0, 0});
-    int checksum = 0;
-    for (qsizetype i = 0; i < bytes.size(); i += 2)
-        checksum ^= qFromLittleEndian<quint16>(bytes.constData() + i);
-    words({checksum});
-    const int recordWords = 5 + 5 + 7 + 4 + 7 + 3;
-    words({1, 9, 0x0300, 9 + recordWords, 0, 1, 7, 0, 0});
-    words({5, 0, 0x020B, 0, 0});         // window origin
-    words({5, 0, 0x020C, 48, 96});       // window extent
-    words({7, 0, 0x02FC, 0, 0, 0, 0});   // black brush
-    words({4, 0, 0x012D, 0});            // select it
-    words({7, 0, 0x041B, 48, 48, 0, 0}); // rectangle
-    words({3, 0, 0});                    // end
+    for (const int value : values) {
+        const quint16 little = qToLittleEndian(static_cast<quint16>(value));
+        bytes.append(reinterpret_cast<const char*>(&little), 2);
+    }
     return bytes;
+}
+
+template <class Number>
+QByteArray With(QByteArray bytes, qsizetype at, Number number)
+{
+    qToLittleEndian(number, bytes.data() + at);
+    return bytes;
+}
+
+QByteArray PlaceableHeader(int left, int top, int right, int bottom, int unitsPerInch)
+{
+    QByteArray header = Words({0xCDD7, 0x9AC6, 0, left, top, right, bottom, unitsPerInch, 0, 0});
+    int checksum = 0;
+    for (qsizetype i = 0; i < header.size(); i += 2)
+        checksum ^= LittleEndian<quint16>(header, i);
+    return header + Words({checksum});
+}
+
+/// A placeable metafile of 96 x 48 units of 1/96 inch: black in its left half, and a black dot in the lower
+/// right corner, since the converter scales what is drawn to the whole picture.
+QByteArray Metafile()
+{
+    const int recordWords = 5 + 5 + 7 + 4 + 7 + 7 + 3;
+    return PlaceableHeader(0, 0, 96, 48, 96) + Words({1, 9, 0x0300, 9 + recordWords, 0, 1, 7, 0, 0}) +
+           Words({5, 0, 0x020B, 0, 0}) +                             // window origin
+           Words({5, 0, 0x020C, 48, 96}) +                           // window extent
+           Words({7, 0, 0x02FC, 0, 0, 0, 0}) +                       // black brush
+           Words({4, 0, 0x012D, 0}) +                                // select it
+           Words({7, 0, 0x041B, 48, 48, 0, 0}) +                     // rectangle
+           Words({7, 0, 0x041B, 48, 96, 47, 95}) + Words({3, 0, 0}); // end
 }
 
 // Pictures of a few pixels that keep a decoder busy for as long as they have bytes.
 
-/// Each code stands for the one before and a pixel more, up to thousands.
-QByteArray GifOfOnePixelAndMillions()
+/// A picture of 1 x 1 pixels whose codes take so many bytes. Each code stands for the one before and a pixel
+/// more, up to thousands.
+QByteArray GifOfOnePixel(qsizetype codeBytes)
 {
     QByteArray codes;
     quint32 bits = 0;
@@ -68,8 +89,8 @@ QByteArray GifOfOnePixelAndMillions()
     };
     int size = 9;
     put(0, size);
-    for (int code = 258; code < 4096; ++code) {
-        put(code, size);
+    for (int code = 258; codes.size() < codeBytes; ++code) {
+        put(qMin(code, 4095), size);
         if (code + 1 == 1 << size && size < 12)
             ++size;
     }
@@ -81,20 +102,19 @@ QByteArray GifOfOnePixelAndMillions()
     return bytes.append("\0;", 2);
 }
 
-QByteArray JpegOfManyScans()
+/// The last scan of a progressive picture again and again, until it has so many.
+QByteArray JpegOfScans(int count)
 {
-    QByteArray bytes = Encoded("JPEG");
-    const QByteArray scan = bytes.sliced(bytes.indexOf("\xFF\xDA")).chopped(2);
-    bytes.insert(bytes.size() - 2, scan.repeated(99));
+    QByteArray bytes = Seed("jpeg/progressive");
+    const QByteArray last = bytes.sliced(bytes.lastIndexOf("\xFF\xDA")).chopped(2);
+    bytes.insert(bytes.size() - 2, last.repeated(count - static_cast<int>(bytes.count("\xFF\xDA"))));
     return bytes;
 }
 
-QByteArray BmpOfManyEmptyRows()
+/// A picture of runs with so many ends of rows behind it.
+QByteArray BmpOfRunsAnd(qsizetype emptyRows)
 {
-    QByteArray bytes = Encoded("BMP");
-    bytes[28] = 8; // bits, run-length encoded
-    bytes[30] = 1;
-    return bytes.append(1 << 22, 0);
+    return Seed("bmp/rle8") + QByteArray(2 * emptyRows, 0);
 }
 
 } // namespace
@@ -106,35 +126,33 @@ protected:
     {
         return FailureOf([&] { (void)Load(path); });
     }
+    Picture Decode(const QByteArray& bytes) { return DecodePicture(Folder.Write("picture", bytes)); }
+    int FailureOfDecoding(const QByteArray& bytes)
+    {
+        return FailureOf([&] { (void)Decode(bytes); });
+    }
     QByteArray EncodedGif() const
     {
         const QString bmp = Folder.WritePicture("source.bmp", PictureOfPlaces({Width, Height}));
         EXPECT_EQ(ConvertBmpToGif(bmp, Folder.Path("made.gif")), std::nullopt);
         return Folder.Read("made.gif");
     }
-    static void SetTime(const QString& path, const QDateTime& time)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        ASSERT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
-    }
 
     TestFolder Folder;
     PictureLoader Loader;
 };
 
-TEST_F(PictureFiles, DecodesAllFourFormatsAtTheirNaturalSize)
+TEST_F(PictureFiles, TheContentTellsTheFormatWhateverTheName)
 {
-    const auto load = [&](const char* name, const QByteArray& bytes) {
-        return Load(Folder.Write(name, bytes));
-    };
-    // The content tells the format, whatever the name.
-    EXPECT_EQ(load("a.jpg", Encoded("BMP")).Pixels(), PictureOfPlaces({Width, Height}).Pixels());
-    EXPECT_EQ(load("b.bmp", Encoded("JPEG")).Size(), QSize(Width, Height));
-    EXPECT_EQ(load("c.gif", EncodedGif()).Size(), QSize(Width, Height));
-    const Picture metafile = load("d.wmf", Metafile());
-    EXPECT_EQ(metafile.Size(), QSize(96, 48));
-    EXPECT_LT(qGray(metafile.Pixels().pixel(20, 24)), 30);
+    EXPECT_EQ(Load(Folder.Write("a.jpg", Encoded("BMP"))).Pixels(),
+              PictureOfPlaces({Width, Height}).Pixels());
+    EXPECT_EQ(Load(Folder.Write("b.bmp", Encoded("JPEG"))).Size(), QSize(Width, Height));
+    EXPECT_EQ(Load(Folder.Write("c.wmf", EncodedGif())).Size(), QSize(Width, Height));
+    EXPECT_EQ(Load(Folder.Write("d.gif", Metafile())).Size(), QSize(96, 48));
+}
+
+TEST_F(PictureFiles, NoPathIsTheEmptyPicture)
+{
     EXPECT_TRUE(Load("").IsEmpty());
 }
 
@@ -151,87 +169,142 @@ TEST_F(PictureFiles, TakesTheFormsThatEachFormatHas)
     }
 }
 
-TEST_F(PictureFiles, RefusesWhatIsCutDamagedTooLargeOrNoPicture)
+TEST_F(PictureFiles, WhatIsCutIsRejected)
 {
-    const auto failure = [&](const QByteArray& bytes) {
-        return FailureOfLoading(Folder.Write("picture", bytes));
-    };
-    for (const QByteArray& whole : {Encoded("BMP"), Encoded("JPEG"), EncodedGif(), Metafile()}) {
+    for (const QByteArray& whole :
+         {Encoded("BMP"), Encoded("JPEG"), EncodedGif(), Metafile(), Seed("bmp/rle8"), Seed("bmp/old-header"),
+          Seed("bmp/fields565"), Seed("jpeg/progressive"), Seed("gif/interlaced"), Seed("wmf/plain"),
+          MetafileThatCountsItsHeader()}) {
         for (const qsizetype cut : {qsizetype(3), qsizetype(20), whole.size() / 2, whole.size() - 3})
-            EXPECT_EQ(failure(whole.first(cut)), 481) << whole.first(2).toStdString() << " cut at " << cut;
+            EXPECT_EQ(FailureOfDecoding(whole.first(cut)), 481)
+                << whole.first(20).toHex().toStdString() << " cut at " << cut;
     }
-    EXPECT_EQ(failure("no picture at all"), 481);
-    EXPECT_EQ(failure(QByteArray()), 481);
-    EXPECT_EQ(failure(Encoded("PNG")), 481) << "of another kind";
-    QByteArray huge = Encoded("BMP");
-    qToLittleEndian<qint32>(30000, huge.data() + 18);
-    qToLittleEndian<qint32>(30000, huge.data() + 22);
-    EXPECT_EQ(failure(huge), 481);
-    qToLittleEndian<qint32>(0x7FFFFFFF, huge.data() + 18);
-    qToLittleEndian<qint32>(-0x7FFFFFFF, huge.data() + 22);
-    qToLittleEndian<qint16>(-1, huge.data() + 28);
-    EXPECT_EQ(failure(huge), 481) << "measures whose product no number holds";
-    for (const QByteArray& endless : {GifOfOnePixelAndMillions(), JpegOfManyScans(), BmpOfManyEmptyRows()})
-        EXPECT_EQ(failure(endless), 481) << endless.first(2).toStdString();
-    QByteArray hugeMetafile = Metafile();
-    qToLittleEndian<qint16>(30000, hugeMetafile.data() + 10);
-    qToLittleEndian<qint16>(30000, hugeMetafile.data() + 12);
-    EXPECT_EQ(failure(hugeMetafile), 481);
+}
+
+TEST_F(PictureFiles, WhatFollowsAPictureIsIgnored)
+{
+    for (const QByteArray& whole : {Encoded("BMP"), Encoded("JPEG"), EncodedGif(), Metafile()})
+        EXPECT_EQ(FailureOfDecoding(whole + QByteArray(5000, 7)), 0) << whole.first(2).toHex().toStdString();
+}
+
+TEST_F(PictureFiles, WhatIsNoPictureIsRejected)
+{
+    for (const QByteArray& none : {QByteArray("no picture at all"), QByteArray(), Encoded("PNG"),
+                                   QByteArray("BM"), QByteArray("GIF89a"), QByteArray("\xFF\xD8\xFF\xD9")})
+        EXPECT_EQ(FailureOfDecoding(none), 481) << none.left(20).toStdString();
+}
+
+TEST_F(PictureFiles, WhatIsNoFileIsAnErrorOfItsOwn)
+{
     EXPECT_EQ(FailureOfLoading(Folder.Path("none.bmp")), 53);
     EXPECT_EQ(FailureOfLoading(Folder.Path("none/a.bmp")), 76);
     EXPECT_EQ(FailureOfLoading(Folder.Path()), 75);
 }
 
-TEST_F(PictureFiles, ReadsAFileAgainWhenItHasChanged)
+TEST_F(PictureFiles, AFileOfMoreBytesThanAnyPictureIsNotRead)
+{
+    const QString path = Folder.Write("a.bmp", Encoded("BMP"));
+    ASSERT_TRUE(QFile::resize(path, MaxDecodedBytes));
+    EXPECT_EQ(FailureOfLoading(path), 0);
+    ASSERT_TRUE(QFile::resize(path, MaxDecodedBytes + (2 << 20)));
+    EXPECT_EQ(FailureOfLoading(path), 481);
+}
+
+TEST_F(PictureFiles, PicturesPastTheLimitAreRejectedByTheirHeaders)
+{
+    const QByteArray bmp = Seed("bmp/rle8"); // compressed: no number of bytes follows from its size
+    EXPECT_EQ(FailureOfDecoding(With<qint32>(With<qint32>(bmp, 18, 8192), 22, 4097)), 481);
+    EXPECT_EQ(FailureOfDecoding(With<qint32>(With<qint32>(bmp, 18, 0x7FFFFFFF), 22, -0x7FFFFFFF)), 481);
+    QByteArray jpeg = Encoded("JPEG");
+    qToBigEndian<quint32>(8192 << 16 | 4097, jpeg.data() + jpeg.indexOf("\xFF\xC0") + 5);
+    EXPECT_EQ(FailureOfDecoding(jpeg), 481);
+    EXPECT_EQ(FailureOfDecoding(With<quint32>(EncodedGif(), 6, 8192 << 16 | 4097)), 481) << "GIF";
+    EXPECT_EQ(FailureOfDecoding(PlaceableHeader(0, 0, 8192, 4097, 96) + Metafile().sliced(22)), 481);
+}
+
+TEST_F(PictureFiles, ABmpWithWrongNumbersInItsHeaderIsRejected)
+{
+    const QByteArray bmp = Encoded("BMP");
+    EXPECT_EQ(FailureOfDecoding(With<qint32>(bmp, 18, 0)), 481) << "no width";
+    EXPECT_EQ(FailureOfDecoding(With<qint32>(bmp, 18, -Width)), 481) << "a width below 0";
+    EXPECT_EQ(FailureOfDecoding(With<qint16>(bmp, 28, -1)), 481) << "65,535 bits per pixel";
+    EXPECT_EQ(FailureOfDecoding(With<qint32>(bmp, 10, 55)), 481) << "its rows end past the end";
+}
+
+TEST_F(PictureFiles, ABmpMayHaveItsRowsTopDown)
+{
+    const QByteArray bmp = With<qint32>(Encoded("BMP"), 22, -Height);
+    EXPECT_EQ(Decode(bmp).Pixels(), PictureOfPlaces({Width, Height}).Pixels().mirrored());
+}
+
+TEST_F(PictureFiles, ABmpOfRunsMayHaveSomeOfThemPastItsEnd)
+{
+    EXPECT_EQ(FailureOfDecoding(BmpOfRunsAnd(1 << 18)), 0);
+    EXPECT_EQ(FailureOfDecoding(BmpOfRunsAnd(1 << 20)), 481);
+}
+
+TEST_F(PictureFiles, AJpegMayHaveSixtyFourScans)
+{
+    EXPECT_EQ(FailureOfDecoding(JpegOfScans(64)), 0);
+    EXPECT_EQ(FailureOfDecoding(JpegOfScans(65)), 481);
+}
+
+TEST_F(PictureFiles, AJpegWithoutAScanIsRejected)
+{
+    QByteArray jpeg = Encoded("JPEG");
+    EXPECT_EQ(FailureOfDecoding(jpeg.first(jpeg.indexOf("\xFF\xDA")) + "\xFF\xD9"), 481);
+}
+
+TEST_F(PictureFiles, AGifMayHaveSomeCodesPastItsPixels)
+{
+    EXPECT_EQ(FailureOfDecoding(GifOfOnePixel(1000)), 0);
+    EXPECT_EQ(FailureOfDecoding(GifOfOnePixel(2000)), 481);
+}
+
+TEST_F(PictureFiles, AGifWithFewerCodesThanPixelsIsRejected)
+{
+    QByteArray gif = Seed("gif/mono");
+    const qsizetype picture = gif.indexOf(',');
+    EXPECT_EQ(FailureOfDecoding(With<quint16>(gif, picture + 7, 40)), 481) << "40 rows instead of 7";
+}
+
+TEST_F(PictureFiles, AMetafileIsDrawn)
+{
+    PictureBox surface(QSize(96, 48));
+    surface.PaintPicture(Decode(Metafile()), 0, 0);
+    EXPECT_EQ(surface.GetPixel(20, 24), Black);
+    EXPECT_EQ(surface.GetPixel(70, 24), White);
+}
+
+TEST_F(PictureFiles, AMetafileHasTheSizeOfItsPlaceableHeader)
+{
+    EXPECT_EQ(PlaceableWmfSize(PlaceableHeader(0, 0, 1440, 720, 1440)), QSize(96, 48));
+    EXPECT_EQ(PlaceableWmfSize(PlaceableHeader(-50, -20, 50, 30, 96)), QSize(100, 50));
+    EXPECT_EQ(PlaceableWmfSize(PlaceableHeader(50, 30, -50, -20, 96)), QSize(100, 50)) << "turned over";
+    EXPECT_EQ(PlaceableWmfSize(PlaceableHeader(0, 0, 7, 8, 1440)), QSize(1, 1)) << "never nothing";
+    EXPECT_EQ(PlaceableWmfSize(PlaceableHeader(0, 0, 22, 23, 1440)), QSize(1, 2)) << "to the nearest";
+    EXPECT_EQ(PlaceableWmfSize(PlaceableHeader(0, 0, 10, 20, 0)), QSize(960, 1920)) << "without units";
+    EXPECT_EQ(PlaceableWmfSize(Metafile().sliced(22)), std::nullopt);
+}
+
+TEST_F(PictureFiles, AFileIsDecodedOnceUntilItChanges)
 {
     const QString path = Folder.WritePicture("a.bmp", PictureOf({"rr"}));
-    EXPECT_EQ(RowsOf(Load(path)), PixelRows{"rr"});
+    const QImage first = Load(path).Pixels();
+    EXPECT_EQ(Load(path).Pixels().constBits(), first.constBits());
     SavePicture(PictureOf({"gg"}), path);
-    SetTime(path, QDateTime::currentDateTime().addSecs(60));
+    Folder.SetTime("a.bmp", QDateTime::currentDateTime().addSecs(60));
     EXPECT_EQ(RowsOf(Load(path)), PixelRows{"gg"});
     QFile::remove(path);
     EXPECT_EQ(FailureOfLoading(path), 53);
 }
 
-TEST_F(PictureFiles, AreWrittenWithTwentyFourBitsAtTheResolutionOfTheScale)
+TEST_F(PictureFiles, AFileThatWasRejectedIsReadAgainWhenItHasChanged)
 {
-    PictureBox surface(QSize(5, 4), 4);
-    const QImage read(Folder.WritePicture("a.bmp", surface.Image()));
-    EXPECT_EQ(read.size(), QSize(20, 16));
-    EXPECT_EQ(read.dotsPerMeterX(), 15118) << "96 logical pixels to the inch";
-    EXPECT_EQ(qFromLittleEndian<quint16>(Folder.Read("a.bmp").constData() + 28), 24);
-    EXPECT_EQ(FailureOf([&] { SavePicture(Picture(), Folder.Path("b.bmp")); }), 481);
-}
-
-TEST_F(PictureFiles, AJpgKeepsTheTimesOfTheFileThatItReplaces)
-{
-    cDIBSection surface;
-    surface.CreateFromPicture(PictureOfPlaces({153, 40}));
-    const QString path = Folder.Write("card.jpg", "an older image");
-    const QDateTime old = QDateTime::fromSecsSinceEpoch(1000000000);
-    SetTime(path, old);
-    EXPECT_TRUE(SaveJPG(surface, path, 90));
-    EXPECT_EQ(QFileInfo(path).lastModified(), old);
-    const QImage read(path);
-    ASSERT_EQ(read.size(), QSize(153, 40)) << "rows with padding";
-    EXPECT_NEAR(qGreen(read.pixel(76, 0)), 0, 12) << "the top row is at the top";
-    EXPECT_NEAR(qGreen(read.pixel(76, 39)), 39, 12);
-    EXPECT_EQ(FailureOf([&] { SaveJPG(surface, Folder.Path(), 90); }), 75);
-    EXPECT_EQ(FailureOf([&] { SaveJPG(cDIBSection(), Folder.Path("b.jpg"), 90); }), 26001);
-}
-
-TEST_F(PictureFiles, AGifKeepsTheColoursOfAPictureWithFewAndTellsWhatFails)
-{
-    const PixelRows rows = {"rgb", "#.#"};
-    const QString bmp = Folder.WritePicture("a.bmp", PictureOf(rows));
-    const QString gif = Folder.Path("a.gif");
-    EXPECT_EQ(ConvertBmpToGif(bmp, gif), std::nullopt);
-    EXPECT_EQ(RowsOf(DecodePicture(gif)), rows);
-    SavePicture(PictureOf({".."}), bmp);
-    EXPECT_EQ(ConvertBmpToGif(bmp, gif), std::nullopt) << "a single colour";
-    EXPECT_EQ(RowsOf(DecodePicture(gif)), PixelRows{".."});
-    EXPECT_EQ(ConvertBmpToGif(Folder.Path("none.bmp"), gif), "File not found");
-    EXPECT_EQ(ConvertBmpToGif(bmp, Folder.Path("none/a.gif")), "Path not found");
+    const QString path = Folder.Write("a.bmp", "no picture");
+    EXPECT_EQ(FailureOfLoading(path), 481);
+    SavePicture(PictureOf({"g"}), path);
+    EXPECT_EQ(RowsOf(Load(path)), PixelRows{"g"});
 }
 
 } // namespace deckforge
