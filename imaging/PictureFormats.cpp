@@ -82,34 +82,33 @@ bool IsWholeBmp(QByteArrayView bytes)
     return offset + (hasRows ? rowBytes * qAbs(height) : imageSize) <= bytes.size();
 }
 
-/// Segments with their lengths up to the compressed data, which ends at the next marker that is no restart. A
-/// scan of some bytes can go over all of the picture once more: encoders make a dozen of them.
+/// Goes from marker to marker up to the end of the image. Like every decoder it skips stray bytes between the
+/// segments.
+///
+/// A scan of a few bytes can go over the whole picture once more, so their number is limited. Encoders write
+/// a dozen.
 bool IsWholeJpeg(QByteArrayView bytes)
 {
     constexpr quint8 markerStart = 0xFF;
     constexpr quint8 endOfImage = 0xD9;
     constexpr quint8 startOfScan = 0xDA;
-    constexpr int mostScans = 64;
-    const auto isRestart = [](quint8 marker) { return marker >= 0xD0 && marker <= 0xD7; };
+    constexpr int maxScans = 64;
+    // 0 is no marker but a data byte of 0xFF; 1 and the restarts have no segment.
+    const auto isAlone = [](quint8 marker) { return marker <= 1 || (marker >= 0xD0 && marker <= 0xD7); };
     Scanner in(bytes);
     in.Skip(2);
-    bool inScan = false;
     int scans = 0;
     while (!in.IsAtEnd()) {
-        if (in.Byte() != markerStart) {
-            if (!inScan)
-                return false;
+        if (in.Byte() != markerStart)
             continue;
-        }
         quint8 marker = in.Byte();
         while (marker == markerStart && !in.IsAtEnd())
             marker = in.Byte(); // fill bytes
         if (marker == endOfImage)
             return scans > 0 && !in.IsPastEnd();
-        if (inScan && (marker == 0 || isRestart(marker)))
+        if (isAlone(marker))
             continue;
-        inScan = marker == startOfScan;
-        if (inScan && ++scans > mostScans)
+        if (marker == startOfScan && ++scans > maxScans)
             return false;
         const quint16 length = in.BigEndian16();
         in.Skip(length - 2);
@@ -181,10 +180,13 @@ bool IsWholeGif(QByteArrayView bytes)
            EndsGifPicture(gif.get());
 }
 
-/// A header that tells its own length and the file's, behind the one of a placeable file where there is one.
+/// A header with its own length and that of the file, behind the one of a placeable file where there is one.
+/// Some programs count that one, too: their files are whole if they end with the record that ends every
+/// metafile.
 bool IsWholeWmf(QByteArrayView bytes)
 {
     constexpr quint16 headerWords = 9;
+    constexpr QByteArrayView endRecord("\3\0\0\0\0\0", 6);
     const qint64 start = PlaceableWmfSize(bytes) ? PlaceableHeaderBytes : 0;
     Scanner in(bytes);
     in.MoveTo(start);
@@ -192,7 +194,8 @@ bool IsWholeWmf(QByteArrayView bytes)
     const bool hasHeader = (type == 1 || type == 2) && in.LittleEndian16() == headerWords;
     in.LittleEndian16(); // version
     const qint64 fileWords = in.LittleEndian32();
-    return hasHeader && !in.IsPastEnd() && start + fileWords * 2 <= bytes.size();
+    const bool isWhole = start + fileWords * 2 <= bytes.size() || bytes.endsWith(endRecord);
+    return hasHeader && !in.IsPastEnd() && isWhole;
 }
 
 } // namespace
@@ -220,7 +223,7 @@ PictureFormat FormatOf(QByteArrayView bytes)
 {
     if (bytes.startsWith("BM"))
         return IsWholeBmp(bytes) ? PictureFormat::Bmp : PictureFormat::Unknown;
-    if (bytes.startsWith("\xFF\xD8\xFF"))
+    if (bytes.startsWith("\xFF\xD8"))
         return IsWholeJpeg(bytes) ? PictureFormat::Jpeg : PictureFormat::Unknown;
     if (bytes.startsWith("GIF8"))
         return IsWholeGif(bytes) ? PictureFormat::Gif : PictureFormat::Unknown;

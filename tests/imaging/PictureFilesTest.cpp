@@ -73,6 +73,12 @@ QByteArray Metafile()
            Words({7, 0, 0x041B, 48, 96, 47, 95}) + Words({3, 0, 0}); // end
 }
 
+/// One that counts its placeable header among its own words, as some programs write it.
+QByteArray MetafileThatCountsItsHeader()
+{
+    return With<quint32>(Metafile(), 28, static_cast<quint32>(Metafile().size() / 2));
+}
+
 // Pictures of a few pixels that keep a decoder busy for as long as they have bytes.
 
 /// A picture of 1 x 1 pixels whose codes take so many bytes. Each code stands for the one before and a pixel
@@ -243,6 +249,19 @@ TEST_F(PictureFiles, ABmpOfRunsMayHaveSomeOfThemPastItsEnd)
     EXPECT_EQ(FailureOfDecoding(BmpOfRunsAnd(1 << 20)), 481);
 }
 
+TEST_F(PictureFiles, AJpegMayHaveStrayBytesBetweenItsSegments)
+{
+    const QByteArray jpeg = Encoded("JPEG");
+    const QImage clean = Decode(jpeg).Pixels();
+    for (const char* stray : {"00", "1234567890", "ff", "ffffff", "ff0000", "ff01", "ffd3"}) {
+        for (const qsizetype at : {qsizetype(2), jpeg.indexOf("\xFF\xC0"), jpeg.size() - 2}) {
+            QByteArray bytes = jpeg;
+            bytes.insert(at, QByteArray::fromHex(stray));
+            EXPECT_NO_THROW(EXPECT_EQ(Decode(bytes).Pixels(), clean)) << stray << " at " << at;
+        }
+    }
+}
+
 TEST_F(PictureFiles, AJpegMayHaveSixtyFourScans)
 {
     EXPECT_EQ(FailureOfDecoding(JpegOfScans(64)), 0);
@@ -274,6 +293,11 @@ TEST_F(PictureFiles, AMetafileIsDrawn)
     surface.PaintPicture(Decode(Metafile()), 0, 0);
     EXPECT_EQ(surface.GetPixel(20, 24), Black);
     EXPECT_EQ(surface.GetPixel(70, 24), White);
+}
+
+TEST_F(PictureFiles, AMetafileMayCountItsPlaceableHeaderAsItsOwn)
+{
+    EXPECT_EQ(Decode(MetafileThatCountsItsHeader()).Pixels(), Decode(Metafile()).Pixels());
 }
 
 TEST_F(PictureFiles, AMetafileHasTheSizeOfItsPlaceableHeader)
