@@ -1,9 +1,11 @@
 #include "imaging/PictureFormats.h"
 
 #include "imaging/Owned.h"
+#include "platform/RunTimeError.h"
 
 #include <QtGlobal>
 #include <algorithm>
+#include <bit>
 #include <gif_lib.h>
 #include <vector>
 
@@ -49,6 +51,23 @@ private:
     qint64 m_at = 0;
 };
 
+/// The decoder treats the masks of red, green, blue and alpha as bytes and shows wider ones in wrong colours.
+void CheckBmpMasks(QByteArrayView bytes, int count)
+{
+    constexpr qint64 masksField = 54;
+    constexpr int maxBits = 8;
+    Scanner in(bytes);
+    in.MoveTo(masksField);
+    for (int i = 0; i < count; ++i) {
+        const quint32 mask = in.LittleEndian32();
+        if (mask != 0 && std::bit_width(mask) - std::countr_zero(mask) > maxBits)
+            throw RunTimeError(
+                ErrorNumber::InvalidPicture,
+                QStringLiteral("Invalid picture: the BMP file has more than 8 bits per colour. "
+                               "Save it with 24 bits per pixel."));
+    }
+}
+
 /// Rows of pixels run from the offset in the header to the end; compressed ones say how long they are.
 bool IsWholeBmp(QByteArrayView bytes)
 {
@@ -60,6 +79,7 @@ bool IsWholeBmp(QByteArrayView bytes)
     const qint64 offset = in.LittleEndian32();
     const quint32 headerSize = in.LittleEndian32();
     constexpr quint32 oldHeader = 12; // with 16-bit measures, never compressed
+    constexpr quint32 alphaHeader = 56;
     const bool isOld = headerSize == oldHeader;
     const qint64 width = isOld ? in.LittleEndian16() : static_cast<qint32>(in.LittleEndian32());
     const qint64 height = isOld ? in.LittleEndian16() : static_cast<qint32>(in.LittleEndian32());
@@ -71,6 +91,8 @@ bool IsWholeBmp(QByteArrayView bytes)
     constexpr qint64 maxBits = 32;
     if (in.IsPastEnd() || width <= 0 || width > maxPixels || qAbs(height) > maxPixels || bits > maxBits)
         return false;
+    if (compression == bitFields)
+        CheckBmpMasks(bytes, headerSize < alphaHeader ? 3 : 4);
     const bool hasRows = compression == uncompressed || compression == bitFields;
     const qint64 rowBytes = (width * bits + 31) / 32 * 4;
     // Compressed, a pixel takes two bytes at most, and so does the end of a row. The decoder goes through all

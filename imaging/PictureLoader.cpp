@@ -88,8 +88,8 @@ Picture PictureLoader::LoadPicture(const QString& path)
         return {};
     const std::optional<FileAttributes> file = AttributesOf(path);
     if (const Kept* kept = m_kept.object(path); kept != nullptr && file && IsSameFile(kept->File, *file)) {
-        if (kept->Decoded.IsEmpty())
-            RefusePicture();
+        if (kept->Failure)
+            throw *kept->Failure;
         return kept->Decoded;
     }
     Picture picture;
@@ -97,11 +97,11 @@ Picture PictureLoader::LoadPicture(const QString& path)
         picture = DecodePicture(path);
     } catch (const RunTimeError& error) {
         if (error.Number() == ErrorNumber::InvalidPicture && file)
-            m_kept.insert(path, new Kept{{}, *file}); // finding that out can take seconds
+            m_kept.insert(path, new Kept{{}, *file, error}); // finding that out can take seconds
         throw;
     }
     if (file)
-        m_kept.insert(path, new Kept{picture, *file}, picture.Pixels().sizeInBytes());
+        m_kept.insert(path, new Kept{picture, *file, {}}, picture.Pixels().sizeInBytes());
     return picture;
 }
 

@@ -2,9 +2,11 @@
 
 #include "imaging/Picture.h"
 #include "platform/Files.h"
+#include "platform/RunTimeError.h"
 
 #include <QCache>
 #include <QString>
+#include <optional>
 
 namespace deckforge {
 
@@ -13,7 +15,7 @@ namespace deckforge {
 ///
 /// Files come from strangers: a missing one is error 53 or 76, what is no regular file 75, and one that is
 /// damaged, cut short, of another kind or over 128 MiB decoded is 481. WMF is converted in a process of its
-/// own with limits of time and memory.
+/// own with limits of time and memory; error 57 names the program that is missing.
 [[nodiscard]] Picture DecodePicture(const QString& path);
 
 /// Pictures by path. Decoded ones are kept, up to a bound in bytes, as long as their file has the same size
@@ -27,8 +29,9 @@ public:
 
 private:
     struct Kept {
-        Picture Decoded; ///< empty for a file that is refused
+        Picture Decoded;
         FileAttributes File;
+        std::optional<RunTimeError> Failure;
     };
     QCache<QString, Kept> m_kept;
 };

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int Seconds = 10;
 constexpr rlim_t MemoryBytes = rlim_t(512) << 20;
-constexpr rlim_t MostPngBytes = rlim_t(256) << 20;
+constexpr rlim_t MaxPngBytes = rlim_t(256) << 20;
 
 /// Runs between fork and exec: what the converter may use.
 void LimitProcess()
@@ -26,19 +26,26 @@ void LimitProcess()
     };
     limit(RLIMIT_CPU, Seconds);
     limit(RLIMIT_AS, MemoryBytes);
-    limit(RLIMIT_FSIZE, MostPngBytes);
+    limit(RLIMIT_FSIZE, MaxPngBytes);
     limit(RLIMIT_CORE, 0);
     ::signal(SIGXFSZ, SIG_DFL); // it cannot be trusted with a failure
 }
 
 bool RunConverter(const QStringList& arguments)
 {
+    const QString program = QStringLiteral("wmf2gd");
     QProcess converter;
     converter.setChildProcessModifier(LimitProcess);
     converter.setStandardInputFile(QProcess::nullDevice());
     converter.setStandardOutputFile(QProcess::nullDevice());
     converter.setStandardErrorFile(QProcess::nullDevice());
-    converter.start(QStringLiteral("wmf2gd"), arguments);
+    converter.start(program, arguments);
+    if (!converter.waitForStarted())
+        throw RunTimeError(
+            ErrorNumber::DeviceIo,
+            QStringLiteral("WMF pictures need the program %1, which cannot be started. Install the "
+                           "package libwmf-bin.")
+                .arg(program));
     if (!converter.waitForFinished(Seconds * 1000)) {
         converter.kill();
         converter.waitForFinished();
@@ -49,14 +56,14 @@ bool RunConverter(const QStringList& arguments)
 
 } // namespace
 
-QByteArray WmfToPng(const QByteArray& wmf, qint64 mostPixels)
+QByteArray WmfToPng(const QByteArray& wmf, qint64 maxPixels)
 {
     const QTemporaryDir folder;
     const QString source = folder.filePath(QStringLiteral("picture.wmf"));
     const QString target = folder.filePath(QStringLiteral("picture.png"));
     QStringList arguments = {QStringLiteral("-t"), QStringLiteral("png"), QStringLiteral("-o"), target};
     if (const auto size = PlaceableWmfSize(wmf)) {
-        if (qint64(size->width()) * size->height() > mostPixels)
+        if (qint64(size->width()) * size->height() > maxPixels)
             throw RunTimeError(ErrorNumber::InvalidPicture);
         arguments << QStringLiteral("--maxwidth=%1").arg(size->width())
                   << QStringLiteral("--maxheight=%1").arg(size->height()) << QStringLiteral("--maxsize");
@@ -67,7 +74,7 @@ QByteArray WmfToPng(const QByteArray& wmf, qint64 mostPixels)
     }
     if (!RunConverter(arguments << source) || !IsRegularFile(target))
         throw RunTimeError(ErrorNumber::InvalidPicture);
-    return ReadWholeFile(target, static_cast<qint64>(MostPngBytes));
+    return ReadWholeFile(target, static_cast<qint64>(MaxPngBytes));
 }
 
 } // namespace deckforge

@@ -4,8 +4,8 @@
 
 namespace deckforge {
 
-/// The bytes of a WMF file as those of a PNG of the file's own size, which may have mostPixels. The converter
-/// runs in a process of its own, which gets ten seconds and 512 MiB. Error 481 when it fails or is missing.
-[[nodiscard]] QByteArray WmfToPng(const QByteArray& wmf, qint64 mostPixels);
+/// Converts a WMF file to a PNG file of the same size, at most maxPixels. The converter runs in a process of
+/// its own with ten seconds and 512 MiB. Error 481 if it fails, and 57 with its name if it cannot be started.
+[[nodiscard]] QByteArray WmfToPng(const QByteArray& wmf, qint64 maxPixels);
 
 } // namespace deckforge

@@ -8,6 +8,7 @@
 
 #include <QBuffer>
 #include <QDirIterator>
+#include <QScopeGuard>
 
 namespace deckforge {
 
@@ -79,6 +80,16 @@ QByteArray MetafileThatCountsItsHeader()
     return With<quint32>(Metafile(), 28, static_cast<quint32>(Metafile().size() / 2));
 }
 
+/// Pixels of 32 bits with masks of their own; all are red at full, green at half, and no blue.
+QByteArray BmpWithMasks(quint32 red, quint32 green, quint32 blue, quint32 pixel)
+{
+    QByteArray bmp = With<qint16>(With<qint32>(Encoded("BMP"), 30, 3), 28, 32).first(54);
+    for (const quint32 number : {red, green, blue})
+        bmp += With<quint32>(QByteArray(4, 0), 0, number);
+    bmp += With<quint32>(QByteArray(4, 0), 0, pixel).repeated(Width * Height);
+    return With<quint32>(bmp, 10, 54 + 12);
+}
+
 // Pictures of a few pixels that keep a decoder busy for as long as they have bytes.
 
 /// A picture of 1 x 1 pixels whose codes take so many bytes. Each code stands for the one before and a pixel
@@ -136,6 +147,15 @@ protected:
     int FailureOfDecoding(const QByteArray& bytes)
     {
         return FailureOf([&] { (void)Decode(bytes); });
+    }
+    QString ReasonOf(const QString& path)
+    {
+        try {
+            (void)Load(path);
+        } catch (const RunTimeError& error) {
+            return error.Description();
+        }
+        return {};
     }
     QByteArray EncodedGif() const
     {
@@ -243,6 +263,28 @@ TEST_F(PictureFiles, ABmpMayHaveItsRowsTopDown)
     EXPECT_EQ(Decode(bmp).Pixels(), PictureOfPlaces({Width, Height}).Pixels().mirrored());
 }
 
+TEST_F(PictureFiles, ABmpMayHaveMasksOfUpToEightBits)
+{
+    EXPECT_EQ(Decode(BmpWithMasks(0xFF, 0xFF00, 0xFF0000, 0x80FF)).Pixels().pixel(0, 0), qRgb(255, 128, 0));
+    EXPECT_EQ(Decode(BmpWithMasks(0xFF000000, 0xFF0000, 0xFF, 0xFF800000)).Pixels().pixel(0, 0),
+              qRgb(255, 128, 0));
+}
+
+TEST_F(PictureFiles, ABmpWithWiderMasksIsRejectedWithTheReason)
+{
+    const QString reason =
+        "Invalid picture: the BMP file has more than 8 bits per colour. Save it with 24 bits per pixel.";
+    const QByteArray cases[] = {BmpWithMasks(0x3FF00000, 0xFFC00, 0x3FF, 0),
+                                BmpWithMasks(0x1FF, 0xFF0000, 0, 0), BmpWithMasks(0xFF, 0x1FF00, 0, 0),
+                                BmpWithMasks(0xFF, 0xFF00, 0xFF800000, 0),
+                                With<quint32>(Seed("bmp/alpha-v4"), 66, 0xFF800000)};
+    for (const QByteArray& wide : cases) {
+        const QString path = Folder.Write("a.bmp", wide);
+        EXPECT_EQ(ReasonOf(path), reason) << wide.sliced(54, 16).toHex().toStdString();
+        EXPECT_EQ(ReasonOf(path), reason) << "the second time, too";
+    }
+}
+
 TEST_F(PictureFiles, ABmpOfRunsMayHaveSomeOfThemPastItsEnd)
 {
     EXPECT_EQ(FailureOfDecoding(BmpOfRunsAnd(1 << 18)), 0);
@@ -309,6 +351,20 @@ TEST_F(PictureFiles, AMetafileHasTheSizeOfItsPlaceableHeader)
     EXPECT_EQ(PlaceableWmfSize(PlaceableHeader(0, 0, 22, 23, 1440)), QSize(1, 2)) << "to the nearest";
     EXPECT_EQ(PlaceableWmfSize(PlaceableHeader(0, 0, 10, 20, 0)), QSize(960, 1920)) << "without units";
     EXPECT_EQ(PlaceableWmfSize(Metafile().sliced(22)), std::nullopt);
+}
+
+TEST_F(PictureFiles, AMissingConverterIsNamedAndFoundOnceItIsThere)
+{
+    const QString path = Folder.Write("a.wmf", Metafile());
+    {
+        const QByteArray programs = qgetenv("PATH");
+        const auto restore = qScopeGuard([&] { qputenv("PATH", programs); });
+        qputenv("PATH", QFile::encodeName(Folder.Path()));
+        EXPECT_EQ(ReasonOf(path),
+                  "WMF pictures need the program wmf2gd, which cannot be started. Install the "
+                  "package libwmf-bin.");
+    }
+    EXPECT_EQ(ReasonOf(path), QString());
 }
 
 TEST_F(PictureFiles, AFileIsDecodedOnceUntilItChanges)
