@@ -101,7 +101,7 @@ void CardJpeg(benchmark::State& state)
     card.Shop.Set.Header.SaveFormat = Jpeg;
     const QString target = card.Folder.filePath(QStringLiteral("alone.jpg"));
     MeasureBeside(
-        state, [&] { card.Write(); }, [&] { SaveJPG(surface, target, 90); });
+        state, [&] { card.Write(); }, [&] { SaveJPG(surface, target, 90, 96); });
 }
 
 void CardGif(benchmark::State& state)
@@ -180,7 +180,7 @@ void Sheet(benchmark::State& state)
     MeasureBeside(state, make, [&] {
         for (int i = 0; i < cards; ++i)
             ShowCard(card.Shop, 1);
-        SaveJPG(sheet, target, 90);
+        SaveJPG(sheet, target, 90, 96);
     });
 }
 

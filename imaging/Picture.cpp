@@ -11,7 +11,6 @@ namespace deckforge {
 namespace {
 
 constexpr double InchesPerMetre = 1000 / 25.4;
-constexpr int LogicalPixelsPerInch = 96;
 
 /// The BMP encoder writes the rows of a picture with a palette as they are in memory. Without this, bytes of
 /// the heap would get into files that people share.

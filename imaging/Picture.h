@@ -27,6 +27,8 @@ private:
     int m_scale = 1;
 };
 
+inline constexpr int LogicalPixelsPerInch = 96;
+
 /// Writes a picture as a BMP file: 24 bits a pixel, or the depth of its palette, 96 logical pixels to the
 /// inch. A failure of the file is thrown, and error 481 for an empty picture.
 void SavePicture(const Picture& picture, const QString& path);

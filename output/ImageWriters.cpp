@@ -119,7 +119,7 @@ void WriteJpeg(const Picture& picture, const QString& path)
 {
     cDIBSection surface;
     surface.CreateFromPicture(picture);
-    SaveJPG(surface, path, JpegQuality);
+    SaveJPG(surface, path, JpegQuality, LogicalPixelsPerInch * picture.Scale());
 }
 
 } // namespace

@@ -52,7 +52,7 @@ protected:
     }
     QByteArray WrittenJpeg(const Picture& picture) const
     {
-        EXPECT_TRUE(SaveJPG(SectionOf(picture), Folder.Path("a.jpg"), 90));
+        EXPECT_TRUE(SaveJPG(SectionOf(picture), Folder.Path("a.jpg"), 90, 96));
         return Folder.Read("a.jpg");
     }
     QByteArray WrittenGif(const Picture& picture) const
@@ -159,11 +159,19 @@ TEST_F(PictureWriters, AJpegKeepsTheTimesOfTheFileThatItReplaces)
     EXPECT_EQ(QFileInfo(path).lastModified(), old);
 }
 
+TEST_F(PictureWriters, AJpegSaysHowManyPixelsItHasToTheInch)
+{
+    EXPECT_TRUE(SaveJPG(SectionOf(PictureOfPlaces({8, 8})), Folder.Path("a.jpg"), 90, 384));
+    const QImage read(Folder.Path("a.jpg"));
+    EXPECT_EQ(read.dotsPerMeterX(), 15118);
+    EXPECT_EQ(read.dotsPerMeterY(), 15118);
+}
+
 TEST_F(PictureWriters, AJpegThatCannotBeMadeIsAnError)
 {
     const cDIBSection surface = SectionOf(PictureOfPlaces({8, 8}));
-    EXPECT_EQ(FailureOf([&] { SaveJPG(surface, Folder.Path(), 90); }), 75);
-    EXPECT_EQ(FailureOf([&] { SaveJPG(cDIBSection(), Folder.Path("b.jpg"), 90); }), 26001);
+    EXPECT_EQ(FailureOf([&] { SaveJPG(surface, Folder.Path(), 90, 96); }), 75);
+    EXPECT_EQ(FailureOf([&] { SaveJPG(cDIBSection(), Folder.Path("b.jpg"), 90, 96); }), 26001);
 }
 
 TEST_F(PictureWriters, AGifHasThePaletteOfAPictureWithFewColours)
