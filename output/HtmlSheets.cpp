@@ -26,6 +26,15 @@ struct Page {
     QStringList Links = {}; ///< to each page, from the first
 };
 
+/// A name in a text or an attribute of a page, where it must not end the one or the other. An ampersand
+/// stays: it can do neither.
+QString Escaped(QString name)
+{
+    return name.replace(QLatin1Char('<'), QStringLiteral("&lt;"))
+        .replace(QLatin1Char('>'), QStringLiteral("&gt;"))
+        .replace(QLatin1Char('"'), QStringLiteral("&quot;"));
+}
+
 QString PageName(const Page& page, int number)
 {
     const QString digits =
@@ -37,7 +46,7 @@ QStringList LinksOf(const Page& page)
 {
     QStringList links;
     for (int i = 1; i <= page.Count; ++i) {
-        links += QStringLiteral("<A HREF=\"") + FixFileName(page.Header, PageName(page, i)) +
+        links += QStringLiteral("<A HREF=\"") + Escaped(FixFileName(page.Header, PageName(page, i))) +
                  QStringLiteral("\">") + QString::number(i) + QStringLiteral("</A>&nbsp;&nbsp;");
     }
     return links;
@@ -62,7 +71,7 @@ void WriteLines(LineWriter& out, std::initializer_list<const char*> lines)
 void WriteHead(LineWriter& out, const Page& page)
 {
     WriteLines(out, {"<HTML>", "<HEAD>"});
-    out.Line(QStringLiteral("   <TITLE>") + page.Title + QStringLiteral("</TITLE>"));
+    out.Line(QStringLiteral("   <TITLE>") + Escaped(page.Title) + QStringLiteral("</TITLE>"));
     WriteLines(out, {"</HEAD>", "<BODY>", "", "<CENTER>"});
     out.Line(QStringLiteral("<P>Pages:&nbsp;&nbsp;") + PageList(page) + QStringLiteral("</P>"));
     WriteLines(out, {"<TABLE BORDER=0 BORDERCOLOR=\"#000000\" CELLPADDING=0 CELLSPACING=0>"});
@@ -77,7 +86,7 @@ void WriteImage(LineWriter& out, const Page& page, const QString& image)
 {
     WriteLines(out,
                {"   <TABLE BORDER=0 BORDERCOLOR=\"#000000\" CELLPADDING=0 CELLSPACING=0>", "       <TR>"});
-    out.Line(QStringLiteral("           <TD><IMG SRC=\"") + FixFileName(page.Header, image) +
+    out.Line(QStringLiteral("           <TD><IMG SRC=\"") + Escaped(FixFileName(page.Header, image)) +
              QStringLiteral("\"></TD>"));
     WriteLines(out, {"       </TR>", "   </TABLE>"});
 }

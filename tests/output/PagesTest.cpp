@@ -69,6 +69,19 @@ TEST_F(PagesTest, PagesAreLinkedAndCopiesAreRepeatedImages)
     EXPECT_FALSE(Folder.Has("My_Set_3.htm"));
 }
 
+TEST_F(PagesTest, NamesCannotEndATextOrAnAttribute)
+{
+    AddCards(7);
+    Set.Header.SetName = "<script>\"&amp;";
+    Set.Cards[1].Filename = "\"><b>&";
+    EXPECT_TRUE(CreateHtmlCards(Set, User));
+    const QByteArray page = Folder.Read("<script>\"&amp; 1.htm");
+    const QByteArray name = "&lt;script&gt;&quot;&amp;";
+    for (const QByteArray& line : {"<TITLE>" + name + "</TITLE>", "<A HREF=\"" + name + " 2.htm\">2</A>",
+                                   QByteArray("<IMG SRC=\"&quot;&gt;&lt;b&gt;&.bmp\">")})
+        EXPECT_TRUE(page.contains(line)) << page.toStdString();
+}
+
 TEST_F(PagesTest, ImagesAreNamedByKindPrefixAndNumber)
 {
     AddElement<LargeCard>(Set);
