@@ -3,6 +3,7 @@
 #include "batch/ConsoleUser.h"
 #include "compose/NewBack.h"
 #include "compose/SetView.h"
+#include "compose/StandardCard.h"
 #include "core/Vocabulary.h"
 #include "files/modFile.h"
 #include "output/HtmlSheets.h"
@@ -62,7 +63,9 @@ constexpr char Usage[] = R"(Usage:
               and gaps of the page count dots
   --save      writes the set back with the file names that the run gave to its cards
 
-Boxes of the program go to standard error. Exit status: 0 done, 1 a failure was reported, 2 wrong use.
+Results go to standard output, message boxes and problems to standard error. A problem is a line such as
+"card 12 "Wolf": /art/wolf.bmp: File not found". Exit status: 0 done and complete, 1 something was reported,
+2 wrong use.
 )";
 
 // Options
@@ -100,10 +103,8 @@ RunSettings SettingsFrom(const QCommandLineParser& parser)
     RunSettings settings;
     if (parser.isSet(QStringLiteral("format")))
         settings.SaveFormat = FormatNamed(parser.value(QStringLiteral("format")));
-    if (parser.isSet(QStringLiteral("to"))) {
+    if (parser.isSet(QStringLiteral("to")))
         settings.SaveTo = WithSeparator(AbsolutePath(parser.value(QStringLiteral("to"))));
-        QDir().mkpath(*settings.SaveTo); // where it cannot be made, writing into it tells so
-    }
     return settings;
 }
 
@@ -138,11 +139,21 @@ ExitStatus RunOnNewSet(int scale, Task&& task)
         });
     } catch (const RunTimeError& error) {
         TellUntrapped(user, error);
+        if (!error.Place().isEmpty())
+            user.ReportProblems({error.PlaceAndDescription()});
     }
     return done && !user.WasToldOfFailure() ? ExitStatus::Done : ExitStatus::FailureReported;
 }
 
-/// Carries out a task on the set of a file.
+/// Carries out a task on the set of a file. None of its pictures is loaded.
+template <class Task>
+ExitStatus RunOnTexts(const QString& path, Task&& task)
+{
+    return RunOnNewSet(
+        1, [&](Workshop& workshop) { return ReadDKF(workshop.Set, path, workshop.User) && task(workshop); });
+}
+
+/// Carries out a task that composes cards on the set of a file.
 template <class Task>
 ExitStatus RunOnSet(const QString& path, int scale, Task&& task)
 {
@@ -176,24 +187,24 @@ bool WriteSetTo(Workshop& workshop, const QString& path)
 }
 
 /// The images of the user-designed backs, one after the other; the window makes them one by one. A back that
-/// cannot be shown is told, since saving it would end without a word.
-void CreateNewCardBacks(Workshop& workshop)
+/// cannot be shown is told; saving it has no box for that.
+void CreateNewCardBacks(Workshop& workshop, RunReport& report)
 {
     CardSet& set = workshop.Set;
     for (int i = 1; i <= set.NewCardBacks.Count(); ++i) {
         set.NewCardBacks.Current = static_cast<int16>(i);
         try {
             ShowNewCardBack(workshop, set.NewCardBacks.Current);
-            SaveNewCardBack(workshop, set.NewCardBacks.Current, Ask::No, Tell::No);
         } catch (const RunTimeError& error) {
             TellUntrapped(workshop.User, error);
         }
+        SaveNewCardBack(workshop, report, set.NewCardBacks.Current, Ask::No, Tell::No);
     }
 }
 
 struct ImageKind {
     const char* Kind;
-    void (*Create)(Workshop&);
+    void (*Create)(Workshop&, RunReport&);
 };
 
 constexpr ImageKind ImageKinds[] = {{"card", CreateCards},
@@ -203,14 +214,14 @@ constexpr ImageKind ImageKinds[] = {{"card", CreateCards},
 
 struct SheetKind {
     const char* Kind;
-    void (*Create)(Workshop&, std::optional<SheetGrid>);
+    void (*Create)(Workshop&, RunReport&, std::optional<SheetGrid>);
 };
 
 constexpr SheetKind SheetKinds[] = {{"card", CreateCardSheets}, {"large", CreateLargeCardSheets}};
 
 struct HtmlKind {
     const char* Kind;
-    bool (*Create)(const CardSet&, UserPort&);
+    bool (*Create)(const CardSet&, UserPort&, RunReport&);
 };
 
 constexpr HtmlKind HtmlKinds[] = {{"card", CreateHtmlCards},
@@ -235,9 +246,7 @@ ExitStatus RunNew(const QStringList& paths, const QCommandLineParser& /*parser*/
 
 ExitStatus RunConvert(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
-    return RunOnNewSet(1, [&](Workshop& workshop) {
-        return ReadDKF(workshop.Set, paths[0], workshop.User) && WriteSetTo(workshop, paths[1]);
-    });
+    return RunOnTexts(paths[0], [&](Workshop& workshop) { return WriteSetTo(workshop, paths[1]); });
 }
 
 ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
@@ -247,8 +256,9 @@ ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
     const RunSettings settings = SettingsFrom(parser);
     return RunOnSet(paths[0], scale, [&](Workshop& workshop) {
         WithSettings(workshop.Set.Header, settings, [&] {
+            RunReport report(workshop.User);
             for (const ImageKind* kind : kinds)
-                kind->Create(workshop);
+                kind->Create(workshop, report);
         });
         return !parser.isSet(QStringLiteral("save")) || WriteSetTo(workshop, paths[0]);
     });
@@ -264,7 +274,10 @@ ExitStatus RunSheets(const QStringList& paths, const QCommandLineParser& parser)
     grid.Rows = static_cast<int16>(NumberOption(parser, "rows", SheetGrid::MostRows));
     const RunSettings settings = SettingsFrom(parser);
     return RunOnSet(paths[0], 1, [&](Workshop& workshop) {
-        WithSettings(workshop.Set.Header, settings, [&] { kinds.front()->Create(workshop, grid); });
+        WithSettings(workshop.Set.Header, settings, [&] {
+            RunReport report(workshop.User);
+            kinds.front()->Create(workshop, report, grid);
+        });
         return true;
     });
 }
@@ -273,11 +286,12 @@ ExitStatus RunHtml(const QStringList& paths, const QCommandLineParser& parser)
 {
     const auto kinds = KindsFrom(parser, HtmlKinds);
     const RunSettings settings = SettingsFrom(parser);
-    return RunOnSet(paths[0], 1, [&](Workshop& workshop) {
+    return RunOnTexts(paths[0], [&](Workshop& workshop) {
         bool done = true;
         WithSettings(workshop.Set.Header, settings, [&] {
+            RunReport report(workshop.User);
             for (const HtmlKind* kind : kinds)
-                done = kind->Create(workshop.Set, workshop.User) && done;
+                done = kind->Create(workshop.Set, workshop.User, report) && done;
         });
         return done;
     });
@@ -285,15 +299,17 @@ ExitStatus RunHtml(const QStringList& paths, const QCommandLineParser& parser)
 
 ExitStatus RunText(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
-    return RunOnSet(paths[0], 1,
-                    [&](Workshop& workshop) { return ExportSetText(workshop.Set, paths[1], workshop.User); });
+    return RunOnTexts(
+        paths[0], [&](Workshop& workshop) { return ExportSetText(workshop.Set, paths[1], workshop.User); });
 }
 
 ExitStatus RunStatistics(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
-    return RunOnSet(paths[0], 1, [](Workshop& workshop) {
-        const QString text =
-            StatisticsText(workshop.Set).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return RunOnTexts(paths[0], [](Workshop& workshop) {
+        CardSet& set = workshop.Set;
+        if (set.Cards.Count() > 0)
+            ReplaceUnknownBack(set, set.Cards[1]); // the window shows this card before it counts
+        const QString text = StatisticsText(set).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
         if (std::printf("%s\n", qUtf8Printable(text)) < 0 || std::fflush(stdout) != 0)
             throw RunTimeError(ErrorNumber::DeviceIo);
         return true;
@@ -309,9 +325,12 @@ ExitStatus RunPrint(const QStringList& paths, const QCommandLineParser& parser)
     const auto index = static_cast<int16>(NumberOption(parser, "index", std::numeric_limits<int16>::max()));
     const int pixelsPerInch = NumberOption(parser, "resolution", 2400, 72);
     return RunOnSet(paths[0], 1, [&](Workshop& workshop) {
-        if (!ShowForPage(workshop, kind.Page, index))
+        RunReport report(workshop.User);
+        if (!ShowForPage(workshop, kind.Page, index)) {
+            ReportPage(workshop, report, kind.Page);
             return false;
-        WritePdf(workshop, kind.Page, AbsolutePath(paths[1]), pixelsPerInch);
+        }
+        WritePdf(workshop, report, kind.Page, AbsolutePath(paths[1]), pixelsPerInch);
         return true;
     });
 }

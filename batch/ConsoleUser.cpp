@@ -15,6 +15,14 @@ Answer ConsoleUser::ShowMessage(const MessageBoxRequest& request)
     return request.Buttons == BoxButtons::Ok ? deckforge::Answer::Ok : deckforge::Answer::No;
 }
 
+void ConsoleUser::ReportProblems(const QStringList& problems)
+{
+    for (const QString& problem : problems) {
+        m_toldOfFailure = true;
+        std::fprintf(stderr, "%s\n", qUtf8Printable(problem));
+    }
+}
+
 void ConsoleUser::ShowProgress(int done, int total)
 {
     if (isatty(STDERR_FILENO) == 0)

@@ -68,7 +68,7 @@ struct OneCard {
     void Write()
     {
         ShowCard(Shop, 1);
-        SaveCard(Shop, 1, Ask::No, Tell::No);
+        SaveCard(Shop, TheRun, 1, Ask::No, Tell::No);
     }
 
     /// The bitmap that the encoder has to take.
@@ -82,6 +82,7 @@ struct OneCard {
     QTemporaryDir Folder;
     SilentUser User;
     Workshop Shop;
+    RunReport TheRun{User};
 };
 
 void CardBmp(benchmark::State& state)
@@ -172,7 +173,7 @@ void Sheet(benchmark::State& state)
     const QString target = card.Folder.filePath(QStringLiteral("alone.jpg"));
     const auto make = [&] {
         card.Shop.Sheet = {};
-        CreateCardSheets(card.Shop, grid);
+        CreateCardSheets(card.Shop, card.TheRun, grid);
     };
     card.Shop.Set.Cards[1].Copies = cards;
     make();

@@ -89,6 +89,7 @@ void ShowRun::Answer(const RunTimeError& error)
         PictureBox& surface = *m_tells->Surface;
         surface.SetPicture({});
         PrintAt(surface, 0, 0, m_message);
+        m_problems.push_back({error.Place(), error.Description()});
     } else if (error.Number() != ErrorNumber::InvalidPropertyValue) {
         throw error;
     }

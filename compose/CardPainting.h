@@ -70,6 +70,9 @@ public:
     /// From here on a missing file is told by this box, in these words and with its path.
     void LoadsFor(Box& tells, const QString& path, const char* message = "Missing picture.");
 
+    /// The missing files so far.
+    [[nodiscard]] const std::vector<PictureProblem>& Problems() const { return m_problems; }
+
     template <class Step>
     void operator()(Step&& step)
     {
@@ -85,24 +88,30 @@ private:
 
     Box* m_tells = nullptr;
     QString m_message;
+    std::vector<PictureProblem> m_problems;
 };
 
 /// Loads the picture of a frame, and repaints its box at once: what was told on that box of a missing file
 /// goes with it.
 void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QString& path);
 
-/// Runs a Show... routine to its end. A failure that leaves it is told in a box, and the result is false.
+/// Runs a Show... routine to its end. A failure that leaves it is told in a box, and the result is false. The
+/// workshop has its problems afterwards.
 template <class Routine>
-bool ShowOrTell(UserPort& user, Routine&& routine)
+bool ShowOrTell(Workshop& workshop, Routine&& routine)
 {
+    ShowRun run;
+    bool isShown = true;
+    workshop.Problems.clear();
     try {
-        ShowRun run;
         WithMemoryAsFailure([&] { routine(run); });
     } catch (const RunTimeError& error) {
-        TellCannotDraw(user, error);
-        return false;
+        workshop.Problems.push_back({error.Place(), error.Description()});
+        TellCannotDraw(workshop.User, error);
+        isShown = false;
     }
-    return true;
+    workshop.Problems.insert(workshop.Problems.begin(), run.Problems().begin(), run.Problems().end());
+    return isShown;
 }
 
 } // namespace deckforge

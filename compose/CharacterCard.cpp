@@ -200,7 +200,7 @@ void DrawPlayingPiece(Workshop& workshop, int16 index)
 
 bool ShowCharacter(Workshop& workshop, int16 index)
 {
-    return ShowOrTell(workshop.User, [&](ShowRun& run) {
+    return ShowOrTell(workshop, [&](ShowRun& run) {
         CharacterTemplate& t = workshop.Templates.Character;
         const Character& character = workshop.Set.Characters[index];
         ShowTexts(workshop, character, index);

@@ -112,7 +112,7 @@ void DrawLargeCard(Workshop& workshop, int16 index)
 
 bool ShowLargeCard(Workshop& workshop, int16 index)
 {
-    return ShowOrTell(workshop.User, [&](ShowRun& run) {
+    return ShowOrTell(workshop, [&](ShowRun& run) {
         LargeCardTemplate& t = workshop.Templates.Large;
         const LargeCard& card = workshop.Set.LargeCards[index];
         t.lblTitleLarge.Caption = card.Title;

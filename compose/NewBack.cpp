@@ -136,6 +136,7 @@ void PrintBackText(PictureBox& picACardPP, const Box& lblBackTitle, const QStrin
 
 void ShowNewCardBack(Workshop& workshop, int16 index)
 {
+    workshop.Problems.clear();
     NewBackTemplate& t = workshop.Templates.NewBack;
     const NewCardBack& back = workshop.Set.NewCardBacks[index];
     PictureBox& picNewBack = *t.picNewBack.Surface;

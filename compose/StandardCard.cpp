@@ -93,8 +93,7 @@ void LoadBackground(ShowRun& run, Workshop& workshop, const Card& card)
 void LoadBack(ShowRun& run, Workshop& workshop, Card& card)
 {
     CardSet& set = workshop.Set;
-    if (card.CardBack < 0 || card.CardBack > set.CardBacks.Count())
-        card.CardBack = 1;
+    ReplaceUnknownBack(set, card);
     const CardBack& back = set.CardBacks[card.CardBack];
     Box& picBack = workshop.Templates.Standard.picBack;
     run.LoadsFor(picBack, back.Picture);
@@ -198,7 +197,7 @@ void DrawCard(Workshop& workshop, int16 index)
 
 bool ShowCard(Workshop& workshop, int16 index)
 {
-    return ShowOrTell(workshop.User, [&](ShowRun& run) {
+    return ShowOrTell(workshop, [&](ShowRun& run) {
         CardTemplate& t = workshop.Templates.Standard;
         Card& card = workshop.Set.Cards[index];
         ShowTexts(t, card, index);
@@ -221,6 +220,12 @@ void PlaceCardPicture(Workshop& workshop, int16 index)
     PlaceFrame(run, t, card);
     t.picImage.Surface->Refresh();
     PlacePictureInFrame(t, card);
+}
+
+void ReplaceUnknownBack(const CardSet& set, Card& card)
+{
+    if (card.CardBack < 0 || card.CardBack > set.CardBacks.Count())
+        card.CardBack = 1;
 }
 
 Picture PictureOfBack(Workshop& workshop, int16 row)

@@ -13,6 +13,9 @@ bool ShowCard(Workshop& workshop, int16 index);
 /// Lays out again only the frame and what follows it; the picture is not loaded anew.
 void PlaceCardPicture(Workshop& workshop, int16 index);
 
+/// A back that is not in the table becomes the first, as showing the card does it.
+void ReplaceUnknownBack(const CardSet& set, Card& card);
+
 /// The art of a built-in row of the table of backs, or the picture that the row names. A failure is thrown.
 [[nodiscard]] Picture PictureOfBack(Workshop& workshop, int16 row);
 

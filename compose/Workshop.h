@@ -6,6 +6,8 @@
 #include "imaging/PictureLoader.h"
 #include "platform/UserPort.h"
 
+#include <vector>
+
 namespace deckforge {
 
 /// The hidden surfaces on which cards are composed. What one composition leaves on them, fonts and colours
@@ -30,8 +32,15 @@ struct SheetState {
     int16 SheetCol = 0; ///< the cell of the card being placed, from 1
     int16 SheetRow = 0;
     bool SheetLast = false;    ///< set with the last copy of the last card, and never cleared again
+    QString Unwritten;         ///< path of the sheet that has cards and is not written yet; empty for none
     int16 SheetCardHeight = 0; ///< of a cell, in pixels
     int16 SheetCardWidth = 0;
+};
+
+/// A picture that a composition could not load, or another failure that ended it.
+struct PictureProblem {
+    QString Path; ///< empty where it is no picture that failed
+    QString Reason;
 };
 
 /// What every operation works on, with or without a window: the set, its templates and surfaces, the art, and
@@ -48,6 +57,7 @@ struct Workshop {
     BuiltInArt Art;
     PictureLoader Pictures;
     SheetState Sheet;
+    std::vector<PictureProblem> Problems; ///< of the card composed last
 };
 
 } // namespace deckforge

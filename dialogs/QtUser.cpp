@@ -15,6 +15,7 @@
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -22,6 +23,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QStatusBar>
 #include <QTreeView>
 
 namespace deckforge {
@@ -179,6 +181,17 @@ void QtUser::Serve(QWidget* window, std::function<void(int, int)> showProgress)
 Answer QtUser::ShowMessage(const MessageBoxRequest& request)
 {
     return AnswerOf(RunBox(request, QMessageBox::NoButton, TopWindow()));
+}
+
+void QtUser::ReportProblems(const QStringList& problems)
+{
+    auto* const window = qobject_cast<QMainWindow*>(m_window);
+    if (window == nullptr)
+        return;
+    QString text = problems.value(problems.size() - 1);
+    if (problems.size() > 1)
+        text += QStringLiteral(" (and %1 more)").arg(problems.size() - 1);
+    window->statusBar()->showMessage(text);
 }
 
 std::optional<QString> QtUser::AskOpenFile(const FileDialogRequest& request)

@@ -21,6 +21,8 @@ public:
     void Serve(QWidget* window, std::function<void(int done, int total)> showProgress);
 
     Answer ShowMessage(const MessageBoxRequest& request) override;
+    /// In the status bar of the window: the last one and how many more there are.
+    void ReportProblems(const QStringList& problems) override;
     std::optional<QString> AskOpenFile(const FileDialogRequest& request) override;
     /// The file's folder exists, and the user has agreed to replace a file that is there.
     std::optional<QString> AskSaveFile(const FileDialogRequest& request) override;

@@ -62,7 +62,8 @@ void frmQDW::PrintCurrent()
                                                       {PrintedPage::CharacterAlone, &frmQDW::ShowCharacter}}};
     const PrintRow& row = rows.at(static_cast<std::size_t>(tbCard->currentIndex()));
     (this->*row.Show)(Existing(KindOnPage(row.Page)));
-    PrintCard(m_workshop, row.Page);
+    RunReport report(m_workshop.User);
+    PrintCard(m_workshop, report, row.Page);
 }
 
 void frmQDW::About()

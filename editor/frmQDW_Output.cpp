@@ -17,7 +17,8 @@ void frmQDW::CreateOne()
     const Mode& mode = Selected();
     const int16 current = Existing(mode.Kind);
     (this->*mode.Show)(current);
-    mode.Save(m_workshop, current, Ask::Yes, Tell::Yes, {});
+    RunReport report(m_workshop.User);
+    mode.Save(m_workshop, report, current, Ask::Yes, Tell::Yes, {});
 }
 
 /// A new set has only standard cards until the other tabs are looked at; until then error 9.
@@ -31,14 +32,16 @@ int16 frmQDW::Existing(CardKind kind) const
 
 void frmQDW::CreateAll()
 {
-    Selected().CreateAll(m_workshop);
+    RunReport report(m_workshop.User);
+    Selected().CreateAll(m_workshop, report);
     ShowAfterRun();
 }
 
 void frmQDW::CreateSheets()
 {
     const std::optional<SheetGrid> grid = AskSheetGrid(m_workshop.Set.Header.NoBack, this);
-    Selected().CreateSheets(m_workshop, grid); // tells of a cancel as well
+    RunReport report(m_workshop.User);
+    Selected().CreateSheets(m_workshop, report, grid); // tells of a cancel as well
     if (grid)
         ShowAfterRun();
 }
@@ -57,18 +60,21 @@ void frmQDW::CreateHtml()
 
 void frmQDW::CreateCardHtml()
 {
-    CreateHtmlCards(m_workshop.Set, m_workshop.User);
+    RunReport report(m_workshop.User);
+    CreateHtmlCards(m_workshop.Set, m_workshop.User, report);
 }
 
 void frmQDW::CreateLargeCardHtml()
 {
-    CreateHtmlLargeCards(m_workshop.Set, m_workshop.User);
+    RunReport report(m_workshop.User);
+    CreateHtmlLargeCards(m_workshop.Set, m_workshop.User, report);
 }
 
 void frmQDW::CreateCharacterHtml()
 {
-    CreateHtmlCharacters(m_workshop.Set, m_workshop.User);
-    CreateHtmlPieces(m_workshop.Set, m_workshop.User);
+    RunReport report(m_workshop.User);
+    CreateHtmlCharacters(m_workshop.Set, m_workshop.User, report);
+    CreateHtmlPieces(m_workshop.Set, m_workshop.User, report);
 }
 
 void frmQDW::ExportListing()

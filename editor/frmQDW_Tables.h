@@ -85,15 +85,15 @@ struct frmQDW::Page {
 struct frmQDW::Mode {
     CardKind Kind;
     void (frmQDW::*Show)(int16);
-    void (*Save)(Workshop&, int16, Ask, Tell, SheetNumber);
+    void (*Save)(Workshop&, RunReport&, int16, Ask, Tell, SheetNumber);
     Action Add; ///< null for none, as for the next two
     Action Previous;
     Action Next;
     Action Copy;
     Action Paste;
     // What the runs over all cards go by: on the tab of card backs they work on the characters.
-    void (*CreateAll)(Workshop&);
-    void (*CreateSheets)(Workshop&, std::optional<SheetGrid>);
+    void (*CreateAll)(Workshop&, RunReport&);
+    void (*CreateSheets)(Workshop&, RunReport&, std::optional<SheetGrid>);
     Action CreateHtml;
     Action FillAgain; ///< after a run, which has shown other cards
 };

@@ -147,18 +147,32 @@ std::optional<int16> ReadVersion(SetReader& in, UserPort& user)
 }
 
 /// False for a file that is refused.
-bool ReadFile(CardSet& set, const QString& path, UserPort& user)
+bool ReadLines(CardSet& set, SetReader& in, UserPort& user)
 {
-    SetReader in(path);
     const std::optional<int16> version = ReadVersion(in, user);
     if (!version)
         return false;
     in.Line(); // the start line; its text does not matter
     FieldReader fields(in, *version);
     ReadSet(fields, set);
-    if (in.Line() != setFile::End)
-        Tell(user, BoxStyle::Question, "Error", "No final match!");
     return true;
+}
+
+bool ReadFile(CardSet& set, const QString& path, UserPort& user)
+{
+    SetReader in(path);
+    const auto place = [&] { return path + QLatin1Char(':') + QString::number(in.LineNumber()); };
+    try {
+        if (!ReadLines(set, in, user))
+            return false;
+        if (in.Line() != setFile::End) {
+            Tell(user, BoxStyle::Question, "Error", "No final match!");
+            user.ReportProblems({place() + QStringLiteral(": No final match!")});
+        }
+        return true;
+    } catch (const RunTimeError& error) {
+        throw error.At(place());
+    }
 }
 
 } // namespace
@@ -173,9 +187,13 @@ bool ReadDKF(CardSet& set, const QString& path, UserPort& user)
                                   error.NumberAndDescription(),
                           .Title = QStringLiteral("Error"),
                           .Style = BoxStyle::Critical});
-    }
-    if (!isRead)
+        user.ReportProblems({error.At(path).PlaceAndDescription()});
         return false;
+    }
+    if (!isRead) {
+        user.ReportProblems({path + QStringLiteral(": Not a card set of this version")});
+        return false;
+    }
     Tell(user, BoxStyle::Information, "Open file", "The card set is loaded.");
     set.Cards.Current = 1;
     return true;

@@ -12,6 +12,7 @@ SetReader::SetReader(const QString& path) : m_bytes(ReadWholeFile(path, setFile:
 
 QByteArrayView SetReader::Line()
 {
+    ++m_lineNumber;
     if (m_at >= m_bytes.size())
         throw RunTimeError(ErrorNumber::InputPastEnd);
     const QByteArrayView rest = QByteArrayView(m_bytes).sliced(m_at);

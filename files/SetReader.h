@@ -29,7 +29,11 @@ public:
     /// The line as it stands, valid as long as the reader.
     QByteArrayView Line();
 
+    /// Of the line read last, from 1.
+    [[nodiscard]] int LineNumber() const { return m_lineNumber; }
+
 private:
+    int m_lineNumber = 0;
     QByteArray m_bytes;
     qsizetype m_at = 0;
 };

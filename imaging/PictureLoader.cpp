@@ -97,8 +97,8 @@ Picture PictureLoader::LoadPicture(const QString& path)
         picture = DecodePicture(path);
     } catch (const RunTimeError& error) {
         if (error.Number() == ErrorNumber::InvalidPicture && file)
-            m_kept.insert(path, new Kept{{}, *file, error}); // finding that out can take seconds
-        throw;
+            m_kept.insert(path, new Kept{{}, *file, error.At(path)}); // finding that out can take seconds
+        throw error.At(path);
     }
     if (file)
         m_kept.insert(path, new Kept{picture, *file, {}}, picture.Pixels().sizeInBytes());

@@ -24,7 +24,8 @@ class PictureLoader {
 public:
     PictureLoader();
 
-    /// The picture of the file, or the empty picture for an empty path. Fails as DecodePicture does.
+    /// The picture of the file, or the empty picture for an empty path. Fails as DecodePicture does, with the
+    /// path as the place.
     [[nodiscard]] Picture LoadPicture(const QString& path);
 
 private:

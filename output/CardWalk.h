@@ -12,7 +12,7 @@ namespace deckforge {
 template <class Record>
 struct CardWalk {
     bool (*Show)(Workshop&, int16);
-    void (*Save)(Workshop&, int16, Ask, Tell, SheetNumber);
+    void (*Save)(Workshop&, RunReport&, int16, Ask, Tell, SheetNumber);
 };
 
 inline constexpr CardWalk<Card> StandardWalk = {ShowCard, SaveCard};

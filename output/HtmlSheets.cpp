@@ -1,6 +1,5 @@
 #include "output/HtmlSheets.h"
 
-#include "compose/Attempt.h"
 #include "core/modInfo.h"
 #include "output/ImageNames.h"
 #include "platform/LineWriter.h"
@@ -218,19 +217,30 @@ constexpr HtmlRow<Character> PiecePages = {OneCopy,
                                            "1 character playing piece HTML sheet is created.",
                                            " character playing piece HTML sheets are created."};
 
-/// A page that cannot be written is left without a word; gives whether it is there.
-bool WritePage(const Page& page, void (*writeBody)(LineWriter&, const Page&))
+FilePath PathOf(const Page& page)
 {
-    bool isWritten = false;
-    Attempt([&] {
-        LineWriter out(PathToWrite(page.Header, {page.Header.SaveTo, PageName(page, page.Number)}));
+    return {page.Header.SaveTo, PageName(page, page.Number)};
+}
+
+/// A page that cannot be written is reported.
+void WritePage(const Page& page, RunReport& report, void (*writeBody)(LineWriter&, const Page&))
+{
+    const auto write = [&](const QString& path) {
+        LineWriter out(path);
         WriteHead(out, page);
         writeBody(out, page);
         WriteFoot(out);
         out.Close();
-        isWritten = true;
-    });
-    return isWritten;
+        return true;
+    };
+    try {
+        WithMemoryAsFailure([&] {
+            const QString path = PathToWrite(page.Header, PathOf(page));
+            report.WriteFile(path, [&] { return write(path); });
+        });
+    } catch (const RunTimeError& error) {
+        report.AddNotWritten(FixFileName(page.Header, PathOf(page).Full()), error.Description());
+    }
 }
 
 /// How many images there are with all copies; nothing when a card has no file name yet.
@@ -248,13 +258,9 @@ std::optional<qint64> ImageCount(const CardSet& set, const HtmlRow<Record>& row)
     return sum;
 }
 
-struct WrittenPages {
-    int Count = 0;
-    bool AreAllThere = true;
-};
-
+/// Gives how many pages were due.
 template <class Record>
-WrittenPages WritePages(const CardSet& set, const HtmlRow<Record>& row, qint64 imageCount)
+int WritePages(const CardSet& set, RunReport& report, const HtmlRow<Record>& row, qint64 imageCount)
 {
     const CardList<Record>& cards = ListOf<Record>(set);
     const int count = cards.Count();
@@ -266,11 +272,11 @@ WrittenPages WritePages(const CardSet& set, const HtmlRow<Record>& row, qint64 i
               .Number = 0,
               .Count = ToInt16(static_cast<double>(pageCount))};
     page.Links = LinksOf(page);
-    WrittenPages written;
     int slot = 0;
     for (int i = 1; i <= count; ++i) {
         const Record& record = cards[i];
         const int copies = row.Copies(record);
+        report.Begin(set, KindOf<Record>, static_cast<int16>(i));
         for (int k = 1; k <= copies; ++k) {
             ++slot;
             if (slot == 1) {
@@ -280,17 +286,20 @@ WrittenPages WritePages(const CardSet& set, const HtmlRow<Record>& row, qint64 i
             page.Images[static_cast<std::size_t>(slot) - 1] =
                 row.Image(set.Header, record.Filename, i, count);
             if (slot == row.Slots || (i == count && k == copies)) {
-                written.AreAllThere = WritePage(page, row.WriteBody) && written.AreAllThere;
+                WritePage(page, report, row.WriteBody);
                 slot = 0;
             }
         }
     }
-    written.Count = page.Number;
-    return written;
+    if (slot > 0) {
+        report.Add(FixFileName(page.Header, PathOf(page).Full()),
+                   QStringLiteral("Not written, since the last card has no copies"));
+    }
+    return page.Number;
 }
 
 template <class Record>
-bool CreatePages(const CardSet& set, UserPort& user, const HtmlRow<Record>& row)
+bool CreatePages(const CardSet& set, UserPort& user, RunReport& report, const HtmlRow<Record>& row)
 {
     const std::optional<qint64> imageCount = ImageCount(set, row);
     if (!imageCount) {
@@ -299,34 +308,34 @@ bool CreatePages(const CardSet& set, UserPort& user, const HtmlRow<Record>& row)
                           .Style = BoxStyle::Exclamation});
         return false;
     }
-    const WrittenPages pages = WritePages(set, row, *imageCount);
-    user.ShowMessage({.Text = pages.Count == 1 ? QString::fromLatin1(row.OnePage)
-                                               : QString::number(pages.Count) + QLatin1String(row.Pages),
+    const int pages = WritePages(set, report, row, *imageCount);
+    user.ShowMessage({.Text = pages == 1 ? QString::fromLatin1(row.OnePage)
+                                         : QString::number(pages) + QLatin1String(row.Pages),
                       .Title = QStringLiteral("Save HTML"),
                       .Style = BoxStyle::Information});
-    return pages.AreAllThere;
+    return true;
 }
 
 } // namespace
 
-bool CreateHtmlCards(const CardSet& set, UserPort& user)
+bool CreateHtmlCards(const CardSet& set, UserPort& user, RunReport& report)
 {
-    return CreatePages(set, user, CardPages);
+    return CreatePages(set, user, report, CardPages);
 }
 
-bool CreateHtmlLargeCards(const CardSet& set, UserPort& user)
+bool CreateHtmlLargeCards(const CardSet& set, UserPort& user, RunReport& report)
 {
-    return CreatePages(set, user, LargePages);
+    return CreatePages(set, user, report, LargePages);
 }
 
-bool CreateHtmlCharacters(const CardSet& set, UserPort& user)
+bool CreateHtmlCharacters(const CardSet& set, UserPort& user, RunReport& report)
 {
-    return CreatePages(set, user, CharacterPages);
+    return CreatePages(set, user, report, CharacterPages);
 }
 
-bool CreateHtmlPieces(const CardSet& set, UserPort& user)
+bool CreateHtmlPieces(const CardSet& set, UserPort& user, RunReport& report)
 {
-    return CreatePages(set, user, PiecePages);
+    return CreatePages(set, user, report, PiecePages);
 }
 
 } // namespace deckforge

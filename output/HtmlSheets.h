@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/CardSet.h"
-#include "platform/UserPort.h"
+#include "output/RunReport.h"
 
 namespace deckforge {
 
@@ -9,10 +8,10 @@ namespace deckforge {
 //
 // Every card must have a file name, else the user is told and nothing is written. The number of pages that
 // the pages announce is one too high where the last one is full; past 32,767 it is error 6. A page that
-// cannot be written is counted all the same. Each gives whether all pages are there.
-bool CreateHtmlCards(const CardSet& set, UserPort& user);
-bool CreateHtmlLargeCards(const CardSet& set, UserPort& user);
-bool CreateHtmlCharacters(const CardSet& set, UserPort& user);
-bool CreateHtmlPieces(const CardSet& set, UserPort& user);
+// cannot be written is counted all the same, and reported. Each gives whether the cards have their names.
+bool CreateHtmlCards(const CardSet& set, UserPort& user, RunReport& report);
+bool CreateHtmlLargeCards(const CardSet& set, UserPort& user, RunReport& report);
+bool CreateHtmlCharacters(const CardSet& set, UserPort& user, RunReport& report);
+bool CreateHtmlPieces(const CardSet& set, UserPort& user, RunReport& report);
 
 } // namespace deckforge

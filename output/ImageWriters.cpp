@@ -94,14 +94,24 @@ Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
     return picDone.Image();
 }
 
-void WriteFinalPicture(Workshop& workshop, const FinalPicture& kind, const FilePath& path)
+void WriteFinalPicture(Workshop& workshop, RunReport& report, const FinalPicture& kind, const FilePath& path)
 {
-    WriteOrTell(workshop.User, kind.FailureTitle, [&] {
-        WriteInFormat(workshop, BuildFinalPicture(workshop, kind), path, kind.GifFailureTitle);
+    WriteOrTell(workshop, report, path, kind.FailureTitle, [&] {
+        WriteInFormat(workshop, report, BuildFinalPicture(workshop, kind), path, kind.GifFailureTitle);
     });
 }
 
-void WriteGif(UserPort& user, const Picture& picture, const QString& path, const char* failureTitle)
+/// Tells that an image could not be written.
+void TellWriteFailure(UserPort& user, const char* title, const QString& reason = {})
+{
+    user.ShowMessage({.Text = QStringLiteral("Something went wrong.") +
+                              (reason.isEmpty() ? QString() : QStringLiteral("\r\n\r\n") + reason),
+                      .Title = QString::fromLatin1(title),
+                      .Style = BoxStyle::Critical});
+}
+
+/// Gives why the picture could not be converted; other failures are thrown.
+std::optional<QString> WriteGif(const Picture& picture, const QString& path)
 {
     const QString temporary = ProgramFolder() + QStringLiteral("qdwtemp.bmp");
     // All runs of the program share the file; another one waits until the picture in it is converted.
@@ -111,8 +121,7 @@ void WriteGif(UserPort& user, const Picture& picture, const QString& path, const
     if (!lock.tryLock(milliseconds) && lock.error() == QLockFile::LockFailedError)
         throw RunTimeError(ErrorNumber::PermissionDenied);
     SavePicture(picture, temporary);
-    if (const auto failure = ConvertBmpToGif(temporary, path))
-        TellWriteFailure(user, failureTitle, *failure);
+    return ConvertBmpToGif(temporary, path);
 }
 
 void WriteJpeg(const Picture& picture, const QString& path)
@@ -144,57 +153,65 @@ Picture FinalPlayingPiece(Workshop& workshop)
     return BuildFinalPicture(workshop, PiecePicture);
 }
 
-void WriteCard(Workshop& workshop, const FilePath& path)
+void WriteCard(Workshop& workshop, RunReport& report, const FilePath& path)
 {
-    WriteFinalPicture(workshop, StandardPicture, path);
+    WriteFinalPicture(workshop, report, StandardPicture, path);
 }
 
-void WriteLargeCard(Workshop& workshop, const FilePath& path)
+void WriteLargeCard(Workshop& workshop, RunReport& report, const FilePath& path)
 {
-    WriteFinalPicture(workshop, LargePicture, path);
+    WriteFinalPicture(workshop, report, LargePicture, path);
 }
 
-void WriteCharacter(Workshop& workshop, const FilePath& path)
+void WriteCharacter(Workshop& workshop, RunReport& report, const FilePath& path)
 {
-    WriteFinalPicture(workshop, CharacterPicture, path);
+    WriteFinalPicture(workshop, report, CharacterPicture, path);
 }
 
-void WritePlayingPiece(Workshop& workshop, const FilePath& path)
+void WritePlayingPiece(Workshop& workshop, RunReport& report, const FilePath& path)
 {
-    WriteFinalPicture(workshop, PiecePicture, path);
+    WriteFinalPicture(workshop, report, PiecePicture, path);
 }
 
-void WriteNewCardBack(Workshop& workshop, const FilePath& path)
+void WriteNewCardBack(Workshop& workshop, RunReport& report, const FilePath& path)
 {
-    WriteFinalPicture(workshop, NewBackPicture, path);
+    WriteFinalPicture(workshop, report, NewBackPicture, path);
 }
 
-void WriteInFormat(Workshop& workshop, const Picture& picture, const FilePath& path,
-                   const char* gifFailureTitle)
+void WriteOrTell(Workshop& workshop, RunReport& report, const FilePath& path, const char* failureTitle,
+                 const std::function<void()>& step)
 {
-    const SetHeader& header = workshop.Set.Header;
-    const QString target = PathToWrite(header, path);
-    switch (header.SaveFormat) {
-    case SaveFormat::Bmp:
-        SavePicture(picture, target);
-        break;
-    case SaveFormat::Jpeg:
-        WriteJpeg(picture, target);
-        break;
-    case SaveFormat::Gif:
-        WriteGif(workshop.User, picture, target, gifFailureTitle);
-        break;
-    default:
-        break;
+    try {
+        WithMemoryAsFailure(step);
+    } catch (const RunTimeError& error) {
+        report.AddNotWritten(FixFileName(workshop.Set.Header, path.Full()), error.Description());
+        TellWriteFailure(workshop.User, failureTitle);
     }
 }
 
-void TellWriteFailure(UserPort& user, const char* title, const QString& reason)
+void WriteInFormat(Workshop& workshop, RunReport& report, const Picture& picture, const FilePath& path,
+                   const char* gifFailureTitle)
 {
-    user.ShowMessage({.Text = QStringLiteral("Something went wrong.") +
-                              (reason.isEmpty() ? QString() : QStringLiteral("\r\n\r\n") + reason),
-                      .Title = QString::fromLatin1(title),
-                      .Style = BoxStyle::Critical});
+    const int16 format = workshop.Set.Header.SaveFormat;
+    const QString target = PathToWrite(workshop.Set.Header, path);
+    if (ImageExtension(format).isEmpty()) {
+        report.Add(target, QStringLiteral("There is no save format %1").arg(format));
+        return;
+    }
+    report.WriteFile(target, [&] {
+        std::optional<QString> failure;
+        if (format == SaveFormat::Bmp)
+            SavePicture(picture, target);
+        else if (format == SaveFormat::Jpeg)
+            WriteJpeg(picture, target);
+        else
+            failure = WriteGif(picture, target);
+        if (failure) {
+            report.AddNotWritten(target, *failure);
+            TellWriteFailure(workshop.User, gifFailureTitle, *failure);
+        }
+        return !failure;
+    });
 }
 
 } // namespace deckforge

@@ -42,12 +42,14 @@ public:
         m_currentY += m_measures.LineHeight();
     }
 
-    /// At its physical size, so far below the lines.
-    void PaintPicture(const Picture& picture, int gap)
+    /// At its physical size, so far below the lines. Gives whether all of it lies on the page.
+    bool PaintPicture(const Picture& picture, int gap)
     {
         const QSizeF size(picture.Size().width() * m_perInchX / CardPixelsPerInch,
                           picture.Size().height() * m_perInchY / CardPixelsPerInch);
-        m_painter.drawImage(QRectF(QPointF(Margin, m_currentY + gap), size), picture.Pixels());
+        const QRectF place(QPointF(Margin, m_currentY + gap), size);
+        m_painter.drawImage(place, picture.Pixels());
+        return QRectF(m_painter.viewport()).contains(place);
     }
 
     void Send()
@@ -115,11 +117,15 @@ bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
     return isShown && ShowForPage(fine, page, index);
 }
 
-void LayFinePage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
+/// Reports a playing piece off the page with the path of the page, where it has one.
+void LayFinePage(Workshop& workshop, RunReport& report, PrintedPage page, QPaintDevice& device,
+                 const QString& path)
 {
+    ReportPage(workshop, report, page);
     SilentUser silent;
     Workshop fine(silent, PrintScale);
-    LayPage(ComposeFinely(fine, workshop, page) ? fine : workshop, page, device);
+    if (!LayPage(ComposeFinely(fine, workshop, page) ? fine : workshop, page, device))
+        report.Add(path, QStringLiteral("The playing piece does not lie on the page"));
 }
 
 } // namespace
@@ -135,24 +141,31 @@ bool ShowForPage(Workshop& workshop, PrintedPage page, int16 index)
     return RowOf(page).Show(workshop, index);
 }
 
+void ReportPage(Workshop& workshop, RunReport& report, PrintedPage page)
+{
+    const CardKind kind = KindOnPage(page);
+    report.Begin(workshop.Set, kind, CurrentOf(workshop.Set, kind));
+    report.AddPictures(workshop);
+}
+
 QString PageTitle(const CardSet& set, PrintedPage page)
 {
     return set.Header.SetName + QStringLiteral(" - ") +
            RowOf(page).Name(set, CurrentOf(set, KindOnPage(page)));
 }
 
-void PrintCard(Workshop& workshop, PrintedPage page)
+void PrintCard(Workshop& workshop, RunReport& report, PrintedPage page)
 {
     const auto printer = workshop.User.OpenPrinter(PageTitle(workshop.Set, page));
     if (!printer)
         throw RunTimeError(ErrorNumber::PrinterError);
-    LayFinePage(workshop, page, *printer);
+    LayFinePage(workshop, report, page, *printer, {});
     workshop.User.ShowMessage({.Text = QStringLiteral("Printing done!"),
                                .Title = QStringLiteral("Print"),
                                .Style = BoxStyle::Information});
 }
 
-void WritePdf(Workshop& workshop, PrintedPage page, const QString& path, int pixelsPerInch)
+void WritePdf(Workshop& workshop, RunReport& report, PrintedPage page, const QString& path, int pixelsPerInch)
 {
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
@@ -162,13 +175,15 @@ void WritePdf(Workshop& workshop, PrintedPage page, const QString& path, int pix
     writer.setResolution(pixelsPerInch);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins({});
-    LayFinePage(workshop, page, writer);
-    OutputFile file(path);
-    file.Write(bytes.data());
-    file.Close();
+    LayFinePage(workshop, report, page, writer, path);
+    WithPlace(path, [&] {
+        OutputFile file(path);
+        file.Write(bytes.data());
+        file.Close();
+    });
 }
 
-void LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
+bool LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
 {
     const PageRow& row = RowOf(page);
     // Made first: a failure on the way sends no half of a page.
@@ -182,9 +197,10 @@ void LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
     paper.PaintPicture(card, GapAboveCard);
     // The piece goes down by its height in twips, taken for pixels of the printer. At 600 to the inch it is
     // well below the card and still on the paper; pages have always looked like this.
-    if (row.HasPiece)
-        paper.PaintPicture(piece, GapAbovePiece + piece.Size().height() * TwipsPerPixelY);
+    const int pieceGap = GapAbovePiece + piece.Size().height() * TwipsPerPixelY;
+    const bool isWhole = !row.HasPiece || paper.PaintPicture(piece, pieceGap);
     paper.Send();
+    return isWhole;
 }
 
 } // namespace deckforge

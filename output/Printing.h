@@ -1,7 +1,6 @@
 #pragma once
 
-#include "compose/Workshop.h"
-#include "core/CardKind.h"
+#include "output/RunReport.h"
 
 class QPaintDevice;
 
@@ -18,22 +17,27 @@ enum class PrintedPage { Card, LargeCard, Character, CharacterAlone };
 /// told in a box.
 bool ShowForPage(Workshop& workshop, PrintedPage page, int16 index);
 
+/// Reports what the card that was shown for the page lacks.
+void ReportPage(Workshop& workshop, RunReport& report, PrintedPage page);
+
 /// What the page says above the card: the set and the card.
 [[nodiscard]] QString PageTitle(const CardSet& set, PrintedPage page);
 
 // The card is composed anew for the page, finer than the window does, from the set as it stands. One that
-// cannot be composed so is printed as it was composed last; whoever showed it has told why.
+// cannot be composed so is printed as it was composed last; whoever showed it has told why. Pictures that it
+// lacks are reported, and a playing piece that does not lie on the page.
 
 /// Prints the page of the current card on the usual printer, and tells so in a box. Without a printer, or
 /// when it takes no page, error 482.
-void PrintCard(Workshop& workshop, PrintedPage page);
+void PrintCard(Workshop& workshop, RunReport& report, PrintedPage page);
 
 /// The same page as a PDF file on A4 paper, which is printable to its edges. A failure of the file is thrown.
-void WritePdf(Workshop& workshop, PrintedPage page, const QString& path, int pixelsPerInch);
+void WritePdf(Workshop& workshop, RunReport& report, PrintedPage page, const QString& path,
+              int pixelsPerInch);
 
 /// Lays the page down: the composed card under its heading, in pixels of the device from its origin. Margin
 /// and gaps shrink as the device gets finer; pictures and letters have their physical size, 96 pixels of a
-/// card to the inch. Error 482 when the device takes no page.
-void LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device);
+/// card to the inch. Gives whether all of it lies on the page. Error 482 when the device takes no page.
+bool LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device);
 
 } // namespace deckforge

@@ -20,11 +20,13 @@ QPoint CellCorner(const SheetState& sheet)
     return {(sheet.SheetCol - 1) * sheet.SheetCardWidth, (sheet.SheetRow - 1) * sheet.SheetCardHeight};
 }
 
-/// The grid is full, or nothing more comes.
-bool IsDue(const SheetState& sheet)
+/// Whether the sheet is to be written: the grid is full, or nothing more comes.
+bool IsDue(SheetState& sheet, const FilePath& path)
 {
     const bool isFull = sheet.SheetCol == sheet.SheetCols && sheet.SheetRow == sheet.SheetRows;
-    return isFull || sheet.SheetLast;
+    const bool isDue = isFull || sheet.SheetLast;
+    sheet.Unwritten = isDue ? QString() : path.Full();
+    return isDue;
 }
 
 void PlaceCardOnSheet(Workshop& workshop)
@@ -163,8 +165,21 @@ void DropSheets(Workshop& workshop)
     }
 }
 
+/// Reports the sheet that was not written, or that none was.
+void ReportUnwritten(const Workshop& workshop, RunReport& report, CardKind kind)
+{
+    const CardSet& set = workshop.Set;
+    if (!workshop.Sheet.Unwritten.isEmpty()) {
+        report.Begin(set, kind, CountOf(set, kind));
+        report.Add(FixFileName(set.Header, workshop.Sheet.Unwritten),
+                   QStringLiteral("Not written, since the last card has no copies"));
+    } else if (!report.HasWritten()) {
+        report.AddOfSet(set.Header, {}, QStringLiteral("No sheet is written"));
+    }
+}
+
 template <class Record>
-int16 PlaceAll(Workshop& workshop, const SheetRow<Record>& row, SheetGrid grid)
+int16 PlaceAll(Workshop& workshop, RunReport& report, const SheetRow<Record>& row, SheetGrid grid)
 {
     const CardList<Record>& cards = ListOf<Record>(workshop.Set);
     SheetState& sheet = workshop.Sheet;
@@ -172,6 +187,7 @@ int16 PlaceAll(Workshop& workshop, const SheetRow<Record>& row, SheetGrid grid)
     sheet.SheetRows = grid.Rows;
     sheet.SheetCol = 0;
     sheet.SheetRow = 1;
+    sheet.Unwritten.clear();
     DropSheets(workshop);
     if (row.LargeSheetCard != nullptr)
         PrepareLargeSheet(workshop, *row.LargeSheetCard(workshop.Templates));
@@ -182,17 +198,19 @@ int16 PlaceAll(Workshop& workshop, const SheetRow<Record>& row, SheetGrid grid)
             number = NextCell(sheet, number);
             if (index == cards.Count() && k == copies)
                 sheet.SheetLast = true;
-            row.Walk.Save(workshop, index, Ask::No, Tell::No, number);
+            row.Walk.Save(workshop, report, index, Ask::No, Tell::No, number);
         }
     });
     DropSheets(workshop);
+    ReportUnwritten(workshop, report, KindOf<Record>);
     return number;
 }
 
 template <class Record>
-void CreateSheets(Workshop& workshop, const SheetRow<Record>& row, std::optional<SheetGrid> grid)
+void CreateSheets(Workshop& workshop, RunReport& report, const SheetRow<Record>& row,
+                  std::optional<SheetGrid> grid)
 {
-    const int16 number = grid ? PlaceAll(workshop, row, *grid) : int16{0};
+    const int16 number = grid ? PlaceAll(workshop, report, row, *grid) : int16{0};
     workshop.User.ShowMessage(
         {.Text = QString::number(number) + QLatin1String(number == 1 ? row.One : row.Others),
          .Title = QString::fromLatin1(row.BoxTitle),
@@ -201,39 +219,39 @@ void CreateSheets(Workshop& workshop, const SheetRow<Record>& row, std::optional
 
 } // namespace
 
-void CreateCardSheets(Workshop& workshop, std::optional<SheetGrid> grid)
+void CreateCardSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid)
 {
-    CreateSheets(workshop, StandardSheets, grid);
+    CreateSheets(workshop, report, StandardSheets, grid);
 }
 
-void CreateLargeCardSheets(Workshop& workshop, std::optional<SheetGrid> grid)
+void CreateLargeCardSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid)
 {
-    CreateSheets(workshop, LargeSheets, grid);
+    CreateSheets(workshop, report, LargeSheets, grid);
 }
 
-void CreateCharacterSheets(Workshop& workshop, std::optional<SheetGrid> grid)
+void CreateCharacterSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid)
 {
-    CreateSheets(workshop, CharacterSheets, grid);
+    CreateSheets(workshop, report, CharacterSheets, grid);
 }
 
-void SaveCardSheet(Workshop& workshop, const FilePath& path)
+void SaveCardSheet(Workshop& workshop, RunReport& report, const FilePath& path)
 {
-    WriteOrTell(workshop.User, FailureTitle, [&] {
+    WriteOrTell(workshop, report, path, FailureTitle, [&] {
         PictureBox& picDone = workshop.Surfaces.picDone;
         SizeCardSheet(workshop);
         workshop.Surfaces.picACard.Refresh();
         PlaceCardOnSheet(workshop);
-        if (!IsDue(workshop.Sheet))
+        if (!IsDue(workshop.Sheet, path))
             return;
         const auto empty = qScopeGuard([&] { picDone.SetPicture({}); });
         DrawGrid(workshop);
-        WriteInFormat(workshop, picDone.Image(), path, GifFailureTitle);
+        WriteInFormat(workshop, report, picDone.Image(), path, GifFailureTitle);
     });
 }
 
-void SaveLargeCardSheet(Workshop& workshop, const FilePath& path)
+void SaveLargeCardSheet(Workshop& workshop, RunReport& report, const FilePath& path)
 {
-    WriteOrTell(workshop.User, FailureTitle, [&] {
+    WriteOrTell(workshop, report, path, FailureTitle, [&] {
         const Box& picCardLarge = workshop.Templates.Large.picCardLarge;
         const QSize size(picCardLarge.Width, picCardLarge.Height);
         PictureBox& picLargeSheet = workshop.Surfaces.picLargeSheet;
@@ -241,10 +259,10 @@ void SaveLargeCardSheet(Workshop& workshop, const FilePath& path)
         StackLargeCard(workshop, size);
         const QPoint cell = CellCorner(workshop.Sheet);
         picLargeSheet.PaintPicture(workshop.Surfaces.picStore.GetPicture(), cell.x(), cell.y());
-        if (!IsDue(workshop.Sheet))
+        if (!IsDue(workshop.Sheet, path))
             return;
         const auto empty = qScopeGuard([&] { picLargeSheet.SetPicture({}); });
-        WriteInFormat(workshop, picLargeSheet.Image(), path, GifFailureTitle);
+        WriteInFormat(workshop, report, picLargeSheet.Image(), path, GifFailureTitle);
     });
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "compose/Workshop.h"
 #include "output/ImageNames.h"
+#include "output/RunReport.h"
 
 namespace deckforge {
 
@@ -20,17 +20,17 @@ struct SheetGrid {
 // A run over all cards of a kind and their copies, and a box that tells how many sheets they take; without a
 // grid, which is a cancel, the box alone. The flag of the last card stays set when a run is over: another run
 // of the same program writes at every card, and each of its sheets ends up with its last card only.
-// Characters are walked through and no file results.
-void CreateCardSheets(Workshop& workshop, std::optional<SheetGrid> grid);
-void CreateLargeCardSheets(Workshop& workshop, std::optional<SheetGrid> grid);
-void CreateCharacterSheets(Workshop& workshop, std::optional<SheetGrid> grid);
+// Characters are walked through and no file results. What the box counts and no file holds is reported.
+void CreateCardSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid);
+void CreateLargeCardSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid);
+void CreateCharacterSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid);
 
 /// Places the composed card and its back on the sheet, and writes the sheet when that is due. A failure is
 /// told.
-void SaveCardSheet(Workshop& workshop, const FilePath& path);
+void SaveCardSheet(Workshop& workshop, RunReport& report, const FilePath& path);
 
 /// The same for a large card, which stands above its back, though the cell is as wide as both. The clipboard
 /// is given each card.
-void SaveLargeCardSheet(Workshop& workshop, const FilePath& path);
+void SaveLargeCardSheet(Workshop& workshop, RunReport& report, const FilePath& path);
 
 } // namespace deckforge

@@ -1,6 +1,5 @@
 #include "output/modCapture.h"
 
-#include "compose/Attempt.h"
 #include "compose/NewBack.h"
 #include "output/CardWalk.h"
 #include "output/ImageWriters.h"
@@ -19,30 +18,30 @@ struct ImageRow {
     const char* NamePrefix;
     const char* SheetPart; ///< of a sheet's name
     CardKind SheetKind;    ///< whose count sheets are numbered by
-    void (*Write)(Workshop&, int16, const FilePath&);
-    void (*PlaceOnSheet)(Workshop&, int16, const FilePath&);
+    void (*Write)(Workshop&, RunReport&, int16, const FilePath&);
+    void (*PlaceOnSheet)(Workshop&, RunReport&, int16, const FilePath&);
     const char* DialogTitle;
     const char* BoxTitle;
     const char* Saved;
 };
 
-void WriteStandardImage(Workshop& workshop, int16 /*index*/, const FilePath& path)
+void WriteStandardImage(Workshop& workshop, RunReport& report, int16 /*index*/, const FilePath& path)
 {
-    WriteCard(workshop, path);
+    WriteCard(workshop, report, path);
 }
 
-void WriteLargeImage(Workshop& workshop, int16 /*index*/, const FilePath& path)
+void WriteLargeImage(Workshop& workshop, RunReport& report, int16 /*index*/, const FilePath& path)
 {
-    WriteLargeCard(workshop, path);
+    WriteLargeCard(workshop, report, path);
 }
 
-void WriteCharacterImages(Workshop& workshop, int16 index, const FilePath& path)
+void WriteCharacterImages(Workshop& workshop, RunReport& report, int16 index, const FilePath& path)
 {
-    WriteCharacter(workshop, path);
+    WriteCharacter(workshop, report, path);
     const CardSet& set = workshop.Set;
     const QString piece = ImageName(set.Header, QStringLiteral("Character Piece "),
                                     set.Characters[index].Filename, index, set.Characters.Count());
-    WritePlayingPiece(workshop, {path.Folder, piece});
+    WritePlayingPiece(workshop, report, {path.Folder, piece});
 }
 
 void ComposeNewBack(Workshop& workshop, int16 index)
@@ -51,29 +50,32 @@ void ComposeNewBack(Workshop& workshop, int16 index)
     DrawNewCardBack(workshop, index);
 }
 
-void WriteNewBackImage(Workshop& workshop, int16 index, const FilePath& path)
+void WriteNewBackImage(Workshop& workshop, RunReport& report, int16 index, const FilePath& path)
 {
     ComposeNewBack(workshop, index);
-    WriteNewCardBack(workshop, path);
+    WriteNewCardBack(workshop, report, path);
 }
 
-void PlaceStandardCard(Workshop& workshop, int16 /*index*/, const FilePath& path)
+void PlaceStandardCard(Workshop& workshop, RunReport& report, int16 /*index*/, const FilePath& path)
 {
-    SaveCardSheet(workshop, path);
+    SaveCardSheet(workshop, report, path);
 }
 
-void PlaceLargeCard(Workshop& workshop, int16 /*index*/, const FilePath& path)
+void PlaceLargeCard(Workshop& workshop, RunReport& report, int16 /*index*/, const FilePath& path)
 {
-    SaveLargeCardSheet(workshop, path);
+    SaveLargeCardSheet(workshop, report, path);
 }
 
 /// The sheets of characters are named and counted, and no file results.
-void PlaceNoCharacter(Workshop& /*workshop*/, int16 /*index*/, const FilePath& /*path*/) {}
+void PlaceNoCharacter(Workshop& /*workshop*/, RunReport& /*report*/, int16 /*index*/,
+                      const FilePath& /*path*/)
+{
+}
 
-void PlaceNewBack(Workshop& workshop, int16 index, const FilePath& path)
+void PlaceNewBack(Workshop& workshop, RunReport& report, int16 index, const FilePath& path)
 {
     ComposeNewBack(workshop, index);
-    SaveCardSheet(workshop, path);
+    SaveCardSheet(workshop, report, path);
 }
 
 constexpr ImageRow<Card> StandardImage = {"",
@@ -137,8 +139,8 @@ void TellSaved(UserPort& user, const char* boxTitle, const char* saved, const Fi
 }
 
 template <class Record>
-void SaveElement(Workshop& workshop, const ImageRow<Record>& row, int16 index, Ask ask, Tell tell,
-                 SheetNumber sheet)
+void SaveElement(Workshop& workshop, RunReport& report, const ImageRow<Record>& row, int16 index, Ask ask,
+                 Tell tell, SheetNumber sheet)
 {
     CardSet& set = workshop.Set;
     CardList<Record>& cards = ListOf<Record>(set);
@@ -155,13 +157,27 @@ void SaveElement(Workshop& workshop, const ImageRow<Record>& row, int16 index, A
         const int cardsPerSheet = workshop.Sheet.SheetRows * workshop.Sheet.SheetCols;
         const QString name = SheetName(set.Header, QString::fromLatin1(row.SheetPart), *sheet,
                                        CountOf(set, row.SheetKind), cardsPerSheet);
-        row.PlaceOnSheet(workshop, index, {*folder, name});
+        row.PlaceOnSheet(workshop, report, index, {*folder, name});
     } else {
-        row.Write(workshop, index, path);
+        row.Write(workshop, report, index, path);
     }
     restoreName.dismiss();
+    report.AddPictures(workshop);
     if (tell == Tell::Yes)
         TellSaved(workshop.User, row.BoxTitle, row.Saved, path);
+}
+
+/// A failure before the writing is reported, and the caller goes on.
+template <class Record>
+void SaveOrReport(Workshop& workshop, RunReport& report, const ImageRow<Record>& row, int16 index, Ask ask,
+                  Tell tell, SheetNumber sheet)
+{
+    report.Begin(workshop.Set, KindOf<Record>, index);
+    try {
+        WithMemoryAsFailure([&] { SaveElement(workshop, report, row, index, ask, tell, sheet); });
+    } catch (const RunTimeError& error) {
+        report.Add(error.Place(), error.Description());
+    }
 }
 
 /// The box at the end of a run over all cards of a kind.
@@ -173,51 +189,52 @@ void TellCreated(UserPort& user, const char* title, int count, const char* one, 
 }
 
 template <class Record>
-void CreateImages(Workshop& workshop, const CardWalk<Record>& walk)
+void CreateImages(Workshop& workshop, RunReport& report, const CardWalk<Record>& walk)
 {
     ForEachShown(workshop, walk,
-                 [&](int16 index) { walk.Save(workshop, index, Ask::No, Tell::No, std::nullopt); });
+                 [&](int16 index) { walk.Save(workshop, report, index, Ask::No, Tell::No, std::nullopt); });
 }
 
 } // namespace
 
-void SaveCard(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet)
+void SaveCard(Workshop& workshop, RunReport& report, int16 index, Ask ask, Tell tell, SheetNumber sheet)
 {
-    Attempt([&] { SaveElement(workshop, StandardImage, index, ask, tell, sheet); });
+    SaveOrReport(workshop, report, StandardImage, index, ask, tell, sheet);
 }
 
-void SaveLargeCard(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet)
+void SaveLargeCard(Workshop& workshop, RunReport& report, int16 index, Ask ask, Tell tell, SheetNumber sheet)
 {
-    Attempt([&] { SaveElement(workshop, LargeImage, index, ask, tell, sheet); });
+    SaveOrReport(workshop, report, LargeImage, index, ask, tell, sheet);
 }
 
-void SaveCharacter(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet)
+void SaveCharacter(Workshop& workshop, RunReport& report, int16 index, Ask ask, Tell tell, SheetNumber sheet)
 {
-    Attempt([&] { SaveElement(workshop, CharacterImage, index, ask, tell, sheet); });
+    SaveOrReport(workshop, report, CharacterImage, index, ask, tell, sheet);
 }
 
-void SaveNewCardBack(Workshop& workshop, int16 index, Ask ask, Tell tell, SheetNumber sheet)
+void SaveNewCardBack(Workshop& workshop, RunReport& report, int16 index, Ask ask, Tell tell,
+                     SheetNumber sheet)
 {
-    Attempt([&] { SaveElement(workshop, NewBackImage, index, ask, tell, sheet); });
+    SaveOrReport(workshop, report, NewBackImage, index, ask, tell, sheet);
 }
 
-void CreateCards(Workshop& workshop)
+void CreateCards(Workshop& workshop, RunReport& report)
 {
-    CreateImages(workshop, StandardWalk);
+    CreateImages(workshop, report, StandardWalk);
     TellCreated(workshop.User, "Create cards", workshop.Set.Cards.Count(), " card is created.",
                 " cards are created.");
 }
 
-void CreateLargeCards(Workshop& workshop)
+void CreateLargeCards(Workshop& workshop, RunReport& report)
 {
-    CreateImages(workshop, LargeWalk);
+    CreateImages(workshop, report, LargeWalk);
     TellCreated(workshop.User, "Create large cards", workshop.Set.LargeCards.Count(),
                 " large card is created.", " large cards are created.");
 }
 
-void CreateCharacters(Workshop& workshop)
+void CreateCharacters(Workshop& workshop, RunReport& report)
 {
-    CreateImages(workshop, CharacterWalk);
+    CreateImages(workshop, report, CharacterWalk);
     TellCreated(workshop.User, "Create large cards", workshop.Set.Characters.Count(),
                 " character card is created.", " characters cards are created.");
 }
@@ -226,14 +243,17 @@ void WriteCardBacks(Workshop& workshop, const QString& folder)
 {
     constexpr int lastBack = 26; // the blank one behind it is left out
     constexpr int characterBacks = 3;
-    const QString start = folder + QLatin1Char('/');
+    const auto save = [&](const Picture& picture, const QString& name) {
+        const QString path = folder + QLatin1Char('/') + name + QStringLiteral(".bmp");
+        WithPlace(path, [&] { SavePicture(picture, path); });
+    };
     for (int i = 1; i <= lastBack; ++i) {
         const CardBack& back = workshop.Set.CardBacks[i];
         if (back.BuiltIn)
-            SavePicture(workshop.Art.imgCB(i - 1), start + back.Name + QStringLiteral(".bmp"));
+            save(workshop.Art.imgCB(i - 1), back.Name);
     }
     for (int j = 0; j < characterBacks; ++j)
-        SavePicture(workshop.Art.imgChB(j), start + QStringLiteral("character back %1.bmp").arg(j));
+        save(workshop.Art.imgChB(j), QStringLiteral("character back %1").arg(j));
 }
 
 void ExportCardBacks(Workshop& workshop)

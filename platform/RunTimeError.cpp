@@ -54,9 +54,22 @@ RunTimeError::RunTimeError(ErrorNumber number, QString description)
 {
 }
 
+RunTimeError RunTimeError::At(const QString& place) const
+{
+    RunTimeError placed = *this;
+    if (placed.m_place.isEmpty())
+        placed.m_place = place;
+    return placed;
+}
+
 QString RunTimeError::NumberAndDescription() const
 {
     return QString::number(static_cast<int>(m_number)) + QStringLiteral(", ") + m_description;
+}
+
+QString RunTimeError::PlaceAndDescription() const
+{
+    return m_place.isEmpty() ? m_description : m_place + QStringLiteral(": ") + m_description;
 }
 
 bool RunTimeError::IsMissingFile() const

@@ -27,7 +27,8 @@ enum class ErrorNumber {
     JpegLibrary = 26001, ///< raised by the JPEG writer alone
 };
 
-/// A failure with a number and a description, thrown where it happens.
+/// A failure with a number and a description, thrown where it happens. Whoever knows the file adds it as the
+/// place: "SET.dkf:120", "/pictures/wolf.bmp".
 class RunTimeError : public std::exception {
 public:
     /// With the usual description of the number.
@@ -36,10 +37,16 @@ public:
 
     [[nodiscard]] ErrorNumber Number() const { return m_number; }
     [[nodiscard]] const QString& Description() const { return m_description; }
+    /// The same failure at a place; one that has a place keeps it.
+    [[nodiscard]] RunTimeError At(const QString& place) const;
+    [[nodiscard]] const QString& Place() const { return m_place; } ///< empty if unknown
     [[nodiscard]] const char* what() const noexcept override { return m_text.constData(); }
 
     /// "53, File not found": how boxes tell a failure.
     [[nodiscard]] QString NumberAndDescription() const;
+
+    /// "SET.dkf:120: Type mismatch": how a line of a report tells it.
+    [[nodiscard]] QString PlaceAndDescription() const;
 
     /// A file or a folder on the way to it is not there.
     [[nodiscard]] bool IsMissingFile() const;
@@ -47,8 +54,20 @@ public:
 private:
     ErrorNumber m_number;
     QString m_description;
+    QString m_place;
     QByteArray m_text;
 };
+
+/// Runs the step; its failures get the place.
+template <class Step>
+void WithPlace(const QString& place, Step&& step)
+{
+    try {
+        step();
+    } catch (const RunTimeError& error) {
+        throw error.At(place);
+    }
+}
 
 /// Runs the step with a lack of memory told as error 7, for those who trap failures.
 template <class Step>

@@ -11,6 +11,7 @@ namespace deckforge {
 class SilentUser : public UserPort {
 public:
     Answer ShowMessage(const MessageBoxRequest& /*request*/) override { return deckforge::Answer::Ok; }
+    void ReportProblems(const QStringList& /*problems*/) override {}
     std::optional<QString> AskOpenFile(const FileDialogRequest& /*request*/) override { return std::nullopt; }
     std::optional<QString> AskSaveFile(const FileDialogRequest& /*request*/) override { return std::nullopt; }
     std::optional<QString> BrowseForFolder() override { return std::nullopt; }

@@ -3,6 +3,7 @@
 #include "platform/FontSpec.h"
 #include "platform/RunTimeError.h"
 
+#include <QStringList>
 #include <memory>
 #include <optional>
 
@@ -43,6 +44,10 @@ public:
 
     /// A question that is put aside without an answer gives Cancel, also where there is no such button.
     virtual Answer ShowMessage(const MessageBoxRequest& request) = 0;
+
+    /// What a run did not do as the user expects, one line each, naming card and file. It interrupts nobody.
+    /// An empty list means that the run has nothing to report.
+    virtual void ReportProblems(const QStringList& problems) = 0;
 
     /// The full path chosen; nothing when the user cancels.
     virtual std::optional<QString> AskOpenFile(const FileDialogRequest& request) = 0;

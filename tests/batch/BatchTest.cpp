@@ -106,7 +106,15 @@ TEST_F(Batch, PrintsOnePageOfAnyKind)
 TEST_F(Batch, TellsAFailureInItsStatus)
 {
     EXPECT_EQ(Run("images DIR/none.dkf"), 1);
-    EXPECT_EQ(Error, "Error: Error while opening the Varnhelm Card Set.\n\n53, File not found\n");
+    EXPECT_EQ(Error, "Error: Error while opening the Varnhelm Card Set.\n\n53, File not found\n" +
+                         Folder.Path("none.dkf") + ": File not found\n");
+    const QByteArray set = Folder.Read("a.dkf");
+    Folder.Write("wrong.dkf", QByteArray(set).replace("\r\nTrue\r\n", "\r\nperhaps\r\n"));
+    EXPECT_EQ(Run("convert DIR/wrong.dkf DIR/b.dkf"), 1);
+    EXPECT_TRUE(Error.endsWith(Folder.Path("wrong.dkf:17: Type mismatch\n"))) << Error.toStdString();
+    Folder.Write("none", set.mid(1));
+    EXPECT_EQ(Run("convert DIR/none DIR/b.dkf"), 1);
+    EXPECT_TRUE(Error.endsWith(Folder.Path("none: Not a card set of this version\n")));
     Folder.Write("file", "in the way of the folder");
     EXPECT_EQ(Run("images SET --to DIR/file"), 1);
     EXPECT_TRUE(Error.contains("Saving the card: Something went wrong.\n"));
@@ -117,6 +125,21 @@ TEST_F(Batch, TellsAFailureInItsStatus)
     }
     EXPECT_TRUE(Error.endsWith("61, Disk full\n")) << Error.toStdString();
     EXPECT_EQ(Run("statistics SET", "/dev/full"), 1);
+}
+
+TEST_F(Batch, TellsAMissingPictureInItsStatusWhereOneIsNeeded)
+{
+    const QString symbol = Folder.Path("symbol.bmp");
+    QByteArray set = Folder.Read("a.dkf");
+    const QByteArray folder = set.split('\n')[5];
+    Folder.Write("a.dkf",
+                 set.replace(folder + "\nFalse\r\n\r\n", folder + "\nFalse\r\n" + symbol.toUtf8() + "\r\n"));
+    for (const char* command : {"images SET --to DIR/out", "print SET DIR/a.pdf --kind card --index 1"}) {
+        EXPECT_EQ(Run(command), 1) << command;
+        EXPECT_EQ(Error.count("set \"New set\": " + symbol + ": File not found\n"), 1) << Error.toStdString();
+    }
+    for (const char* command : {"text SET DIR/a.txt", "statistics SET", "convert SET DIR/b.dkf"})
+        EXPECT_EQ(Run(command), 0) << Error.toStdString();
 }
 
 TEST_F(Batch, RefusesAWrongCommandLineAndShowsItsUse)

@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QMainWindow>
 #include <QPushButton>
 #include <QScreen>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -57,6 +59,20 @@ TEST(QtUser, ABoxWithMoreLinesThanTheScreenKeepsItsButtonsInSight)
                 EXPECT_TRUE(box.rect().contains(QRect(button->mapTo(&box, QPoint()), button->size())));
         });
     EXPECT_EQ(answer, Answer::Cancel) << "Esc answers no question";
+}
+
+TEST(QtUser, TheStatusBarHasTheLastProblemAndHowManyMore)
+{
+    QMainWindow window;
+    QtUser user;
+    user.ReportProblems({"before there is a window"});
+    user.Serve(&window, {});
+    user.ReportProblems({"a"});
+    EXPECT_EQ(window.statusBar()->currentMessage(), "a");
+    user.ReportProblems({"a", "b", "c"});
+    EXPECT_EQ(window.statusBar()->currentMessage(), "c (and 2 more)");
+    user.ReportProblems({});
+    EXPECT_EQ(window.statusBar()->currentMessage(), "");
 }
 
 } // namespace deckforge

@@ -42,11 +42,11 @@ protected:
         ASSERT_TRUE(ReadDKF(Shop.Set, Path, User));
         ShowOpenedSet(Shop);
         Header().SaveFormat = round == 0 ? int16{2} : static_cast<int16>(round % 2);
-        CreateCards(Shop);
-        CreateLargeCards(Shop);
-        CreateCharacters(Shop);
-        SaveNewCardBack(Shop, 1, Ask::No, Tell::No);
-        EXPECT_TRUE(CreateHtmlCards(Shop.Set, User));
+        CreateCards(Shop, TheRun);
+        CreateLargeCards(Shop, TheRun);
+        CreateCharacters(Shop, TheRun);
+        SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
+        EXPECT_TRUE(CreateHtmlCards(Shop.Set, User, TheRun));
         EXPECT_TRUE(ExportSetText(Shop.Set, Folder.Path("set.txt"), User));
         EXPECT_TRUE(WriteDKF(Shop.Set, Path, User, Report::Silent));
         EXPECT_FALSE(ReadDKF(Shop.Set, Folder.Path("damaged.bmp"), User));

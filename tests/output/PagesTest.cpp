@@ -30,13 +30,15 @@ protected:
         }
         return images.join('|');
     }
+
+    RunReport TheRun{User};
 };
 
 TEST_F(PagesTest, APageOfSixHasTheSameLinesWhateverItsSlots)
 {
     AddCards(1);
     Set.Header.FilenamePrefix = "p";
-    EXPECT_TRUE(CreateHtmlCards(Set, User));
+    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun));
     const QByteArray table = "<TABLE BORDER=0 BORDERCOLOR=\"#000000\" CELLPADDING=0 CELLSPACING=0>\r\n";
     const QByteArray gap = "</TD>\r\n<TD>&nbsp;&nbsp;</TD>\r\n<TD>\r\n</TD>\r\n</TR>\r\n";
     const QByteArray empty = "<TR>\r\n<TD>\r\n" + gap;
@@ -57,7 +59,7 @@ TEST_F(PagesTest, PagesAreLinkedAndCopiesAreRepeatedImages)
     AddCards(7);
     Set.Cards[1].Copies = 6;
     Set.Header.ReplaceSpace = true;
-    EXPECT_TRUE(CreateHtmlCards(Set, User));
+    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun));
     // Twelve copies announce three pages and fill two.
     const QByteArray second = Folder.Read("My_Set_2.htm");
     EXPECT_TRUE(
@@ -74,7 +76,7 @@ TEST_F(PagesTest, NamesCannotEndATextOrAnAttribute)
     AddCards(7);
     Set.Header.SetName = "<script>\"&amp;";
     Set.Cards[1].Filename = "\"><b>&";
-    EXPECT_TRUE(CreateHtmlCards(Set, User));
+    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun));
     const QByteArray page = Folder.Read("<script>\"&amp; 1.htm");
     const QByteArray name = "&lt;script&gt;&quot;&amp;";
     for (const QByteArray& line : {"<TITLE>" + name + "</TITLE>", "<A HREF=\"" + name + " 2.htm\">2</A>",
@@ -92,8 +94,8 @@ TEST_F(PagesTest, ImagesAreNamedByKindPrefixAndNumber)
     AddCards(12);
     Set.Header.FilenamePrefix = "sea";
     Set.Header.FileNr = true;
-    EXPECT_TRUE(CreateHtmlCards(Set, User) && CreateHtmlLargeCards(Set, User) &&
-                CreateHtmlCharacters(Set, User) && CreateHtmlPieces(Set, User));
+    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun) && CreateHtmlLargeCards(Set, User, TheRun) &&
+                CreateHtmlCharacters(Set, User, TheRun) && CreateHtmlPieces(Set, User, TheRun));
     EXPECT_TRUE(ImagesOf("My Set 2.htm").endsWith("|sea 12 card 12.bmp"));
     EXPECT_EQ(ImagesOf("Large My Set 2.htm"), "Large sea 1 Whale.bmp");
     EXPECT_EQ(ImagesOf("Character My Set 1.htm"), "Character sea 1 Sailor.bmp");
@@ -101,30 +103,32 @@ TEST_F(PagesTest, ImagesAreNamedByKindPrefixAndNumber)
     EXPECT_TRUE(Folder.Read("Large My Set 1.htm").contains("<TITLE>My Set</TITLE>"));
     EXPECT_TRUE(Folder.Read("Character Piece My Set 1.htm").contains("<TITLE>Character Piece My Set<"));
     Set.Header.FileNr = false;
-    CreateHtmlLargeCards(Set, User);
+    CreateHtmlLargeCards(Set, User, TheRun);
     EXPECT_EQ(ImagesOf("Large My Set 2.htm"), "Large sea Whale.bmp");
 }
 
 TEST_F(PagesTest, ACardWithoutAFileNameStopsThePages)
 {
-    EXPECT_FALSE(CreateHtmlCards(Set, User));
+    EXPECT_FALSE(CreateHtmlCards(Set, User, TheRun));
     EXPECT_EQ(User.LastBox().Title, "Missing information");
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Exclamation);
-    EXPECT_TRUE(CreateHtmlPieces(Set, User));
+    EXPECT_TRUE(CreateHtmlPieces(Set, User, TheRun));
     EXPECT_EQ(User.LastBox().Text, "0 character playing piece HTML sheets are created.");
     AddCards(1);
     Set.Header.SetName = "../outside";
-    EXPECT_FALSE(CreateHtmlCards(Set, User));
+    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun));
+    EXPECT_EQ(TheRun.Problems(), QStringList("card 1 \"CARD 1\": " + Folder.Path("../outside 1.htm") +
+                                             ": Bad file name or number"));
     EXPECT_EQ(User.LastBox().Text, "1 HTML sheet is created.") << "it is counted all the same";
     AddCards(7);
     Set.Header.SetName = "less";
     Set.Cards[1].Copies = 12;
     Set.Cards[2].Copies = -12;
-    EXPECT_TRUE(CreateHtmlCards(Set, User)) << "fewer pages are announced than there are";
+    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun)) << "fewer pages are announced than there are";
     EXPECT_EQ(ImagesOf("less 2.htm").count("bmp"), 6);
     for (int i = 1; i <= 7; ++i)
         Set.Cards[i].Copies = 32767;
-    EXPECT_EQ(FailureOf([&] { CreateHtmlCards(Set, User); }), 6);
+    EXPECT_EQ(FailureOf([&] { CreateHtmlCards(Set, User, TheRun); }), 6);
 }
 
 TEST_F(PagesTest, TheListingHasTheTextsOfAllKinds)

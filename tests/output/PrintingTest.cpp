@@ -104,7 +104,7 @@ TEST_F(PrintingTest, PieceStandsWhereItAlwaysStood)
 TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
 {
     User.PrinterFile = Folder.Path("page.pdf");
-    PrintCard(Shop, PrintedPage::Card);
+    PrintCard(Shop, TheRun, PrintedPage::Card);
     EXPECT_EQ(User.PrintedDocuments, QStringList("New set - CARD 1"));
     EXPECT_EQ(User.BoxTexts(), QStringList("Print|Printing done!"));
     EXPECT_TRUE(Folder.Read("page.pdf").contains("/Width 1216\n"))
@@ -112,7 +112,7 @@ TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
 
     User.Boxes.clear();
     FirstCard().Picture = Folder.Write("damaged.bmp", "BM no picture");
-    WritePdf(Shop, PrintedPage::Card, Folder.Path("page.pdf"), 600);
+    WritePdf(Shop, TheRun, PrintedPage::Card, Folder.Path("page.pdf"), 600);
     EXPECT_TRUE(Folder.Read("page.pdf").contains("/Width 304\n")) << "what cannot be shown is as it was";
     EXPECT_TRUE(User.Boxes.empty()) << "showing it has told";
 }
@@ -120,7 +120,7 @@ TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
 TEST_F(PrintingTest, NothingIsDoneWithAPrinterThatTakesNoPage)
 {
     User.PrinterFile = "/no/such/folder/page.pdf";
-    EXPECT_EQ(FailureOf([&] { PrintCard(Shop, PrintedPage::Card); }), 482);
+    EXPECT_EQ(FailureOf([&] { PrintCard(Shop, TheRun, PrintedPage::Card); }), 482);
     EXPECT_TRUE(User.Boxes.empty());
 }
 

@@ -86,7 +86,7 @@ TEST_F(ImageTest, CardAndBackStandSideBySideInTheirOutlines)
             EXPECT_EQ(row.Final(Shop).Pixels(), expected.Image().Pixels());
         }
     }
-    SaveNewCardBack(Shop, 1, Ask::No, Tell::No);
+    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
     const QImage back = Folder.Image("Back 1.bmp");
     EXPECT_EQ(back.size(), QSize(152, 256));
     EXPECT_EQ(back.pixel(151, 255), qRgb(0, 0, 0)) << "an outline, and nothing beside it";
@@ -98,7 +98,7 @@ TEST_F(ImageTest, ABatchNamesCardsByTheirTitlesAndComesBackToTheCurrentOne)
     Shop.Set.Cards[1].Title = "Dr. Who";
     Shop.Set.Cards[2].Filename = "kept";
     Header().ReplaceSpace = true;
-    CreateCards(Shop);
+    CreateCards(Shop, TheRun);
     EXPECT_TRUE(Folder.Has("Dr._Who.bmp"));
     EXPECT_TRUE(Folder.Has("kept.bmp"));
     EXPECT_EQ(Shop.Set.Cards[1].Filename, "Dr. Who");
@@ -113,7 +113,7 @@ TEST_F(ImageTest, TheDialogGivesFolderAndNameAndTheBoxTellsThePathBeforeReplacem
     Header().FilenamePrefix = "set";
     Header().ReplaceSpace = true;
     User.WillChoose(Folder.Path("a.b.jpg"));
-    SaveCard(Shop, 1, Ask::Yes, Tell::Yes);
+    SaveCard(Shop, TheRun, 1, Ask::Yes, Tell::Yes);
     EXPECT_EQ(FirstCard().Filename, "a");
     EXPECT_TRUE(Folder.Has("set_a.bmp"));
     EXPECT_EQ(User.LastTold(),
@@ -128,11 +128,11 @@ TEST_F(ImageTest, TheDialogGivesFolderAndNameAndTheBoxTellsThePathBeforeReplacem
     FirstCard().Filename.clear();
     User.Boxes.clear();
     User.WillCancelDialog();
-    SaveCard(Shop, 1, Ask::No, Tell::Yes);
+    SaveCard(Shop, TheRun, 1, Ask::No, Tell::Yes);
     EXPECT_EQ(FirstCard().Filename, "");
     EXPECT_TRUE(User.Boxes.empty());
     FirstCard().Filename = "named";
-    SaveCard(Shop, 1, Ask::No, Tell::Yes);
+    SaveCard(Shop, TheRun, 1, Ask::No, Tell::Yes);
     EXPECT_TRUE(Folder.Has("set_named.bmp"));
 }
 
@@ -142,7 +142,7 @@ TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
     FirstCard().Title = "../outside";
     for (const int16 format : {int16{0}, int16{1}, int16{2}}) {
         Header().SaveFormat = format;
-        CreateCards(Shop);
+        CreateCards(Shop, TheRun);
         EXPECT_EQ(User.BoxTexts(), (QStringList{"Saving the card|Something went wrong.",
                                                 "Create cards|2 cards are created."}));
         User.Boxes.clear();
@@ -151,12 +151,12 @@ TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
         EXPECT_EQ(Folder.Image(name).size(), QSize(304, 256)) << name;
     Header().SaveFormat = 9;
     Shop.Set.Cards[1].Filename = "unknown";
-    SaveCard(Shop, 1, Ask::No, Tell::No);
+    SaveCard(Shop, TheRun, 1, Ask::No, Tell::No);
     EXPECT_FALSE(Folder.Has("unknown."));
 
     Header().SaveFormat = 2; // which goes by a temporary file
     EXPECT_TRUE(QFile::exists(ProgramFolder() + "qdwtemp.bmp"));
-    WriteCard(Shop, {Folder.Path("none/"), "card.gif"});
+    WriteCard(Shop, TheRun, {"/proc/none/", "card.gif"});
     EXPECT_EQ(User.LastBox().Text, "Something went wrong.\r\n\r\nPath not found");
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Critical);
 }
@@ -166,14 +166,14 @@ TEST_F(ImageTest, ABackThatCannotBeShownKeepsItsNameAndItsOlderImage)
     AddElement<NewCardBack>(Shop.Set);
     NewCardBack& back = Shop.Set.NewCardBacks[1];
     User.WillCancelDialog();
-    SaveNewCardBack(Shop, 1, Ask::No, Tell::Yes);
+    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::Yes);
     EXPECT_TRUE(User.Boxes.empty()) << "whoever is told is asked for a name, and cancelled";
-    SaveNewCardBack(Shop, 1, Ask::No, Tell::No);
+    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
     EXPECT_EQ(Folder.Image("Back 1.bmp").size(), QSize(152, 256));
     back.Filename.clear();
     back.UsePicture = true;
     back.Picture = Folder.Path("none.bmp");
-    SaveNewCardBack(Shop, 1, Ask::No, Tell::No);
+    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
     EXPECT_TRUE(back.Filename.isEmpty());
     EXPECT_TRUE(User.Boxes.empty());
 }

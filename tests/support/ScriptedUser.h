@@ -28,6 +28,7 @@ public:
     void WillCancelDialog() { m_paths.push_back(std::nullopt); }
 
     Answer ShowMessage(const MessageBoxRequest& request) override;
+    void ReportProblems(const QStringList& problems) override { Problems += problems; }
     std::optional<QString> AskOpenFile(const FileDialogRequest& request) override;
     std::optional<QString> AskSaveFile(const FileDialogRequest& request) override;
     std::optional<QString> BrowseForFolder() override;
@@ -39,6 +40,7 @@ public:
     void ShowProgress(int done, int total) override;
 
     std::vector<MessageBoxRequest> Boxes;
+    QStringList Problems;
     std::vector<FileDialogRequest> OpenDialogs;
     std::vector<FileDialogRequest> SaveDialogs;
     std::vector<Pointer> Pointers;

@@ -3,6 +3,7 @@
 #include "compose/SetView.h"
 #include "core/SetTables.h"
 #include "core/modInfo.h"
+#include "output/RunReport.h"
 #include "support/ScriptedUser.h"
 #include "support/TestFolder.h"
 
@@ -27,6 +28,7 @@ protected:
     TestFolder Folder;
     ScriptedUser User;
     Workshop Shop{User};
+    RunReport TheRun{User};
 };
 
 } // namespace deckforge

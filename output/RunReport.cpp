@@ -1,0 +1,134 @@
+#include "output/RunReport.h"
+
+#include "platform/Paths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <sys/stat.h>
+
+namespace deckforge {
+
+namespace {
+
+/// `card 12 "Wolf"`
+QString ElementName(const QString& kind, const QString& name)
+{
+    return kind + QStringLiteral(" \"") + name + QLatin1Char('"');
+}
+
+/// Titles and paths of a set may hold characters that break the line or drive a terminal.
+QString OnOneLine(QString text)
+{
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
+            character == QChar::ParagraphSeparator)
+            character = QLatin1Char(' ');
+    }
+    return text;
+}
+
+QString NoFolder(const QString& path)
+{
+    return OnOneLine(FolderPart(path) + QStringLiteral(": The folder is missing and cannot be made"));
+}
+
+} // namespace
+
+RunReport::RunReport(UserPort& user) : m_user(user)
+{
+    m_user.ReportProblems({}); // those of the run before are over
+}
+
+RunReport::~RunReport()
+{
+    if (!m_problems.isEmpty())
+        m_user.ReportProblems(m_problems);
+}
+
+void RunReport::Begin(const CardSet& set, CardKind kind, int16 index)
+{
+    static constexpr const char* words[] = {"card ", "large card ", "character ", "card back "};
+    const QString title = WithListOf(set, kind, [&](const auto& list) {
+        using Record = std::decay_t<decltype(list[index])>;
+        return index <= list.Count() ? list[index].*NameField<Record> : QString();
+    });
+    const char* const word = words[static_cast<std::size_t>(kind)];
+    m_element = ElementName(QLatin1String(word) + QString::number(index), title);
+}
+
+void RunReport::Add(const QString& file, const QString& reason)
+{
+    AddLine(m_element + (file.isEmpty() ? file : QStringLiteral(": ") + file) + QStringLiteral(": ") +
+            reason);
+}
+
+void RunReport::AddPictures(Workshop& workshop)
+{
+    for (const PictureProblem& problem : std::exchange(workshop.Problems, {}))
+        Add(problem.Path, problem.Reason);
+    AddSymbol(workshop);
+}
+
+void RunReport::AddSymbol(Workshop& workshop)
+{
+    try {
+        WithMemoryAsFailure([&] { (void)workshop.Pictures.LoadPicture(workshop.Set.Header.Symbol); });
+    } catch (const RunTimeError& error) {
+        AddOfSet(workshop.Set.Header, workshop.Set.Header.Symbol, error.Description());
+    }
+}
+
+void RunReport::AddOfSet(const SetHeader& header, const QString& file, const QString& reason)
+{
+    const QString element = std::exchange(m_element, ElementName(QStringLiteral("set"), header.SetName));
+    Add(file, reason);
+    m_element = element;
+}
+
+void RunReport::AddNotWritten(const QString& path, const QString& reason)
+{
+    if (!m_reported.contains(NoFolder(path)))
+        Add(path, reason);
+}
+
+std::optional<RunReport::FileId> RunReport::IdOf(const QString& path)
+{
+    struct stat file = {};
+    if (::stat(QFile::encodeName(PathToOpen(path)).constData(), &file) != 0)
+        return std::nullopt;
+    return FileId(file.st_dev, file.st_ino);
+}
+
+/// Only of a full path: "C:\cards" from another machine is none here.
+void RunReport::MakeFolderOf(const QString& path)
+{
+    const QString folder = PathToOpen(FolderPart(path));
+    if (folder.isEmpty() || QFileInfo(folder).isDir())
+        return;
+    if (!QDir::isAbsolutePath(folder) || !QDir().mkpath(folder))
+        AddLine(NoFolder(path));
+}
+
+QString RunReport::TakeWriter(const QString& path)
+{
+    const std::optional<FileId> before = IdOf(path);
+    return before ? m_writers.take(*before) : QString();
+}
+
+void RunReport::NoteWritten(const QString& path, const QString& replaced)
+{
+    if (!replaced.isEmpty())
+        Add(path, QStringLiteral("Replaces the file of ") + replaced);
+    if (const std::optional<FileId> file = IdOf(path))
+        m_writers.insert(*file, m_element);
+}
+
+void RunReport::AddLine(const QString& line)
+{
+    const QString shown = OnOneLine(line);
+    if (!m_reported.contains(shown))
+        m_problems.append(*m_reported.insert(shown));
+}
+
+} // namespace deckforge

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "compose/Workshop.h"
+#include "core/CardKind.h"
+
+#include <QHash>
+#include <QSet>
+
+namespace deckforge {
+
+/// What a run (one image, all images, sheets, pages or a printed page) did not do as the user expects, and
+/// which files it has written. The user gets the problems when the run is over, however it ends.
+class RunReport {
+public:
+    explicit RunReport(UserPort& user);
+    ~RunReport();
+    RunReport(const RunReport&) = delete;
+    RunReport& operator=(const RunReport&) = delete;
+
+    /// The card that the problems and files from here on belong to.
+    void Begin(const CardSet& set, CardKind kind, int16 index);
+
+    /// Reports `card 12 "Wolf": FILE: reason`, without the file where it is empty; each line once.
+    void Add(const QString& file, const QString& reason);
+
+    /// The pictures that the last composition could not show, and the symbol of the set.
+    void AddPictures(Workshop& workshop);
+
+    /// A problem of the set as a whole.
+    void AddOfSet(const SetHeader& header, const QString& file, const QString& reason);
+
+    /// A file that could not be written. A folder that cannot be made is reported once, not with each of its
+    /// files.
+    void AddNotWritten(const QString& path, const QString& reason);
+
+    /// Runs what writes the file at the path and returns whether it did, and makes the folder first. A file
+    /// that this run wrote before is reported as replaced.
+    template <class Write>
+    void WriteFile(const QString& path, Write&& write)
+    {
+        MakeFolderOf(path);
+        const QString replaced = TakeWriter(path);
+        if (write())
+            NoteWritten(path, replaced);
+    }
+
+    [[nodiscard]] bool HasWritten() const { return !m_writers.isEmpty(); }
+    [[nodiscard]] const QStringList& Problems() const { return m_problems; }
+
+private:
+    /// What tells files apart whatever their names: device and inode.
+    using FileId = QPair<quint64, quint64>;
+
+    void MakeFolderOf(const QString& path);
+    [[nodiscard]] static std::optional<FileId> IdOf(const QString& path);
+    [[nodiscard]] QString TakeWriter(const QString& path);
+    void NoteWritten(const QString& path, const QString& replaced);
+    void AddSymbol(Workshop& workshop);
+    void AddLine(const QString& line);
+
+    UserPort& m_user;
+    QString m_element;
+    QStringList m_problems;
+    QSet<QString> m_reported;         ///< the same
+    QHash<FileId, QString> m_writers; ///< of each written file, the card that it was written for
+};
+
+} // namespace deckforge

@@ -1,0 +1,164 @@
+#include "output/RunReport.h"
+#include "core/SetTables.h"
+#include "core/Vocabulary.h"
+#include "output/HtmlSheets.h"
+#include "output/Printing.h"
+#include "output/frmCardSheet.h"
+#include "output/modCapture.h"
+#include "support/EveryKind.h"
+#include "support/WorkshopTest.h"
+
+namespace deckforge {
+
+class RunReportTest : public WorkshopTest {
+protected:
+    /// What a run reports.
+    template <class Run>
+    QStringList ProblemsOf(Run&& run)
+    {
+        User.Problems.clear();
+        {
+            RunReport report(User);
+            run(report);
+        }
+        return User.Problems;
+    }
+    QStringList ProblemsOfImages()
+    {
+        return ProblemsOf([&](RunReport& report) {
+            CreateCards(Shop, report);
+            CreateLargeCards(Shop, report);
+            CreateCharacters(Shop, report);
+            SaveNewCardBack(Shop, report, 1, Ask::No, Tell::No);
+        });
+    }
+    QStringList ProblemsOfSheets(SheetGrid grid)
+    {
+        return ProblemsOf([&](RunReport& report) { CreateCardSheets(Shop, report, grid); });
+    }
+    void AddCards(int count)
+    {
+        while (Shop.Set.Cards.Count() < count)
+            AddElement<Card>(Shop.Set);
+    }
+};
+
+TEST_F(RunReportTest, EveryPictureThatIsMissingOrRejectedIsNamedOnceWithItsCard)
+{
+    CardSet& set = Shop.Set;
+    AddOneOfEachKind(set);
+    set.CardBacks.Resize(BuiltInBackCount + 1);
+    set.Characters[1].CardBack = UserDefinedCharacterBack;
+    set.NewCardBacks[1].UsePicture = true;
+    FirstCard().CardBack = set.CardBacks.Count();
+    ASSERT_EQ(ProblemsOfImages(), QStringList());
+
+    const QString damaged = Folder.Write("damaged.bmp", "BM no picture");
+    const QString missing = Folder.Path("missing.bmp");
+    const std::pair<QString*, const char*> fields[] = {
+        {&FirstCard().Picture, "card 1 \"CARD 1\""},
+        {&FirstCard().Background, "card 1 \"CARD 1\""},
+        {&set.CardBacks[set.CardBacks.Count()].Picture, "card 1 \"CARD 1\""},
+        {&set.LargeCards[1].Picture, "large card 1 \"LARGE CARD 1\""},
+        {&set.LargeCards[1].Background, "large card 1 \"LARGE CARD 1\""},
+        {&set.LargeCards[1].CardBack, "large card 1 \"LARGE CARD 1\""},
+        {&set.Characters[1].Picture, "character 1 \"CHARACTER 1\""},
+        {&set.Characters[1].Background, "character 1 \"CHARACTER 1\""},
+        {&set.Characters[1].CardBackPicture, "character 1 \"CHARACTER 1\""},
+        {&set.Characters[1].PlayingPiece, "character 1 \"CHARACTER 1\""},
+        {&set.NewCardBacks[1].Picture, "card back 1 \"Back 1\""},
+        {&set.Header.Symbol, "set \"New set\""}};
+    for (const auto& [field, element] : fields) {
+        *field = missing;
+        EXPECT_EQ(ProblemsOfImages(), QStringList(element + (": " + missing) + ": File not found"));
+        *field = damaged;
+        EXPECT_EQ(ProblemsOfImages(), QStringList(element + (": " + damaged) + ": Invalid picture"));
+        field->clear();
+    }
+}
+
+TEST_F(RunReportTest, AFileWrittenTwiceInARunIsReportedWhateverItsName)
+{
+    AddCards(3);
+    Shop.Set.Cards[2].Title = "CARD 1";
+    const QString replaced = "Replaces the file of card 1 \"CARD 1\"";
+    for (const char* extension : {"bmp", "jpg", "gif"}) {
+        const QString path = Folder.Path("CARD 1.") + extension;
+        const QStringList expected = {"card 2 \"CARD 1\": " + path + ": " + replaced};
+        const auto run = [&](RunReport& report) { CreateCards(Shop, report); };
+        EXPECT_EQ(ProblemsOf(run), expected);
+        EXPECT_EQ(ProblemsOf(run), expected) << "files of an earlier run do not count";
+        ++Header().SaveFormat;
+    }
+    Header().SaveFormat = 0;
+    Shop.Set.Cards[2].Filename = "link";
+    QFile::link(Folder.Path("CARD 1.bmp"), Folder.Path("link.bmp"));
+    EXPECT_EQ(ProblemsOf([&](RunReport& report) { CreateCards(Shop, report); }),
+              QStringList("card 2 \"CARD 1\": " + Folder.Path("link.bmp") + ": " + replaced));
+}
+
+TEST_F(RunReportTest, SheetsThatAreReplacedOrLeftUnwrittenAreReported)
+{
+    AddCards(24);
+    for (int i = 1; i <= 24; ++i)
+        Shop.Set.Cards[i].Copies = 4;
+    EXPECT_EQ(ProblemsOfSheets({2, 4}),
+              (QStringList{"card 22 \"CARD 22\": " + Folder.Path("New set Sheet 1.bmp") +
+                               ": Replaces the file of card 2 \"CARD 2\"",
+                           "card 24 \"CARD 24\": " + Folder.Path("New set Sheet 2.bmp") +
+                               ": Replaces the file of card 4 \"CARD 4\""}));
+    Shop.Sheet = {};
+    Shop.Set.Cards[24].Copies = 0;
+    EXPECT_EQ(ProblemsOfSheets({6, 8}), // 92 cells on sheets of 48
+              QStringList("card 24 \"CARD 24\": " + Folder.Path("New set Sheet 2.bmp") +
+                          ": Not written, since the last card has no copies"));
+    EXPECT_EQ(ProblemsOf([&](RunReport& report) { CreateLargeCardSheets(Shop, report, SheetGrid()); }),
+              QStringList("set \"New set\": No sheet is written"));
+}
+
+TEST_F(RunReportTest, PagesThatAreNotWrittenAreReported)
+{
+    AddCards(8);
+    for (int i = 1; i <= 8; ++i)
+        Shop.Set.Cards[i].Filename = "c";
+    Shop.Set.Cards[8].Copies = 0;
+    EXPECT_EQ(ProblemsOf([&](RunReport& report) { EXPECT_TRUE(CreateHtmlCards(Shop.Set, User, report)); }),
+              QStringList("card 8 \"CARD 8\": " + Folder.Path("New set 2.htm") +
+                          ": Not written, since the last card has no copies"));
+}
+
+TEST_F(RunReportTest, AFolderIsMadeOrReportedOnceAndAFormatThatThereIsNotForEachFile)
+{
+    AddCards(2);
+    const auto run = [&](RunReport& report) { CreateCards(Shop, report); };
+    Header().SaveTo = Folder.Path("made/here/");
+    EXPECT_EQ(ProblemsOf(run), QStringList());
+    EXPECT_TRUE(Folder.Has("made/here/CARD 2.bmp"));
+    Header().SaveTo = Folder.Write("file", {}) + "/";
+    EXPECT_EQ(ProblemsOf(run), QStringList(Header().SaveTo + ": The folder is missing and cannot be made"));
+    Header().SaveFormat = 7;
+    EXPECT_EQ(ProblemsOf(run),
+              (QStringList{"card 1 \"CARD 1\": " + Header().SaveTo + "CARD 1.: There is no save format 7",
+                           "card 2 \"CARD 2\": " + Header().SaveTo + "CARD 2.: There is no save format 7"}));
+    Header().SaveFormat = 0;
+    Header().SaveTo = Folder.WithSeparator();
+    FirstCard().Filename = "a/b";
+    FirstCard().Title = "two\nlines";
+    EXPECT_EQ(ProblemsOf(run),
+              QStringList("card 1 \"two lines\": " + Folder.Path("a/b.bmp") + ": Bad file name or number"));
+}
+
+TEST_F(RunReportTest, APlayingPieceOffThePageIsReported)
+{
+    AddElement<Character>(Shop.Set);
+    const auto problems = [&](int pixelsPerInch) {
+        return ProblemsOf([&](RunReport& report) {
+            WritePdf(Shop, report, PrintedPage::Character, Folder.Path("a.pdf"), pixelsPerInch);
+        });
+    };
+    EXPECT_EQ(problems(600), QStringList());
+    EXPECT_EQ(problems(300), QStringList("character 1 \"CHARACTER 1\": " + Folder.Path("a.pdf") +
+                                         ": The playing piece does not lie on the page"));
+}
+
+} // namespace deckforge
