@@ -152,7 +152,7 @@ private:
     void OpenSet();
     void SaveSet();
     void OpenDropped(const QString& path);
-    [[nodiscard]] bool LeaveSet(std::optional<QString>& rescued);
+    [[nodiscard]] bool LeaveSet(std::optional<QString>& rescued, const QString& toOpen = {});
     void AddNote(const QString& note);
     void NoteRescued(const std::optional<QString>& rescued);
     void NoteEarlierRescue();

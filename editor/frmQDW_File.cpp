@@ -109,7 +109,7 @@ void frmQDW::DoOpenDKF(const QString& path)
 {
     CardSet& set = m_workshop.Set;
     std::optional<QString> rescued;
-    if (!LeaveSet(rescued))
+    if (!LeaveSet(rescued, PathToOpen(path)))
         return;
     const bool isRead = ReadDKF(set, path, m_workshop.User);
     if (isRead || !m_work.ReturnTo(set))
@@ -179,11 +179,11 @@ void frmQDW::closeEvent(QCloseEvent* event)
 
 /// Before the set is replaced or the window closes: what is in no file is rescued. Where that fails the set
 /// stays; the way out is to save it, or Exit without.
-bool frmQDW::LeaveSet(std::optional<QString>& rescued)
+bool frmQDW::LeaveSet(std::optional<QString>& rescued, const QString& toOpen)
 {
     statusBar()->clearMessage();
     try {
-        WithMemoryAsFailure([&] { rescued = m_work.Leave(m_workshop.Set); });
+        WithMemoryAsFailure([&] { rescued = m_work.Leave(m_workshop.Set, toOpen); });
     } catch (const RunTimeError& error) {
         TellNotSaved(m_workshop.User, error);
         return false;

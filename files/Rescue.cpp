@@ -24,14 +24,19 @@ QString RescuedName(const QString& folder, int age)
     return folder + QStringLiteral("rescued%1.dkf").arg(number);
 }
 
-/// Earlier sets move on by one, up to the first name that is free.
-void MakeRoom(const QString& folder)
+/// The name of one more rescued set. Earlier sets move on by one, up to the first name that is free; none
+/// does while a set of the folder is to be opened.
+QString MakeRoom(const QString& folder, const QString& toOpen)
 {
     int age = 0;
     while (age < MaxEarlier && AttributesOf(RescuedName(folder, age)))
         ++age;
+    const QFileInfo opened(toOpen);
+    if (opened.exists() && opened.dir() == QDir(folder))
+        return RescuedName(folder, opened == QFileInfo(RescuedName(folder, age)) ? age - 1 : age);
     for (; age > 0; --age)
         RenameFile(RescuedName(folder, age - 1), RescuedName(folder, age));
+    return RescuedName(folder, 0);
 }
 
 bool IsSameTime(const timespec& one, const timespec& other)
@@ -98,13 +103,16 @@ void UnsavedWork::Renew(const CardSet& set)
         Rescue(set);
 }
 
-std::optional<QString> UnsavedWork::Leave(const CardSet& set)
+std::optional<QString> UnsavedWork::Leave(const CardSet& set, const QString& toOpen)
 {
+    m_leftFile.reset();
+    if (m_own && QFileInfo(PathOfOwn()) == QFileInfo(toOpen))
+        m_own.reset();
     if (!Differs(set)) {
         RemoveOwn();
         return std::nullopt;
     }
-    const QString path = Rescue(set);
+    const QString path = Rescue(set, toOpen);
     m_leftFile = std::exchange(m_own, std::nullopt);
     m_left = Fingerprint(set, Unwritable::Mend);
     return path;
@@ -118,13 +126,13 @@ bool UnsavedWork::ReturnTo(const CardSet& set)
     return true;
 }
 
-QString UnsavedWork::Rescue(const CardSet& set)
+QString UnsavedWork::Rescue(const CardSet& set, const QString& toOpen)
 {
     const QByteArray bytes = SetFileBytes(set, Unwritable::Mend);
     for (const QString& folder : {m_programFolder, m_setFolder}) {
         try {
             if (!folder.isEmpty())
-                return WriteTo(folder, bytes);
+                return WriteTo(folder, bytes, toOpen);
         } catch (const RunTimeError&) {
         }
     }
@@ -132,25 +140,22 @@ QString UnsavedWork::Rescue(const CardSet& set)
     ::mkdir(QFile::encodeName(temporary).constData(), S_IRWXU);
     if (!IsOurs(temporary))
         throw RunTimeError(ErrorNumber::PathFileAccess);
-    return WriteTo(temporary, bytes);
+    return WriteTo(temporary, bytes, toOpen);
 }
 
-QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes)
+QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes, const QString& toOpen)
 {
     QDir().mkpath(folder); // it may have gone since the program began
-    const QString first = RescuedName(folder, 0);
-    const QString unfinished = first + QStringLiteral("~");
-    QLockFile lock(first + QStringLiteral(".lock"));
+    const QString unfinished = RescuedName(folder, 0) + QStringLiteral("~");
+    QLockFile lock(RescuedName(folder, 0) + QStringLiteral(".lock"));
     lock.tryLock(LockMilliseconds);
     auto removeUnfinished = qScopeGuard([&] { QFile::remove(unfinished); });
     OutputFile file(unfinished);
     file.Write(bytes);
     file.CloseOnDisk();
     QString target = m_own && m_own->Folder == folder ? PathOfOwn() : QString();
-    if (target.isEmpty()) {
-        MakeRoom(folder);
-        target = first;
-    }
+    if (target.isEmpty())
+        target = MakeRoom(folder, toOpen);
     RenameFile(unfinished, target);
     removeUnfinished.dismiss();
     m_own = {.Folder = folder, .Attributes = AttributesOf(target).value_or(FileAttributes())};

@@ -33,15 +33,16 @@ public:
     void Renew(const CardSet& set);
 
     /// To be called before the set is given up. Writes the rescue file if the set differs and returns its
-    /// path, else nothing. No later call touches that file.
-    [[nodiscard]] std::optional<QString> Leave(const CardSet& set);
+    /// path, else nothing. No later call touches that file, and this one touches none that is to be
+    /// opened next.
+    [[nodiscard]] std::optional<QString> Leave(const CardSet& set, const QString& toOpen = {});
 
     /// To be called where a set that was left may still be there; it then has its rescue file again. Returns
     /// whether it is there unchanged.
     bool ReturnTo(const CardSet& set);
 
     /// Writes the rescue file and returns its path.
-    QString Rescue(const CardSet& set);
+    QString Rescue(const CardSet& set, const QString& toOpen = {});
 
     /// The same for a program that ends: standard error says where the file is, or why there is none.
     void RescueAtTheEnd(const CardSet& set) noexcept;
@@ -59,7 +60,7 @@ private:
         FileAttributes Attributes; ///< by which it is found again under another number
     };
 
-    [[nodiscard]] QString WriteTo(const QString& folder, const QByteArray& bytes);
+    [[nodiscard]] QString WriteTo(const QString& folder, const QByteArray& bytes, const QString& toOpen);
     [[nodiscard]] QString PathOfOwn() const;
     void RemoveOwn();
 

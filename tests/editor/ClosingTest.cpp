@@ -163,6 +163,15 @@ TEST_F(ClosingTest, ChangesRenewTheRescuedSetUntilTheyAreSaved)
     EXPECT_FALSE(IsRescued());
 }
 
+TEST_F(ClosingTest, ARescuedSetIsOpenedOverAChangedOne)
+{
+    QFile::copy(WriteSet("lost.dkf", "Lost"), RescuedPath());
+    Type("txtTitle", "Bear");
+    Open(RescuedPath());
+    EXPECT_EQ(FirstCard().Title, "Lost");
+    EXPECT_EQ(RescuedTitle(1), "Bear");
+}
+
 TEST_F(ClosingTest, TheStartTellsOfARescuedSet)
 {
     window.Start({});
