@@ -1,11 +1,16 @@
 #include "core/CardVocabulary.h"
 #include "core/Vocabulary.h"
+#include "core/modInfo.h"
 #include "files/SetFields.h"
 #include "files/SetReader.h"
 #include "files/TypeFinder.h"
 #include "files/modFile.h"
 #include "platform/Numbers.h"
-#include "platform/RunTimeError.h"
+#include "platform/SaveFile.h"
+#include "platform/SilentUser.h"
+
+#include <QScopeGuard>
+#include <algorithm>
 
 namespace deckforge {
 
@@ -146,26 +151,41 @@ std::optional<int16> ReadVersion(SetReader& in, UserPort& user)
     return version;
 }
 
-/// False for a file that is refused.
-bool ReadLines(CardSet& set, SetReader& in, UserPort& user)
+/// Reads what follows the version; false where another line is in the place of the last one.
+[[nodiscard]] bool ReadBody(SetReader& in, int16 version, CardSet& set)
 {
-    const std::optional<int16> version = ReadVersion(in, user);
-    if (!version)
-        return false;
     in.Line(); // the start line; its text does not matter
-    FieldReader fields(in, *version);
+    FieldReader fields(in, version);
     ReadSet(fields, set);
-    return true;
+    return in.Line() == setFile::End;
 }
 
+/// What every set has, also the mix that a failed read leaves: a standard card, and current records that
+/// exist.
+void MakeValid(CardSet& set)
+{
+    if (set.Cards.Count() < 1)
+        MakeFirstElement<Card>(set);
+    for (const CardKind kind :
+         {CardKind::Standard, CardKind::Large, CardKind::Character, CardKind::NewBack}) {
+        if (CurrentOf(set, kind) < 1 || CurrentOf(set, kind) > CountOf(set, kind))
+            CurrentOf(set, kind) = std::min<int16>(CountOf(set, kind), 1);
+    }
+}
+
+/// False for a file that is rejected.
 bool ReadFile(CardSet& set, const QString& path, UserPort& user)
 {
-    SetReader in(path);
+    SetReader in(ReadWholeFile(path, setFile::MostBytes));
     const auto place = [&] { return path + QLatin1Char(':') + QString::number(in.LineNumber()); };
     try {
-        if (!ReadLines(set, in, user))
+        const std::optional<int16> version = ReadVersion(in, user);
+        if (!version) {
+            user.ReportProblems({path + QStringLiteral(": Not a card set of this version")});
             return false;
-        if (in.Line() != setFile::End) {
+        }
+        const auto finish = qScopeGuard([&] { MakeValid(set); });
+        if (!ReadBody(in, *version, set)) {
             Tell(user, BoxStyle::Question, "Error", "No final match!");
             user.ReportProblems({place() + QStringLiteral(": No final match!")});
         }
@@ -175,7 +195,37 @@ bool ReadFile(CardSet& set, const QString& path, UserPort& user)
     }
 }
 
+/// A save that was cut off may have left a file that reads well and is half of each set.
+void TellOfSafetyCopies(UserPort& user, const QString& path)
+{
+    const QStringList copies = SafetyCopiesOf(path);
+    if (copies.isEmpty())
+        return;
+    user.ShowMessage(
+        {.Text = QStringLiteral("A save of this file was cut off. What it held before is in\r\n\r\n%1"
+                                "\r\n\r\nIf anything is missing here, open that file and save it "
+                                "under this name. Delete it when all is well.")
+                     .arg(copies.join(QLatin1String("\r\n"))),
+         .Title = QStringLiteral("Open file"),
+         .Style = BoxStyle::Exclamation});
+}
+
 } // namespace
+
+void CheckReadable(const QByteArray& bytes)
+{
+    try {
+        SetReader in(bytes, SetReader::Texts::Skip);
+        SilentUser nobody;
+        CardSet scratch;
+        const std::optional<int16> version = ReadVersion(in, nobody);
+        if (!version || !ReadBody(in, *version, scratch))
+            throw RunTimeError(ErrorNumber::InvalidCall);
+    } catch (const RunTimeError& error) {
+        throw RunTimeError(error.Number(),
+                           QStringLiteral("The set could not be opened again: %1").arg(error.Description()));
+    }
+}
 
 bool ReadDKF(CardSet& set, const QString& path, UserPort& user)
 {
@@ -188,15 +238,13 @@ bool ReadDKF(CardSet& set, const QString& path, UserPort& user)
                           .Title = QStringLiteral("Error"),
                           .Style = BoxStyle::Critical});
         user.ReportProblems({error.At(path).PlaceAndDescription()});
-        return false;
     }
-    if (!isRead) {
-        user.ReportProblems({path + QStringLiteral(": Not a card set of this version")});
-        return false;
+    if (isRead) {
+        Tell(user, BoxStyle::Information, "Open file", "The card set is loaded.");
+        set.Cards.Current = 1;
     }
-    Tell(user, BoxStyle::Information, "Open file", "The card set is loaded.");
-    set.Cards.Current = 1;
-    return true;
+    TellOfSafetyCopies(user, path);
+    return isRead;
 }
 
 } // namespace deckforge

@@ -2,13 +2,18 @@
 
 #include "files/SetFileFormat.h"
 #include "platform/CodePage.h"
-#include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
 
 namespace deckforge {
 
-SetReader::SetReader(const QString& path) : m_bytes(ReadWholeFile(path, setFile::MostBytes)) {}
+SetReader::SetReader(QByteArray bytes, Texts texts)
+    : m_bytes(std::move(bytes)), m_skipsTexts(texts == Texts::Skip),
+      m_hasBareLineEnds(setFile::FindLineEnd(m_bytes) < 0)
+{
+    if (m_bytes.size() > setFile::MostBytes)
+        throw RunTimeError(ErrorNumber::OutOfMemory);
+}
 
 QByteArrayView SetReader::Line()
 {
@@ -16,23 +21,25 @@ QByteArrayView SetReader::Line()
     if (m_at >= m_bytes.size())
         throw RunTimeError(ErrorNumber::InputPastEnd);
     const QByteArrayView rest = QByteArrayView(m_bytes).sliced(m_at);
-    const qsizetype end = setFile::FindLineEnd(rest);
+    const qsizetype end = m_hasBareLineEnds ? rest.indexOf('\n') : setFile::FindLineEnd(rest);
     const QByteArrayView line = end < 0 ? rest : rest.first(end);
     if (line.size() > setFile::MostLineBytes)
         setFile::RefuseLongLine();
-    m_at += end < 0 ? rest.size() : end + 2;
+    m_at += end < 0 ? rest.size() : end + (m_hasBareLineEnds ? 1 : 2);
     return line;
 }
 
 QString SetReader::Text()
 {
     const QByteArrayView line = Line();
-    return line.isEmpty() ? QString() : FromCodePage(line);
+    return line.isEmpty() || m_skipsTexts ? QString() : FromCodePage(line);
 }
 
 QString SetReader::Flattened()
 {
     QByteArrayView rest = Line();
+    if (m_skipsTexts)
+        return {};
     QByteArray lines;
     for (qsizetype end = 0; (end = rest.indexOf(setFile::FlattenedBreak)) >= 0; rest = rest.sliced(end + 1)) {
         lines.append(rest.first(end));

@@ -8,14 +8,18 @@
 
 namespace deckforge {
 
-/// Reads the lines of a set file, each by the type of its field. A line ends at CR LF; the last one may lack
-/// it.
+/// Reads the lines of a set file, each by the type of its field. A line ends at CR LF, or at LF in a file
+/// without any CR LF, as editors and version control convert them; the last one may lack it.
 ///
 /// Every call takes one line: error 62 behind the last, 6 for one that is too long, 13 where a number or a
 /// boolean word was due and the line holds none, 6 where the number does not fit the field.
 class SetReader {
 public:
-    explicit SetReader(const QString& path);
+    /// Skipped texts are empty: no text can fail, and to decode it takes most of the time.
+    enum class Texts { Decode, Skip };
+
+    /// Error 7 for more bytes than a set file may have.
+    explicit SetReader(QByteArray bytes, Texts texts = Texts::Decode);
 
     [[nodiscard]] QString Text();
     [[nodiscard]] QString Flattened(); ///< every "|" becomes CR LF
@@ -35,6 +39,8 @@ public:
 private:
     int m_lineNumber = 0;
     QByteArray m_bytes;
+    bool m_skipsTexts;
+    bool m_hasBareLineEnds; ///< LF alone
     qsizetype m_at = 0;
 };
 

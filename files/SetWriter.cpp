@@ -1,6 +1,5 @@
 #include "files/SetWriter.h"
 
-#include "files/SetFileFormat.h"
 #include "platform/CodePage.h"
 #include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
@@ -36,15 +35,15 @@ void FlattenFrom(QByteArray& bytes, qsizetype start, char flattened)
 
 void SetWriter::Literal(const char* text)
 {
-    m_lines.Gathered().append(text);
-    m_lines.EndLine();
+    m_bytes.append(text);
+    EndLine();
 }
 
-/// Gives where the text stands in the gathered bytes.
+/// Returns where the text begins.
 qsizetype SetWriter::AppendText(const QString& text)
 {
-    const qsizetype start = m_lines.Gathered().size();
-    AppendInCodePage(m_lines.Gathered(), text,
+    const qsizetype start = m_bytes.size();
+    AppendInCodePage(m_bytes, text,
                      m_unwritable == Unwritable::Mend ? Lacking::QuestionMark : Lacking::Refuse);
     return start;
 }
@@ -52,24 +51,22 @@ qsizetype SetWriter::AppendText(const QString& text)
 /// Ends the line of the text from the start on, if it is one that can be read again.
 void SetWriter::EndText(qsizetype start)
 {
-    QByteArray& gathered = m_lines.Gathered();
-    if (gathered.size() - start > setFile::MostLineBytes) {
+    if (m_bytes.size() - start > setFile::MostLineBytes) {
         const bool isMended = m_unwritable == Unwritable::Mend;
-        gathered.truncate(isMended ? start + setFile::MostLineBytes : start);
+        m_bytes.truncate(isMended ? start + setFile::MostLineBytes : start);
         if (!isMended)
             setFile::RefuseLongLine();
     }
-    m_lines.EndLine();
+    EndLine();
 }
 
 void SetWriter::Text(const QString& text)
 {
     const qsizetype start = AppendText(text);
-    QByteArray& gathered = m_lines.Gathered();
     if (m_unwritable == Unwritable::Mend) {
-        FlattenFrom(gathered, start, ' ');
-    } else if (setFile::FindLineEnd(QByteArrayView(gathered).sliced(start)) >= 0) {
-        gathered.truncate(start);
+        FlattenFrom(m_bytes, start, ' ');
+    } else if (setFile::FindLineEnd(QByteArrayView(m_bytes).sliced(start)) >= 0) {
+        m_bytes.truncate(start);
         throw RunTimeError(ErrorNumber::InvalidCall,
                            QStringLiteral("The text \"%1\" holds a line break").arg(text));
     }
@@ -79,7 +76,7 @@ void SetWriter::Text(const QString& text)
 void SetWriter::Flattened(const QString& text)
 {
     const qsizetype start = AppendText(text);
-    FlattenFrom(m_lines.Gathered(), start, setFile::FlattenedBreak);
+    FlattenFrom(m_bytes, start, setFile::FlattenedBreak);
     EndText(start);
 }
 
@@ -90,14 +87,14 @@ void SetWriter::Boolean(bool value)
 
 void SetWriter::Integer(int32 value)
 {
-    AppendNumber(m_lines.Gathered(), value);
-    m_lines.EndLine();
+    AppendNumber(m_bytes, value);
+    EndLine();
 }
 
 void SetWriter::Real(double value)
 {
-    AppendNumber(m_lines.Gathered(), value);
-    m_lines.EndLine();
+    AppendNumber(m_bytes, value);
+    EndLine();
 }
 
 } // namespace deckforge

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "files/SetFileFormat.h"
 #include "files/StoredPath.h"
-#include "platform/LineWriter.h"
 #include "platform/Types.h"
+
+#include <QByteArray>
 
 namespace deckforge {
 
@@ -10,11 +12,10 @@ namespace deckforge {
 /// field of one line, more than MostLineBytes. Mended, these are question marks, a blank, and cut.
 enum class Unwritable { Fail, Mend };
 
-/// Writes the lines of a set file, each by the type of its field. Failures are those of LineWriter.
+/// Puts the lines of a set file together in memory, each by the type of its field. A character outside the
+/// code page is error 5.
 class SetWriter {
 public:
-    explicit SetWriter(const QString& path) : m_lines(path) {}
-    /// Gathers the bytes of a set file in memory.
     explicit SetWriter(Unwritable unwritable) : m_unwritable(unwritable) {}
 
     void Literal(const char* text);
@@ -26,17 +27,15 @@ public:
     void Integer(int32 value);
     void Real(double value);
 
-    [[nodiscard]] QByteArray& Gathered() { return m_lines.Gathered(); }
-
-    /// All bytes are on the disk after this.
-    void Close() { m_lines.CloseOnDisk(); }
+    [[nodiscard]] QByteArray TakeBytes() { return std::move(m_bytes); }
 
 private:
     qsizetype AppendText(const QString& text);
     void EndText(qsizetype start);
+    void EndLine() { m_bytes.append(setFile::LineEnd, sizeof(setFile::LineEnd) - 1); }
 
-    LineWriter m_lines;
-    Unwritable m_unwritable = Unwritable::Fail;
+    QByteArray m_bytes;
+    Unwritable m_unwritable;
 };
 
 } // namespace deckforge

@@ -2,8 +2,7 @@
 #include "files/SetFields.h"
 #include "files/SetWriter.h"
 #include "files/modFile.h"
-#include "platform/Files.h"
-#include "platform/RunTimeError.h"
+#include "platform/SaveFile.h"
 
 namespace deckforge {
 
@@ -66,55 +65,6 @@ void WriteSet(SetWriter& out, const CardSet& set)
     out.Literal(setFile::End);
 }
 
-QString SafeCopyOf(const QString& path)
-{
-    return path + QStringLiteral("~");
-}
-
-/// Whether the file is a set with its end, and not what a failed write left.
-bool IsWholeSet(const QString& path)
-{
-    QByteArray bytes = ReadWholeFile(path, setFile::MostBytes);
-    if (bytes.endsWith(setFile::LineEnd))
-        bytes.chop(sizeof(setFile::LineEnd) - 1);
-    return bytes.startsWith(setFile::Signature) &&
-           bytes.endsWith(QByteArray(setFile::LineEnd) + setFile::End);
-}
-
-/// Sees to it that the old set has a copy before its file is replaced; gives whether there was one to copy.
-bool KeepCopy(const QString& path)
-{
-    if (!IsRegularFile(path))
-        return false;
-    CheckWritable(path);
-    // A whole set beside one that is not is the copy that a failed write left behind: it is worth more than
-    // the rest of that write.
-    const QString copy = SafeCopyOf(path);
-    const bool isRestOfFailure = IsRegularFile(copy) && IsWholeSet(copy) && !IsWholeSet(path);
-    if (!isRestOfFailure)
-        CopyFileSafely(path, copy);
-    return true;
-}
-
-/// The set is on the disk; a copy that cannot be taken away takes nothing from that.
-void DropCopy(const QString& path)
-{
-    try {
-        RemoveFile(SafeCopyOf(path));
-    } catch (const RunTimeError&) {
-    }
-}
-
-void WriteSafely(const CardSet& set, const QString& path)
-{
-    const bool hasCopy = KeepCopy(path);
-    SetWriter out(path);
-    WriteSet(out, set);
-    out.Close();
-    if (hasCopy)
-        DropCopy(path);
-}
-
 } // namespace
 
 void TellNotSaved(UserPort& user, const RunTimeError& error)
@@ -129,13 +79,17 @@ QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable)
 {
     SetWriter out(unwritable);
     WriteSet(out, set);
-    return std::move(out.Gathered());
+    return out.TakeBytes();
 }
 
 bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report)
 {
     try {
-        WithMemoryAsFailure([&] { WriteSafely(set, path); });
+        WithMemoryAsFailure([&] {
+            const QByteArray bytes = SetFileBytes(set, Unwritable::Fail);
+            CheckReadable(bytes);
+            SaveFile(path, bytes);
+        });
     } catch (const RunTimeError& error) {
         TellNotSaved(user, error);
         return false;

@@ -11,19 +11,23 @@ namespace deckforge {
 
 enum class Report { Silent, Tell };
 
-/// Writes the set to the path and gives whether it is all there.
+/// Writes the set to the path and returns whether it is all there and on the disk.
 ///
-/// Before a file that is there is replaced, a copy of it goes to the same name with "~" behind it; it goes
-/// away when the write has succeeded. Without that copy nothing is replaced. A failure is told in a box; the
-/// old set is then the copy, and the file holds what had been written, or no copy was made, and the file is
-/// the old set.
+/// Nothing is written that the reader would not take. On failure an error box is shown and the file is
+/// unchanged; where even that failed, the box says where its safety copy is (see SaveFile).
 bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report);
 
 /// The bytes of the file that the set would be written to.
 [[nodiscard]] QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable);
 
-/// Reads a set file into the set and gives whether it is read. What was read before a failure stays in the
-/// set: there is no way back. A refused file (no set, or of a newer version) changes nothing.
+/// Fails as opening a file of these bytes would.
+void CheckReadable(const QByteArray& bytes);
+
+/// Reads a set file into the set and returns whether it is read. What was read before a failure stays in the
+/// set, which is a valid one nevertheless. A rejected file (no set, or of a newer version) changes nothing.
+///
+/// Where a save of the file was cut off, a
+/// box says where its safety copy is.
 [[nodiscard]] bool ReadDKF(CardSet& set, const QString& path, UserPort& user);
 
 enum class SaveResult { Saved, Cancelled, Failed };
@@ -41,7 +45,7 @@ bool ExportSetText(const CardSet& set, const QString& path, UserPort& user);
 /// Asks where to, and writes the listing there; nothing on a cancel.
 void ExportText(const CardSet& set, UserPort& user);
 
-/// Tells a failure that ended a write.
+/// Shows a failure that ended a write.
 void TellNotSaved(UserPort& user, const RunTimeError& error);
 
 } // namespace deckforge

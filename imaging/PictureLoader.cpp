@@ -54,12 +54,6 @@ QImage DecodeWithReader(QByteArray bytes, const QByteArray& format)
     return ForDrawing(std::move(image));
 }
 
-bool IsSameFile(const FileAttributes& a, const FileAttributes& b)
-{
-    return a.Size == b.Size && a.LastWrite.tv_sec == b.LastWrite.tv_sec &&
-           a.LastWrite.tv_nsec == b.LastWrite.tv_nsec;
-}
-
 } // namespace
 
 Picture DecodePicture(const QString& path)
@@ -87,7 +81,8 @@ Picture PictureLoader::LoadPicture(const QString& path)
     if (path.isEmpty())
         return {};
     const std::optional<FileAttributes> file = AttributesOf(path);
-    if (const Kept* kept = m_kept.object(path); kept != nullptr && file && IsSameFile(kept->File, *file)) {
+    if (const Kept* kept = m_kept.object(path);
+        kept != nullptr && file && HaveSameContents(kept->File, *file)) {
         if (kept->Failure)
             throw *kept->Failure;
         return kept->Decoded;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/FileHandle.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -8,8 +10,8 @@
 
 namespace deckforge {
 
-// Files with the failures that this program tells: 52, 53, 57, 61, 70, 75 and 76 by what the system says.
-// Nothing here waits: a fifo or a device is error 75 where it is read, and a fifo that nobody reads where it
+// Files with the failures that this program reports: 52, 53, 57, 61, 70, 75 and 76 by what the system says.
+// Opening never waits: a fifo or a device is error 75 where it is read, and a fifo that nobody reads where it
 // is written. Paths may hold either separator.
 
 /// From now on a write past the limit that the session sets to files is error 61, as on a full disk. Without
@@ -26,39 +28,38 @@ struct FileAttributes {
     unsigned int Permissions = 0;
 };
 
+/// Whether a file with these attributes has not been written to between both looks at it.
+[[nodiscard]] bool HaveSameContents(const FileAttributes& before, const FileAttributes& now);
+
 /// Nothing when there is no file.
 [[nodiscard]] std::optional<FileAttributes> AttributesOf(const QString& path);
 
-/// A file being written. The destructor closes it and keeps what was written; only a closing tells of a late
+/// A file being written. The destructor closes it and keeps what was written; only a closing reports a late
 /// failure.
 class OutputFile {
 public:
     /// Empties the file that is there, or makes it.
     explicit OutputFile(const QString& path);
-    ~OutputFile();
-    OutputFile(const OutputFile&) = delete;
-    OutputFile& operator=(const OutputFile&) = delete;
 
-    void Write(QByteArrayView bytes);
+    void Write(QByteArrayView bytes) { m_file.Write(bytes); }
+    /// As far as the volume allows it.
     void TakeTimesAndPermissions(const FileAttributes& from);
 
-    void Close();
+    void Close() { m_file.Close(); }
     void CloseOnDisk(); ///< waits until the bytes are on the disk
 
 private:
-    int m_handle;
-    QString m_path;
+    FileHandle m_file;
 };
 
 /// Fails as opening an existing file for writing would, and leaves it alone.
 void CheckWritable(const QString& path);
 
-/// A copy of an existing regular file, with its time and permissions, that is on the disk before this
-/// returns. It stands complete under its name or not at all. On the way it has the name with another "~".
-void CopyFileSafely(const QString& from, const QString& to);
-
 /// Whether there is a regular file at the path, links followed.
 [[nodiscard]] bool IsRegularFile(const QString& path);
+
+/// Whether both paths lead to one existing file, by links of any kind.
+[[nodiscard]] bool IsSameFile(const QString& one, const QString& other);
 
 /// Gives a file another name in its folder or disk; what has that name goes. It has one of the two names at
 /// any moment, and the new one on the disk before this returns.

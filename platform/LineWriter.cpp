@@ -14,9 +14,8 @@ constexpr qsizetype RoomForOneLine = 1 << 12;
 
 } // namespace
 
-LineWriter::LineWriter(const QString& path)
+LineWriter::LineWriter(const QString& path) : m_file(path)
 {
-    m_file.emplace(path);
     m_gathered.reserve(PieceBytes + RoomForOneLine);
 }
 
@@ -25,18 +24,13 @@ LineWriter::~LineWriter()
     try {
         Flush();
     } catch (const RunTimeError&) {
-        // The failure that ended the writing is already told; this one adds nothing to it.
+        // The failure that ended the writing has been reported; this one adds nothing to it.
     }
 }
 
 void LineWriter::Line(const QString& text)
 {
     AppendInCodePage(m_gathered, text);
-    EndLine();
-}
-
-void LineWriter::EndLine()
-{
     m_gathered.append("\r\n", 2);
     if (m_gathered.size() >= PieceBytes)
         Flush();
@@ -45,22 +39,14 @@ void LineWriter::EndLine()
 void LineWriter::Close()
 {
     Flush();
-    m_file->Close();
-}
-
-void LineWriter::CloseOnDisk()
-{
-    Flush();
-    m_file->CloseOnDisk();
+    m_file.Close();
 }
 
 void LineWriter::Flush()
 {
-    if (!m_file)
-        return;
     // Also when it fails: what was written in part must not be written again.
     const auto clear = qScopeGuard([this] { m_gathered.resize(0); });
-    m_file->Write(m_gathered);
+    m_file.Write(m_gathered);
 }
 
 } // namespace deckforge

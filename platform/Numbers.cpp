@@ -93,7 +93,8 @@ void AppendNumber(QByteArray& line, double value)
 {
     constexpr int significantDigits = 15;
     char digits[NumberBufferSize];
-    const double unsignedZero = value == 0 ? 0 : value;
+    constexpr double largest = 1.79769313486231E+308; // the next one of so many digits is past the range
+    const double unsignedZero = value == 0 ? 0 : std::clamp(value, -largest, largest);
     char* end =
         std::to_chars(digits, std::end(digits), unsignedZero, std::chars_format::general, significantDigits)
             .ptr;

@@ -1,3 +1,4 @@
+#include "platform/SaveFile.h"
 #include "support/Limits.h"
 #include "support/SetTest.h"
 
@@ -9,34 +10,6 @@
 #include <unistd.h>
 
 namespace deckforge {
-
-/// Saving a set over an older one, which must be on the disk whatever happens: under its name or as its copy.
-class SavingTest : public SetTest {
-protected:
-    SavingTest()
-    {
-        OldBytes = SetFileBytes(Set, Unwritable::Fail);
-        Set.Header.SetName = "A set with more in it than the one before";
-        AddElement<LargeCard>(Set);
-        NewBytes = SetFileBytes(Set, Unwritable::Fail);
-        Folder.Write(Name, OldBytes);
-    }
-
-    bool Save() { return WriteDKF(Set, Folder.Path(Name), User, Report::Silent); }
-    /// Whether the file is one of the two sets, whole. The reader does without its last line end.
-    [[nodiscard]] bool IsWhole(const QString& name) const
-    {
-        QByteArray bytes = Folder.Has(name) ? Folder.Read(name) : QByteArray();
-        if (!bytes.endsWith("\r\n"))
-            bytes += "\r\n";
-        return bytes == OldBytes || bytes == NewBytes;
-    }
-    [[nodiscard]] bool IsSafe() const { return IsWhole(Name) || IsWhole(Name + '~'); }
-
-    const QString Name = "set.dkf";
-    QByteArray OldBytes;
-    QByteArray NewBytes;
-};
 
 /// Lets a child run to its system call of that number, counted at entry and at return, and kills it there.
 /// False when it has ended by itself before.
@@ -55,26 +28,23 @@ static bool KillAtCall(pid_t child, int number)
     return true;
 }
 
-TEST_F(SavingTest, ADiskThatIsFullAfterAnyByteLosesNothingAndIsTold)
-{
-    for (qsizetype room = 0; room < NewBytes.size(); ++room) {
-        {
-            const FullDisk full(room);
-            EXPECT_FALSE(Save()) << room;
-        }
-        ASSERT_TRUE(IsSafe()) << room;
-        ASSERT_EQ(User.Boxes.size(), static_cast<std::size_t>(room) + 1);
-        ASSERT_TRUE(User.Boxes.back().Text.endsWith("61, Disk full")) << room;
+/// Saving a set over an older one, which must be on the disk whatever happens: under its name or as its
+/// safety copy.
+class SavingTest : public SetTest {
+protected:
+    SavingTest()
+    {
+        OldBytes = SetFileBytes(Set, Unwritable::Fail);
+        Set.Header.SetName = "A set with more in it than the one before";
+        AddElement<LargeCard>(Set);
+        NewBytes = SetFileBytes(Set, Unwritable::Fail);
+        Folder.Write(Name, OldBytes);
     }
-    EXPECT_TRUE(Save());
-    EXPECT_EQ(Folder.Read(Name), NewBytes);
-}
 
-TEST_F(SavingTest, ASaveThatIsKilledAtAnySystemCallLosesNothing)
-{
-    // Each goes on from what the one before left, as a user would who starts the program again.
-    int calls = 0;
-    for (bool isKilled = true; isKilled; ++calls) {
+    bool Save() { return WriteDKF(Set, Folder.Path(Name), User, Report::Silent); }
+    /// Saves in a child that is killed at its system call of that number; false when it ended before.
+    bool SaveKilledAt(int call)
+    {
         const pid_t child = ::fork();
         if (child == 0) {
             if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
@@ -82,14 +52,161 @@ TEST_F(SavingTest, ASaveThatIsKilledAtAnySystemCallLosesNothing)
             ::raise(SIGSTOP);
             ::_exit(Save() ? 0 : 2);
         }
-        isKilled = KillAtCall(child, calls);
+        return KillAtCall(child, call);
+    }
+    /// From now on the file is not replaced but overwritten.
+    void AddHardLink() const
+    {
+        QDir(Folder.Path()).mkdir("linked");
+        ASSERT_EQ(::link(Folder.Path(Name).toUtf8().constData(),
+                         Folder.Path("linked/" + Name).toUtf8().constData()),
+                  0);
+    }
+    [[nodiscard]] QStringList Files() const
+    {
+        return QDir(Folder.Path()).entryList(QDir::Files | QDir::Hidden);
+    }
+    [[nodiscard]] bool IsSafe() const
+    {
+        const QStringList files = Files();
+        return std::any_of(files.begin(), files.end(), [this](const QString& name) {
+            const QByteArray bytes = Folder.Read(name);
+            return (name == Name || IsSafetyCopy(name)) && (bytes == OldBytes || bytes == NewBytes);
+        });
+    }
+
+    const QString Name = "set.dkf";
+    QByteArray OldBytes;
+    QByteArray NewBytes;
+};
+
+/// The same where the file is replaced in one step and where it is overwritten.
+class SavingEitherWayTest : public SavingTest, public testing::WithParamInterface<bool> {
+protected:
+    SavingEitherWayTest()
+    {
+        if (GetParam())
+            AddHardLink();
+    }
+};
+INSTANTIATE_TEST_SUITE_P(, SavingEitherWayTest, testing::Bool(),
+                         [](const auto& way) { return way.param ? "Overwritten" : "Replaced"; });
+
+TEST_P(SavingEitherWayTest, ADiskThatIsFullAfterAnyByteChangesNothing)
+{
+    for (qsizetype room = 0; room < NewBytes.size(); ++room) {
+        {
+            const FullDisk full(room);
+            EXPECT_FALSE(Save()) << room;
+        }
+        ASSERT_EQ(Folder.Read(Name), OldBytes) << room;
+        ASSERT_EQ(Files(), QStringList{Name}) << room;
+        ASSERT_TRUE(User.LastBox().Text.endsWith("61, Disk full")) << room;
+    }
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(Folder.Read(Name), NewBytes);
+}
+
+TEST_P(SavingEitherWayTest, ASaveThatIsKilledAtAnySystemCallLosesNothing)
+{
+    // Each goes on from what the one before left, as a user would who starts the program again.
+    int calls = 0;
+    for (bool isKilled = true; isKilled; ++calls) {
+        isKilled = SaveKilledAt(calls);
         ASSERT_TRUE(IsSafe()) << "at call " << calls;
     }
     if (calls == 1)
         GTEST_SKIP() << "no child can be traced here";
     EXPECT_GT(calls, 30) << "a safe save takes many calls";
     EXPECT_EQ(Folder.Read(Name), NewBytes);
-    EXPECT_FALSE(Folder.Has(Name + '~'));
+}
+
+TEST_P(SavingEitherWayTest, TwoSaversOfOneSetLeaveOneOfBothWhole)
+{
+    for (int i = 0; i < 3000; ++i)
+        AddElement<Card>(Set);
+    CardSet larger = Set; // writes about as long, so that both meet at the file
+    for (int i = 0; i < 100; ++i)
+        AddElement<Card>(larger);
+    const QByteArray bytes = SetFileBytes(Set, Unwritable::Fail);
+    const QByteArray largerBytes = SetFileBytes(larger, Unwritable::Fail);
+    for (int round = 0; round < 20; ++round) {
+        const pid_t child = ::fork();
+        if (child == 0)
+            ::_exit(WriteDKF(larger, Folder.Path(Name), User, Report::Silent) ? 0 : 2);
+        EXPECT_TRUE(Save());
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0);
+        const QByteArray left = Folder.Read(Name);
+        ASSERT_TRUE(left == bytes || left == largerBytes) << "round " << round;
+    }
+}
+
+TEST_P(SavingEitherWayTest, TheFileStaysWhatItIsAndOthersAreNotTouched)
+{
+    const QByteArray file = Folder.Path(Name).toUtf8();
+    for (const QString& name : {Name + '~', Name + "~~", Name + ".bak"})
+        Folder.Write(name, "another program's");
+    struct stat before = {};
+    struct stat after = {};
+    for (const mode_t mode : {0600, 0640, 0666}) {
+        ::chmod(file.constData(), mode);
+        ::stat(file.constData(), &before);
+        EXPECT_TRUE(Save());
+        ::stat(file.constData(), &after);
+        EXPECT_EQ(after.st_mode, before.st_mode);
+        EXPECT_EQ(after.st_nlink, before.st_nlink);
+    }
+    EXPECT_EQ(Files(), (QStringList{Name, Name + ".bak", Name + '~', Name + "~~"}));
+    EXPECT_EQ(Folder.Read(Name + '~'), "another program's");
+}
+
+TEST_F(SavingTest, AForeignFileIsOverwrittenAndKeepsItsOwner)
+{
+    const QByteArray file = Folder.Path(Name).toUtf8();
+    ::chmod(file.constData(), 0666);
+    ::chmod(Folder.Path().toUtf8().constData(), 0777);
+    struct stat before = {};
+    struct stat after = {};
+    ::stat(file.constData(), &before);
+    {
+        const NoPrivileges asAnybody; // who can give the owner's files to nobody
+        EXPECT_TRUE(Save()) << User.LastTold().toStdString();
+    }
+    ::stat(file.constData(), &after);
+    EXPECT_EQ(Folder.Read(Name), NewBytes);
+    EXPECT_EQ(after.st_uid, before.st_uid);
+    EXPECT_EQ(after.st_mode, before.st_mode);
+    EXPECT_EQ(Files(), QStringList{Name});
+}
+
+TEST_F(SavingTest, TheLongestNameIsSavedAgainAndAgain)
+{
+    const QString longest = QString(251, 'x') + ".dkf";
+    for (int i = 0; i < 2; ++i)
+        EXPECT_TRUE(WriteDKF(Set, Folder.Path(longest), User, Report::Silent)) << i;
+    EXPECT_FALSE(WriteDKF(Set, Folder.Path('x' + longest), User, Report::Silent));
+    EXPECT_TRUE(User.LastTold().endsWith("52, Bad file name or number"));
+    EXPECT_EQ(Files(), (QStringList{Name, longest}));
+}
+
+TEST_F(SavingTest, OpeningAFileWhoseSaveWasCutOffTellsWhereItsCopyIs)
+{
+    AddHardLink();
+    for (int calls = 1; Folder.Read(Name) == OldBytes; ++calls) {
+        for (const QString& copy : Files().filter("safety-copy"))
+            QFile::remove(Folder.Path(copy));
+        if (!SaveKilledAt(calls))
+            GTEST_SKIP() << "no child can be traced here";
+    }
+    ASSERT_EQ(Files().size(), 2) << "the copy goes last";
+    const QString copy = Folder.Path(Files().constFirst());
+
+    ASSERT_TRUE(ReadDKF(Set, Folder.Path(Name), User));
+    EXPECT_TRUE(User.LastBox().Text.contains(copy)) << User.LastTold().toStdString();
+    EXPECT_TRUE(Save());
+    EXPECT_TRUE(QFile::exists(copy)) << "no save takes away what it did not make";
 }
 
 TEST_F(SavingTest, PlacesThatTakeNoSetAreToldAndLeaveAll)
@@ -101,7 +218,6 @@ TEST_F(SavingTest, PlacesThatTakeNoSetAreToldAndLeaveAll)
     const char* const noPath = "76, Path not found";
     const std::tuple<const char*, const char*, std::function<void(QDir)>> cases[] = {
         {"a folder of its name", noAccess, [&](QDir f) { f.remove(Name), f.mkdir(Name); }},
-        {"a folder of its copy's name", noAccess, [&](QDir f) { f.mkdir(Name + '~'); }},
         {"a fifo that nobody reads", noAccess,
          [&](QDir f) { f.remove(Name), ::mkfifo(f.filePath(Name).toUtf8().constData(), 0600); }},
         {"a link round in a circle", noAccess, linkTo(Name)},
@@ -137,7 +253,7 @@ TEST_F(SavingTest, WhereNothingMayBeWrittenTheOldSetStays)
         return User.LastBox().Text.section("\r\n", -1);
     };
     EXPECT_EQ(failure(0444, 0777), "70, Permission denied");
-    EXPECT_EQ(failure(0666, 0555), "70, Permission denied") << "no copy, no save";
+    EXPECT_EQ(failure(0666, 0555), "70, Permission denied") << "no room for a copy, no save";
     ::chmod(folder.constData(), 0700);
 }
 

@@ -4,6 +4,8 @@
 
 #include <QDir>
 #include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
 
 namespace deckforge {
 
@@ -28,6 +30,34 @@ TEST(Files, FailuresAreToldByWhatIsWrongWithThePath)
     EXPECT_EQ(FailureOf([&] { (void)ReadWholeFile(folder.Path("file"), 3); }), 7);
 
     EXPECT_EQ(FailureOf([] { OutputFile("/dev/full").Write("x"); }), 61);
+}
+
+TEST(Files, APipeTakesAllThatIsWrittenHoweverSlowItsReader)
+{
+    const TestFolder folder;
+    const QByteArray fifo = folder.Path("fifo").toUtf8();
+    ASSERT_EQ(::mkfifo(fifo.constData(), 0600), 0);
+    const int reader = ::open(fifo.constData(), O_RDONLY | O_NONBLOCK);
+    const QByteArray text(1 << 20, 'x'); // more than a pipe holds
+    OutputFile file(folder.Path("fifo"));
+    qsizetype got = 0;
+    std::thread reading([&] {
+        QByteArray piece(4096, Qt::Uninitialized);
+        while (got < text.size()) {
+            const ssize_t size = ::read(reader, piece.data(), static_cast<size_t>(piece.size()));
+            if (size == 0)
+                break;
+            got += std::max<ssize_t>(size, 0);
+        }
+    });
+    EXPECT_EQ(FailureOf([&] {
+                  file.Write(text);
+                  file.Close();
+              }),
+              0);
+    reading.join();
+    EXPECT_EQ(got, text.size());
+    ::close(reader);
 }
 
 TEST(Files, BothSeparatorsOpenAFile)
