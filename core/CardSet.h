@@ -2,8 +2,18 @@
 
 #include "core/CardList.h"
 #include "core/Records.h"
+#include "platform/Files.h"
+
+#include <optional>
 
 namespace deckforge {
+
+/// The file that a set was read from or written to last, as it was then. Header.FileName is the path that
+/// this file holds: another one, if the file was copied or moved.
+struct SetFile {
+    QString Path;
+    FileAttributes Attributes;
+};
 
 /// The one card set that a run of the program holds.
 ///
@@ -12,6 +22,7 @@ namespace deckforge {
 /// index is then 0.
 struct CardSet {
     SetHeader Header;
+    std::optional<SetFile> File; ///< nothing for a set that was not read or written yet
     OneBasedArray<CardType> CardTypes;
     OneBasedArray<CardBack> CardBacks;
 

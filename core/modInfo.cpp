@@ -48,6 +48,7 @@ void SetDefaultFont(SetHeader& header)
 void NewSet(CardSet& set)
 {
     set.Header = {};
+    set.File.reset();
     set.Header.SetName = QStringLiteral("New set");
     set.Header.SaveTo = ProgramFolder();
     set.Header.ArtistColor = LightGrey;

@@ -167,6 +167,20 @@ QStringList NameFilters(const QString& filter)
     return filters;
 }
 
+QString ReplaceQuestion(const QString& path, const FileDialogRequest& request)
+{
+    const QFileInfo file(path);
+    const std::optional<FileAttributes> now = AttributesOf(path);
+    const bool isChanged =
+        request.Known && now && IsSameFile(path, request.FileName) && !HaveSameContents(*request.Known, *now);
+    const QString change =
+        isChanged
+            ? QStringLiteral("It has been changed by another program since it was opened or saved here.\n")
+            : QString();
+    return QStringLiteral("%1 already exists in %2.\n%3Do you want to replace it?")
+        .arg(file.fileName(), QDir::toNativeSeparators(file.path()), change);
+}
+
 QtUser::~QtUser()
 {
     SetPointer(Pointer::Default);
@@ -215,7 +229,7 @@ std::optional<QString> QtUser::AskSaveFile(const FileDialogRequest& request)
     Prepare(dialog, request);
     while (dialog.exec() == QDialog::Accepted) {
         const QString path = dialog.selectedFiles().constFirst();
-        if (MayWrite(path, request.Title))
+        if (MayWrite(path, request))
             return Remembered(path);
     }
     return std::nullopt;
@@ -313,21 +327,21 @@ void QtUser::Prepare(QFileDialog& dialog, const FileDialogRequest& request) cons
     dialog.selectFile(isPath ? path : NamePart(path));
 }
 
-bool QtUser::MayWrite(const QString& path, const QString& title)
+bool QtUser::MayWrite(const QString& path, const FileDialogRequest& request)
 {
     const QFileInfo file(path);
     if (!file.dir().exists()) {
         ShowMessage({.Text = QStringLiteral("The folder does not exist:\n\n%1").arg(file.path()),
-                     .Title = title,
+                     .Title = request.Title,
                      .Style = BoxStyle::Exclamation});
         return false;
     }
     if (!file.exists())
         return true;
-    const QString question =
-        QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(file.fileName());
-    const MessageBoxRequest box = {
-        .Text = question, .Title = title, .Style = BoxStyle::Exclamation, .Buttons = BoxButtons::YesNo};
+    const MessageBoxRequest box = {.Text = ReplaceQuestion(path, request),
+                                   .Title = request.Title,
+                                   .Style = BoxStyle::Exclamation,
+                                   .Buttons = BoxButtons::YesNo};
     return RunBox(box, QMessageBox::No, TopWindow()) == QMessageBox::Yes;
 }
 

@@ -37,7 +37,7 @@ public:
 private:
     [[nodiscard]] QWidget* TopWindow() const;
     void Prepare(QFileDialog& dialog, const FileDialogRequest& request) const;
-    [[nodiscard]] bool MayWrite(const QString& path, const QString& title);
+    [[nodiscard]] bool MayWrite(const QString& path, const FileDialogRequest& request);
     [[nodiscard]] QString Remembered(const QString& path);
 
     QWidget* m_window = nullptr;
@@ -45,6 +45,9 @@ private:
     QString m_lastFolder; ///< empty until a file was chosen
     bool m_isHourglass = false;
 };
+
+/// What is asked before a save dialog lets the existing file at the path be replaced.
+[[nodiscard]] QString ReplaceQuestion(const QString& path, const FileDialogRequest& request);
 
 /// "All files(*.*)|*.*|Pictures (*.bmp;*.jpg)|*.bmp;*.jpg" as the name filters of Qt's file dialog. The
 /// pattern for every file also takes those without an extension.

@@ -1,14 +1,17 @@
 #include "core/CardVocabulary.h"
 #include "core/Vocabulary.h"
 #include "core/modInfo.h"
+#include "files/Rescue.h"
 #include "files/SetFields.h"
 #include "files/SetReader.h"
 #include "files/TypeFinder.h"
 #include "files/modFile.h"
 #include "platform/Numbers.h"
+#include "platform/Paths.h"
 #include "platform/SaveFile.h"
 #include "platform/SilentUser.h"
 
+#include <QFileInfo>
 #include <QScopeGuard>
 #include <algorithm>
 
@@ -173,9 +176,20 @@ void MakeValid(CardSet& set)
     }
 }
 
+/// Where the set is to be saved: in the file that it is read from. A backup is to be saved where the set was
+/// that it is for, and holds that path.
+std::optional<SetFile> FileOf(const QString& path)
+{
+    const std::optional<FileAttributes> attributes = AttributesOf(path);
+    if (!attributes || IsSafetyCopy(path) || IsRescuedSet(path))
+        return std::nullopt;
+    return SetFile{QFileInfo(PathToOpen(path)).absoluteFilePath(), *attributes};
+}
+
 /// False for a file that is rejected.
 bool ReadFile(CardSet& set, const QString& path, UserPort& user)
 {
+    std::optional<SetFile> file = FileOf(path);
     SetReader in(ReadWholeFile(path, setFile::MostBytes));
     const auto place = [&] { return path + QLatin1Char(':') + QString::number(in.LineNumber()); };
     try {
@@ -184,7 +198,10 @@ bool ReadFile(CardSet& set, const QString& path, UserPort& user)
             user.ReportProblems({path + QStringLiteral(": Not a card set of this version")});
             return false;
         }
-        const auto finish = qScopeGuard([&] { MakeValid(set); });
+        const auto finish = qScopeGuard([&] {
+            MakeValid(set);
+            set.File = std::move(file);
+        });
         if (!ReadBody(in, *version, set)) {
             Tell(user, BoxStyle::Question, "Error", "No final match!");
             user.ReportProblems({place() + QStringLiteral(": No final match!")});

@@ -39,11 +39,6 @@ QString MakeRoom(const QString& folder, const QString& toOpen)
     return RescuedName(folder, 0);
 }
 
-bool IsSameTime(const timespec& one, const timespec& other)
-{
-    return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
-}
-
 /// Everybody may write into the temporary folder: one of ours is made by us and open to nobody else.
 QString TemporaryFolder()
 {
@@ -65,6 +60,15 @@ QByteArray Fingerprint(const CardSet& set, Unwritable unwritable)
 }
 
 } // namespace
+
+bool IsRescuedSet(const QString& path)
+{
+    for (int age = 0; age <= MaxEarlier; ++age) {
+        if (NamePart(path) == RescuedName({}, age))
+            return true;
+    }
+    return false;
+}
 
 UnsavedWork::UnsavedWork(QString programFolder, std::chrono::milliseconds renewAfter)
     : m_programFolder(std::move(programFolder)), m_renewAfter(renewAfter)
@@ -168,8 +172,7 @@ QString UnsavedWork::PathOfOwn() const
     for (int age = 0; age <= MaxEarlier; ++age) {
         const QString path = RescuedName(m_own->Folder, age);
         const std::optional<FileAttributes> there = AttributesOf(path);
-        if (there && there->Size == m_own->Attributes.Size &&
-            IsSameTime(there->LastWrite, m_own->Attributes.LastWrite))
+        if (there && HaveSameContents(*there, m_own->Attributes))
             return path;
     }
     return {};

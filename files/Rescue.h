@@ -9,6 +9,9 @@
 
 namespace deckforge {
 
+/// Whether a file of that name is a rescued set, in whatever folder.
+[[nodiscard]] bool IsRescuedSet(const QString& path);
+
 /// The set of one run of the program as it was last read, written or made anew, and the rescue file that the
 /// run keeps of what differs from it.
 ///

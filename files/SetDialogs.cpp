@@ -18,11 +18,19 @@ FileDialogRequest SetFileDialog(const char* title, const QString& fileName)
 
 SaveResult SaveSet(CardSet& set, UserPort& user)
 {
-    const std::optional<QString> path = user.AskSaveFile(SetFileDialog("Save Card Set", set.Header.FileName));
+    FileDialogRequest request =
+        SetFileDialog("Save Card Set", set.File ? set.File->Path : set.Header.FileName);
+    if (set.File)
+        request.Known = set.File->Attributes;
+    const std::optional<QString> path = user.AskSaveFile(request);
     if (!path)
         return SaveResult::Cancelled;
-    set.Header.FileName = *path; // first, so that the path stands in the very file that is written
-    return WriteDKF(set, *path, user, Report::Tell) ? SaveResult::Saved : SaveResult::Failed;
+    set.Header.FileName = *path; // first, so that the path is in the very file that is written
+    set.File.reset();            // after a failure the path is proposed again
+    if (!WriteDKF(set, *path, user, Report::Tell))
+        return SaveResult::Failed;
+    set.File = {*path, AttributesOf(*path).value_or(FileAttributes{})};
+    return SaveResult::Saved;
 }
 
 std::optional<QString> AskSetToOpen(UserPort& user)

@@ -26,7 +26,7 @@ void CheckReadable(const QByteArray& bytes);
 /// Reads a set file into the set and returns whether it is read. What was read before a failure stays in the
 /// set, which is a valid one nevertheless. A rejected file (no set, or of a newer version) changes nothing.
 ///
-/// Where a save of the file was cut off, a
+/// That file is then proposed for saving, whatever path it holds. Where a save of the file was cut off, a
 /// box says where its safety copy is.
 [[nodiscard]] bool ReadDKF(CardSet& set, const QString& path, UserPort& user);
 

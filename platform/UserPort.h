@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Files.h"
 #include "platform/FontSpec.h"
 #include "platform/RunTimeError.h"
 
@@ -32,6 +33,8 @@ struct FileDialogRequest {
     int FilterIndex = 1;
     QString DefaultExtension;
     QString Folder; ///< where the dialog starts; empty leaves it where the dialog has it
+    /// The file that FileName names, as the program last read or wrote it; a save dialog warns of changes.
+    std::optional<FileAttributes> Known = {};
 };
 
 /// Everything that the program asks or tells its user, without a word about windows.

@@ -1,4 +1,5 @@
 #include "dialogs/QtUser.h"
+#include "support/TestFolder.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -73,6 +74,22 @@ TEST(QtUser, TheStatusBarHasTheLastProblemAndHowManyMore)
     EXPECT_EQ(window.statusBar()->currentMessage(), "c (and 2 more)");
     user.ReportProblems({});
     EXPECT_EQ(window.statusBar()->currentMessage(), "");
+}
+
+TEST(QtUser, TheReplaceQuestionNamesTheFolderAndAnotherProgramsChange)
+{
+    const TestFolder folder;
+    const QString path = folder.Write("set.dkf", "before");
+    FileDialogRequest request = {
+        .Title = {}, .FileName = path, .Filter = {}, .DefaultExtension = {}, .Folder = {}};
+    const QString plain = "set.dkf already exists in " + folder.Path() + ".\nDo you want to replace it?";
+    EXPECT_EQ(ReplaceQuestion(path, request), plain);
+    request.Known = AttributesOf(path);
+    EXPECT_EQ(ReplaceQuestion(path, request), plain);
+    folder.Write("set.dkf", "changed since");
+    EXPECT_TRUE(ReplaceQuestion(path, request).contains("\nIt has been changed by another program"));
+    const QString other = folder.Write("other.dkf", "another file");
+    EXPECT_FALSE(ReplaceQuestion(other, request).contains("changed"));
 }
 
 } // namespace deckforge

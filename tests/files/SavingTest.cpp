@@ -207,6 +207,11 @@ TEST_F(SavingTest, OpeningAFileWhoseSaveWasCutOffTellsWhereItsCopyIs)
     EXPECT_TRUE(User.LastBox().Text.contains(copy)) << User.LastTold().toStdString();
     EXPECT_TRUE(Save());
     EXPECT_TRUE(QFile::exists(copy)) << "no save takes away what it did not make";
+
+    ASSERT_TRUE(ReadDKF(Set, copy, User));
+    User.WillCancelDialog();
+    SaveSet(Set, User);
+    EXPECT_EQ(User.SaveDialogs[0].FileName, Set.Header.FileName) << "not over the copy";
 }
 
 TEST_F(SavingTest, PlacesThatTakeNoSetAreToldAndLeaveAll)

@@ -1,4 +1,5 @@
 #include "core/SetTables.h"
+#include "files/Rescue.h"
 #include "platform/Paths.h"
 #include "support/SetTest.h"
 
@@ -316,6 +317,35 @@ TEST_F(SetFileTest, ATextThatNoFileCanHoldLeavesTheFileAlone)
     EXPECT_TRUE(User.LastTold().startsWith("Error|The file is NOT saved due to an error.\r\n\r\n5, "));
     EXPECT_TRUE(User.LastBox().Text.contains("Ł"));
     EXPECT_EQ(Folder.Read("written.dkf"), old);
+}
+
+TEST_F(SetFileTest, AFileThatWasMovedIsSavedWhereItIs)
+{
+    const auto proposed = [&] {
+        User.WillCancelDialog();
+        SaveSet(Set, User);
+        return User.SaveDialogs.back();
+    };
+    Set.Header.FileName = "/elsewhere/old.dkf";
+    ASSERT_TRUE(Read(Written()));
+    EXPECT_EQ(Set.Header.FileName, "/elsewhere/old.dkf");
+    EXPECT_EQ(proposed().FileName, Folder.Path("set.dkf"));
+    ASSERT_TRUE(proposed().Known);
+    EXPECT_TRUE(HaveSameContents(*proposed().Known, *AttributesOf(Folder.Path("set.dkf"))));
+
+    User.WillChoose(Folder.Path("none/set.dkf"));
+    EXPECT_EQ(SaveSet(Set, User), SaveResult::Failed);
+    EXPECT_EQ(proposed().FileName, Folder.Path("none/set.dkf")) << "where it was to go";
+    Set.Header.FileName = "/elsewhere/old.dkf";
+
+    UnsavedWork work(Folder.WithSeparator(), std::chrono::minutes(1));
+    ASSERT_TRUE(ReadDKF(Set, work.Rescue(Set), User));
+    EXPECT_EQ(proposed().FileName, "/elsewhere/old.dkf") << "where the rescued set was";
+    EXPECT_FALSE(proposed().Known);
+
+    Read(Written());
+    InitSet(Set);
+    EXPECT_EQ(proposed().FileName, QString()) << "a new set has no file";
 }
 
 TEST_F(SetFileTest, FoldersNamedInAnyLanguageAreSavedAndReadAgain)
