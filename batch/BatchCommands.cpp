@@ -11,6 +11,7 @@
 #include "output/Statistics.h"
 #include "output/frmCardSheet.h"
 #include "output/modCapture.h"
+#include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/Version.h"
 
@@ -178,6 +179,21 @@ void WithSettings(SetHeader& header, const RunSettings& settings, Task&& task)
     header.SaveFormat = saveFormat;
 }
 
+/// Nobody is there to be asked: a set is replaced only by the commands that save it.
+void RejectExisting(const QString& path)
+{
+    if (IsRegularFile(path))
+        throw WrongUse{
+            QStringLiteral("\"%1\" already exists. Choose another name, or delete it first.").arg(path)};
+}
+
+void RejectWritingOverSet(const QString& set, const QString& output)
+{
+    if (IsRegularFile(output) && IsSameFile(set, output))
+        throw WrongUse{
+            QStringLiteral("\"%1\" is the card set itself. Choose another file to write to.").arg(output)};
+}
+
 /// Writes the set as its save command does, once the path is chosen.
 bool WriteSetTo(Workshop& workshop, const QString& path)
 {
@@ -241,6 +257,7 @@ constexpr PrintKind PrintKinds[] = {
 
 ExitStatus RunNew(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
+    RejectExisting(paths[0]);
     return RunOnNewSet(1, [&](Workshop& workshop) { return WriteSetTo(workshop, paths[0]); });
 }
 
@@ -299,6 +316,7 @@ ExitStatus RunHtml(const QStringList& paths, const QCommandLineParser& parser)
 
 ExitStatus RunText(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
+    RejectWritingOverSet(paths[0], paths[1]);
     return RunOnTexts(
         paths[0], [&](Workshop& workshop) { return ExportSetText(workshop.Set, paths[1], workshop.User); });
 }
@@ -321,6 +339,7 @@ ExitStatus RunPrint(const QStringList& paths, const QCommandLineParser& parser)
     const auto kinds = KindsFrom(parser, PrintKinds);
     if (kinds.size() > 1)
         throw WrongUse{QStringLiteral("\"print\" takes one kind.")};
+    RejectWritingOverSet(paths[0], paths[1]);
     const PrintKind& kind = *kinds.front();
     const auto index = static_cast<int16>(NumberOption(parser, "index", std::numeric_limits<int16>::max()));
     const int pixelsPerInch = NumberOption(parser, "resolution", 2400, 72);

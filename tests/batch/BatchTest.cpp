@@ -142,6 +142,19 @@ TEST_F(Batch, TellsAMissingPictureInItsStatusWhereOneIsNeeded)
         EXPECT_EQ(Run(command), 0) << Error.toStdString();
 }
 
+TEST_F(Batch, WritesNothingOverTheSet)
+{
+    const QByteArray set = Folder.Read("a.dkf");
+    ASSERT_TRUE(QFile::link(Folder.Path("a.dkf"), Folder.Path("link")));
+    for (const char* command : {"new SET", "text SET SET", "text SET DIR/link", "text DIR/link SET",
+                                "print SET DIR/link --kind card --index 1"}) {
+        EXPECT_EQ(Run(command), 2) << command;
+        EXPECT_TRUE(Error.startsWith('"' + Folder.Path())) << Error.toStdString();
+    }
+    EXPECT_EQ(Folder.Read("a.dkf"), set);
+    EXPECT_EQ(Run("convert SET SET"), 0) << "saves it";
+}
+
 TEST_F(Batch, RefusesAWrongCommandLineAndShowsItsUse)
 {
     for (const char* wrong : {"", "paint a.dkf", "new", "new a.dkf a.dkf", "convert a.dkf",
