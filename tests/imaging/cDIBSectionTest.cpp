@@ -69,6 +69,9 @@ TEST(cDIBSection, CopiesAreCutToBothSurfaces)
     for (const auto& [x, y, width, height, sourceX, sourceY, expected] : {
              std::tuple{0, 0, -1, -1, 0, 0, PixelRows{"rg.", "b#."}},
              {0, 0, -1, 1, 0, 0, {"rg.", "..."}}, // the full width of a strip
+             {0, 0, 1, -1, 0, 0, {"r..", "b.."}},
+             {0, 0, 0, -1, 0, 0, {"...", "..."}}, // no extent is none, not all
+             {0, 0, -1, 0, 0, 0, {"...", "..."}},
              {2, 1, -1, -1, 0, 0, {"...", "..r"}},
              {-1, 0, -1, -1, 0, 0, {"g..", "#.."}},
              {0, 0, -1, -1, 1, 1, {"#..", "..."}},
@@ -82,6 +85,11 @@ TEST(cDIBSection, CopiesAreCutToBothSurfaces)
     cDIBSection taken = SectionOf({"...", "..."});
     taken.LoadPictureBlt(source.hdc(), 1, 0);
     EXPECT_EQ(RowsOf(taken), (PixelRows{"g..", "#.."}));
+    taken.LoadPictureBlt(source.hdc(), 0, 0, 0, -1);
+    taken.LoadPictureBlt(source.hdc(), 0, 0, -1, 0);
+    EXPECT_EQ(RowsOf(taken), (PixelRows{"g..", "#.."})) << "no extent is none";
+    taken.LoadPictureBlt(source.hdc(), 0, 0, 1, 1);
+    EXPECT_EQ(RowsOf(taken), (PixelRows{"r..", "#.."}));
 }
 
 TEST(cDIBSection, ResampleBlendsBetweenNeighboursAndNeverReachesTheLast)
@@ -101,16 +109,37 @@ TEST(cDIBSection, ResampleBlendsBetweenNeighboursAndNeverReachesTheLast)
     EXPECT_EQ(RowsOf(*fromOnePixel), (PixelRows{"rrr", "rrr"}));
 }
 
-TEST(cDIBSection, TestPatternsHaveTheirChannels)
+TEST(cDIBSection, TestPatternsFillItWithGreenAndRed)
 {
     cDIBSection section;
-    ASSERT_TRUE(section.Create(4, 1));
+    ASSERT_TRUE(section.Create(8, 4));
     section.RandomiseBits(false);
-    for (int byte = 0; byte < 12; byte += 3)
-        EXPECT_EQ(section.hDib()[static_cast<std::size_t>(byte)], 0) << "never any blue";
+    int green = 0; // bits of the last column
+    int red = 0;
+    for (int y = 0; y < 4; ++y) {
+        const std::uint8_t* row = section.hdc().Row(y);
+        for (int x = 0; x < 8; ++x)
+            EXPECT_EQ(row[3 * x], 0) << "never any blue";
+        green |= row[3 * 7 + 1];
+        red |= row[3 * 7 + 2];
+    }
+    EXPECT_NE(green, 0);
+    EXPECT_NE(red, 0);
+}
+
+TEST(cDIBSection, TestPatternsCanBeGrey)
+{
+    cDIBSection section;
+    ASSERT_TRUE(section.Create(8, 4));
     section.RandomiseBits(true);
-    EXPECT_EQ(section.hDib()[3], section.hDib()[4]);
-    EXPECT_EQ(section.hDib()[4], section.hDib()[5]);
+    int levels = 0;
+    for (int y = 0; y < 4; ++y) {
+        const std::uint8_t* last = section.hdc().Row(y) + 3 * 7;
+        EXPECT_EQ(last[0], last[1]);
+        EXPECT_EQ(last[1], last[2]);
+        levels |= last[0];
+    }
+    EXPECT_NE(levels, 0);
 }
 
 TEST(cDIBSection, GoesToTheClipboardAsABitmapOnly)
