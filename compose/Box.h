@@ -34,6 +34,8 @@ struct Box {
     [[nodiscard]] QRect Place() const { return {Left, Top, Width, Height}; }
     [[nodiscard]] int BorderWidth() const { return Border == BorderStyle::Single ? 1 : 0; }
 
+    void SetOutlined(bool isOutlined) { Border = isOutlined ? BorderStyle::Single : BorderStyle::None; }
+
     // Error 380 for a negative extent, which changes nothing.
     void SetWidth(int width);
     void SetHeight(int height);

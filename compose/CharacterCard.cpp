@@ -19,7 +19,7 @@ constexpr int TextRight = 272;
 void PlaceFrame(ShowRun& run, CharacterTemplate& t, const Character& character)
 {
     t.picFrameCharacter.SetHeight(character.Frame ? FramedHeight : UnframedHeight);
-    t.picFrameCharacter.Border = character.Frame ? BorderStyle::Single : BorderStyle::None;
+    t.picFrameCharacter.SetOutlined(character.Frame);
     run([&] { t.picFrameCharacter.SetWidth(character.FrameHeight); });
 }
 

@@ -23,7 +23,7 @@ void PlaceFrame(ShowRun& run, LargeCardTemplate& t, const LargeCard& card)
 {
     t.picFrameLarge.Visible = card.ShowPicture;
     t.lblPicSizeLarge.Visible = card.ShowPicture;
-    t.picFrameLarge.Border = card.Frame ? BorderStyle::Single : BorderStyle::None;
+    t.picFrameLarge.SetOutlined(card.Frame);
     run([&] { t.picFrameLarge.SetWidth(card.FrameHeight); });
 }
 

@@ -15,18 +15,8 @@ struct SetFile {
     FileAttributes Attributes;
 };
 
-/// The one card set that a run of the program holds.
-///
-/// The two tables of vocabulary hold the built-in rows and behind them the set's own. There is at least one
-/// standard card, and Cards.Current is one of them; of the other kinds there may be none, and their current
-/// index is then 0.
-struct CardSet {
-    SetHeader Header;
-    std::optional<SetFile> File; ///< nothing for a set that was not read or written yet
-    OneBasedArray<CardType> CardTypes;
-    OneBasedArray<CardBack> CardBacks;
-
-    // What a new card takes.
+/// What a new card takes.
+struct NewCardValues {
     QString LastType;
     QString LastTypeReversed;
     QString LastSubType;
@@ -34,6 +24,20 @@ struct CardSet {
     int16 LastNumber = 0;
     int16 LastCardBack = 0;
     QString LastBackground;
+
+    friend bool operator==(const NewCardValues&, const NewCardValues&) = default;
+};
+
+/// The one card set that a run of the program holds.
+///
+/// The two tables of vocabulary hold the built-in rows and behind them the set's own. There is at least one
+/// standard card, and Cards.Current is one of them; of the other kinds there may be none, and their current
+/// index is then 0.
+struct CardSet : NewCardValues {
+    SetHeader Header;
+    std::optional<SetFile> File; ///< nothing for a set that was not read or written yet
+    OneBasedArray<CardType> CardTypes;
+    OneBasedArray<CardBack> CardBacks;
 
     CardList<Card> Cards;
     CardList<LargeCard> LargeCards;

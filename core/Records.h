@@ -44,6 +44,8 @@ struct SetHeader {
     FontSpec FontAlignment;
     FontSpec FontPlayingPiece;
     Colour ArtistColor = Black;
+
+    friend bool operator==(const SetHeader&, const SetHeader&) = default;
 };
 
 /// One row of the table of card types.
@@ -54,6 +56,8 @@ struct CardType {
     QString ReversedSubName;
     int16 Number = 0; ///< the number that a card of this type takes; -1 for none
     bool BuiltIn = false;
+
+    friend bool operator==(const CardType&, const CardType&) = default;
 };
 
 /// One row of the table of card backs.
@@ -61,6 +65,8 @@ struct CardBack {
     QString Name;
     QString Picture; ///< empty for built-in rows, whose art goes by the index of the row
     bool BuiltIn = false;
+
+    friend bool operator==(const CardBack&, const CardBack&) = default;
 };
 
 /// A standard card.
@@ -88,6 +94,8 @@ struct Card {
     int16 CardBack = 0; ///< row of CardBacks
     Colour Color = Black;
     QString Filename; ///< bare name of the image file last created, without folder and extension
+
+    friend bool operator==(const Card&, const Card&) = default;
 };
 
 /// A double-width card.
@@ -106,6 +114,8 @@ struct LargeCard {
     QString CardBack; ///< picture file of the back
     Colour Color = Black;
     QString Filename;
+
+    friend bool operator==(const LargeCard&, const LargeCard&) = default;
 };
 
 /// A character card and its stand-up playing piece. The attributes are text, since they can read "---".
@@ -131,6 +141,8 @@ struct Character {
     QString PlayingPiece;
     double PlayingPieceTop = 0;
     double PlayingPieceLeft = 0;
+
+    friend bool operator==(const Character&, const Character&) = default;
 };
 
 /// The attributes of a character in the order of their strips and lists.
@@ -148,6 +160,8 @@ struct NewCardBack {
     Colour BackColor = Black;
     bool UsePicture = false;
     QString Picture;
+
+    friend bool operator==(const NewCardBack&, const NewCardBack&) = default;
 };
 
 } // namespace deckforge

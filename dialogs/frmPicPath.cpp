@@ -2,7 +2,7 @@
 
 #include "compose/Workshop.h"
 #include "core/PicturePaths.h"
-#include "dialogs/DialogHandlers.h"
+#include "dialogs/Handlers.h"
 #include "dialogs/RowDelegate.h"
 #include "ui_frmPicPath.h"
 

@@ -1,187 +1,83 @@
 #include "editor/frmQDW.h"
+
+#include "compose/FontScheme.h"
 #include "compose/SetView.h"
-#include "dialogs/CardPreview.h"
 #include "dialogs/FocusSelection.h"
 #include "dialogs/PlainTexts.h"
+#include "dialogs/TabKeys.h"
 #include "dialogs/WheelGuard.h"
-#include "platform/Paths.h"
-#include "ui_fraCard.h"
-#include "ui_fraCardBack.h"
-#include "ui_fraCharacter.h"
-#include "ui_fraLargeCard.h"
-#include "ui_fraSet.h"
+#include "editor/BackPage.h"
+#include "editor/CharacterPage.h"
+#include "editor/Commands.h"
+#include "editor/LargePage.h"
+#include "editor/PreviewController.h"
+#include "editor/SetInfoPanel.h"
+#include "editor/StandardPage.h"
 
-#include <QAction>
+#include <QApplication>
 #include <QBoxLayout>
-#include <QButtonGroup>
-#include <QLabel>
 #include <QProgressBar>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabBar>
-#include <QToolBar>
-#include <QToolButton>
 
 namespace deckforge {
 
-namespace {
-
-constexpr int UsualZoom = 2;
-
-/// The form as a widget with its controls.
-template <class Widget, class Form>
-QWidget* MakeForm(Form& form, QWidget* parent)
-{
-    auto* const widget = new Widget(parent);
-    form.setupUi(widget);
-    return widget;
-}
-
-/// Wants room for all of the preview, and takes less where the screen is small.
-class PreviewArea final : public QScrollArea {
-public:
-    explicit PreviewArea(CardPreview* preview, QWidget* parent) : QScrollArea(parent)
-    {
-        setWidget(preview);
-        setFrameShape(QFrame::NoFrame);
-        setAlignment(Qt::AlignLeft | Qt::AlignBottom);
-        setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
-        setFocusPolicy(Qt::NoFocus);
-    }
-
-    [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
-    [[nodiscard]] QSize minimumSizeHint() const override
-    {
-        return DoubleCardSize; // at its smallest zoom
-    }
-};
-
-} // namespace
-
 frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
-    : m_workshop(user), m_work(ProgramFolder(), renewRescueAfter), m_card(std::make_unique<Ui::fraCard>()),
-      m_large(std::make_unique<Ui::fraLargeCard>()), m_character(std::make_unique<Ui::fraCharacter>()),
-      m_back(std::make_unique<Ui::fraCardBack>()), m_set(std::make_unique<Ui::fraSet>())
+    : m_works(user), m_document(m_works.Set, user, renewRescueAfter),
+      m_preview(new CardPreview(PreviewBoxes(m_works.Templates), this)), m_parts{.Works = m_works,
+                                                                                 .Document = m_document,
+                                                                                 .Preview = *m_preview,
+                                                                                 .User = user},
+      tbCard(new QTabBar(this)), m_forms(new QStackedWidget(this)), m_progress(new QProgressBar(this)),
+      m_hint(new QLabel(this))
 {
     setObjectName(QStringLiteral("frmQDW"));
     setWindowTitle(QStringLiteral("Varnhelm Deck Forge"));
     setContextMenuPolicy(Qt::PreventContextMenu); // it would offer to hide the tool bar
     setAcceptDrops(true);
     ShowTextsAsPlain(*this);
-    BuildForms();
+    MakeParts();
     BuildLayout();
-    BuildToolBar();
     BuildStatusBar();
-    FillLists();
-    BindFields();
-    BindLists();
-    BindPictures();
-    BindCards();
-    BindDialogs();
-    BindPreview();
-    BindModes();
+    BindTabs();
+    BindDocument();
     BindFocus();
-    Guarded([this] { InitForm(); });
-    m_card->txtTitle->setFocus();
-    m_card->txtTitle->selectAll();
-    SetZoom(UsualZoom);
+    Guarded(user, [this] {
+        InitForm(m_works);
+        ShowNewSet();
+    });
+    m_document.Keep();
+    m_standard->StartTyping();
+    m_controller->SetZoom(m_preview->Zoom());
     if (sizeHint().width() > LargestSize().width())
-        SetZoom(1);
+        m_controller->SetZoom(1);
 }
 
 frmQDW::~frmQDW() = default;
 
-void frmQDW::Start(const QString& commandLine)
+void frmQDW::MakeParts()
 {
-    if (!commandLine.isEmpty())
-        Guarded([&] { DoOpenDKF(commandLine); });
-    NoteEarlierRescue();
-}
-
-void frmQDW::ShowProgress(int done, int total)
-{
-    m_isBusy = done < total;
-    m_progress->setMaximum(total);
-    m_progress->setValue(done);
-    m_progress->setVisible(done < total);
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
-void frmQDW::BuildToolBar()
-{
-    struct Command {
-        const char* Key; ///< also the name of its image; null for a separator
-        const char* ToolTip;
-        void (frmQDW::*Run)();
-        QKeySequence Shortcut;
-    };
-    const Command commands[] = {
-        {"exit", "Exit deck forge", &frmQDW::Exit, {}},
-        {},
-        {"new", "New card set", &frmQDW::NewSet, {}},
-        {"open", "Open card set", &frmQDW::OpenSet, Qt::CTRL | Qt::Key_O},
-        {"save", "Save card set", &frmQDW::SaveSet, Qt::CTRL | Qt::Key_S},
-        {"changepicpath", "Change path for pictures in set", &frmQDW::ChangePicPath, {}},
-        {},
-        {"copy", "Copy current card", &frmQDW::Copy, {}},
-        {"paste", "Paste current card", &frmQDW::Paste, {}},
-        {},
-        {"setinfo", "Set card defaults", &frmQDW::SetInfo, {}},
-        {"choosefont", "Set card fonts", &frmQDW::ChangeFonts, {}},
-        {},
-        {"exportback", "Export cardbacks to disk", &frmQDW::ExportBacks, {}},
-        {"createone", "Create one card", &frmQDW::CreateOne, {}},
-        {"createall", "Create all cards", &frmQDW::CreateAll, {}},
-        {"createsheet", "Create card sheets", &frmQDW::CreateSheets, {}},
-        {"html", "Generate HTML", &frmQDW::CreateHtml, {}},
-        {"exporttext", "Export set to textfile", &frmQDW::ExportListing, {}},
-        {"printcard", "Print the current card", &frmQDW::PrintCurrent, {}},
-        {},
-        {"statistics", "Show statistics", &frmQDW::ShowStatistics, {}},
-        {"about", "About", &frmQDW::About, {}},
-    };
-    QToolBar* const tbCardCreator = addToolBar(QStringLiteral("Commands"));
-    tbCardCreator->setObjectName(QStringLiteral("tbCardCreator"));
-    tbCardCreator->setMovable(false);
-    for (const Command& command : commands) {
-        if (!command.Key) {
-            tbCardCreator->addSeparator();
-            continue;
-        }
-        const QString key = QString::fromLatin1(command.Key);
-        auto* const action = new QAction(QIcon(QStringLiteral(":/deckforge/toolbar/%1.svg").arg(key)),
-                                         QString::fromLatin1(command.ToolTip), this);
-        action->setObjectName(key);
-        action->setShortcut(command.Shortcut);
-        On(action, &QAction::triggered, [this, run = command.Run] { (this->*run)(); });
-        tbCardCreator->addAction(action);
-        tbCardCreator->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
-    }
-}
-
-void frmQDW::BuildForms()
-{
-    tbCard = new QTabBar(this);
     tbCard->setObjectName(QStringLiteral("tbCard"));
     tbCard->setAccessibleName(QStringLiteral("Kind of card"));
     tbCard->setExpanding(false);
     tbCard->setDrawBase(false); // the pane below has a frame
     for (const char* caption : {"Card", "Large Card", "Character", "Card Back"})
         tbCard->addTab(QString::fromLatin1(caption));
-    fraCard = MakeForm<QWidget>(*m_card, this);
-    fraLargeCard = MakeForm<QWidget>(*m_large, this);
-    fraCharacter = MakeForm<QWidget>(*m_character, this);
-    fraCardBack = MakeForm<QWidget>(*m_back, this);
-    fraSet = MakeForm<QGroupBox>(*m_set, this);
-    m_forms = new QStackedWidget(this);
-    for (QWidget* form : {fraCard, fraLargeCard, fraCharacter, fraCardBack})
-        m_forms->addWidget(form);
-    m_preview = new CardPreview(PreviewBoxes(m_workshop.Templates), this);
+    auto standard = std::make_unique<StandardPage>(m_parts, this);
+    m_standard = standard.get();
+    m_pages = {std::move(standard), std::make_unique<LargePage>(m_parts, this),
+               std::make_unique<CharacterPage>(m_parts, this), std::make_unique<BackPage>(m_parts, this)};
+    m_info = std::make_unique<SetInfoPanel>(m_parts, this);
+    for (const auto& page : m_pages)
+        m_forms->addWidget(page->Form());
     m_preview->setObjectName(QStringLiteral("preview"));
-    m_preview->SetZoom(UsualZoom);
-    m_previewArea = new PreviewArea(m_preview, this);
+    m_controller = new PreviewController(
+        m_parts, [this](CardKind kind) { PageOf(kind).ShowFrameSize(); }, [this] { SizeToFit(); }, this);
+    new Commands(m_parts, *this);
     setTabOrder(tbCard, m_preview); // and on to the forms, as they lie from left to right
     setTabOrder(m_preview, m_forms);
 }
@@ -191,7 +87,7 @@ void frmQDW::BuildLayout()
     auto* const pane = new QFrame(this);
     pane->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     auto* const card = new QHBoxLayout(pane);
-    card->addWidget(m_previewArea);
+    card->addWidget(m_controller->Area());
     card->addSpacing(card->spacing());
     card->addWidget(m_forms, 1);
 
@@ -202,7 +98,7 @@ void frmQDW::BuildLayout()
 
     auto* const all = new QHBoxLayout;
     all->addLayout(tabs, 1);
-    all->addWidget(fraSet);
+    all->addWidget(m_info->Form());
     setCentralWidget(new QWidget(this));
     centralWidget()->setLayout(all);
     QMargins margins = all->contentsMargins();
@@ -212,68 +108,53 @@ void frmQDW::BuildLayout()
 
 void frmQDW::BuildStatusBar()
 {
-    m_progress = new QProgressBar(this);
     m_progress->setObjectName(QStringLiteral("progress"));
     m_progress->setAccessibleName(QStringLiteral("Progress"));
     m_progress->hide();
     statusBar()->addPermanentWidget(m_progress, 1); // others make way for a message
 
-    m_hint = new QLabel(this);
     m_hint->setObjectName(QStringLiteral("hint"));
     m_hint->setMinimumWidth(1); // a long text is cut, and does not widen the window
     m_hint->hide();
     statusBar()->addPermanentWidget(m_hint);
     connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QWidget::setToolTip);
-
-    m_zooms = new QButtonGroup(this);
-    for (int zoom = 1; zoom <= CardPreview::MostZoom; ++zoom) {
-        auto* const button = new QToolButton(this);
-        const QString text = QStringLiteral("%1x").arg(zoom);
-        button->setObjectName(QStringLiteral("cmdZoom%1").arg(zoom));
-        button->setText(text);
-        button->setToolTip(QStringLiteral("Show the card at %1 times its size").arg(zoom));
-        button->setAccessibleName(QStringLiteral("Zoom %1").arg(text));
-        button->setCheckable(true);
-        button->setAutoRaise(true);
-        button->setChecked(zoom == m_preview->Zoom());
-        button->setFocusPolicy(Qt::TabFocus);
-        m_zooms->addButton(button, zoom);
+    for (QAbstractButton* button : m_controller->ZoomButtons())
         statusBar()->addPermanentWidget(button);
-    }
+}
+
+void frmQDW::BindTabs()
+{
+    OnSignal(m_parts.User, tbCard, &QTabBar::currentChanged, this, [this] { TabClicked(); });
+    OnSignal(m_parts.User, tbCard, &QTabBar::tabBarClicked, this, [this](int index) {
+        if (index == tbCard->currentIndex()) // another one changes it
+            TabClicked();
+    });
+    BindTabKeys(*tbCard);
+}
+
+void frmQDW::BindDocument()
+{
+    connect(&m_document, &SetDocument::Noted, this, &frmQDW::AddNote);
+    connect(&m_document, &SetDocument::UnsavableBecause, this, &frmQDW::ShowHint);
+    OnSignal(m_parts.User, &m_document, &SetDocument::Restored, this,
+             [this](const std::optional<CardKind>& kind) { ShowRestored(kind); });
+    connect(qApp, &QApplication::focusChanged, this, [this] { m_document.EndVisit(); });
 }
 
 /// These boxes are ready for new text when they get the keyboard.
 void frmQDW::BindFocus()
 {
-    QWidget* const boxes[] = {m_card->txtTitle,           m_card->cboType,
-                              m_card->cboNumber,          m_card->txtBold,
-                              m_large->txtTitleLarge,     m_character->txtCharName,
-                              m_character->cboStartArea,  m_character->cboAlignment,
-                              m_character->cboCharAttr0,  m_character->cboCharAttr1,
-                              m_character->cboCharAttr2,  m_character->cboCharAttr3,
-                              m_back->txtNewCardBackName, m_set->txtSetname,
-                              m_set->txtFilenamePrefix};
-    for (QWidget* box : boxes)
-        box->installEventFilter(this);
-    m_set->lblSetName->installEventFilter(this);
+    const auto bind = [this](const auto& form) {
+        for (QWidget* box : form.BoxesToReplace())
+            box->installEventFilter(this);
+    };
+    bind(*m_standard);
+    bind(static_cast<const LargePage&>(PageOf(CardKind::Large)));
+    bind(static_cast<const CharacterPage&>(PageOf(CardKind::Character)));
+    bind(static_cast<const BackPage&>(PageOf(CardKind::NewBack)));
+    bind(*m_info);
+    m_info->NameLabel()->installEventFilter(this);
     GuardFromWheel(*this);
-}
-
-bool frmQDW::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::FocusIn)
-        SelectAll(watched, static_cast<QFocusEvent*>(event)->reason());
-    else if (event->type() == QEvent::MouseButtonRelease && watched == m_set->lblSetName)
-        Guarded([this] { ShowOffsets(); });
-    return QMainWindow::eventFilter(watched, event);
-}
-
-void frmQDW::SelectAll(QObject* box, Qt::FocusReason reason)
-{
-    auto* const list = qobject_cast<QComboBox*>(box);
-    auto* const line = list ? list->lineEdit() : qobject_cast<QLineEdit*>(box);
-    if (line)
-        SelectAllOnFocus(*line, reason);
 }
 
 /// What the screen has room for beside a frame.
@@ -286,6 +167,11 @@ QSize frmQDW::LargestSize() const
 /// Gives the window what its contents want, as far as the screen has it. What the user made larger stays so.
 void frmQDW::SizeToFit()
 {
+    // Up to the window, or else it would want what the zoom before did.
+    for (QWidget* parent = m_controller->Area()->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (QLayout* const layout = parent->layout())
+            layout->activate();
+    }
     if (isMaximized() || isFullScreen())
         return;
     if (m_fittedSize.isValid() && size() != m_fittedSize)
@@ -294,46 +180,72 @@ void frmQDW::SizeToFit()
     m_fittedSize = size();
 }
 
-void frmQDW::resizeEvent(QResizeEvent* event)
+CardKind frmQDW::SelectedKind() const
 {
-    constexpr int fromLeft = 11;
-    constexpr int fromBottom = 265;
-    OffsetLeft = fromLeft;
-    OffsetTop = static_cast<int16>(frameGeometry().height() - fromBottom);
-    QMainWindow::resizeEvent(event);
+    return static_cast<CardKind>(tbCard->currentIndex());
 }
 
-void frmQDW::InitForm()
+void frmQDW::TabClicked()
 {
-    deckforge::InitForm(m_workshop);
-    m_work.Keep(m_workshop.Set);
-    FillCardTypeList();
-    FillCardBackList();
-    m_card->hsbCard->setRange(1, 1);
-    FillSet();
-    CardSizeSwitch(CardKind::Standard);
-    FillCard();
+    tbCard->setFocus(); // it would wander off the fields that go
+    ShowKind(SelectedKind());
+    SelectedPage().Enter();
 }
 
-/// The set may have changed.
-void frmQDW::AfterHandler()
+/// Shows what the tab of a kind edits, the front of the card first. The tab itself stays as it is.
+void frmQDW::ShowKind(CardKind kind)
 {
-    if (!m_hint->isHidden())
-        RenewHint();
-    try {
-        WithMemoryAsFailure([this] { m_work.Renew(m_workshop.Set); });
-    } catch (const RunTimeError& error) {
-        statusBar()->showMessage(
-            QStringLiteral("Unsaved changes cannot be rescued: %1. Save the set.").arg(error.Description()));
-    }
+    m_forms->setCurrentIndex(static_cast<int>(kind));
+    for (const auto& page : m_pages)
+        page->SetShown(page->Kind() == kind);
+    m_preview->SettleFocus();
 }
 
-void frmQDW::TellFailure(const RunTimeError& error)
+void frmQDW::RunCommand(const std::function<void()>& work)
 {
-    m_isBusy = false;
-    m_progress->hide();
-    m_workshop.User.SetPointer(Pointer::Default);
-    TellUntrapped(m_workshop.User, error);
+    const auto endProgress = qScopeGuard([this] {
+        m_isBusy = false;
+        m_progress->hide();
+        m_parts.User.SetPointer(Pointer::Default);
+    });
+    work();
+}
+
+void frmQDW::ShowProgress(int done, int total)
+{
+    m_isBusy = done < total;
+    m_progress->setMaximum(total);
+    m_progress->setValue(done);
+    m_progress->setVisible(done < total);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void frmQDW::ShowTables()
+{
+    m_standard->FillBackList();
+    m_standard->FillTypeList();
+    m_standard->Show(m_document.Set().Cards.Current);
+}
+
+void frmQDW::ShowFonts()
+{
+    SetFont(m_works.Templates, m_document.Set().Header);
+    m_standard->ShowArtist();
+    m_preview->update();
+}
+
+void frmQDW::AddNote(const QString& note)
+{
+    const QString before = statusBar()->currentMessage();
+    statusBar()->showMessage(before.isEmpty() ? note : before + QStringLiteral("  ") + note);
+}
+
+/// Says why the next save would fail, until it would not.
+void frmQDW::ShowHint(const QString& reason)
+{
+    m_hint->setText(reason);
+    m_hint->setToolTip(reason);
+    m_hint->setHidden(reason.isEmpty());
 }
 
 } // namespace deckforge

@@ -1,10 +1,10 @@
+#include "compose/FontScheme.h"
 #include "compose/SetView.h"
-#include "dialogs/CardPreview.h"
+#include "editor/Page.h"
+#include "editor/SetInfoPanel.h"
+#include "editor/StandardPage.h"
 #include "editor/frmQDW.h"
 #include "platform/Paths.h"
-#include "ui_fraCard.h"
-#include "ui_fraCharacter.h"
-#include "ui_fraLargeCard.h"
 
 #include <QDropEvent>
 #include <QMimeData>
@@ -13,7 +13,6 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
-#include <algorithm>
 
 namespace deckforge {
 
@@ -33,13 +32,6 @@ bool HasExtension(const QString& path, std::initializer_list<const char*> extens
     });
 }
 
-/// A slider past its new end goes there without showing what it stands for.
-void SetMaximumQuietly(QScrollBar& slider, int most)
-{
-    const QSignalBlocker quiet(slider);
-    slider.setMaximum(std::max(1, most));
-}
-
 bool IsSetFile(const QString& path)
 {
     return HasExtension(path, {".dkf"});
@@ -54,83 +46,111 @@ bool IsPictureFile(const QString& path)
 
 void frmQDW::Exit()
 {
-    const Answer answer = AskToSave(BoxButtons::YesNoCancel);
+    const Answer answer = m_document.AskToSave(BoxButtons::YesNoCancel);
     if (answer == Answer::Cancel)
         return;
     const QScopedValueRollback mayLose(m_mayLose, answer == Answer::No);
     close();
 }
 
-/// A question that is put aside makes no new set.
+/// A question that is cancelled makes no new set.
 void frmQDW::NewSet()
 {
-    std::optional<QString> rescued;
-    if (AskToSave(BoxButtons::YesNo) == Answer::Cancel || !LeaveSet(rescued))
+    statusBar()->clearMessage();
+    if (m_document.AskToSave(BoxButtons::YesNo) == Answer::Cancel)
         return;
-    InitForm();
-    NoteRescued(rescued);
+    const auto makeNew = [this](CardSet&) {
+        InitForm(m_works);
+        return true;
+    };
+    if (m_document.Replace(QStringLiteral("New card set"), {}, makeNew))
+        ShowNewSet();
+}
+
+void frmQDW::ShowNewSet()
+{
+    m_standard->TakeSet();
+    m_info->Fill();
+    ShowKind(CardKind::Standard);
+    m_standard->Fill();
 }
 
 void frmQDW::OpenSet()
 {
-    if (const auto path = AskSetToOpen(m_workshop.User))
-        DoOpenDKF(*path);
+    if (const auto path = AskSetToOpen(m_parts.User))
+        OpenFile(*path);
 }
 
-void frmQDW::SaveSet()
+void frmQDW::OpenFile(const QString& path)
 {
-    AskWhereAndSave();
+    statusBar()->clearMessage();
+    const auto read = [&](CardSet& set) { return ReadDKF(set, path, m_parts.User); };
+    if (m_document.Replace(QStringLiteral("Open card set"), PathToOpen(path), read))
+        ShowOpened();
 }
 
-SaveResult frmQDW::AskWhereAndSave()
+void frmQDW::ShowOpened()
 {
-    const SaveResult result = deckforge::SaveSet(m_workshop.Set, m_workshop.User);
-    if (result == SaveResult::Saved) {
-        statusBar()->clearMessage();
-        m_work.Keep(m_workshop.Set, FolderPart(m_workshop.Set.Header.FileName));
-    }
-    return result;
-}
-
-/// Nobody keeps account of changes: the question comes every time. A save that is cancelled keeps nothing
-/// from going on. One that failed does: it counts as a question put aside, and the set stays.
-Answer frmQDW::AskToSave(BoxButtons buttons)
-{
-    const Answer answer = m_workshop.User.ShowMessage({.Text = QStringLiteral("Save current set?"),
-                                                       .Title = QStringLiteral("Save..."),
-                                                       .Style = BoxStyle::Question,
-                                                       .Buttons = buttons});
-    if (answer == Answer::Yes && AskWhereAndSave() == SaveResult::Failed)
-        return Answer::Cancel;
-    return answer;
-}
-
-void frmQDW::DoOpenDKF(const QString& path)
-{
-    CardSet& set = m_workshop.Set;
-    std::optional<QString> rescued;
-    if (!LeaveSet(rescued, PathToOpen(path)))
-        return;
-    const bool isRead = ReadDKF(set, path, m_workshop.User);
-    if (isRead || !m_work.ReturnTo(set))
-        NoteRescued(rescued);
-    if (!isRead)
-        return;
-    m_work.Keep(set, FolderPart(PathToOpen(path)));
     {
         const QSignalBlocker quiet(tbCard); // the cards of the set before are gone
         tbCard->setCurrentIndex(0);
     }
-    CardSizeSwitch(CardKind::Standard);
-    // Ranges alone: the sliders do not go to the first cards, which are shown.
-    SetMaximumQuietly(*m_card->hsbCard, set.Cards.Count());
-    SetMaximumQuietly(*m_large->hsbCardLarge, set.LargeCards.Count());
-    SetMaximumQuietly(*m_character->hsbCharacter, set.Characters.Count());
-    FillCardBackList();
-    FillCardTypeList();
-    ShowOpenedSet(m_workshop);
-    FillSet();
-    FillCard();
+    ShowKind(CardKind::Standard);
+    for (const auto& page : m_pages)
+        page->TakeSet();
+    ShowOpenedSet(m_works);
+    m_info->Fill();
+    m_standard->Fill();
+}
+
+void frmQDW::OpenDropped(const QString& path)
+{
+    if (m_document.AskToSave(BoxButtons::YesNo) != Answer::Cancel)
+        OpenFile(path);
+}
+
+void frmQDW::SaveSet()
+{
+    statusBar()->clearMessage();
+    m_document.Save();
+}
+
+void frmQDW::Start(const QString& commandLine)
+{
+    if (!commandLine.isEmpty())
+        Guarded(m_parts.User, [&] { OpenFile(commandLine); });
+    m_document.NoteEarlierRescue();
+}
+
+/// Shows the set as a step left it, at the tab where the step was.
+void frmQDW::ShowRestored(const std::optional<CardKind>& kind)
+{
+    const CardSet& set = m_document.Set();
+    CardKind shown = kind.value_or(SelectedKind());
+    if (CountOf(set, shown) == 0)
+        shown = CardKind::Standard;
+    {
+        const QSignalBlocker quiet(tbCard);
+        tbCard->setCurrentIndex(static_cast<int>(shown));
+    }
+    for (const auto& page : m_pages) {
+        page->TakeSet();
+        page->SyncSlider();
+    }
+    ShowSet(m_works);
+    SetFont(m_works.Templates, set.Header);
+    m_info->Fill();
+    ShowKind(shown);
+    SelectedPage().Show(CurrentOf(set, shown));
+}
+
+/// A run goes on to its end: it would come back to a window that is gone.
+void frmQDW::closeEvent(QCloseEvent* event)
+{
+    statusBar()->clearMessage();
+    event->setAccepted(!m_isBusy && (m_document.Leave() || m_mayLose));
+    if (event->isAccepted())
+        m_document.Keep();
 }
 
 bool frmQDW::TakesDrop(const QDropEvent& event) const
@@ -161,61 +181,23 @@ void frmQDW::dropEvent(QDropEvent* event)
     event->acceptProposedAction();
     const QString path = DroppedFile(*event);
     if (IsSetFile(path)) {
-        // Where the file comes from waits for the end of the drop, not of the question.
-        QTimer::singleShot(0, this, [this, path] { Guarded([&] { OpenDropped(path); }); });
+        // The source of the drop waits for its end, which is not to wait for the question.
+        QTimer::singleShot(0, this, [this, path] { Guarded(m_parts.User, [&] { OpenDropped(path); }); });
         return;
     }
-    Guarded([&] { DropOn(m_preview->BoxAt(m_preview->mapFrom(this, event->position())), path); });
+    Guarded(m_parts.User,
+            [&] { DropPicture(m_preview->BoxAt(m_preview->mapFrom(this, event->position())), path); });
 }
 
-/// A run goes on to its end: it would come back to a window that is gone.
-void frmQDW::closeEvent(QCloseEvent* event)
+/// A box that takes no picture leaves it to the box that it lies on: a label to its card, for one.
+void frmQDW::DropPicture(const Box* box, const QString& path)
 {
-    std::optional<QString> rescued;
-    event->setAccepted(!m_isBusy && (LeaveSet(rescued) || m_mayLose));
-    if (event->isAccepted())
-        m_work.Keep(m_workshop.Set);
-}
-
-/// Before the set is replaced or the window closes: what is in no file is rescued. Where that fails the set
-/// stays; the way out is to save it, or Exit without.
-bool frmQDW::LeaveSet(std::optional<QString>& rescued, const QString& toOpen)
-{
-    statusBar()->clearMessage();
-    try {
-        WithMemoryAsFailure([&] { rescued = m_work.Leave(m_workshop.Set, toOpen); });
-    } catch (const RunTimeError& error) {
-        TellNotSaved(m_workshop.User, error);
-        return false;
+    for (; box; box = m_preview->ParentOf(*box)) {
+        for (const auto& page : m_pages) {
+            if (page->TakeDrop(*box, path))
+                return;
+        }
     }
-    return true;
-}
-
-/// Shows a note in the status bar, behind the one that is there.
-void frmQDW::AddNote(const QString& note)
-{
-    const QString before = statusBar()->currentMessage();
-    statusBar()->showMessage(before.isEmpty() ? note : before + QStringLiteral("  ") + note);
-}
-
-void frmQDW::NoteRescued(const std::optional<QString>& rescued)
-{
-    if (rescued)
-        AddNote(QStringLiteral("The unsaved changes of the set before are in “%1”.").arg(*rescued));
-}
-
-/// For those who lost a set in a run before this one.
-void frmQDW::NoteEarlierRescue()
-{
-    if (const auto rescued = m_work.LatestRescued())
-        AddNote(QStringLiteral("There is a rescued set from %1: “%2”.")
-                    .arg(rescued->Time.toString(QStringLiteral("yyyy-MM-dd hh:mm")), rescued->Path));
-}
-
-void frmQDW::OpenDropped(const QString& path)
-{
-    if (AskToSave(BoxButtons::YesNo) != Answer::Cancel)
-        DoOpenDKF(path);
 }
 
 } // namespace deckforge

@@ -1,4 +1,7 @@
-#include "dialogs/CardPreview.h"
+#include "dialogs/FocusSelection.h"
+#include "editor/Page.h"
+#include "editor/PreviewController.h"
+#include "editor/SetInfoPanel.h"
 #include "editor/frmQDW.h"
 #include "platform/Twips.h"
 #include "platform/Version.h"
@@ -6,8 +9,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <algorithm>
-#include <iterator>
 
 namespace deckforge {
 
@@ -25,13 +28,19 @@ constexpr char HelpText[] = "This is a very small help.\r\n"
                             "Click on a picture and nudge it with arrow keys.\r\n"
                             "Change frame size with shift+arrow keys.";
 
+QLineEdit* LineOf(QObject* box)
+{
+    auto* const list = qobject_cast<QComboBox*>(box);
+    return list ? list->lineEdit() : qobject_cast<QLineEdit*>(box);
+}
+
 } // namespace
 
 /// Help answers to its key whatever else is held, which no shortcut does.
 void frmQDW::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_F1)
-        Guarded([this] { ShowHelp(); });
+        Guarded(m_parts.User, [this] { ShowHelp(); });
     else
         QMainWindow::keyPressEvent(event);
 }
@@ -39,42 +48,42 @@ void frmQDW::keyPressEvent(QKeyEvent* event)
 void frmQDW::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && IsBackground(event->position().toPoint()))
-        Guarded([this] { ShowVersion(); });
+        Guarded(m_parts.User, [this] { ShowVersion(); });
     else
         QMainWindow::mouseDoubleClickEvent(event);
 }
 
 void frmQDW::ShowHelp()
 {
-    m_workshop.User.ShowMessage({.Text = QString::fromLatin1(HelpText),
-                                 .Title = QStringLiteral("Help"),
-                                 .Style = BoxStyle::Information});
+    m_parts.User.ShowMessage({.Text = QString::fromLatin1(HelpText),
+                              .Title = QStringLiteral("Help"),
+                              .Style = BoxStyle::Information});
 }
 
 void frmQDW::ShowVersion()
 {
     const QString version = QStringLiteral("Version %1.%2.%3");
-    m_workshop.User.ShowMessage({.Text = version.arg(VersionMajor).arg(VersionMinor).arg(VersionRevision),
-                                 .Title = QStringLiteral("Hello!"),
-                                 .Style = BoxStyle::Information});
+    m_parts.User.ShowMessage({.Text = version.arg(VersionMajor).arg(VersionMinor).arg(VersionRevision),
+                              .Title = QStringLiteral("Hello!"),
+                              .Style = BoxStyle::Information});
 }
 
 /// Tells where the window and the card stand, in twips and pixels.
 void frmQDW::ShowOffsets()
 {
     const QSize window = frameGeometry().size();
-    const Box& picCard = m_workshop.Templates.Standard.picCard;
+    const Box& picCard = m_works.Templates.Standard.picCard;
     const QString text = QStringLiteral("Form height (Twip):%1, Form width (Twip):%2\r\n"
                                         "Form height:%3, Form width:%4\r\n"
                                         "Offset top:%5, Offset left:%6");
-    m_workshop.User.ShowMessage({.Text = text.arg(window.height() * TwipsPerPixelY)
-                                             .arg(window.width() * TwipsPerPixelX)
-                                             .arg(window.height())
-                                             .arg(window.width())
-                                             .arg(picCard.Top)
-                                             .arg(picCard.Left),
-                                 .Title = QStringLiteral("Offset info"),
-                                 .Style = BoxStyle::Plain});
+    m_parts.User.ShowMessage({.Text = text.arg(window.height() * TwipsPerPixelY)
+                                          .arg(window.width() * TwipsPerPixelX)
+                                          .arg(window.height())
+                                          .arg(window.width())
+                                          .arg(picCard.Top)
+                                          .arg(picCard.Left),
+                              .Title = QStringLiteral("Offset info"),
+                              .Style = BoxStyle::Plain});
 }
 
 /// Labels, bars and the card let a click through to the window; they are no background.
@@ -83,10 +92,21 @@ bool frmQDW::IsBackground(QPoint point) const
     const QWidget* const under = childAt(point);
     if (under == m_preview)
         return m_preview->BoxAt(m_preview->mapFrom(this, point)) == nullptr;
-    const QWidget* const grounds[] = {
-        centralWidget(),          fraCard, fraLargeCard, fraCharacter, fraCardBack, fraCard->parentWidget(),
-        m_previewArea->viewport()};
-    return std::find(std::begin(grounds), std::end(grounds), under) != std::end(grounds);
+    const bool isForm =
+        std::any_of(m_pages.begin(), m_pages.end(), [&](const auto& page) { return under == page->Form(); });
+    return isForm || under == centralWidget() || under == m_forms ||
+           under == m_controller->Area()->viewport();
+}
+
+bool frmQDW::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn) {
+        if (QLineEdit* const line = LineOf(watched))
+            SelectAllOnFocus(*line, static_cast<QFocusEvent*>(event)->reason());
+    } else if (event->type() == QEvent::MouseButtonRelease && watched == m_info->NameLabel()) {
+        Guarded(m_parts.User, [this] { ShowOffsets(); });
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 } // namespace deckforge

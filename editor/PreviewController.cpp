@@ -1,0 +1,201 @@
+#include "editor/PreviewController.h"
+
+#include "compose/FontScheme.h"
+#include "dialogs/Choices.h"
+#include "platform/Twips.h"
+
+#include <QButtonGroup>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QToolButton>
+#include <QToolTip>
+
+namespace deckforge {
+
+namespace {
+
+constexpr int DefaultZoom = 2;
+
+/// Wants room for all of the preview, and takes less where the screen is small.
+class PreviewArea final : public QScrollArea {
+public:
+    explicit PreviewArea(CardPreview* preview, QWidget* parent) : QScrollArea(parent)
+    {
+        setWidget(preview);
+        setFrameShape(QFrame::NoFrame);
+        setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+        setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        return DoubleCardSize; // at its smallest zoom
+    }
+};
+
+} // namespace
+
+PreviewController::PreviewController(EditorParts& parts, std::function<void(CardKind)> frameSized,
+                                     std::function<void()> zoomed, QWidget* window)
+    : QObject(window), m_parts(parts), m_frameSized(std::move(frameSized)), m_zoomed(std::move(zoomed)),
+      m_area(new PreviewArea(&parts.Preview, window)), m_zooms(new QButtonGroup(this))
+{
+    parts.Preview.SetZoom(DefaultZoom);
+    MakeZoomButtons(window);
+    BindZoom(window);
+    const auto on = [this](auto signal, auto handler) {
+        OnSignal(m_parts.User, &m_parts.Preview, signal, this, handler);
+    };
+    on(&CardPreview::Pressed, [this](const Box*, QPoint point) {
+        m_parts.Document.EndVisit(); // a gesture is a step of its own
+        m_dragStart = point;
+    });
+    on(&CardPreview::Dragged,
+       [this](const Box* box, QPoint point, QPoint moved) { Dragged(box, point, moved); });
+    on(&CardPreview::Clicked, [this](const Box* box) { LabelClicked(box, FontClicks::One); });
+    on(&CardPreview::DoubleClicked, [this](const Box* box) { LabelClicked(box, FontClicks::Two); });
+    on(&CardPreview::KeyPressed, [this](const Box* picture, Qt::Key key, Qt::KeyboardModifiers held) {
+        KeyPressed(picture, key, held);
+    });
+    on(&CardPreview::TipWanted, [this](const Box* box, QPoint point) { ShowTip(box, point); });
+}
+
+void PreviewController::MakeZoomButtons(QWidget* window)
+{
+    for (int zoom = 1; zoom <= CardPreview::MostZoom; ++zoom) {
+        auto* const button = new QToolButton(window);
+        const QString text = QStringLiteral("%1x").arg(zoom);
+        button->setObjectName(QStringLiteral("cmdZoom%1").arg(zoom));
+        button->setText(text);
+        button->setToolTip(QStringLiteral("Show the card at %1 times its size").arg(zoom));
+        button->setAccessibleName(QStringLiteral("Zoom %1").arg(text));
+        button->setCheckable(true);
+        button->setAutoRaise(true);
+        button->setChecked(zoom == m_parts.Preview.Zoom());
+        button->setFocusPolicy(Qt::TabFocus);
+        m_zooms->addButton(button, zoom);
+    }
+}
+
+void PreviewController::BindZoom(QWidget* window)
+{
+    OnSignal(m_parts.User, m_zooms, &QButtonGroup::idClicked, this, [this](int zoom) { SetZoom(zoom); });
+    const auto onKey = [&](const QKeySequence& key, int step) {
+        OnSignal(m_parts.User, new QShortcut(key, window), &QShortcut::activated, this,
+                 [this, step] { SetZoom(m_parts.Preview.Zoom() + step); });
+    };
+    onKey(QKeySequence::ZoomIn, 1);
+    onKey(Qt::CTRL | Qt::Key_Equal, 1); // the same key without Shift
+    onKey(QKeySequence::ZoomOut, -1);
+}
+
+QList<QAbstractButton*> PreviewController::ZoomButtons() const
+{
+    return m_zooms->buttons();
+}
+
+void PreviewController::SetZoom(int zoom)
+{
+    CardPreview& preview = m_parts.Preview;
+    preview.SetZoom(zoom);
+    m_zooms->button(preview.Zoom())->setChecked(true);
+    preview.resize(preview.sizeHint());
+    m_area->updateGeometry();
+    m_zoomed();
+}
+
+std::array<PreviewController::PlacementRow, 4> PreviewController::Placements() const
+{
+    const CardTemplates& t = m_parts.Works.Templates;
+    return {{
+        {t.Standard.picImage, &t.Standard.lblPicSize, PlacedPicture::Standard, CardKind::Standard},
+        {t.Large.picImageLarge, &t.Large.lblPicSizeLarge, PlacedPicture::Large, CardKind::Large},
+        {t.Character.picImageCharacter, &t.Character.lblPicSizeCharacter, PlacedPicture::Character,
+         CardKind::Character},
+        {t.PlayingPiece.picPlayingPieceImage, nullptr, PlacedPicture::PlayingPiece, CardKind::Character},
+    }};
+}
+
+template <class Work>
+void PreviewController::Place(const PlacementRow& row, const char* step, Work&& work)
+{
+    const QString name = QString::fromLatin1(step);
+    const auto change = [&](auto& /*record*/) { work(); };
+    switch (row.Kind) {
+    case CardKind::Standard:
+        m_parts.Document.Edit<Card>(name, change);
+        break;
+    case CardKind::Large:
+        m_parts.Document.Edit<LargeCard>(name, change);
+        break;
+    default:
+        m_parts.Document.Edit<Character>(name, change);
+        break;
+    }
+    m_frameSized(row.Kind);
+    m_parts.Preview.update();
+}
+
+void PreviewController::LabelClicked(const Box* box, FontClicks clicks)
+{
+    for (const LabelFont& row : LabelFonts(m_parts.Works.Templates)) {
+        if (row.Label != box || row.Opens != clicks)
+            continue;
+        const SetHeader& header = m_parts.Document.Set().Header;
+        FontSpec font = header.*row.Font;
+        ChooseFont(m_parts.User, font);
+        m_parts.Document.Edit<SetHeader>(QStringLiteral("Font"), row.Font, font);
+        SetFont(m_parts.Works.Templates, header);
+        m_parts.Preview.update();
+    }
+}
+
+/// A picture goes as far as the pointer. A handle stops at its bounds: it goes to where the pointer holds it.
+void PreviewController::Dragged(const Box* box, QPoint point, QPoint moved)
+{
+    const QPoint toPointer = point - m_dragStart;
+    for (const PlacementRow& row : Placements()) {
+        if (box == &row.Image) {
+            Place(row, "Move picture", [&] {
+                MovePicture(m_parts.Works, row.Which, moved.x() * TwipsPerPixelX, moved.y() * TwipsPerPixelY);
+            });
+        } else if (box == row.Handle) {
+            const int pixels = row.Which == PlacedPicture::Standard ? toPointer.y() : toPointer.x();
+            Place(row, "Size frame", [&] { MoveHandle(m_parts.Works, row.Which, pixels); });
+        }
+    }
+}
+
+void PreviewController::KeyPressed(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held)
+{
+    held.setFlag(Qt::KeypadModifier, false);
+    for (const PlacementRow& row : Placements()) {
+        if (picture != &row.Image)
+            continue;
+        if (held == Qt::NoModifier)
+            Place(row, "Move picture", [&] { MovePictureByKey(m_parts.Works, row.Which, key); });
+        else if (held == Qt::ShiftModifier && row.Which == PlacedPicture::Standard)
+            Place(row, "Size frame", [&] { MoveHandleByKey(m_parts.Works, key); });
+    }
+}
+
+void PreviewController::ShowTip(const Box* box, QPoint globalPoint)
+{
+    QString tip;
+    for (const LabelFont& row : LabelFonts(m_parts.Works.Templates)) {
+        if (row.Label == box && row.Opens != FontClicks::None)
+            tip = row.Opens == FontClicks::One ? QStringLiteral("Click to change the font")
+                                               : QStringLiteral("Double-click to change the font");
+    }
+    for (const PlacementRow& row : Placements()) {
+        if (box == &row.Image)
+            tip = QStringLiteral("Drag the picture, or move it with the arrow keys");
+        else if (row.Handle && row.Handle == box)
+            tip = QStringLiteral("Drag to size the frame");
+    }
+    QToolTip::showText(globalPoint, tip, &m_parts.Preview);
+}
+
+} // namespace deckforge

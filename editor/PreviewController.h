@@ -1,0 +1,58 @@
+#pragma once
+
+#include "compose/PicturePlacement.h"
+#include "editor/EditorParts.h"
+
+#include <array>
+#include <functional>
+
+class QButtonGroup;
+class QScrollArea;
+
+namespace deckforge {
+
+enum class FontClicks;
+
+/// What the user does with the preview: places pictures, sizes frames, changes fonts, zooms.
+class PreviewController final : public QObject {
+public:
+    /// Calls frameSized after a gesture that may have changed the frame of the kind, and zoomed after the
+    /// zoom.
+    PreviewController(EditorParts& parts, std::function<void(CardKind)> frameSized,
+                      std::function<void()> zoomed, QWidget* window);
+
+    /// Scrolls the preview where the screen is small.
+    [[nodiscard]] QScrollArea* Area() const { return m_area; }
+    /// One for each zoom, for the status bar.
+    [[nodiscard]] QList<QAbstractButton*> ZoomButtons() const;
+
+    void SetZoom(int zoom);
+
+private:
+    /// A picture that the user places.
+    struct PlacementRow {
+        const Box& Image;
+        const Box* Handle; ///< null for none
+        PlacedPicture Which;
+        CardKind Kind;
+    };
+
+    void MakeZoomButtons(QWidget* window);
+    void BindZoom(QWidget* window);
+    [[nodiscard]] std::array<PlacementRow, 4> Placements() const;
+    template <class Work>
+    void Place(const PlacementRow& row, const char* step, Work&& work);
+    void LabelClicked(const Box* box, FontClicks clicks);
+    void Dragged(const Box* box, QPoint point, QPoint moved);
+    void KeyPressed(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held);
+    void ShowTip(const Box* box, QPoint globalPoint);
+
+    EditorParts& m_parts;
+    std::function<void(CardKind)> m_frameSized;
+    std::function<void()> m_zoomed;
+    QScrollArea* m_area;
+    QButtonGroup* m_zooms;
+    QPoint m_dragStart; ///< on the handle that is dragged
+};
+
+} // namespace deckforge

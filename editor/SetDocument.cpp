@@ -1,0 +1,153 @@
+#include "editor/SetDocument.h"
+
+#include "platform/CodePage.h"
+#include "platform/Paths.h"
+
+namespace deckforge {
+
+namespace {
+
+constexpr int MaxSteps = 1000;
+
+} // namespace
+
+SetDocument::SetDocument(CardSet& set, UserPort& user, std::chrono::milliseconds renewRescueAfter)
+    : m_set(set), m_user(user), m_work(ProgramFolder(), renewRescueAfter)
+{
+    m_steps.setUndoLimit(MaxSteps);
+}
+
+void SetDocument::Push(SetStep* step)
+{
+    m_steps.push(step);
+    AfterChange();
+}
+
+void SetDocument::PushDifference(const QString& name, const CardSet& before)
+{
+    SetDifference difference(before, m_set);
+    if (difference.IsEmpty())
+        return;
+    EndVisit();
+    Push(new DifferenceStep(name, m_set, std::move(difference)));
+    CheckSavable();
+}
+
+void SetDocument::Undo()
+{
+    Restore(&QUndoStack::undo, m_steps.index() - 1);
+}
+
+void SetDocument::Redo()
+{
+    Restore(&QUndoStack::redo, m_steps.index());
+}
+
+void SetDocument::Restore(void (QUndoStack::*step)(), int index)
+{
+    const auto* const restored = static_cast<const SetStep*>(m_steps.command(index));
+    if (!restored)
+        return;
+    EndVisit();
+    const ChangedKind kind = restored->Kind;
+    (m_steps.*step)();
+    CheckSavable();
+    AfterChange();
+    Q_EMIT Restored(kind);
+}
+
+/// Only a text that may be the reason is worth a look at the whole set.
+void SetDocument::CheckText(const QString& text)
+{
+    if (m_isUnsavable || !IsInCodePage(text))
+        CheckSavable();
+}
+
+void SetDocument::CheckSavable()
+{
+    QString reason;
+    try {
+        static_cast<void>(SetFileBytes(m_set, Unwritable::Fail));
+    } catch (const RunTimeError& error) {
+        reason = error.Description();
+    }
+    m_isUnsavable = !reason.isEmpty();
+    Q_EMIT UnsavableBecause(reason);
+}
+
+void SetDocument::AfterChange()
+{
+    try {
+        WithMemoryAsFailure([this] { m_work.Renew(m_set); });
+    } catch (const RunTimeError& error) {
+        Q_EMIT Noted(
+            QStringLiteral("Unsaved changes cannot be rescued: %1. Save the set.").arg(error.Description()));
+    }
+}
+
+SaveResult SetDocument::Save()
+{
+    const SaveResult result = SaveSet(m_set, m_user);
+    if (result == SaveResult::Saved)
+        Keep(FolderPart(m_set.Header.FileName));
+    return result;
+}
+
+Answer SetDocument::AskToSave(BoxButtons buttons)
+{
+    const Answer answer = m_user.ShowMessage({.Text = QStringLiteral("Save current set?"),
+                                              .Title = QStringLiteral("Save..."),
+                                              .Style = BoxStyle::Question,
+                                              .Buttons = buttons});
+    if (answer == Answer::Yes && Save() == SaveResult::Failed)
+        return Answer::Cancel;
+    return answer;
+}
+
+bool SetDocument::Replace(const QString& name, const QString& path, const Bring& bring)
+{
+    std::optional<QString> rescued;
+    if (!Leave(rescued, path))
+        return false;
+    bool isThere = false;
+    Edit(name, [&](CardSet& set) { isThere = bring(set); });
+    if (rescued && (isThere || !m_work.ReturnTo(m_set)))
+        Q_EMIT Noted(QStringLiteral("The unsaved changes of the set before are in “%1”.").arg(*rescued));
+    if (isThere)
+        Keep(FolderPart(path));
+    return isThere;
+}
+
+bool SetDocument::Leave()
+{
+    std::optional<QString> rescued;
+    return Leave(rescued);
+}
+
+/// Where the rescue fails the set stays; the way out is to save it, or Exit without.
+bool SetDocument::Leave(std::optional<QString>& rescued, const QString& toOpen)
+{
+    try {
+        WithMemoryAsFailure([&] { rescued = m_work.Leave(m_set, toOpen); });
+    } catch (const RunTimeError& error) {
+        TellNotSaved(m_user, error);
+        return false;
+    }
+    return true;
+}
+
+void SetDocument::Keep(const QString& folder)
+{
+    m_work.Keep(m_set, folder);
+    m_steps.setClean();
+    EndVisit();
+}
+
+void SetDocument::NoteEarlierRescue()
+{
+    if (const auto rescued = m_work.LatestRescued())
+        Q_EMIT Noted(QStringLiteral("There is a rescued set from %1: “%2”.")
+                         .arg(rescued->Time.toString(QStringLiteral("yyyy-MM-dd hh:mm")), rescued->Path));
+}
+
+} // namespace deckforge
