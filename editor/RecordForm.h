@@ -26,8 +26,8 @@ namespace deckforge {
 class Handler {
 public:
     // Not defaulted: the compiler fails on defaulted ones where a row leaves its handler out.
-    Handler() noexcept {}
-    ~Handler() noexcept {}
+    Handler() noexcept {}  // NOLINT(modernize-use-equals-default)
+    ~Handler() noexcept {} // NOLINT(modernize-use-equals-default)
     Handler(const Handler&) = default;
     Handler& operator=(const Handler&) = default;
     template <class Work>

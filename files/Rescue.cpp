@@ -170,7 +170,7 @@ QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes, con
 QString UnsavedWork::PathOfOwn() const
 {
     for (int age = 0; age <= MaxEarlier; ++age) {
-        const QString path = RescuedName(m_own->Folder, age);
+        QString path = RescuedName(m_own->Folder, age);
         const std::optional<FileAttributes> there = AttributesOf(path);
         if (there && HaveSameContents(*there, m_own->Attributes))
             return path;

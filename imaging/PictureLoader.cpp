@@ -84,7 +84,7 @@ Picture PictureLoader::LoadPicture(const QString& path)
     if (const Kept* kept = m_kept.object(path);
         kept != nullptr && file && HaveSameContents(kept->File, *file)) {
         if (kept->Failure)
-            throw *kept->Failure;
+            throw RunTimeError(*kept->Failure);
         return kept->Decoded;
     }
     Picture picture;
