@@ -55,12 +55,12 @@ private:
 void CheckBmpMasks(QByteArrayView bytes, int count)
 {
     constexpr qint64 masksField = 54;
-    constexpr int maxBits = 8;
+    constexpr quint32 maxMask = 0xFF; // shifted to bit 0
     Scanner in(bytes);
     in.MoveTo(masksField);
     for (int i = 0; i < count; ++i) {
         const quint32 mask = in.LittleEndian32();
-        if (mask != 0 && std::bit_width(mask) - std::countr_zero(mask) > maxBits)
+        if (mask != 0 && mask >> std::countr_zero(mask) > maxMask)
             throw RunTimeError(
                 ErrorNumber::InvalidPicture,
                 QStringLiteral("Invalid picture: the BMP file has more than 8 bits per colour. "
