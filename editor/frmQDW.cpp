@@ -57,7 +57,10 @@ frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
         m_controller->SetZoom(1);
 }
 
-frmQDW::~frmQDW() = default;
+frmQDW::~frmQDW()
+{
+    delete takeCentralWidget(); // its controls still send signals, and the parts that take them go next
+}
 
 void frmQDW::MakeParts()
 {
@@ -138,7 +141,7 @@ void frmQDW::BindDocument()
     connect(&m_document, &SetDocument::UnsavableBecause, this, &frmQDW::ShowHint);
     OnSignal(m_parts.User, &m_document, &SetDocument::Restored, this,
              [this](const std::optional<CardKind>& kind) { ShowRestored(kind); });
-    connect(qApp, &QApplication::focusChanged, this, [this] { m_document.EndVisit(); });
+    connect(qApp, &QApplication::focusChanged, &m_document, &SetDocument::EndVisit);
 }
 
 /// These boxes are ready for new text when they get the keyboard.
