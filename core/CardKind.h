@@ -46,6 +46,8 @@ template <class Record, class Set>
         return set.Characters;
     else if constexpr (std::is_same_v<Record, NewCardBack>)
         return set.NewCardBacks;
+    else if constexpr (std::is_same_v<Record, CardType>)
+        return set.CardTypes;
     else
         return set.CardBacks;
 }

@@ -1,6 +1,5 @@
 #include "editor/SetDocument.h"
 
-#include "platform/CodePage.h"
 #include "platform/Paths.h"
 
 namespace deckforge {
@@ -8,6 +7,17 @@ namespace deckforge {
 namespace {
 
 constexpr int MaxSteps = 1000;
+
+/// Why the check fails; empty if it does not.
+QString ReasonOf(const std::function<void()>& check)
+{
+    try {
+        check();
+    } catch (const RunTimeError& error) {
+        return error.Description();
+    }
+    return {};
+}
 
 } // namespace
 
@@ -25,12 +35,12 @@ void SetDocument::Push(SetStep* step)
 
 void SetDocument::PushDifference(const QString& name, const CardSet& before)
 {
-    SetDifference difference(before, m_set);
+    const SetDifference difference(before, m_set);
     if (difference.IsEmpty())
         return;
     EndVisit();
-    Push(new DifferenceStep(name, m_set, std::move(difference)));
-    CheckSavable();
+    Push(new DifferenceStep(name, m_set, difference));
+    CheckSavable([&] { difference.CheckSavable(); });
 }
 
 void SetDocument::Undo()
@@ -51,26 +61,23 @@ void SetDocument::Restore(void (QUndoStack::*step)(), int index)
     EndVisit();
     const ChangedKind kind = restored->Kind;
     (m_steps.*step)();
-    CheckSavable();
+    CheckSavable([this] { CheckSet(); });
     AfterChange();
     Q_EMIT Restored(kind);
 }
 
-/// Only a text that may be the reason is worth a look at the whole set.
-void SetDocument::CheckText(const QString& text)
+void SetDocument::CheckSet() const
 {
-    if (m_isUnsavable || !IsInCodePage(text))
-        CheckSavable();
+    static_cast<void>(SetFileBytes(m_set, Unwritable::Fail));
 }
 
-void SetDocument::CheckSavable()
+void SetDocument::CheckSavable(const std::function<void()>& checkChanged)
 {
-    QString reason;
-    try {
-        static_cast<void>(SetFileBytes(m_set, Unwritable::Fail));
-    } catch (const RunTimeError& error) {
-        reason = error.Description();
-    }
+    QString reason = ReasonOf(checkChanged);
+    if (reason.isEmpty() && !m_isUnsavable)
+        return;
+    if (reason.isEmpty())
+        reason = ReasonOf([this] { CheckSet(); });
     m_isUnsavable = !reason.isEmpty();
     Q_EMIT UnsavableBecause(reason);
 }

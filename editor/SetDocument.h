@@ -34,8 +34,6 @@ public:
     void Edit(const QString& name, Value Record::*field, const Value& value)
     {
         Edit<Record>(name, [&](Record& record) { record.*field = value; });
-        if constexpr (std::is_same_v<Value, QString>)
-            CheckText(value);
     }
 
     /// Changes the current record: change(Record&).
@@ -45,8 +43,11 @@ public:
         Record before = CurrentRecordOf<Record>(m_set);
         Changing([&] { change(CurrentRecordOf<Record>(m_set)); },
                  [&] {
-                     if (!(before == CurrentRecordOf<Record>(m_set)))
-                         Push(new RecordStep<Record>(name, m_set, std::move(before), m_visit));
+                     const Record& after = CurrentRecordOf<Record>(m_set);
+                     if (before == after)
+                         return;
+                     Push(new RecordStep<Record>(name, m_set, std::move(before), m_visit));
+                     CheckSavable([&] { deckforge::CheckSavable(after); });
                  });
     }
 
@@ -122,8 +123,9 @@ private:
     void Push(SetStep* step);
     void PushDifference(const QString& name, const CardSet& before);
     void Restore(void (QUndoStack::*step)(), int index);
-    void CheckText(const QString& text);
-    void CheckSavable();
+    /// Checks what has changed, and the whole set only where it was found unsavable before.
+    void CheckSavable(const std::function<void()>& checkChanged);
+    void CheckSet() const;
     void AfterChange();
     [[nodiscard]] bool Leave(std::optional<QString>& rescued, const QString& toOpen = {});
 

@@ -1,5 +1,7 @@
 #include "editor/SetSteps.h"
 
+#include "files/modFile.h"
+
 #include <algorithm>
 
 namespace deckforge {
@@ -65,63 +67,70 @@ void Replace(OneBasedArray<Element>& array, int first, std::size_t count, const 
 } // namespace
 
 template <class Element>
-SetDifference::ListDifference<Element> SetDifference::Compare(const OneBasedArray<Element>& before,
-                                                              const OneBasedArray<Element>& after)
+SetDifference::ListDifference<Element> SetDifference::Compare(const CardSet& before, const CardSet& after)
 {
+    const auto& was = ListOf<Element>(before);
+    const auto& is = ListOf<Element>(after);
     ListDifference<Element> difference;
-    if (before.Count() == after.Count())
-        difference.Splices = DifferingRuns(before, after);
+    if (was.Count() == is.Count())
+        difference.Splices = DifferingRuns<Element>(was, is);
     else
-        difference.Splices.push_back(DifferingMiddle(before, after));
-    return difference;
-}
-
-template <class Record>
-SetDifference::ListDifference<Record> SetDifference::CompareLists(const CardSet& before, const CardSet& after)
-{
-    const CardList<Record>& was = ListOf<Record>(before);
-    const CardList<Record>& is = ListOf<Record>(after);
-    ListDifference<Record> difference = Compare<Record>(was, is);
-    difference.CurrentBefore = was.Current;
-    difference.CurrentAfter = is.Current;
+        difference.Splices.push_back(DifferingMiddle<Element>(was, is));
+    if constexpr (requires { was.Current; }) {
+        difference.CurrentBefore = was.Current;
+        difference.CurrentAfter = is.Current;
+    }
     return difference;
 }
 
 SetDifference::SetDifference(const CardSet& before, const CardSet& after)
-    : m_before(before), m_after(after), m_types(Compare(before.CardTypes, after.CardTypes)),
-      m_backs(Compare(before.CardBacks, after.CardBacks)), m_cards(CompareLists<Card>(before, after)),
-      m_largeCards(CompareLists<LargeCard>(before, after)),
-      m_characters(CompareLists<Character>(before, after)),
-      m_newBacks(CompareLists<NewCardBack>(before, after))
+    : m_before(before), m_after(after),
+      m_lists(Compare<CardType>(before, after), Compare<CardBack>(before, after),
+              Compare<Card>(before, after), Compare<LargeCard>(before, after),
+              Compare<Character>(before, after), Compare<NewCardBack>(before, after))
 {
+}
+
+template <class Function>
+void SetDifference::ForEachList(Function&& function) const
+{
+    std::apply([&](const auto&... difference) { (function(difference), ...); }, m_lists);
 }
 
 bool SetDifference::IsEmpty() const
 {
-    return m_before.IsSame(m_after) && m_types.Splices.empty() && m_backs.Splices.empty() &&
-           m_cards.Splices.empty() && m_largeCards.Splices.empty() && m_characters.Splices.empty() &&
-           m_newBacks.Splices.empty();
+    bool isEmpty = m_before.IsSame(m_after);
+    ForEachList([&](const auto& difference) { isEmpty = isEmpty && difference.Splices.empty(); });
+    return isEmpty;
 }
 
 ChangedKind SetDifference::Kind() const
 {
-    const bool changed[] = {!m_cards.Splices.empty(), !m_largeCards.Splices.empty(),
-                            !m_characters.Splices.empty(), !m_newBacks.Splices.empty()};
-    if (std::count(std::begin(changed), std::end(changed), true) != 1)
-        return std::nullopt;
-    return static_cast<CardKind>(std::find(std::begin(changed), std::end(changed), true) -
-                                 std::begin(changed));
+    std::vector<CardKind> changed;
+    ForEachList([&](const auto& difference) {
+        using Element = typename std::decay_t<decltype(difference)>::Element;
+        constexpr bool isCard = requires(CardSet & set)
+        {
+            ListOf<Element>(set).Current;
+        };
+        if constexpr (isCard) {
+            if (!difference.Splices.empty())
+                changed.push_back(KindOf<Element>);
+        }
+    });
+    return changed.size() == 1 ? ChangedKind(changed.front()) : std::nullopt;
 }
 
-template <class Function>
-void SetDifference::ForEachList(CardSet& set, Function&& function) const
+void SetDifference::CheckSavable() const
 {
-    function(set.CardTypes, m_types);
-    function(set.CardBacks, m_backs);
-    function(set.Cards, m_cards);
-    function(set.LargeCards, m_largeCards);
-    function(set.Characters, m_characters);
-    function(set.NewCardBacks, m_newBacks);
+    deckforge::CheckSavable(m_after.Header);
+    deckforge::CheckSavable(m_after.NewCards);
+    ForEachList([](const auto& difference) {
+        for (const auto& splice : difference.Splices) {
+            for (const auto& element : splice.After)
+                deckforge::CheckSavable(element);
+        }
+    });
 }
 
 void SetDifference::Apply(CardSet& set, const Values& to, const Values& from)
@@ -136,25 +145,19 @@ void SetDifference::Apply(CardSet& set, const Values& to, const Values& from)
         set.File = to.File;
 }
 
-void SetDifference::Undo(CardSet& set) const
+void SetDifference::Apply(CardSet& set, Direction direction) const
 {
-    Apply(set, m_before, m_after);
-    ForEachList(set, [](auto& list, const auto& difference) {
-        for (const auto& splice : difference.Splices)
-            Replace(list, splice.First, splice.After.size(), splice.Before);
+    const bool isBack = direction == Direction::Back;
+    Apply(set, isBack ? m_before : m_after, isBack ? m_after : m_before);
+    ForEachList([&](const auto& difference) {
+        auto& list = ListOf<typename std::decay_t<decltype(difference)>::Element>(set);
+        for (const auto& splice : difference.Splices) {
+            const auto& from = isBack ? splice.After : splice.Before;
+            const auto& to = isBack ? splice.Before : splice.After;
+            Replace(list, splice.First, from.size(), to);
+        }
         if constexpr (requires { list.Current; })
-            list.Current = difference.CurrentBefore;
-    });
-}
-
-void SetDifference::Redo(CardSet& set) const
-{
-    Apply(set, m_after, m_before);
-    ForEachList(set, [](auto& list, const auto& difference) {
-        for (const auto& splice : difference.Splices)
-            Replace(list, splice.First, splice.Before.size(), splice.After);
-        if constexpr (requires { list.Current; })
-            list.Current = difference.CurrentAfter;
+            list.Current = isBack ? difference.CurrentBefore : difference.CurrentAfter;
     });
 }
 

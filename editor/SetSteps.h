@@ -4,6 +4,7 @@
 
 #include <QUndoCommand>
 #include <optional>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -126,23 +127,27 @@ public:
     /// The kind whose cards changed; none if it is no kind or several.
     [[nodiscard]] ChangedKind Kind() const;
 
-    void Undo(CardSet& set) const;
-    void Redo(CardSet& set) const;
+    /// Fails as writing the set would fail at what is new.
+    void CheckSavable() const;
+
+    void Undo(CardSet& set) const { Apply(set, Direction::Back); }
+    void Redo(CardSet& set) const { Apply(set, Direction::Forth); }
 
 private:
-    template <class Element>
+    enum class Direction { Back, Forth };
+
+    template <class E>
     struct ListDifference {
+        using Element = E;
         std::vector<Splice<Element>> Splices;
         int16 CurrentBefore = 0; ///< of a list of records
         int16 CurrentAfter = 0;
     };
     template <class Element>
-    static ListDifference<Element> Compare(const OneBasedArray<Element>& before,
-                                           const OneBasedArray<Element>& after);
-    template <class Record>
-    static ListDifference<Record> CompareLists(const CardSet& before, const CardSet& after);
+    static ListDifference<Element> Compare(const CardSet& before, const CardSet& after);
     template <class Function>
-    void ForEachList(CardSet& set, Function&& function) const;
+    void ForEachList(Function&& function) const;
+    void Apply(CardSet& set, Direction direction) const;
 
     /// What is no list. The file of the set belongs to it only where a step brought another set: saving is no
     /// step and is not undone.
@@ -161,12 +166,9 @@ private:
 
     Values m_before;
     Values m_after;
-    ListDifference<CardType> m_types;
-    ListDifference<CardBack> m_backs;
-    ListDifference<Card> m_cards;
-    ListDifference<LargeCard> m_largeCards;
-    ListDifference<Character> m_characters;
-    ListDifference<NewCardBack> m_newBacks;
+    std::tuple<ListDifference<CardType>, ListDifference<CardBack>, ListDifference<Card>,
+               ListDifference<LargeCard>, ListDifference<Character>, ListDifference<NewCardBack>>
+        m_lists;
 };
 
 /// Changes anything: a command or a dialog.

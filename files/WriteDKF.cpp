@@ -65,6 +65,14 @@ void WriteSet(SetWriter& out, const CardSet& set)
     out.Literal(setFile::End);
 }
 
+template <class Record>
+void TryWriting(const Record& record, void (*write)(FieldWriter&, const Record&))
+{
+    SetWriter out(Unwritable::Fail);
+    FieldWriter fields(out);
+    write(fields, record);
+}
+
 } // namespace
 
 void TellNotSaved(UserPort& user, const RunTimeError& error)
@@ -80,6 +88,46 @@ QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable)
     SetWriter out(unwritable);
     WriteSet(out, set);
     return out.TakeBytes();
+}
+
+void CheckSavable(const SetHeader& header)
+{
+    TryWriting(header, setFile::HeaderFields);
+}
+
+void CheckSavable(const NewCardValues& values)
+{
+    TryWriting(values, setFile::ClosingFields);
+}
+
+void CheckSavable(const CardType& type)
+{
+    TryWriting(type, setFile::CardTypeFields);
+}
+
+void CheckSavable(const CardBack& back)
+{
+    TryWriting(back, setFile::CardBackFields);
+}
+
+void CheckSavable(const Card& card)
+{
+    TryWriting(card, setFile::CardFields);
+}
+
+void CheckSavable(const LargeCard& card)
+{
+    TryWriting(card, setFile::LargeCardFields);
+}
+
+void CheckSavable(const Character& character)
+{
+    TryWriting(character, setFile::CharacterFields);
+}
+
+void CheckSavable(const NewCardBack& back)
+{
+    TryWriting(back, setFile::NewCardBackFields);
 }
 
 bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report)

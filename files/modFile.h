@@ -20,6 +20,16 @@ bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report re
 /// The bytes of the file that the set would be written to.
 [[nodiscard]] QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable);
 
+// Each fails as writing a set would fail at this part of it.
+void CheckSavable(const SetHeader& header);
+void CheckSavable(const NewCardValues& values);
+void CheckSavable(const CardType& type);
+void CheckSavable(const CardBack& back);
+void CheckSavable(const Card& card);
+void CheckSavable(const LargeCard& card);
+void CheckSavable(const Character& character);
+void CheckSavable(const NewCardBack& back);
+
 /// Fails as opening a file of these bytes would.
 void CheckReadable(const QByteArray& bytes);
 
