@@ -1,15 +1,12 @@
 #include "batch/BatchCommands.h"
 
 #include "batch/ConsoleUser.h"
+#include "commands/OutputCommands.h"
+#include "commands/SetCommands.h"
 #include "compose/NewBack.h"
-#include "compose/SetView.h"
 #include "compose/StandardCard.h"
 #include "core/Vocabulary.h"
-#include "files/modFile.h"
-#include "output/HtmlSheets.h"
-#include "output/Printing.h"
 #include "output/Statistics.h"
-#include "output/frmCardSheet.h"
 #include "output/modCapture.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -109,15 +106,22 @@ RunSettings SettingsFrom(const QCommandLineParser& parser)
     return settings;
 }
 
-/// The kinds that the option names, among those of the command; all of them where it is not given.
-template <class Row, std::size_t size>
-std::vector<const Row*> KindsFrom(const QCommandLineParser& parser, const Row (&rows)[size])
+/// What `--kind` names, of one command.
+template <class Value>
+struct KindOption {
+    const char* Kind;
+    Value What;
+};
+
+/// What the option names, among those of the command; all of them where it is not given.
+template <class Value, std::size_t size>
+std::vector<Value> KindsFrom(const QCommandLineParser& parser, const KindOption<Value> (&options)[size])
 {
     const QString kind = parser.value(QStringLiteral("kind"));
-    std::vector<const Row*> kinds;
-    for (const Row& row : rows) {
-        if (kind == QLatin1String("all") || kind == QLatin1String(row.Kind))
-            kinds.push_back(&row);
+    std::vector<Value> kinds;
+    for (const KindOption<Value>& option : options) {
+        if (kind == QLatin1String("all") || kind == QLatin1String(option.Kind))
+            kinds.push_back(option.What);
     }
     if (kinds.empty())
         throw WrongUse{QStringLiteral("There is no kind \"%1\" here.").arg(kind)};
@@ -126,7 +130,8 @@ std::vector<const Row*> KindsFrom(const QCommandLineParser& parser, const Row (&
 
 // Running
 
-/// Carries out a task on a new set. A failure that the task does not tell itself is told here.
+/// Carries out a task on a new set: task(Workshop&, UserPort&). A failure that it does not report itself is
+/// reported here.
 template <class Task>
 ExitStatus RunOnNewSet(int scale, Task&& task)
 {
@@ -134,9 +139,9 @@ ExitStatus RunOnNewSet(int scale, Task&& task)
     bool done = false;
     try {
         WithMemoryAsFailure([&] {
-            Workshop workshop(user, scale);
-            InitForm(workshop);
-            done = task(workshop);
+            Workshop workshop(scale);
+            ShowViewed(user, InitForm(workshop));
+            done = task(workshop, user);
         });
     } catch (const RunTimeError& error) {
         TellUntrapped(user, error);
@@ -150,19 +155,20 @@ ExitStatus RunOnNewSet(int scale, Task&& task)
 template <class Task>
 ExitStatus RunOnTexts(const QString& path, Task&& task)
 {
-    return RunOnNewSet(
-        1, [&](Workshop& workshop) { return ReadDKF(workshop.Set, path, workshop.User) && task(workshop); });
+    return RunOnNewSet(1, [&](Workshop& workshop, UserPort& user) {
+        return OpenSet(workshop.Set, path, user) && task(workshop.Set, user);
+    });
 }
 
 /// Carries out a task that composes cards on the set of a file.
 template <class Task>
 ExitStatus RunOnSet(const QString& path, int scale, Task&& task)
 {
-    return RunOnNewSet(scale, [&](Workshop& workshop) {
-        if (!ReadDKF(workshop.Set, path, workshop.User))
+    return RunOnNewSet(scale, [&](Workshop& workshop, UserPort& user) {
+        if (!OpenSet(workshop.Set, path, user))
             return false;
-        ShowOpenedSet(workshop);
-        return task(workshop);
+        ShowViewed(user, ShowOpenedSet(workshop));
+        return task(workshop, user);
     });
 }
 
@@ -195,16 +201,15 @@ void RejectWritingOverSet(const QString& set, const QString& output)
 }
 
 /// Writes the set as its save command does, once the path is chosen.
-bool WriteSetTo(Workshop& workshop, const QString& path)
+bool WriteSetTo(CardSet& set, const QString& path, UserPort& user)
 {
-    SetHeader& header = workshop.Set.Header;
-    header.FileName = AbsolutePath(path);
-    return WriteDKF(workshop.Set, header.FileName, workshop.User, Report::Tell);
+    set.Header.FileName = AbsolutePath(path);
+    return WriteSet(set, set.Header.FileName, user);
 }
 
 /// The images of the user-designed backs, one after the other; the window makes them one by one. A back that
-/// cannot be shown is told; saving it has no box for that.
-void CreateNewCardBacks(Workshop& workshop, RunReport& report)
+/// cannot be shown is reported here; saving it has no message box for that.
+void CreateNewCardBacks(Workshop& workshop, ShownRun& run)
 {
     CardSet& set = workshop.Set;
     for (int i = 1; i <= set.NewCardBacks.Count(); ++i) {
@@ -212,45 +217,22 @@ void CreateNewCardBacks(Workshop& workshop, RunReport& report)
         try {
             ShowNewCardBack(workshop, set.NewCardBacks.Current);
         } catch (const RunTimeError& error) {
-            TellUntrapped(workshop.User, error);
+            TellUntrapped(run.User, error);
         }
-        SaveNewCardBack(workshop, report, set.NewCardBacks.Current, Ask::No, Tell::No);
+        SaveImage(workshop, run, CardKind::NewBack, set.NewCardBacks.Current);
     }
 }
 
-struct ImageKind {
-    const char* Kind;
-    void (*Create)(Workshop&, RunReport&);
-};
-
-constexpr ImageKind ImageKinds[] = {{"card", CreateCards},
-                                    {"large", CreateLargeCards},
-                                    {"character", CreateCharacters},
-                                    {"back", CreateNewCardBacks}};
-
-struct SheetKind {
-    const char* Kind;
-    void (*Create)(Workshop&, RunReport&, std::optional<SheetGrid>);
-};
-
-constexpr SheetKind SheetKinds[] = {{"card", CreateCardSheets}, {"large", CreateLargeCardSheets}};
-
-struct HtmlKind {
-    const char* Kind;
-    bool (*Create)(const CardSet&, UserPort&, RunReport&);
-};
-
-constexpr HtmlKind HtmlKinds[] = {{"card", CreateHtmlCards},
-                                  {"large", CreateHtmlLargeCards},
-                                  {"character", CreateHtmlCharacters},
-                                  {"piece", CreateHtmlPieces}};
-
-struct PrintKind {
-    const char* Kind;
-    PrintedPage Page;
-};
-
-constexpr PrintKind PrintKinds[] = {
+constexpr KindOption<CardKind> ImageKinds[] = {{"card", CardKind::Standard},
+                                               {"large", CardKind::Large},
+                                               {"character", CardKind::Character},
+                                               {"back", CardKind::NewBack}};
+constexpr KindOption<CardKind> SheetKinds[] = {{"card", CardKind::Standard}, {"large", CardKind::Large}};
+constexpr KindOption<HtmlPages> HtmlKinds[] = {{"card", HtmlPages::Cards},
+                                               {"large", HtmlPages::LargeCards},
+                                               {"character", HtmlPages::Characters},
+                                               {"piece", HtmlPages::Pieces}};
+constexpr KindOption<PrintedPage> PrintKinds[] = {
     {"card", PrintedPage::Card}, {"large", PrintedPage::LargeCard}, {"character", PrintedPage::Character}};
 
 // Commands
@@ -258,12 +240,14 @@ constexpr PrintKind PrintKinds[] = {
 ExitStatus RunNew(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
     RejectExisting(paths[0]);
-    return RunOnNewSet(1, [&](Workshop& workshop) { return WriteSetTo(workshop, paths[0]); });
+    return RunOnNewSet(
+        1, [&](Workshop& workshop, UserPort& user) { return WriteSetTo(workshop.Set, paths[0], user); });
 }
 
 ExitStatus RunConvert(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
-    return RunOnTexts(paths[0], [&](Workshop& workshop) { return WriteSetTo(workshop, paths[1]); });
+    return RunOnTexts(paths[0],
+                      [&](CardSet& set, UserPort& user) { return WriteSetTo(set, paths[1], user); });
 }
 
 ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
@@ -271,13 +255,17 @@ ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
     const auto kinds = KindsFrom(parser, ImageKinds);
     const int scale = NumberOption(parser, "scale", MostScale);
     const RunSettings settings = SettingsFrom(parser);
-    return RunOnSet(paths[0], scale, [&](Workshop& workshop) {
+    return RunOnSet(paths[0], scale, [&](Workshop& workshop, UserPort& user) {
         WithSettings(workshop.Set.Header, settings, [&] {
-            RunReport report(workshop.User);
-            for (const ImageKind* kind : kinds)
-                kind->Create(workshop, report);
+            ShownRun run(user);
+            for (const CardKind kind : kinds) {
+                if (kind == CardKind::NewBack)
+                    CreateNewCardBacks(workshop, run);
+                else
+                    CreateImages(workshop, run, kind);
+            }
         });
-        return !parser.isSet(QStringLiteral("save")) || WriteSetTo(workshop, paths[0]);
+        return !parser.isSet(QStringLiteral("save")) || WriteSetTo(workshop.Set, paths[0], user);
     });
 }
 
@@ -290,10 +278,10 @@ ExitStatus RunSheets(const QStringList& paths, const QCommandLineParser& parser)
     grid.Cols = static_cast<int16>(NumberOption(parser, "columns", SheetGrid::MostCols));
     grid.Rows = static_cast<int16>(NumberOption(parser, "rows", SheetGrid::MostRows));
     const RunSettings settings = SettingsFrom(parser);
-    return RunOnSet(paths[0], 1, [&](Workshop& workshop) {
+    return RunOnSet(paths[0], 1, [&](Workshop& workshop, UserPort& user) {
         WithSettings(workshop.Set.Header, settings, [&] {
-            RunReport report(workshop.User);
-            kinds.front()->Create(workshop, report, grid);
+            ShownRun run(user);
+            CreateSheets(workshop, run, kinds.front(), grid);
         });
         return true;
     });
@@ -303,12 +291,12 @@ ExitStatus RunHtml(const QStringList& paths, const QCommandLineParser& parser)
 {
     const auto kinds = KindsFrom(parser, HtmlKinds);
     const RunSettings settings = SettingsFrom(parser);
-    return RunOnTexts(paths[0], [&](Workshop& workshop) {
+    return RunOnTexts(paths[0], [&](CardSet& set, UserPort& user) {
         bool done = true;
-        WithSettings(workshop.Set.Header, settings, [&] {
-            RunReport report(workshop.User);
-            for (const HtmlKind* kind : kinds)
-                done = kind->Create(workshop.Set, workshop.User, report) && done;
+        WithSettings(set.Header, settings, [&] {
+            ShownRun run(user);
+            for (const HtmlPages pages : kinds)
+                done = CreateHtml(set, run, pages) && done;
         });
         return done;
     });
@@ -317,14 +305,13 @@ ExitStatus RunHtml(const QStringList& paths, const QCommandLineParser& parser)
 ExitStatus RunText(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
     RejectWritingOverSet(paths[0], paths[1]);
-    return RunOnTexts(
-        paths[0], [&](Workshop& workshop) { return ExportSetText(workshop.Set, paths[1], workshop.User); });
+    return RunOnTexts(paths[0],
+                      [&](CardSet& set, UserPort& user) { return WriteListing(set, paths[1], user); });
 }
 
 ExitStatus RunStatistics(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
-    return RunOnTexts(paths[0], [](Workshop& workshop) {
-        CardSet& set = workshop.Set;
+    return RunOnTexts(paths[0], [](CardSet& set, UserPort& /*user*/) {
         if (set.Cards.Count() > 0)
             ReplaceUnknownBack(set, set.Cards[1]); // the window shows this card before it counts
         const QString text = StatisticsText(set).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
@@ -340,23 +327,24 @@ ExitStatus RunPrint(const QStringList& paths, const QCommandLineParser& parser)
     if (kinds.size() > 1)
         throw WrongUse{QStringLiteral("\"print\" takes one kind.")};
     RejectWritingOverSet(paths[0], paths[1]);
-    const PrintKind& kind = *kinds.front();
+    const PrintedPage page = kinds.front();
     const auto index = static_cast<int16>(NumberOption(parser, "index", std::numeric_limits<int16>::max()));
     const int pixelsPerInch = NumberOption(parser, "resolution", 2400, 72);
-    return RunOnSet(paths[0], 1, [&](Workshop& workshop) {
-        RunReport report(workshop.User);
-        if (!ShowForPage(workshop, kind.Page, index)) {
-            ReportPage(workshop, report, kind.Page);
+    return RunOnSet(paths[0], 1, [&](Workshop& workshop, UserPort& user) {
+        ShownRun run(user);
+        if (const CompositionFailure failure = ShowForPage(workshop, page, index)) {
+            ShowComposed(user, failure);
+            ReportPage(workshop, run, page);
             return false;
         }
-        WritePdf(workshop, report, kind.Page, AbsolutePath(paths[1]), pixelsPerInch);
+        WritePdf(workshop, run, page, AbsolutePath(paths[1]), pixelsPerInch);
         return true;
     });
 }
 
 ExitStatus RunBacks(const QStringList& paths, const QCommandLineParser& /*parser*/)
 {
-    return RunOnNewSet(1, [&](Workshop& workshop) {
+    return RunOnNewSet(1, [&](Workshop& workshop, UserPort& /*user*/) {
         QDir().mkpath(paths[0]);
         WriteCardBacks(workshop, AbsolutePath(paths[0]));
         return true;

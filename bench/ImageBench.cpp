@@ -1,4 +1,5 @@
 #include "bench/Ratio.h"
+#include "commands/OutputCommands.h"
 #include "compose/NewBack.h"
 #include "compose/SetView.h"
 #include "compose/StandardCard.h"
@@ -43,9 +44,9 @@ QImage Scene(QSize size, double phase)
 
 /// A set of one card with a picture, a background, a credit and a text, in a folder of its own.
 struct OneCard {
-    explicit OneCard(int16 format) : Shop(User)
+    explicit OneCard(int16 format)
     {
-        InitForm(Shop);
+        (void)InitForm(Shop);
         const QString picture = Folder.filePath(QStringLiteral("picture.jpg"));
         const QString background = Folder.filePath(QStringLiteral("background.bmp"));
         Scene({200, 160}, 1).save(picture);
@@ -67,8 +68,8 @@ struct OneCard {
 
     void Write()
     {
-        ShowCard(Shop, 1);
-        SaveCard(Shop, TheRun, 1, Ask::No, Tell::No);
+        (void)ShowCard(Shop, 1);
+        SaveImage(Shop, TheRun, CardKind::Standard, 1);
     }
 
     /// The bitmap that the encoder has to take.
@@ -82,7 +83,7 @@ struct OneCard {
     QTemporaryDir Folder;
     SilentUser User;
     Workshop Shop;
-    RunReport TheRun{User};
+    ShownRun TheRun{User};
 };
 
 void CardBmp(benchmark::State& state)
@@ -120,7 +121,7 @@ void CardGif(benchmark::State& state)
 void CardWarm(benchmark::State& state)
 {
     OneCard card(Bmp);
-    MeasureBesideFrame(state, [&] { ShowCard(card.Shop, 1); });
+    MeasureBesideFrame(state, [&] { (void)ShowCard(card.Shop, 1); });
 }
 
 void CardCold(benchmark::State& state)
@@ -132,7 +133,7 @@ void CardCold(benchmark::State& state)
             ::utimensat(AT_FDCWD, path.toUtf8().constData(), nullptr, 0);
     };
     MeasureBesideFrame(
-        state, [&] { ShowCard(card.Shop, 1); }, touch);
+        state, [&] { (void)ShowCard(card.Shop, 1); }, touch);
 }
 
 /// The same beside the decoding of its pictures alone.
@@ -141,7 +142,7 @@ void CardColdBesideDecoders(benchmark::State& state)
     OneCard card(Bmp);
     const Card& record = card.Shop.Set.Cards[1];
     MeasureBeside(
-        state, [&] { ShowCard(card.Shop, 1); },
+        state, [&] { (void)ShowCard(card.Shop, 1); },
         [&] {
             for (const QString& path : {record.Picture, record.Background}) {
                 benchmark::DoNotOptimize(DecodePicture(path));
@@ -173,14 +174,14 @@ void Sheet(benchmark::State& state)
     const QString target = card.Folder.filePath(QStringLiteral("alone.jpg"));
     const auto make = [&] {
         card.Shop.Sheet = {};
-        CreateCardSheets(card.Shop, card.TheRun, grid);
+        CreateSheets(card.Shop, card.TheRun, CardKind::Standard, grid);
     };
     card.Shop.Set.Cards[1].Copies = cards;
     make();
     sheet.CreateFromPicture(DecodePicture(card.Folder.filePath(QStringLiteral("New set Sheet 1.jpg"))));
     MeasureBeside(state, make, [&] {
         for (int i = 0; i < cards; ++i)
-            ShowCard(card.Shop, 1);
+            (void)ShowCard(card.Shop, 1);
         SaveJPG(sheet, target, 90, 96);
     });
 }

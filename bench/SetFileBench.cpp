@@ -1,7 +1,6 @@
 #include "bench/Ratio.h"
 #include "core/modInfo.h"
 #include "files/modFile.h"
-#include "platform/SilentUser.h"
 
 #include <QTemporaryDir>
 #include <fcntl.h>
@@ -38,11 +37,10 @@ CardSet SetOf(int count)
 struct Stored {
     explicit Stored(int count) : Set(SetOf(count)), Path(Folder.filePath(QStringLiteral("set.dkf")))
     {
-        WriteDKF(Set, Path, User, Report::Silent);
+        WriteDKF(Set, Path);
     }
 
     QTemporaryDir Folder;
-    SilentUser User;
     CardSet Set;
     QString Path;
 };
@@ -74,7 +72,7 @@ void ReadSet(benchmark::State& state)
         state,
         [&] {
             CardSet set;
-            benchmark::DoNotOptimize(ReadDKF(set, stored.Path, stored.User));
+            benchmark::DoNotOptimize(ReadDKF(set, stored.Path));
         },
         [&] { benchmark::DoNotOptimize(ReadLines(stored.Path.toStdString())); });
 }
@@ -89,7 +87,7 @@ void WriteSet(benchmark::State& state)
         state,
         [&] {
             ::unlink(target.toUtf8().constData());
-            WriteDKF(stored.Set, target, stored.User, Report::Silent);
+            WriteDKF(stored.Set, target);
         },
         [&] {
             ::unlink(bare.c_str());

@@ -1,7 +1,7 @@
 #include "bench/Ratio.h"
+#include "commands/SetCommands.h"
 #include "core/modInfo.h"
 #include "editor/frmQDW.h"
-#include "files/modFile.h"
 #include "platform/SilentUser.h"
 
 #include <QApplication>
@@ -41,7 +41,7 @@ struct OpenWindow {
             card.Info = QStringLiteral("Roll one die: on a 1 it wakes and you must fight it at once.");
         }
         const QString path = Folder.filePath(QStringLiteral("set.dkf"));
-        WriteDKF(set, path, User, Report::Silent);
+        WriteSet(set, path, User);
         Window.Start(path);
         Window.show();
         Settle();

@@ -77,16 +77,16 @@ void PrintWatermark(PictureBox& surface, const Box& watermark, QPoint origin)
     PrintCentred(surface, watermark, watermark.Caption, origin);
 }
 
-void ShowRun::LoadsFor(Box& tells, const QString& path, const char* message)
+void ShowRun::LoadsFor(Box& reporter, const QString& path, const char* message)
 {
-    m_tells = &tells;
+    m_reporter = &reporter;
     m_message = QLatin1String(message) + QStringLiteral("\r\n") + path;
 }
 
 void ShowRun::Answer(const RunTimeError& error)
 {
-    if (error.IsMissingFile() && m_tells != nullptr) {
-        PictureBox& surface = *m_tells->Surface;
+    if (error.IsMissingFile() && m_reporter != nullptr) {
+        PictureBox& surface = *m_reporter->Surface;
         surface.SetPicture({});
         PrintAt(surface, 0, 0, m_message);
         m_problems.push_back({error.Place(), error.Description()});
@@ -101,14 +101,6 @@ void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QStri
     if (image.Surface->GetPicture().IsEmpty())
         image.ShowAtNaturalSize({});
     image.Surface->Refresh();
-}
-
-void TellCannotDraw(UserPort& user, const RunTimeError& error)
-{
-    user.ShowMessage(
-        {.Text = QStringLiteral("Error while drawing the card.\r\n\r\n") + error.NumberAndDescription(),
-         .Title = QStringLiteral("Cannot draw picture correct"),
-         .Style = BoxStyle::Critical});
 }
 
 } // namespace deckforge

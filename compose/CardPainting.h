@@ -60,15 +60,12 @@ void PrintIndex(PictureBox& surface, double x, double y, int16 index);
 /// Prints the caption of a version mark in the mark's own font.
 void PrintWatermark(PictureBox& surface, const Box& watermark, QPoint origin = {});
 
-/// Tells a failure that left a Show... routine.
-void TellCannotDraw(UserPort& user, const RunTimeError& error);
-
-/// A Show... routine step by step. A missing file is told on the preview and the next step runs; a value that
-/// a box cannot take is passed over. Anything else leaves the routine.
+/// A Show... routine step by step. A missing file is reported on the preview and the next step runs; a value
+/// that a box cannot take is ignored. Anything else leaves the routine.
 class ShowRun {
 public:
-    /// From here on a missing file is told by this box, in these words and with its path.
-    void LoadsFor(Box& tells, const QString& path, const char* message = "Missing picture.");
+    /// From here on a missing file is reported on this box, in these words and with its path.
+    void LoadsFor(Box& reporter, const QString& path, const char* message = "Missing picture.");
 
     /// The missing files so far.
     [[nodiscard]] const std::vector<PictureProblem>& Problems() const { return m_problems; }
@@ -86,32 +83,31 @@ public:
 private:
     void Answer(const RunTimeError& error);
 
-    Box* m_tells = nullptr;
+    Box* m_reporter = nullptr;
     QString m_message;
     std::vector<PictureProblem> m_problems;
 };
 
-/// Loads the picture of a frame, and repaints its box at once: what was told on that box of a missing file
-/// goes with it.
+/// Loads the picture of a frame and repaints its box at once, which removes an earlier message about a
+/// missing file.
 void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QString& path);
 
-/// Runs a Show... routine to its end. A failure that leaves it is told in a box, and the result is false. The
-/// workshop has its problems afterwards.
+/// Runs a Show... routine to its end and returns the failure that left it. The workshop has its problems
+/// afterwards.
 template <class Routine>
-bool ShowOrTell(Workshop& workshop, Routine&& routine)
+[[nodiscard]] CompositionFailure RunShow(Workshop& workshop, Routine&& routine)
 {
     ShowRun run;
-    bool isShown = true;
+    CompositionFailure failure;
     workshop.Problems.clear();
     try {
         WithMemoryAsFailure([&] { routine(run); });
     } catch (const RunTimeError& error) {
         workshop.Problems.push_back({error.Place(), error.Description()});
-        TellCannotDraw(workshop.User, error);
-        isShown = false;
+        failure = error;
     }
     workshop.Problems.insert(workshop.Problems.begin(), run.Problems().begin(), run.Problems().end());
-    return isShown;
+    return failure;
 }
 
 } // namespace deckforge

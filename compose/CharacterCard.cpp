@@ -198,9 +198,9 @@ void DrawPlayingPiece(Workshop& workshop, int16 index)
 
 } // namespace
 
-bool ShowCharacter(Workshop& workshop, int16 index)
+CompositionFailure ShowCharacter(Workshop& workshop, int16 index)
 {
-    return ShowOrTell(workshop, [&](ShowRun& run) {
+    return RunShow(workshop, [&](ShowRun& run) {
         CharacterTemplate& t = workshop.Templates.Character;
         const Character& character = workshop.Set.Characters[index];
         ShowTexts(workshop, character, index);

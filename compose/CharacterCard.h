@@ -7,10 +7,10 @@ namespace deckforge {
 /// Lays the character out on its previews, and composes its card on picACard and its playing piece on
 /// picACardPP.
 ///
-/// Missing files are told on the boxes of the standard card, which also lose their pictures; the character's
-/// own boxes keep what they showed. Any other failure is told in a box and leaves the routine before the card
-/// is composed. Gives whether it came to its end.
-bool ShowCharacter(Workshop& workshop, int16 index);
+/// Missing files are reported on the boxes of the standard card, which also lose their pictures; the
+/// character's own boxes keep what they showed. Any other failure is returned and leaves the routine before
+/// the card is composed.
+[[nodiscard]] CompositionFailure ShowCharacter(Workshop& workshop, int16 index);
 
 /// Lays out again the frame and the text beside it; the picture is not loaded anew.
 void PlaceCharacterPicture(Workshop& workshop, int16 index);

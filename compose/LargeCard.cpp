@@ -110,9 +110,9 @@ void DrawLargeCard(Workshop& workshop, int16 index)
 
 } // namespace
 
-bool ShowLargeCard(Workshop& workshop, int16 index)
+CompositionFailure ShowLargeCard(Workshop& workshop, int16 index)
 {
-    return ShowOrTell(workshop, [&](ShowRun& run) {
+    return RunShow(workshop, [&](ShowRun& run) {
         LargeCardTemplate& t = workshop.Templates.Large;
         const LargeCard& card = workshop.Set.LargeCards[index];
         t.lblTitleLarge.Caption = card.Title;

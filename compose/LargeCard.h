@@ -6,10 +6,10 @@ namespace deckforge {
 
 /// Lays the large card out on its preview, and composes it on picACard.
 ///
-/// Missing files are told on the boxes of the standard card, which also lose their pictures; the large card's
-/// own boxes keep what they showed. Any other failure is told in a box and leaves the routine before the card
-/// is composed. Gives whether it came to its end.
-bool ShowLargeCard(Workshop& workshop, int16 index);
+/// Missing files are reported on the boxes of the standard card, which also lose their pictures; the large
+/// card's own boxes keep what they showed. Any other failure is returned and leaves the routine before the
+/// card is composed.
+[[nodiscard]] CompositionFailure ShowLargeCard(Workshop& workshop, int16 index);
 
 /// Lays out again only the frame; the picture is not loaded anew.
 void PlaceLargePicture(Workshop& workshop, int16 index);

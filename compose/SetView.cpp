@@ -35,39 +35,36 @@ void PlaceSymbols(CardTemplates& t, const Picture& symbol, const SymbolPlace& on
     PlaceSymbol(onCharacter, symbol);
 }
 
-/// The symbol of the set; none when it has none or it cannot be loaded.
-Picture LoadSymbol(Workshop& workshop)
-{
-    try {
-        return workshop.Pictures.LoadPicture(workshop.Set.Header.Symbol);
-    } catch (const RunTimeError& error) {
-        TellUntrapped(workshop.User, error);
-        return {};
-    }
-}
-
 } // namespace
 
-void InitForm(Workshop& workshop)
+ViewFailures InitForm(Workshop& workshop)
 {
     const QString versionMark = QStringLiteral("QDW %1.%2").arg(VersionMajor).arg(VersionMinor);
     for (Box* watermark : workshop.Templates.lblWatermark())
         watermark->Caption = versionMark;
     InitSet(workshop.Set);
-    ShowSet(workshop);
-    ShowCard(workshop, workshop.Set.Cards.Current);
+    ViewFailures failures{.Symbol = ShowSet(workshop)};
+    failures.FirstCard = ShowCard(workshop, workshop.Set.Cards.Current);
+    return failures;
 }
 
-void ShowSet(Workshop& workshop)
+std::optional<RunTimeError> ShowSet(Workshop& workshop)
 {
     CardTemplate& card = workshop.Templates.Standard;
-    const Picture symbol = LoadSymbol(workshop);
+    std::optional<RunTimeError> failure;
+    Picture symbol;
+    try {
+        symbol = workshop.Pictures.LoadPicture(workshop.Set.Header.Symbol);
+    } catch (const RunTimeError& error) {
+        failure = error;
+    }
     CharacterTemplate& character = workshop.Templates.Character;
     PlaceSymbols(workshop.Templates, symbol,
                  {character.picSymbolCharacter, character.picBackgroundChar, true, SymbolMargin});
     DressOpenedSet(card, workshop.Set.Header);
     ShowNumbers(workshop);
     card.picBack.Visible = !workshop.Set.Header.NoBack;
+    return failure;
 }
 
 void ShowChosenSymbol(CardTemplates& templates, const Picture& symbol)
@@ -98,14 +95,15 @@ void ShowNumbers(Workshop& workshop)
     show(templates.Character.lblAutonumberCharacter, set.Characters.Current);
 }
 
-void ShowOpenedSet(Workshop& workshop)
+ViewFailures ShowOpenedSet(Workshop& workshop)
 {
     CardSet& set = workshop.Set;
-    ShowSet(workshop);
+    ViewFailures failures{.Symbol = ShowSet(workshop)};
     set.Cards.Current = 1;
-    ShowCard(workshop, set.Cards.Current);
+    failures.FirstCard = ShowCard(workshop, set.Cards.Current);
     set.LargeCards.Current = set.LargeCards.Count() > 0 ? 1 : 0;
     set.Characters.Current = set.Characters.Count() > 0 ? 1 : 0;
+    return failures;
 }
 
 } // namespace deckforge

@@ -4,12 +4,18 @@
 
 namespace deckforge {
 
+/// What failed while a set was shown; the rest of it is shown all the same.
+struct ViewFailures {
+    std::optional<RunTimeError> Symbol; ///< it cannot be loaded, and the set goes without
+    CompositionFailure FirstCard = {};
+};
+
 /// Makes the set a new one and shows its card: at the start of the program, and for a new set.
-void InitForm(Workshop& workshop);
+[[nodiscard]] ViewFailures InitForm(Workshop& workshop);
 
 /// Applies what holds for the whole set to the previews: symbol, fonts, numbers, and whether backs are made.
-/// A symbol that cannot be loaded is told to the user, and the set goes without.
-void ShowSet(Workshop& workshop);
+/// Returns why the symbol cannot be loaded; the set then goes without.
+[[nodiscard]] std::optional<RunTimeError> ShowSet(Workshop& workshop);
 
 // The symbol as the user has just chosen or cleared it. On the character it lies elsewhere than when the set
 // is shown, and a cleared one stays there until a character is shown.
@@ -20,6 +26,6 @@ void HideSymbol(CardTemplates& templates);
 void ShowNumbers(Workshop& workshop);
 
 /// Brings the previews up to date with a set that has just been read, and makes the first cards current.
-void ShowOpenedSet(Workshop& workshop);
+[[nodiscard]] ViewFailures ShowOpenedSet(Workshop& workshop);
 
 } // namespace deckforge

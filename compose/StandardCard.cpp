@@ -195,9 +195,9 @@ void DrawCard(Workshop& workshop, int16 index)
 
 } // namespace
 
-bool ShowCard(Workshop& workshop, int16 index)
+CompositionFailure ShowCard(Workshop& workshop, int16 index)
 {
-    return ShowOrTell(workshop, [&](ShowRun& run) {
+    return RunShow(workshop, [&](ShowRun& run) {
         CardTemplate& t = workshop.Templates.Standard;
         Card& card = workshop.Set.Cards[index];
         ShowTexts(t, card, index);
@@ -207,7 +207,7 @@ bool ShowCard(Workshop& workshop, int16 index)
         PlacePictureInFrame(t, card);
         LoadBackground(run, workshop, card);
         LoadBack(run, workshop, card);
-        DrawArtistCredit(workshop, card.Artist);
+        DrawArtistCredit(workshop, index);
         DrawCard(workshop, index);
     });
 }
@@ -268,17 +268,17 @@ void ShowPictureFrame(CardTemplate& t, bool visible)
         t.lblInformation.Top = InformationBottom + 1;
 }
 
-void DrawArtistCredit(Workshop& workshop, const QString& artist)
+void DrawArtistCredit(Workshop& workshop, int16 index)
 {
     constexpr int cutAbove = -2; // the strip is five pixels high: this and the strip cut the text to its core
-    const CardSet& set = workshop.Set;
+    const QString& artist = workshop.Set.Cards[index].Artist;
     PictureBox& picArtist = workshop.Surfaces.picArtist;
     Box& picArtistDest = workshop.Templates.Standard.picArtistDest;
-    picArtistDest.Visible = !set.Cards[set.Cards.Current].Artist.isEmpty();
+    picArtistDest.Visible = !artist.isEmpty();
     if (!picArtistDest.Visible)
         return;
-    ReadArtistBackground(workshop, set.Cards.Current);
-    picArtist.ForeColor = set.Header.ArtistColor;
+    ReadArtistBackground(workshop, index);
+    picArtist.ForeColor = workshop.Set.Header.ArtistColor;
     PrintAt(picArtist, 0, cutAbove, artist);
     picArtist.Freeze();
     RotatePicture(picArtist, *picArtistDest.Surface, Turn::Clockwise);

@@ -6,9 +6,9 @@ namespace deckforge {
 
 /// Lays the card out on the preview, and composes it. A card back past the table becomes row 1 in the record.
 ///
-/// Missing files are told on the preview. Any other failure is told in a box and leaves the routine before
-/// the card is composed: the work surface keeps the card before it. Gives whether it came to its end.
-bool ShowCard(Workshop& workshop, int16 index);
+/// Missing files are reported on the preview. Any other failure is returned and leaves the routine before the
+/// card is composed: the work surface keeps the card before it.
+[[nodiscard]] CompositionFailure ShowCard(Workshop& workshop, int16 index);
 
 /// Lays out again only the frame and what follows it; the picture is not loaded anew.
 void PlaceCardPicture(Workshop& workshop, int16 index);
@@ -31,9 +31,9 @@ void PlaceHandle(CardTemplate& card, int top);
 /// Shows or hides the picture with its frame and handle; the texts move up to where the frame was.
 void ShowPictureFrame(CardTemplate& card, bool visible);
 
-/// Puts the credit of the current card on its side on the preview, over the card's own background; hides it
-/// when the current card has no artist.
-void DrawArtistCredit(Workshop& workshop, const QString& artist);
+/// Draws the credit of the card on its side on the preview, over the card's own background; hides it when the
+/// card has no artist.
+void DrawArtistCredit(Workshop& workshop, int16 index);
 
 /// "139W * 105H": the frame's size.
 [[nodiscard]] QString FrameSizeText(const Box& frame);

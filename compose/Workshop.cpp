@@ -28,7 +28,7 @@ WorkSurfaces::WorkSurfaces(int scale)
     picCharAttribute.SetBackColor(Black);
 }
 
-Workshop::Workshop(UserPort& user, int scale) : User(user), Templates(scale), Surfaces(scale), Art(scale)
+Workshop::Workshop(int scale) : Templates(scale), Surfaces(scale), Art(scale)
 {
     Templates.Standard.picBack.Surface->SetPicture(Art.picBack());
     Templates.Character.picCharacter.Surface->SetPicture(Art.picCharacter());

@@ -4,8 +4,9 @@
 #include "compose/CardTemplates.h"
 #include "core/CardSet.h"
 #include "imaging/PictureLoader.h"
-#include "platform/UserPort.h"
+#include "platform/RunTimeError.h"
 
+#include <optional>
 #include <vector>
 
 namespace deckforge {
@@ -37,20 +38,21 @@ struct SheetState {
     int16 SheetCardWidth = 0;
 };
 
+/// The failure that ended a composition; nothing if it was completed.
+using CompositionFailure = std::optional<RunTimeError>;
+
 /// A picture that a composition could not load, or another failure that ended it.
 struct PictureProblem {
     QString Path; ///< empty where it is no picture that failed
     QString Reason;
 };
 
-/// What every operation works on, with or without a window: the set, its templates and surfaces, the art, and
-/// the user.
+/// What every operation works on, with or without a window: the set, its templates and surfaces, and the art.
 ///
 /// With a scale of n all surfaces are n times as fine; the cards are the same.
 struct Workshop {
-    explicit Workshop(UserPort& user, int scale = 1);
+    explicit Workshop(int scale = 1);
 
-    UserPort& User;
     CardSet Set;
     CardTemplates Templates;
     WorkSurfaces Surfaces;

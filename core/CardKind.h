@@ -74,6 +74,15 @@ decltype(auto) WithListOf(Set& set, CardKind kind, Function&& function)
     return WithListOf(set, kind, [](const auto& list) { return list.Count(); });
 }
 
+/// The title or name of a record; empty where there is no such record.
+[[nodiscard]] inline QString NameOf(const CardSet& set, CardKind kind, int16 index)
+{
+    return WithListOf(set, kind, [&](const auto& list) {
+        using Record = std::decay_t<decltype(list[index])>;
+        return index <= list.Count() ? list[index].*NameField<Record> : QString();
+    });
+}
+
 /// Index of the record of that kind which is being edited; 0 where there is none.
 [[nodiscard]] inline int16& CurrentOf(CardSet& set, CardKind kind)
 {

@@ -10,22 +10,6 @@ namespace {
 constexpr int16 NewFrameHeight = 105;
 constexpr int16 NewFrameWidth = 121;
 
-/// What the boxes call an element.
-struct Words {
-    QLatin1String Deleted;
-    QLatin1String Copied;
-};
-
-const Words& WordsOf(CardKind kind)
-{
-    static constexpr Words words[] = {
-        {.Deleted = QLatin1String("card"), .Copied = QLatin1String("card")},
-        {.Deleted = QLatin1String("card"), .Copied = QLatin1String("large card")},
-        {.Deleted = QLatin1String("character"), .Copied = QLatin1String("character card")},
-        {.Deleted = QLatin1String("card back"), .Copied = QLatin1String("card back")}};
-    return words[static_cast<std::size_t>(kind)];
-}
-
 } // namespace
 
 void SetDefaultFont(SetHeader& header)
@@ -127,33 +111,6 @@ void InitNewCardBack(CardSet& set, int16 n)
     back.InnerColor = Black;
     back.FrameColor = White;
     back.BackColor = White;
-}
-
-bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name)
-{
-    if (count < 2) {
-        if (kind == CardKind::Standard) {
-            user.ShowMessage(
-                {.Text = QStringLiteral("You have only one card in your set. This can't be deleted."),
-                 .Title = {},
-                 .Style = BoxStyle::Information});
-        }
-        return false;
-    }
-    const Answer answer =
-        user.ShowMessage({.Text = QStringLiteral("Are you sure you want to delete the %1 \"%2\"?")
-                                      .arg(WordsOf(kind).Deleted, name),
-                          .Title = QStringLiteral("Confirm delete"),
-                          .Style = BoxStyle::Question,
-                          .Buttons = BoxButtons::YesNo});
-    return answer == Answer::Yes;
-}
-
-void TellCopied(UserPort& user, CardKind kind)
-{
-    user.ShowMessage({.Text = QStringLiteral("The %1 is copied.").arg(WordsOf(kind).Copied),
-                      .Title = QStringLiteral("Copy"),
-                      .Style = BoxStyle::Information});
 }
 
 QString PositionText(int16 index, int16 count)

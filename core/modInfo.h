@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/CardKind.h"
-#include "platform/UserPort.h"
 
 namespace deckforge {
 
@@ -53,33 +52,23 @@ void MakeFirstElement(CardSet& set)
     AddElement<Record>(set);
 }
 
-/// Whether the current element may go: it is not the only one, and the user says yes.
-[[nodiscard]] bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name);
-
-/// Deletes the current element after a question. The next one moves to its index; behind the last one the
-/// index goes down by one. Gives whether the element is gone.
+/// Deletes the current element. The next one moves to its index; after the last one, the index decreases by
+/// one.
 template <class Record>
-bool DeleteElement(CardSet& set, UserPort& user)
+void DeleteElement(CardSet& set)
 {
     CardList<Record>& list = ListOf<Record>(set);
-    const int16 current = list.Current;
-    if (!MayDelete(user, KindOf<Record>, list.Count(), list[current].*NameField<Record>))
-        return false;
-    list.Remove(current);
-    list.Current = std::min(current, list.Count());
-    return true;
+    list.Remove(list.Current);
+    list.Current = std::min(list.Current, list.Count());
 }
 
-/// Says that an element is copied.
-void TellCopied(UserPort& user, CardKind kind);
-
-/// Keeps a copy of the current element. It stays when the set is replaced, so that cards go from set to set.
+/// Keeps a copy of the current element. It survives a replacement of the set, so that cards can be copied
+/// from set to set.
 template <class Record>
-void CopyElement(CardSet& set, UserPort& user)
+void CopyElement(CardSet& set)
 {
     CardList<Record>& list = ListOf<Record>(set);
     list.Clip = list.CurrentRecord();
-    TellCopied(user, KindOf<Record>);
 }
 
 /// Overwrites the current element with the copied one (an empty one if nothing of the kind was copied).

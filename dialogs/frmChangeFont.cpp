@@ -36,7 +36,6 @@ constexpr char SpecialAbilities[] =
     "2) You are fluent in the binary language and can calculate timeframes in hex.\r\n"
     "\r\n"
     "3) You need a life.";
-constexpr char SampleArtist[] = "Artist";
 
 /// A set of one sample of each kind.
 void FillSampleSet(CardSet& set)
@@ -45,7 +44,7 @@ void FillSampleSet(CardSet& set)
     card.Title = QStringLiteral("CARD NAME");
     card.BoldText = QStringLiteral("STRENGTH 3");
     card.Info = QStringLiteral("Information about the card.");
-    card.Artist = QString::fromLatin1(SampleArtist);
+    card.Artist = QStringLiteral("Artist");
     AddElement<LargeCard>(set);
     set.LargeCards[1].Title = QStringLiteral("CARD TITLE");
     set.LargeCards[1].Info = QLatin1String(Information) + QLatin1String(WebAddress);
@@ -79,9 +78,8 @@ std::vector<PreviewBox> SampleBoxes(const CardTemplates& t)
 
 class FontSchemeDialog final : public QDialog {
 public:
-    FontSchemeDialog(Workshop& workshop, QWidget* window)
-        : QDialog(window), m_user(workshop.User), m_header(workshop.Set.Header), m_samples(workshop.User),
-          m_options(this)
+    FontSchemeDialog(SetHeader& header, UserPort& user, QWidget* window)
+        : QDialog(window), m_user(user), m_header(header), m_options(this)
     {
         m_form.setupUi(this);
         BuildSamples();
@@ -119,7 +117,7 @@ private:
     /// The samples are laid out as any card is, and shown by the preview of the window, deaf to the mouse.
     void BuildSamples()
     {
-        InitForm(m_samples);
+        static_cast<void>(InitForm(m_samples));
         FillSampleSet(m_samples.Set);
         static_cast<void>(deckforge::ShowCard(m_samples, 1));
         static_cast<void>(deckforge::ShowLargeCard(m_samples, 1));
@@ -142,7 +140,7 @@ private:
     {
         SetFont(m_samples.Templates, m_header);
         m_samples.Set.Header.ArtistColor = m_header.ArtistColor;
-        DrawArtistCredit(m_samples, QString::fromLatin1(SampleArtist));
+        DrawArtistCredit(m_samples, 1);
         m_form.picArtistColor->SetColour(QColor(ToRgb(m_header.ArtistColor)));
         m_preview->update();
     }
@@ -202,9 +200,9 @@ private:
 
 } // namespace
 
-void EditFonts(Workshop& workshop, QWidget* window)
+void EditFonts(SetHeader& header, UserPort& user, QWidget* window)
 {
-    FontSchemeDialog dialog(workshop, window);
+    FontSchemeDialog dialog(header, user, window);
     dialog.exec();
 }
 

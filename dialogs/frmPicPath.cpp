@@ -1,6 +1,5 @@
 #include "dialogs/frmPicPath.h"
 
-#include "compose/Workshop.h"
 #include "core/PicturePaths.h"
 #include "dialogs/Handlers.h"
 #include "dialogs/RowDelegate.h"
@@ -101,8 +100,8 @@ private:
 
 class PathDialog final : public QDialog {
 public:
-    PathDialog(Workshop& workshop, QWidget* window)
-        : QDialog(window), m_workshop(workshop), m_options(this), m_model(workshop.Set, this)
+    PathDialog(CardSet& set, UserPort& user, QWidget* window)
+        : QDialog(window), m_set(set), m_user(user), m_options(this), m_model(set, this)
     {
         m_form.setupUi(this);
         QRadioButton* const options[] = {m_form.optCard0, m_form.optCard1, m_form.optCard2, m_form.optCard3,
@@ -115,12 +114,12 @@ public:
         m_form.lviewPath->setItemDelegate(new RowDelegate(this));
         FillLV();
         SizeColumns();
-        OnSignal(workshop.User, &m_options, &QButtonGroup::idClicked, this, [this] { FillLV(); });
-        OnClick(workshop.User, m_form.cmdBrowse, this, [this] { Browse(); });
-        OnClick(workshop.User, m_form.cmdSelectAll, this, [this] { m_model.CheckAll(); });
-        OnClick(workshop.User, m_form.cmdChange, this, [this] { Change(); });
+        OnSignal(user, &m_options, &QButtonGroup::idClicked, this, [this] { FillLV(); });
+        OnClick(user, m_form.cmdBrowse, this, [this] { Browse(); });
+        OnClick(user, m_form.cmdSelectAll, this, [this] { m_model.CheckAll(); });
+        OnClick(user, m_form.cmdChange, this, [this] { Change(); });
         // Once there is a folder, Enter takes it and does not close the dialog.
-        OnSignal(workshop.User, m_form.txtNewPath, &QLineEdit::textChanged, this,
+        OnSignal(user, m_form.txtNewPath, &QLineEdit::textChanged, this,
                  [this] { m_form.cmdChange->setDefault(true); });
         connect(m_form.cmdDone, &QPushButton::clicked, this, &QDialog::accept);
     }
@@ -148,7 +147,7 @@ private:
 
     void Browse()
     {
-        if (const auto folder = m_workshop.User.BrowseForFolder())
+        if (const auto folder = m_user.BrowseForFolder())
             m_form.txtNewPath->setText(*folder);
     }
 
@@ -157,13 +156,14 @@ private:
         const QString folder = m_form.txtNewPath->text();
         if (folder.isEmpty())
             return;
-        const HourglassScope hourglass(m_workshop.User);
-        ChangeFolder(m_workshop.Set, Field(), m_model.CheckedRows(), folder);
+        const HourglassScope hourglass(m_user);
+        ChangeFolder(m_set, Field(), m_model.CheckedRows(), folder);
         FillLV();
         m_form.cmdDone->setDefault(true);
     }
 
-    Workshop& m_workshop;
+    CardSet& m_set;
+    UserPort& m_user;
     Ui::frmPicPath m_form;
     QButtonGroup m_options;
     PathModel m_model;
@@ -171,9 +171,9 @@ private:
 
 } // namespace
 
-void EditPicturePaths(Workshop& workshop, QWidget* window)
+void EditPicturePaths(CardSet& set, UserPort& user, QWidget* window)
 {
-    PathDialog dialog(workshop, window);
+    PathDialog dialog(set, user, window);
     dialog.exec();
 }
 

@@ -4,10 +4,11 @@ class QWidget;
 
 namespace deckforge {
 
-struct Workshop;
+struct CardSet;
+class UserPort;
 
 /// Lets the user change the folders of the set's pictures in a dialog over the window. What is changed is in
 /// the records at once; the caller shows them again.
-void EditPicturePaths(Workshop& workshop, QWidget* window);
+void EditPicturePaths(CardSet& set, UserPort& user, QWidget* window);
 
 } // namespace deckforge

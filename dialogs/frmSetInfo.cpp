@@ -27,8 +27,9 @@ int SelectedRow(const QListView& list)
 
 class SetInfoDialog final : public QDialog {
 public:
-    SetInfoDialog(Workshop& workshop, QString& lastBackFile, QWidget* window)
-        : QDialog(window), m_workshop(workshop), m_set(workshop.Set), m_lastBackFile(lastBackFile)
+    SetInfoDialog(Workshop& workshop, UserPort& user, QString& lastBackFile, QWidget* window)
+        : QDialog(window), m_workshop(workshop), m_user(user), m_set(workshop.Set),
+          m_lastBackFile(lastBackFile)
     {
         m_form.setupUi(this);
         m_form.backLayout->setAlignment(m_form.picCB, Qt::AlignTop);
@@ -42,7 +43,7 @@ public:
         m_form.cboCTDefault->setModel(&m_allTypes);
         BindBacks();
         BindTypes();
-        OnClick(m_workshop.User, m_form.cmdBGPic, this, [this] { ChooseBackground(); });
+        OnClick(m_user, m_form.cmdBGPic, this, [this] { ChooseBackground(); });
         for (QLineEdit* box : {m_form.txtCBName, m_form.txtCTName, m_form.txtCTName2, m_form.txtCTNameRev,
                                m_form.txtCTNameRev2, m_form.txtCTNumber})
             box->installEventFilter(this);
@@ -89,31 +90,27 @@ private:
 
     void BindBacks()
     {
-        UserPort& user = m_workshop.User;
         QListView* const list = m_form.lstCB;
-        OnSignal(user, list, &QListView::clicked, this, [this] { ShowOwnBack(); });
-        OnSignal(user, list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        OnSignal(m_user, list, &QListView::clicked, this, [this] { ShowOwnBack(); });
+        OnSignal(m_user, list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                  [this] { ShowOwnBack(); });
-        OnSignal(user, list, &QListView::doubleClicked, this, [this] { RenameBack(); });
+        OnSignal(m_user, list, &QListView::doubleClicked, this, [this] { RenameBack(); });
         auto* const rename = new QShortcut(Qt::Key_F2, list);
         rename->setContext(Qt::WidgetShortcut);
-        OnSignal(user, rename, &QShortcut::activated, this, [this] { RenameBack(); });
-        OnSignal(user, m_form.cboCBDefault, &QComboBox::activated, this, [this] { DefaultBackChosen(); });
-        OnClick(m_workshop.User, m_form.cmdCBPic, this, [this] { ChooseBackPicture(); });
-        OnClick(m_workshop.User, m_form.cmdCBAdd, this, [this] { AddBack(); });
-        OnClick(m_workshop.User, m_form.cmdCBDelete, this,
-                [this] { DeleteSelected(*m_form.lstCB, DeleteOwnBack); });
+        OnSignal(m_user, rename, &QShortcut::activated, this, [this] { RenameBack(); });
+        OnSignal(m_user, m_form.cboCBDefault, &QComboBox::activated, this, [this] { DefaultBackChosen(); });
+        OnClick(m_user, m_form.cmdCBPic, this, [this] { ChooseBackPicture(); });
+        OnClick(m_user, m_form.cmdCBAdd, this, [this] { AddBack(); });
+        OnClick(m_user, m_form.cmdCBDelete, this, [this] { DeleteSelected(*m_form.lstCB, DeleteOwnBack); });
         connect(m_form.txtCBName, &QLineEdit::textEdited, m_form.cmdCBAdd,
                 [this] { m_form.cmdCBAdd->setDefault(true); });
     }
 
     void BindTypes()
     {
-        OnSignal(m_workshop.User, m_form.cboCTDefault, &QComboBox::activated, this,
-                 [this] { DefaultTypeChosen(); });
-        OnClick(m_workshop.User, m_form.cmdCTAdd, this, [this] { AddType(); });
-        OnClick(m_workshop.User, m_form.cmdCTDelete, this,
-                [this] { DeleteSelected(*m_form.lstCT, DeleteOwnType); });
+        OnSignal(m_user, m_form.cboCTDefault, &QComboBox::activated, this, [this] { DefaultTypeChosen(); });
+        OnClick(m_user, m_form.cmdCTAdd, this, [this] { AddType(); });
+        OnClick(m_user, m_form.cmdCTDelete, this, [this] { DeleteSelected(*m_form.lstCT, DeleteOwnType); });
         for (QLineEdit* box : {m_form.txtCTName, m_form.txtCTName2, m_form.txtCTNameRev, m_form.txtCTNameRev2,
                                m_form.txtCTNumber})
             connect(box, &QLineEdit::textEdited, m_form.cmdCTAdd,
@@ -146,9 +143,9 @@ private:
 
     void TellMissing(const char* text)
     {
-        m_workshop.User.ShowMessage({.Text = QString::fromLatin1(text),
-                                     .Title = QStringLiteral("Missing information"),
-                                     .Style = BoxStyle::Exclamation});
+        m_user.ShowMessage({.Text = QString::fromLatin1(text),
+                            .Title = QStringLiteral("Missing information"),
+                            .Style = BoxStyle::Exclamation});
     }
 
     static void ShowPath(QLineEdit& box, const QString& path)
@@ -186,7 +183,7 @@ private:
     {
         FileDialogRequest request = PictureDialog("Choose picture");
         request.FileName = startsAt;
-        return m_workshop.User.AskOpenFile(request);
+        return m_user.AskOpenFile(request);
     }
 
     // Card backs
@@ -219,7 +216,7 @@ private:
             return;
         CardBack& back = m_set.CardBacks[FirstOwnBack + ownRow];
         const QString name =
-            m_workshop.User.AskText(QStringLiteral("New name:"), QStringLiteral("Rename cardback"), back.Name)
+            m_user.AskText(QStringLiteral("New name:"), QStringLiteral("Rename cardback"), back.Name)
                 .value_or(QString());
         if (name.isEmpty())
             return;
@@ -296,6 +293,7 @@ private:
     }
 
     Workshop& m_workshop;
+    UserPort& m_user;
     CardSet& m_set;
     QString& m_lastBackFile; ///< where the next choice starts
     Ui::frmSetInfo m_form;
@@ -307,9 +305,9 @@ private:
 
 } // namespace
 
-void EditSetInfo(Workshop& workshop, QString& lastBackFile, QWidget* window)
+void EditSetInfo(Workshop& workshop, UserPort& user, QString& lastBackFile, QWidget* window)
 {
-    SetInfoDialog dialog(workshop, lastBackFile, window);
+    SetInfoDialog dialog(workshop, user, lastBackFile, window);
     dialog.Initialize();
     dialog.exec();
 }

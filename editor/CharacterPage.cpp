@@ -1,5 +1,6 @@
 #include "editor/CharacterPage.h"
 
+#include "commands/OutputCommands.h"
 #include "compose/CharacterCard.h"
 #include "core/Vocabulary.h"
 #include "dialogs/frmCardList.h"
@@ -126,7 +127,7 @@ void CharacterPage::Show(int16 index)
     if (m_parts.Document.Set()
             .Header.Symbol.isEmpty()) // Kept: a cleared symbol stays until a character is shown
         m_boxes.picSymbolCharacter.Visible = false;
-    static_cast<void>(ShowCharacter(m_parts.Works, index));
+    ShowComposed(m_parts.User, ShowCharacter(m_parts.Works, index));
     Fill();
 }
 

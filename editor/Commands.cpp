@@ -1,5 +1,6 @@
 #include "editor/Commands.h"
 
+#include "commands/OutputCommands.h"
 #include "compose/FontScheme.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmCardSheet.h"
@@ -8,10 +9,6 @@
 #include "dialogs/frmSetInfo.h"
 #include "editor/Page.h"
 #include "editor/frmQDW.h"
-#include "output/HtmlSheets.h"
-#include "output/Printing.h"
-#include "output/Statistics.h"
-#include "output/modCapture.h"
 
 #include <QAction>
 #include <QShortcut>
@@ -19,53 +16,6 @@
 #include <functional>
 
 namespace deckforge {
-
-namespace {
-
-/// What the output commands do for each kind.
-struct OutputRow {
-    void (*Save)(Workshop&, RunReport&, int16, Ask, Tell, SheetNumber);
-    void (*CreateAll)(Workshop&, RunReport&);
-    void (*CreateSheets)(Workshop&, RunReport&, std::optional<SheetGrid>);
-    void (*CreateHtml)(const CardSet&, UserPort&, RunReport&);
-    PrintedPage Page;
-};
-
-constexpr OutputRow OutputRows[] = {
-    {.Save = &SaveCard,
-     .CreateAll = &CreateCards,
-     .CreateSheets = &CreateCardSheets,
-     .CreateHtml = [](const CardSet& set, UserPort& user,
-                      RunReport& report) { CreateHtmlCards(set, user, report); },
-     .Page = PrintedPage::Card},
-    {.Save = &SaveLargeCard,
-     .CreateAll = &CreateLargeCards,
-     .CreateSheets = &CreateLargeCardSheets,
-     .CreateHtml = [](const CardSet& set, UserPort& user,
-                      RunReport& report) { CreateHtmlLargeCards(set, user, report); },
-     .Page = PrintedPage::LargeCard},
-    {.Save = &SaveCharacter,
-     .CreateAll = &CreateCharacters,
-     .CreateSheets = &CreateCharacterSheets,
-     .CreateHtml =
-         [](const CardSet& set, UserPort& user, RunReport& report) {
-             CreateHtmlCharacters(set, user, report);
-             CreateHtmlPieces(set, user, report);
-         },
-     .Page = PrintedPage::Character},
-    // The other columns are those of the characters: no command for whole cards works on card backs.
-    {.Save = &SaveNewCardBack,
-     .CreateAll = nullptr,
-     .CreateSheets = nullptr,
-     .CreateHtml = nullptr,
-     .Page = PrintedPage::CharacterAlone}};
-
-const OutputRow& RowOf(CardKind kind)
-{
-    return OutputRows[static_cast<std::size_t>(kind)];
-}
-
-} // namespace
 
 struct Commands::Command {
     const char* Key = nullptr; ///< also the name of its image; null for a separator
@@ -167,7 +117,7 @@ void Commands::FillAfterRun()
 void Commands::ChangePicPath()
 {
     m_parts.Document.Edit(QStringLiteral("Change picture path"),
-                          [this](CardSet&) { EditPicturePaths(m_parts.Works, &m_window); });
+                          [this](CardSet& set) { EditPicturePaths(set, m_parts.User, &m_window); });
     if (const int16 current = CurrentOf(m_parts.Document.Set(), m_window.SelectedKind()); current > 0)
         m_window.SelectedPage().Show(current);
 }
@@ -184,21 +134,22 @@ void Commands::Paste()
 
 void Commands::SetInfo()
 {
-    m_parts.Document.Edit(QStringLiteral("Customize Set"),
-                          [this](CardSet&) { EditSetInfo(m_parts.Works, m_lastBackFile, &m_window); });
+    m_parts.Document.Edit(QStringLiteral("Customize Set"), [this](CardSet&) {
+        EditSetInfo(m_parts.Works, m_parts.User, m_lastBackFile, &m_window);
+    });
     m_window.ShowTables();
 }
 
 void Commands::ChangeFonts()
 {
     m_parts.Document.Edit(QStringLiteral("Change Fonts"),
-                          [this](CardSet&) { EditFonts(m_parts.Works, &m_window); });
+                          [this](CardSet& set) { EditFonts(set.Header, m_parts.User, &m_window); });
     m_window.ShowFonts();
 }
 
 void Commands::ExportBacks()
 {
-    ExportCardBacks(m_parts.Works);
+    ExportCardBacks(m_parts.Works, m_parts.User);
 }
 
 void Commands::CreateOne()
@@ -206,26 +157,25 @@ void Commands::CreateOne()
     const CardKind kind = m_window.SelectedKind();
     const int16 current = ExistingIndex(kind);
     m_window.SelectedPage().Show(current);
-    RunReport report(m_parts.User);
-    m_parts.Document.Edit(QStringLiteral("Create one card"), [&](CardSet&) {
-        RowOf(kind).Save(m_parts.Works, report, current, Ask::Yes, Tell::Yes, {});
-    });
+    ShownRun run(m_parts.User);
+    m_parts.Document.Edit(QStringLiteral("Create one card"),
+                          [&](CardSet&) { SaveImageAs(m_parts.Works, run, kind, current); });
 }
 
 void Commands::CreateAll()
 {
-    RunReport report(m_parts.User);
+    ShownRun run(m_parts.User);
     m_parts.Document.Edit(QStringLiteral("Create all cards"),
-                          [&](CardSet&) { RowOf(KindForCards()).CreateAll(m_parts.Works, report); });
+                          [&](CardSet&) { CreateImages(m_parts.Works, run, KindForCards()); });
     FillAfterRun();
 }
 
 void Commands::CreateSheets()
 {
     const std::optional<SheetGrid> grid = AskSheetGrid(m_parts.Document.Set().Header.NoBack, &m_window);
-    RunReport report(m_parts.User);
+    ShownRun run(m_parts.User);
     m_parts.Document.Edit(QStringLiteral("Create card sheets"), [&](CardSet&) {
-        RowOf(KindForCards()).CreateSheets(m_parts.Works, report, grid); // reports a cancel as well
+        deckforge::CreateSheets(m_parts.Works, run, KindForCards(), grid); // reports a cancel as well
     });
     if (grid)
         FillAfterRun();
@@ -233,8 +183,12 @@ void Commands::CreateSheets()
 
 void Commands::CreateHtml()
 {
-    RunReport report(m_parts.User);
-    RowOf(KindForCards()).CreateHtml(m_parts.Document.Set(), m_parts.User, report);
+    const CardSet& set = m_parts.Document.Set();
+    const CardKind kind = KindForCards();
+    ShownRun run(m_parts.User);
+    deckforge::CreateHtml(set, run, static_cast<HtmlPages>(kind));
+    if (kind == CardKind::Character)
+        deckforge::CreateHtml(set, run, HtmlPages::Pieces);
 }
 
 void Commands::ExportListing()
@@ -245,15 +199,15 @@ void Commands::ExportListing()
 /// The tab of card backs prints the current character, without its playing piece.
 void Commands::PrintCurrent()
 {
-    const PrintedPage page = RowOf(m_window.SelectedKind()).Page;
+    const auto page = static_cast<PrintedPage>(m_window.SelectedKind());
     m_window.PageOf(KindOnPage(page)).Show(ExistingIndex(KindOnPage(page)));
-    RunReport report(m_parts.User);
-    PrintCard(m_parts.Works, report, page);
+    ShownRun run(m_parts.User);
+    PrintCard(m_parts.Works, run, page);
 }
 
 void Commands::ShowStatistics()
 {
-    Statistics(m_parts.Document.Set(), m_parts.User);
+    deckforge::ShowStatistics(m_parts.Document.Set(), m_parts.User);
 }
 
 void Commands::About()

@@ -1,5 +1,6 @@
 #include "editor/LargePage.h"
 
+#include "commands/OutputCommands.h"
 #include "compose/LargeCard.h"
 #include "compose/StandardCard.h"
 #include "dialogs/frmCardList.h"
@@ -88,7 +89,7 @@ void LargePage::SetShown(bool isShown)
 
 void LargePage::Show(int16 index)
 {
-    static_cast<void>(ShowLargeCard(m_parts.Works, index));
+    ShowComposed(m_parts.User, ShowLargeCard(m_parts.Works, index));
     Fill();
 }
 

@@ -94,7 +94,7 @@ void SetDocument::AfterChange()
 
 SaveResult SetDocument::Save()
 {
-    const SaveResult result = SaveSet(m_set, m_user);
+    const SaveResult result = deckforge::SaveSet(m_set, m_user);
     if (result == SaveResult::Saved)
         Keep(FolderPart(m_set.Header.FileName));
     return result;
@@ -137,7 +137,7 @@ bool SetDocument::Leave(std::optional<QString>& rescued, const QString& toOpen)
     try {
         WithMemoryAsFailure([&] { rescued = m_work.Leave(m_set, toOpen); });
     } catch (const RunTimeError& error) {
-        TellNotSaved(m_user, error);
+        ShowNotSaved(m_user, error);
         return false;
     }
     return true;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/modInfo.h"
+#include "commands/SetCommands.h"
 #include "editor/SetSteps.h"
 #include "files/Rescue.h"
 #include "files/modFile.h"
@@ -71,7 +71,8 @@ public:
     template <class Record>
     void Copy()
     {
-        CopyElement<Record>(m_set, m_user);
+        CopyElement<Record>(m_set);
+        ShowCopied(m_user, KindOf<Record>);
     }
 
     /// The next change begins a step of its own: another control has the keyboard, or another gesture begins.

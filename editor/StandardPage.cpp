@@ -1,5 +1,6 @@
 #include "editor/StandardPage.h"
 
+#include "commands/OutputCommands.h"
 #include "compose/PicturePlacement.h"
 #include "compose/StandardCard.h"
 #include "core/CardVocabulary.h"
@@ -118,9 +119,8 @@ void StandardPage::TakeSet()
 
 void StandardPage::Show(int16 index)
 {
-    // A failure was reported in a box. The controls are filled all the same: what is typed into them goes to
-    // this record.
-    static_cast<void>(ShowCard(m_parts.Works, index));
+    ShowComposed(m_parts.User, ShowCard(m_parts.Works, index));
+    // After a failure, too: what is typed into the controls changes this record.
     Fill();
 }
 
@@ -174,7 +174,7 @@ void StandardPage::FillBackList()
 
 void StandardPage::ShowArtist()
 {
-    DrawArtistCredit(m_parts.Works, Current().Artist);
+    DrawArtistCredit(m_parts.Works, m_parts.Document.Set().Cards.Current);
 }
 
 std::vector<QWidget*> StandardPage::BoxesToReplace() const

@@ -1,7 +1,7 @@
 #include "editor/frmQDW.h"
 
+#include "commands/OutputCommands.h"
 #include "compose/FontScheme.h"
-#include "compose/SetView.h"
 #include "dialogs/FocusSelection.h"
 #include "dialogs/PlainTexts.h"
 #include "dialogs/TabKeys.h"
@@ -27,7 +27,7 @@
 namespace deckforge {
 
 frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
-    : m_works(user), m_document(m_works.Set, user, renewRescueAfter),
+    : m_document(m_works.Set, user, renewRescueAfter),
       m_preview(new CardPreview(PreviewBoxes(m_works.Templates), this)), m_parts{.Works = m_works,
                                                                                  .Document = m_document,
                                                                                  .Preview = *m_preview,
@@ -47,7 +47,7 @@ frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
     BindDocument();
     BindFocus();
     Guarded(user, [this] {
-        InitForm(m_works);
+        ShowViewed(m_parts.User, InitForm(m_works));
         ShowNewSet();
     });
     m_document.Keep();

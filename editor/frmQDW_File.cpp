@@ -1,5 +1,5 @@
+#include "commands/OutputCommands.h"
 #include "compose/FontScheme.h"
-#include "compose/SetView.h"
 #include "editor/Page.h"
 #include "editor/SetInfoPanel.h"
 #include "editor/StandardPage.h"
@@ -60,7 +60,7 @@ void frmQDW::NewSet()
     if (m_document.AskToSave(BoxButtons::YesNo) == Answer::Cancel)
         return;
     const auto makeNew = [this](CardSet&) {
-        InitForm(m_works);
+        ShowViewed(m_parts.User, InitForm(m_works));
         return true;
     };
     if (m_document.Replace(QStringLiteral("New card set"), {}, makeNew))
@@ -84,7 +84,7 @@ void frmQDW::OpenSet()
 void frmQDW::OpenFile(const QString& path)
 {
     statusBar()->clearMessage();
-    const auto read = [&](CardSet& set) { return ReadDKF(set, path, m_parts.User); };
+    const auto read = [&](CardSet& set) { return deckforge::OpenSet(set, path, m_parts.User); };
     if (m_document.Replace(QStringLiteral("Open card set"), PathToOpen(path), read))
         ShowOpened();
 }
@@ -98,7 +98,7 @@ void frmQDW::ShowOpened()
     ShowKind(CardKind::Standard);
     for (const auto& page : m_pages)
         page->TakeSet();
-    ShowOpenedSet(m_works);
+    ShowViewed(m_parts.User, ShowOpenedSet(m_works));
     m_info->Fill();
     m_standard->Fill();
 }
@@ -137,7 +137,8 @@ void frmQDW::ShowRestored(const std::optional<CardKind>& kind)
         page->TakeSet();
         page->SyncSlider();
     }
-    ShowSet(m_works);
+    if (const auto failure = ShowSet(m_works))
+        TellUntrapped(m_parts.User, *failure);
     SetFont(m_works.Templates, set.Header);
     m_info->Fill();
     ShowKind(shown);

@@ -9,7 +9,6 @@
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/SaveFile.h"
-#include "platform/SilentUser.h"
 
 #include <QFileInfo>
 #include <QScopeGuard>
@@ -127,28 +126,17 @@ int16 VersionOf(QByteArrayView line)
     return ToInt16(NumberFromText(blank < 0 ? line : line.sliced(blank + 1)));
 }
 
-void Tell(UserPort& user, BoxStyle style, const char* title, const char* text)
-{
-    user.ShowMessage(
-        {.Text = QString::fromLatin1(text), .Title = QString::fromLatin1(title), .Style = style});
-}
-
-/// Reads what tells whether the file can be read at all; nothing when it cannot, which the user is told.
-std::optional<int16> ReadVersion(SetReader& in, UserPort& user)
+/// Reads what says whether the file can be read at all; nothing when it cannot.
+std::optional<int16> ReadVersion(SetReader& in, ReadOutcome& outcome)
 {
     if (in.Line() != setFile::Signature) {
-        Tell(user, BoxStyle::Critical, "Open File Error", "This is not a correct card set file.");
+        outcome.Rejected = ReadOutcome::Rejection::NoCardSet;
         return std::nullopt;
     }
     const int16 version = VersionOf(in.Line());
-    if (version < setFile::CurrentVersion) {
-        Tell(user, BoxStyle::Information, "Converting",
-             "The set you are opening is of an older version.\r\nIt will now be converted to the new "
-             "version.");
-    }
+    outcome.IsConverted = version < setFile::CurrentVersion;
     if (version > setFile::CurrentVersion) {
-        Tell(user, BoxStyle::Information, "Version conflict",
-             "The set you are opening is from a newer version.\r\nIt can not be opened in this version.");
+        outcome.Rejected = ReadOutcome::Rejection::NewerVersion;
         return std::nullopt;
     }
     return version;
@@ -186,45 +174,24 @@ std::optional<SetFile> FileOf(const QString& path)
     return SetFile{QFileInfo(PathToOpen(path)).absoluteFilePath(), *attributes};
 }
 
-/// False for a file that is rejected.
-bool ReadFile(CardSet& set, const QString& path, UserPort& user)
+void ReadFile(CardSet& set, const QString& path, ReadOutcome& outcome)
 {
     std::optional<SetFile> file = FileOf(path);
     SetReader in(ReadWholeFile(path, setFile::MostBytes));
     const auto place = [&] { return path + QLatin1Char(':') + QString::number(in.LineNumber()); };
     try {
-        const std::optional<int16> version = ReadVersion(in, user);
-        if (!version) {
-            user.ReportProblems({path + QStringLiteral(": Not a card set of this version")});
-            return false;
-        }
+        const std::optional<int16> version = ReadVersion(in, outcome);
+        if (!version)
+            return;
         const auto finish = qScopeGuard([&] {
             MakeValid(set);
             set.File = std::move(file);
         });
-        if (!ReadBody(in, *version, set)) {
-            Tell(user, BoxStyle::Question, "Error", "No final match!");
-            user.ReportProblems({place() + QStringLiteral(": No final match!")});
-        }
-        return true;
+        if (!ReadBody(in, *version, set))
+            outcome.UnmatchedEnd = place();
     } catch (const RunTimeError& error) {
         throw error.At(place());
     }
-}
-
-/// A save that was cut off may have left a file that reads well and is half of each set.
-void TellOfSafetyCopies(UserPort& user, const QString& path)
-{
-    const QStringList copies = SafetyCopiesOf(path);
-    if (copies.isEmpty())
-        return;
-    user.ShowMessage(
-        {.Text = QStringLiteral("A save of this file was cut off. What it held before is in\r\n\r\n%1"
-                                "\r\n\r\nIf anything is missing here, open that file and save it "
-                                "under this name. Delete it when all is well.")
-                     .arg(copies.join(QLatin1String("\r\n"))),
-         .Title = QStringLiteral("Open file"),
-         .Style = BoxStyle::Exclamation});
 }
 
 } // namespace
@@ -233,9 +200,9 @@ void CheckReadable(const QByteArray& bytes)
 {
     try {
         SetReader in(bytes, SetReader::Texts::Skip);
-        SilentUser nobody;
+        ReadOutcome outcome;
         CardSet scratch;
-        const std::optional<int16> version = ReadVersion(in, nobody);
+        const std::optional<int16> version = ReadVersion(in, outcome);
         if (!version || !ReadBody(in, *version, scratch))
             throw RunTimeError(ErrorNumber::InvalidCall);
     } catch (const RunTimeError& error) {
@@ -244,24 +211,18 @@ void CheckReadable(const QByteArray& bytes)
     }
 }
 
-bool ReadDKF(CardSet& set, const QString& path, UserPort& user)
+ReadOutcome ReadDKF(CardSet& set, const QString& path)
 {
-    bool isRead = false;
+    ReadOutcome outcome;
     try {
-        WithMemoryAsFailure([&] { isRead = ReadFile(set, path, user); });
+        WithMemoryAsFailure([&] { ReadFile(set, path, outcome); });
+        if (outcome.IsRead())
+            set.Cards.Current = 1;
     } catch (const RunTimeError& error) {
-        user.ShowMessage({.Text = QStringLiteral("Error while opening the Varnhelm Card Set.\r\n\r\n") +
-                                  error.NumberAndDescription(),
-                          .Title = QStringLiteral("Error"),
-                          .Style = BoxStyle::Critical});
-        user.ReportProblems({error.At(path).PlaceAndDescription()});
+        outcome.Failure = error.At(path);
     }
-    if (isRead) {
-        Tell(user, BoxStyle::Information, "Open file", "The card set is loaded.");
-        set.Cards.Current = 1;
-    }
-    TellOfSafetyCopies(user, path);
-    return isRead;
+    outcome.SafetyCopies = SafetyCopiesOf(path);
+    return outcome;
 }
 
 } // namespace deckforge

@@ -68,7 +68,9 @@ void ListAll(Listing& out, const OneBasedArray<Record>& records, void (*list)(Li
         list(out, i, records[i]);
 }
 
-void WriteListing(const CardSet& set, const QString& path)
+} // namespace
+
+void ExportSetText(const CardSet& set, const QString& path)
 {
     Listing out(path);
     out.Line("Created with Varnhelm Deck Forge");
@@ -91,22 +93,6 @@ void WriteListing(const CardSet& set, const QString& path)
         ListAll(out, set.Characters, ListCharacter);
     }
     out.Close();
-}
-
-} // namespace
-
-bool ExportSetText(const CardSet& set, const QString& path, UserPort& user)
-{
-    try {
-        WithMemoryAsFailure([&] { WriteListing(set, path); });
-    } catch (const RunTimeError& error) {
-        TellNotSaved(user, error);
-        return false;
-    }
-    user.ShowMessage({.Text = QStringLiteral("The card set text is exported."),
-                      .Title = QStringLiteral("Save text"),
-                      .Style = BoxStyle::Information});
-    return true;
 }
 
 } // namespace deckforge

@@ -75,14 +75,6 @@ void TryWriting(const Record& record, void (*write)(FieldWriter&, const Record&)
 
 } // namespace
 
-void TellNotSaved(UserPort& user, const RunTimeError& error)
-{
-    user.ShowMessage({.Text = QStringLiteral("The file is NOT saved due to an error.\r\n\r\n") +
-                              error.NumberAndDescription(),
-                      .Title = QStringLiteral("Error"),
-                      .Style = BoxStyle::Critical});
-}
-
 QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable)
 {
     SetWriter out(unwritable);
@@ -130,24 +122,11 @@ void CheckSavable(const NewCardBack& back)
     TryWriting(back, setFile::NewCardBackFields);
 }
 
-bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report)
+void WriteDKF(const CardSet& set, const QString& path)
 {
-    try {
-        WithMemoryAsFailure([&] {
-            const QByteArray bytes = SetFileBytes(set, Unwritable::Fail);
-            CheckReadable(bytes);
-            SaveFile(path, bytes);
-        });
-    } catch (const RunTimeError& error) {
-        TellNotSaved(user, error);
-        return false;
-    }
-    if (report == Report::Tell) {
-        user.ShowMessage({.Text = QStringLiteral("The card set is saved."),
-                          .Title = QStringLiteral("Save file"),
-                          .Style = BoxStyle::Information});
-    }
-    return true;
+    const QByteArray bytes = SetFileBytes(set, Unwritable::Fail);
+    CheckReadable(bytes);
+    SaveFile(path, bytes);
 }
 
 } // namespace deckforge

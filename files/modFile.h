@@ -2,20 +2,21 @@
 
 #include "core/CardSet.h"
 #include "files/SetWriter.h"
-#include "platform/UserPort.h"
+#include "platform/RunTimeError.h"
+
+#include <QStringList>
+#include <optional>
 
 namespace deckforge {
 
 // The set file: lines ended by CR LF in the single-byte code page, one field to a line, no keys. Counts in
 // the file say how long each section is. The current version is written; all up to it are read.
 
-enum class Report { Silent, Tell };
-
-/// Writes the set to the path and returns whether it is all there and on the disk.
+/// Writes the set to the path; the file is then all there and on the disk.
 ///
-/// Nothing is written that the reader would not take. On failure an error box is shown and the file is
-/// unchanged; where even that failed, the box says where its safety copy is (see SaveFile).
-bool WriteDKF(const CardSet& set, const QString& path, UserPort& user, Report report);
+/// Nothing is written that the reader would not accept. On failure the file is unchanged; where even that
+/// failed, the description says where its safety copy is (see SaveFile).
+void WriteDKF(const CardSet& set, const QString& path);
 
 /// The bytes of the file that the set would be written to.
 [[nodiscard]] QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable);
@@ -33,29 +34,25 @@ void CheckSavable(const NewCardBack& back);
 /// Fails as opening a file of these bytes would.
 void CheckReadable(const QByteArray& bytes);
 
-/// Reads a set file into the set and returns whether it is read. What was read before a failure stays in the
-/// set, which is a valid one nevertheless. A rejected file (no set, or of a newer version) changes nothing.
-///
-/// That file is then proposed for saving, whatever path it holds. Where a save of the file was cut off, a
-/// box says where its safety copy is.
-[[nodiscard]] bool ReadDKF(CardSet& set, const QString& path, UserPort& user);
+/// How reading a set file ended.
+struct ReadOutcome {
+    enum class Rejection { None, NoCardSet, NewerVersion };
 
-enum class SaveResult { Saved, Cancelled, Failed };
+    Rejection Rejected = Rejection::None; ///< the set is unchanged unless None
+    bool IsConverted = false;             ///< the file is of an older version
+    QString UnmatchedEnd = {}; ///< "FILE:LINE" where the last line is another one; empty if it is right
+    std::optional<RunTimeError> Failure = {}; ///< with file and line
+    QStringList SafetyCopies = {};            ///< of the file, from saves that were cut off
 
-/// Asks where to, and writes the set there; always asks.
-SaveResult SaveSet(CardSet& set, UserPort& user);
+    [[nodiscard]] bool IsRead() const { return Rejected == Rejection::None && !Failure; }
+};
 
-/// Asks for the set file to open; nothing on a cancel.
-[[nodiscard]] std::optional<QString> AskSetToOpen(UserPort& user);
+/// Reads a set file into the set. What was read before a failure stays in the set, which is a valid one
+/// nevertheless. The file is then proposed for saving, whatever path it holds.
+[[nodiscard]] ReadOutcome ReadDKF(CardSet& set, const QString& path);
 
-/// Writes a plain listing of the set's texts for reading, and gives whether it is all there. Pictures, fonts
-/// and user-designed backs are no part of it. A failure is told in a box, and what was written stays.
-bool ExportSetText(const CardSet& set, const QString& path, UserPort& user);
-
-/// Asks where to, and writes the listing there; nothing on a cancel.
-void ExportText(const CardSet& set, UserPort& user);
-
-/// Shows a failure that ended a write.
-void TellNotSaved(UserPort& user, const RunTimeError& error);
+/// Writes a plain listing of the set's texts for reading. Pictures, fonts and user-designed backs are not in
+/// it. What was written before a failure stays.
+void ExportSetText(const CardSet& set, const QString& path);
 
 } // namespace deckforge

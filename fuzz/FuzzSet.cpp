@@ -37,11 +37,11 @@ void ForgetPictures(CardSet& set)
 
 void ShowAll(Workshop& workshop)
 {
-    ShowOpenedSet(workshop); // composes as well, as the others do
+    (void)ShowOpenedSet(workshop); // composes as well, as the others do
     if (workshop.Set.LargeCards.Count() > 0)
-        ShowLargeCard(workshop, 1);
+        (void)ShowLargeCard(workshop, 1);
     if (workshop.Set.Characters.Count() > 0)
-        ShowCharacter(workshop, 1);
+        (void)ShowCharacter(workshop, 1);
     if (workshop.Set.NewCardBacks.Count() > 0) {
         ShowNewCardBack(workshop, 1);
         DrawNewCardBack(workshop, 1);
@@ -54,15 +54,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
 {
     StartDrawing();
     static SilentUser user;
-    static Workshop workshop(user);
-    InitForm(workshop);
-    if (!ReadDKF(workshop.Set, FuzzedFile(bytes, size).Path(), user))
+    static Workshop workshop;
+    (void)InitForm(workshop);
+    if (!OpenSet(workshop.Set, FuzzedFile(bytes, size).Path(), user))
         return 0;
     const QByteArray written = SetFileBytes(workshop.Set, Unwritable::Fail);
     CardSet again = workshop.Set;
     const FuzzedFile file(reinterpret_cast<const std::uint8_t*>(written.data()),
                           static_cast<std::size_t>(written.size()));
-    if (!ReadDKF(again, file.Path(), user) || SetFileBytes(again, Unwritable::Fail) != written)
+    if (!OpenSet(again, file.Path(), user) || SetFileBytes(again, Unwritable::Fail) != written)
         std::abort();
     ForgetPictures(workshop.Set);
     if (workshop.Set.Cards.Count() > 0)

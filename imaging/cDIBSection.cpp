@@ -73,15 +73,8 @@ std::uint8_t Blend(float share, std::uint8_t first, std::uint8_t second)
 
 } // namespace
 
-bool cDIBSection::CopyToClipboard(bool asDIB, UserPort& user) const
+bool cDIBSection::CopyToClipboard() const
 {
-    if (asDIB) {
-        user.ShowMessage({.Text = QStringLiteral(
-                              "I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!"),
-                          .Title = QStringLiteral("Varnhelm Deck Forge"),
-                          .Style = BoxStyle::Plain});
-        return false;
-    }
     QClipboard* clipboard = QGuiApplication::clipboard();
     if (clipboard == nullptr || m_bits.empty())
         return false;

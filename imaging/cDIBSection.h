@@ -1,7 +1,6 @@
 #pragma once
 
 #include "imaging/PictureBox.h"
-#include "platform/UserPort.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -42,9 +41,8 @@ enum class RasterOperation { SrcCopy = 0xCC0020 };
 /// It starts empty. Operations but Create, CreateFromPicture and ClearUp need a bitmap.
 class cDIBSection {
 public:
-    /// Puts the surface on the clipboard as a bitmap. As a device-independent one it can't: the user is told,
-    /// and the result is false. False as well where there is no clipboard.
-    bool CopyToClipboard(bool asDIB, UserPort& user) const;
+    /// Copies the surface to the clipboard. False where there is no clipboard or no bitmap.
+    bool CopyToClipboard() const;
 
     /// Takes memory for the size, all black. False when there is none, or when a measure is below 1.
     [[nodiscard]] bool CreateDIB(int32 width, int32 height);

@@ -134,9 +134,6 @@ struct HtmlRow {
     const char* PagePrefix;  ///< in front of the set's name in the name of a page
     const char* TitlePrefix; ///< in front of it in the title, too
     QString (*Image)(const SetHeader&, const QString& fileName, int index, int count);
-    const char* Missing;
-    const char* OnePage;
-    const char* Pages;
 };
 
 /// The prefix and, where the set wants it, the number, as the pages have them in front of a name.
@@ -175,47 +172,30 @@ constexpr int OneCopy(const Character& /*character*/)
     return 1;
 }
 
-constexpr HtmlRow<Card> CardPages = {
-    [](const Card& card) { return int{card.Copies}; },
-    6,
-    WriteSix,
-    "",
-    "",
-    StandardImageName,
-    "Some cards are missing their filenames. Please save all cards before creating the HTML sheets.",
-    "1 HTML sheet is created.",
-    " HTML sheets are created."};
-constexpr HtmlRow<LargeCard> LargePages = {[](const LargeCard& card) { return int{card.Copies}; },
-                                           3,
-                                           WriteThree,
-                                           "Large ",
-                                           "",
-                                           KindImageName<LargeImages>,
-                                           "Some large cards are missing their filenames. Please save all "
-                                           "large cards before creating the HTML sheets.",
-                                           "1 large HTML sheet is created.",
-                                           " large HTML sheets are created."};
-constexpr char MissingCharacters[] =
-    "Some character cards are missing their filenames. Please save all character "
-    "cards before creating the HTML sheets.";
-constexpr HtmlRow<Character> CharacterPages = {OneCopy,
-                                               3,
-                                               WriteThree,
-                                               "Character ",
-                                               "",
-                                               KindImageName<CharacterImages>,
-                                               MissingCharacters,
-                                               "1 character HTML sheet is created.",
-                                               " character HTML sheets are created."};
-constexpr HtmlRow<Character> PiecePages = {OneCopy,
-                                           6,
-                                           WriteSix,
-                                           "",
-                                           "Character Piece ",
-                                           KindImageName<PieceImages>,
-                                           MissingCharacters,
-                                           "1 character playing piece HTML sheet is created.",
-                                           " character playing piece HTML sheets are created."};
+constexpr HtmlRow<Card> CardPages = {.Copies = [](const Card& card) { return int{card.Copies}; },
+                                     .Slots = 6,
+                                     .WriteBody = WriteSix,
+                                     .PagePrefix = "",
+                                     .TitlePrefix = "",
+                                     .Image = StandardImageName};
+constexpr HtmlRow<LargeCard> LargePages = {.Copies = [](const LargeCard& card) { return int{card.Copies}; },
+                                           .Slots = 3,
+                                           .WriteBody = WriteThree,
+                                           .PagePrefix = "Large ",
+                                           .TitlePrefix = "",
+                                           .Image = KindImageName<LargeImages>};
+constexpr HtmlRow<Character> CharacterPages = {.Copies = OneCopy,
+                                               .Slots = 3,
+                                               .WriteBody = WriteThree,
+                                               .PagePrefix = "Character ",
+                                               .TitlePrefix = "",
+                                               .Image = KindImageName<CharacterImages>};
+constexpr HtmlRow<Character> PiecePages = {.Copies = OneCopy,
+                                           .Slots = 6,
+                                           .WriteBody = WriteSix,
+                                           .PagePrefix = "",
+                                           .TitlePrefix = "Character Piece ",
+                                           .Image = KindImageName<PieceImages>};
 
 FilePath PathOf(const Page& page)
 {
@@ -258,13 +238,15 @@ std::optional<qint64> ImageCount(const CardSet& set, const HtmlRow<Record>& row)
     return sum;
 }
 
-/// Gives how many pages were due.
 template <class Record>
-int WritePages(const CardSet& set, RunReport& report, const HtmlRow<Record>& row, qint64 imageCount)
+std::optional<int> WritePages(const CardSet& set, RunReport& report, const HtmlRow<Record>& row)
 {
+    const std::optional<qint64> imageCount = ImageCount(set, row);
+    if (!imageCount)
+        return std::nullopt;
     const CardList<Record>& cards = ListOf<Record>(set);
     const int count = cards.Count();
-    const qint64 pageCount = imageCount / row.Slots + 1;
+    const qint64 pageCount = *imageCount / row.Slots + 1;
     Page page{.Header = set.Header,
               .NamePrefix = row.PagePrefix,
               .Title = QLatin1String(row.TitlePrefix) + set.Header.SetName,
@@ -298,44 +280,21 @@ int WritePages(const CardSet& set, RunReport& report, const HtmlRow<Record>& row
     return page.Number;
 }
 
-template <class Record>
-bool CreatePages(const CardSet& set, UserPort& user, RunReport& report, const HtmlRow<Record>& row)
-{
-    const std::optional<qint64> imageCount = ImageCount(set, row);
-    if (!imageCount) {
-        user.ShowMessage({.Text = QString::fromLatin1(row.Missing),
-                          .Title = QStringLiteral("Missing information"),
-                          .Style = BoxStyle::Exclamation});
-        return false;
-    }
-    const int pages = WritePages(set, report, row, *imageCount);
-    user.ShowMessage({.Text = pages == 1 ? QString::fromLatin1(row.OnePage)
-                                         : QString::number(pages) + QLatin1String(row.Pages),
-                      .Title = QStringLiteral("Save HTML"),
-                      .Style = BoxStyle::Information});
-    return true;
-}
-
 } // namespace
 
-bool CreateHtmlCards(const CardSet& set, UserPort& user, RunReport& report)
+std::optional<int> WriteHtml(const CardSet& set, RunReport& report, HtmlPages pages)
 {
-    return CreatePages(set, user, report, CardPages);
-}
-
-bool CreateHtmlLargeCards(const CardSet& set, UserPort& user, RunReport& report)
-{
-    return CreatePages(set, user, report, LargePages);
-}
-
-bool CreateHtmlCharacters(const CardSet& set, UserPort& user, RunReport& report)
-{
-    return CreatePages(set, user, report, CharacterPages);
-}
-
-bool CreateHtmlPieces(const CardSet& set, UserPort& user, RunReport& report)
-{
-    return CreatePages(set, user, report, PiecePages);
+    switch (pages) {
+    case HtmlPages::LargeCards:
+        return WritePages(set, report, LargePages);
+    case HtmlPages::Characters:
+        return WritePages(set, report, CharacterPages);
+    case HtmlPages::Pieces:
+        return WritePages(set, report, PiecePages);
+    case HtmlPages::Cards:
+        break;
+    }
+    return WritePages(set, report, CardPages);
 }
 
 } // namespace deckforge

@@ -27,30 +27,41 @@ struct FinalPicture {
     const char* GifFailureTitle; ///< mixed as they are
 };
 
-constexpr FinalPicture StandardPicture = {&WorkSurfaces::picACard,
-                                          CardSize.width(),
-                                          Beside::Back,
-                                          [](const CardTemplates& t) { return &t.Standard.picBack; },
-                                          "Saving the card",
-                                          "Saving the card"};
-constexpr FinalPicture LargePicture = {&WorkSurfaces::picACard,
-                                       DoubleCardSize.width(),
-                                       Beside::Back,
-                                       [](const CardTemplates& t) { return &t.Large.picBackLarge; },
-                                       "Saving the large card",
-                                       "Saving the large card"};
-constexpr FinalPicture CharacterPicture = {
-    &WorkSurfaces::picACard,
-    DoubleCardSize.width(),
-    Beside::Back,
-    [](const CardTemplates& t) { return &t.Character.picCharacterBack; },
-    "Saving the character card",
-    "Saving the large card"};
-constexpr FinalPicture PiecePicture = {
-    &WorkSurfaces::picACardPP,       CardSize.width(),       Beside::SameAgain, nullptr,
-    "Saving the playing piece card", "Saving the large card"};
-constexpr FinalPicture NewBackPicture = {&WorkSurfaces::picACard, CardSize.width(), Beside::Nothing, nullptr,
-                                         "Saving the card",       "Saving the card"};
+const FinalPicture& RowOf(FinalImage image)
+{
+    static constexpr FinalPicture rows[] = {
+        {.Source = &WorkSurfaces::picACard,
+         .OutlineWidth = CardSize.width(),
+         .Companion = Beside::Back,
+         .Back = [](const CardTemplates& t) { return &t.Standard.picBack; },
+         .FailureTitle = "Saving the card",
+         .GifFailureTitle = "Saving the card"},
+        {.Source = &WorkSurfaces::picACard,
+         .OutlineWidth = DoubleCardSize.width(),
+         .Companion = Beside::Back,
+         .Back = [](const CardTemplates& t) { return &t.Large.picBackLarge; },
+         .FailureTitle = "Saving the large card",
+         .GifFailureTitle = "Saving the large card"},
+        {.Source = &WorkSurfaces::picACard,
+         .OutlineWidth = DoubleCardSize.width(),
+         .Companion = Beside::Back,
+         .Back = [](const CardTemplates& t) { return &t.Character.picCharacterBack; },
+         .FailureTitle = "Saving the character card",
+         .GifFailureTitle = "Saving the large card"},
+        {.Source = &WorkSurfaces::picACardPP,
+         .OutlineWidth = CardSize.width(),
+         .Companion = Beside::SameAgain,
+         .Back = nullptr,
+         .FailureTitle = "Saving the playing piece card",
+         .GifFailureTitle = "Saving the large card"},
+        {.Source = &WorkSurfaces::picACard,
+         .OutlineWidth = CardSize.width(),
+         .Companion = Beside::Nothing,
+         .Back = nullptr,
+         .FailureTitle = "Saving the card",
+         .GifFailureTitle = "Saving the card"}};
+    return rows[static_cast<std::size_t>(image)];
+}
 
 constexpr int OutlineBottom = CardSize.height() - 1;
 
@@ -94,22 +105,6 @@ Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
     return picDone.Image();
 }
 
-void WriteFinalPicture(Workshop& workshop, RunReport& report, const FinalPicture& kind, const FilePath& path)
-{
-    WriteOrTell(workshop, report, path, kind.FailureTitle, [&] {
-        WriteInFormat(workshop, report, BuildFinalPicture(workshop, kind), path, kind.GifFailureTitle);
-    });
-}
-
-/// Tells that an image could not be written.
-void TellWriteFailure(UserPort& user, const char* title, const QString& reason = {})
-{
-    user.ShowMessage({.Text = QStringLiteral("Something went wrong.") +
-                              (reason.isEmpty() ? QString() : QStringLiteral("\r\n\r\n") + reason),
-                      .Title = QString::fromLatin1(title),
-                      .Style = BoxStyle::Critical});
-}
-
 /// Gives why the picture could not be converted; other failures are thrown.
 std::optional<QString> WriteGif(const Picture& picture, const QString& path)
 {
@@ -133,59 +128,27 @@ void WriteJpeg(const Picture& picture, const QString& path)
 
 } // namespace
 
-Picture FinalCard(Workshop& workshop)
+Picture FinalPictureOf(Workshop& workshop, FinalImage image)
 {
-    return BuildFinalPicture(workshop, StandardPicture);
+    return BuildFinalPicture(workshop, RowOf(image));
 }
 
-Picture FinalLargeCard(Workshop& workshop)
+void WriteFinalPicture(Workshop& workshop, RunReport& report, FinalImage image, const FilePath& path)
 {
-    return BuildFinalPicture(workshop, LargePicture);
+    const FinalPicture& row = RowOf(image);
+    WriteOrReport(workshop, report, path, row.FailureTitle, [&] {
+        WriteInFormat(workshop, report, BuildFinalPicture(workshop, row), path, row.GifFailureTitle);
+    });
 }
 
-Picture FinalCharacter(Workshop& workshop)
-{
-    return BuildFinalPicture(workshop, CharacterPicture);
-}
-
-Picture FinalPlayingPiece(Workshop& workshop)
-{
-    return BuildFinalPicture(workshop, PiecePicture);
-}
-
-void WriteCard(Workshop& workshop, RunReport& report, const FilePath& path)
-{
-    WriteFinalPicture(workshop, report, StandardPicture, path);
-}
-
-void WriteLargeCard(Workshop& workshop, RunReport& report, const FilePath& path)
-{
-    WriteFinalPicture(workshop, report, LargePicture, path);
-}
-
-void WriteCharacter(Workshop& workshop, RunReport& report, const FilePath& path)
-{
-    WriteFinalPicture(workshop, report, CharacterPicture, path);
-}
-
-void WritePlayingPiece(Workshop& workshop, RunReport& report, const FilePath& path)
-{
-    WriteFinalPicture(workshop, report, PiecePicture, path);
-}
-
-void WriteNewCardBack(Workshop& workshop, RunReport& report, const FilePath& path)
-{
-    WriteFinalPicture(workshop, report, NewBackPicture, path);
-}
-
-void WriteOrTell(Workshop& workshop, RunReport& report, const FilePath& path, const char* failureTitle,
-                 const std::function<void()>& step)
+void WriteOrReport(Workshop& workshop, RunReport& report, const FilePath& path, const char* failureTitle,
+                   const std::function<void()>& step)
 {
     try {
         WithMemoryAsFailure(step);
     } catch (const RunTimeError& error) {
         report.AddNotWritten(FixFileName(workshop.Set.Header, path.Full()), error.Description());
-        TellWriteFailure(workshop.User, failureTitle);
+        report.ShowNotWritten(failureTitle, {});
     }
 }
 
@@ -208,7 +171,7 @@ void WriteInFormat(Workshop& workshop, RunReport& report, const Picture& picture
             failure = WriteGif(picture, target);
         if (failure) {
             report.AddNotWritten(target, *failure);
-            TellWriteFailure(workshop.User, gifFailureTitle, *failure);
+            report.ShowNotWritten(gifFailureTitle, *failure);
         }
         return !failure;
     });

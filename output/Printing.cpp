@@ -1,12 +1,9 @@
 #include "output/Printing.h"
 
-#include "compose/CharacterCard.h"
-#include "compose/LargeCard.h"
 #include "compose/SetView.h"
-#include "compose/StandardCard.h"
+#include "output/CardWalk.h"
 #include "output/ImageWriters.h"
 #include "platform/Files.h"
-#include "platform/SilentUser.h"
 #include "platform/Twips.h"
 
 #include <QBuffer>
@@ -69,24 +66,17 @@ private:
 /// What the pages differ in.
 struct PageRow {
     CardKind Kind;
-    bool (*Show)(Workshop&, int16);
-    QString (*Name)(const CardSet&, int16);
-    Picture (*Front)(Workshop&);
+    FinalImage Front;
     bool HasPiece;
 };
 
 const PageRow& RowOf(PrintedPage page)
 {
-    static constexpr auto characterName = [](const CardSet& set, int16 index) {
-        return set.Characters[index].Name;
-    };
     static constexpr PageRow rows[] = {
-        {CardKind::Standard, ShowCard, [](const CardSet& set, int16 index) { return set.Cards[index].Title; },
-         FinalCard, false},
-        {CardKind::Large, ShowLargeCard,
-         [](const CardSet& set, int16 index) { return set.LargeCards[index].Title; }, FinalLargeCard, false},
-        {CardKind::Character, ShowCharacter, characterName, FinalCharacter, true},
-        {CardKind::Character, ShowCharacter, characterName, FinalCharacter, false}};
+        {.Kind = CardKind::Standard, .Front = FinalImage::Card, .HasPiece = false},
+        {.Kind = CardKind::Large, .Front = FinalImage::LargeCard, .HasPiece = false},
+        {.Kind = CardKind::Character, .Front = FinalImage::Character, .HasPiece = true},
+        {.Kind = CardKind::Character, .Front = FinalImage::Character, .HasPiece = false}};
     return rows[static_cast<std::size_t>(page)];
 }
 
@@ -103,29 +93,18 @@ void TakeSymbolPlaces(CardTemplates& fine, const CardTemplates& shown)
     take(fine.Character.picSymbolCharacter, shown.Character.picSymbolCharacter);
 }
 
-/// Composes the current card in a workshop with finer surfaces; whether it could.
+/// Composes the current card in a workshop with finer surfaces; whether it could. Whoever showed the card has
+/// reported why not.
 bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
 {
-    InitForm(fine);
+    static_cast<void>(InitForm(fine));
     fine.Set = workshop.Set;
-    ShowSet(fine);
+    static_cast<void>(ShowSet(fine));
     TakeSymbolPlaces(fine.Templates, workshop.Templates);
     // Twice: some fonts and outlines are those that the composition before left. In a window, too, a card
     // was shown before it is printed.
     const int16 index = CurrentOf(fine.Set, KindOnPage(page));
-    const bool isShown = ShowForPage(fine, page, index);
-    return isShown && ShowForPage(fine, page, index);
-}
-
-/// Reports a playing piece off the page with the path of the page, where it has one.
-void LayFinePage(Workshop& workshop, RunReport& report, PrintedPage page, QPaintDevice& device,
-                 const QString& path)
-{
-    ReportPage(workshop, report, page);
-    SilentUser silent;
-    Workshop fine(silent, PrintScale);
-    if (!LayPage(ComposeFinely(fine, workshop, page) ? fine : workshop, page, device))
-        report.Add(path, QStringLiteral("The playing piece does not lie on the page"));
+    return !ShowForPage(fine, page, index) && !ShowForPage(fine, page, index);
 }
 
 } // namespace
@@ -135,10 +114,10 @@ CardKind KindOnPage(PrintedPage page)
     return RowOf(page).Kind;
 }
 
-bool ShowForPage(Workshop& workshop, PrintedPage page, int16 index)
+CompositionFailure ShowForPage(Workshop& workshop, PrintedPage page, int16 index)
 {
     CurrentOf(workshop.Set, KindOnPage(page)) = index;
-    return RowOf(page).Show(workshop, index);
+    return Compose(workshop, KindOnPage(page), index);
 }
 
 void ReportPage(Workshop& workshop, RunReport& report, PrintedPage page)
@@ -150,19 +129,17 @@ void ReportPage(Workshop& workshop, RunReport& report, PrintedPage page)
 
 QString PageTitle(const CardSet& set, PrintedPage page)
 {
-    return set.Header.SetName + QStringLiteral(" - ") +
-           RowOf(page).Name(set, CurrentOf(set, KindOnPage(page)));
+    const CardKind kind = KindOnPage(page);
+    return set.Header.SetName + QStringLiteral(" - ") + NameOf(set, kind, CurrentOf(set, kind));
 }
 
-void PrintCard(Workshop& workshop, RunReport& report, PrintedPage page)
+void PrintPage(Workshop& workshop, RunReport& report, PrintedPage page, QPaintDevice& device,
+               const QString& path)
 {
-    const auto printer = workshop.User.OpenPrinter(PageTitle(workshop.Set, page));
-    if (!printer)
-        throw RunTimeError(ErrorNumber::PrinterError);
-    LayFinePage(workshop, report, page, *printer, {});
-    workshop.User.ShowMessage({.Text = QStringLiteral("Printing done!"),
-                               .Title = QStringLiteral("Print"),
-                               .Style = BoxStyle::Information});
+    ReportPage(workshop, report, page);
+    Workshop fine(PrintScale);
+    if (!LayPage(ComposeFinely(fine, workshop, page) ? fine : workshop, page, device))
+        report.Add(path, QStringLiteral("The playing piece does not lie on the page"));
 }
 
 void WritePdf(Workshop& workshop, RunReport& report, PrintedPage page, const QString& path, int pixelsPerInch)
@@ -175,7 +152,7 @@ void WritePdf(Workshop& workshop, RunReport& report, PrintedPage page, const QSt
     writer.setResolution(pixelsPerInch);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins({});
-    LayFinePage(workshop, report, page, writer, path);
+    PrintPage(workshop, report, page, writer, path);
     WithPlace(path, [&] {
         OutputFile file(path);
         file.Write(bytes.data());
@@ -188,8 +165,8 @@ bool LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
     const PageRow& row = RowOf(page);
     // Made first: a failure on the way sends no half of a page.
     const QString title = PageTitle(workshop.Set, page);
-    const Picture card = row.Front(workshop);
-    const Picture piece = row.HasPiece ? FinalPlayingPiece(workshop) : Picture();
+    const Picture card = FinalPictureOf(workshop, row.Front);
+    const Picture piece = row.HasPiece ? FinalPictureOf(workshop, FinalImage::PlayingPiece) : Picture();
 
     Page paper(device);
     paper.PrintLine(QStringLiteral("Varnhelm Deck Forge"));

@@ -7,15 +7,15 @@ class QPaintDevice;
 namespace deckforge {
 
 /// What is printed of a set: its current card of a kind with the back, and with a character the playing
-/// piece, or not.
+/// piece, or not; in the order of the tabs, and so of CardKind: the tab of backs prints the current
+/// character.
 enum class PrintedPage { Card, LargeCard, Character, CharacterAlone };
 
 /// The kind of card that the page is of.
 [[nodiscard]] CardKind KindOnPage(PrintedPage page);
 
-/// Makes the card of the index the current one, and shows it. Gives whether it could be composed; why not is
-/// told in a box.
-bool ShowForPage(Workshop& workshop, PrintedPage page, int16 index);
+/// Makes the card of the index the current one, and composes it.
+[[nodiscard]] CompositionFailure ShowForPage(Workshop& workshop, PrintedPage page, int16 index);
 
 /// Reports what the card that was shown for the page lacks.
 void ReportPage(Workshop& workshop, RunReport& report, PrintedPage page);
@@ -27,9 +27,10 @@ void ReportPage(Workshop& workshop, RunReport& report, PrintedPage page);
 // cannot be composed so is printed as it was composed last; whoever showed it has told why. Pictures that it
 // lacks are reported, and a playing piece that does not lie on the page.
 
-/// Prints the page of the current card on the usual printer, and tells so in a box. Without a printer, or
-/// when it takes no page, error 482.
-void PrintCard(Workshop& workshop, RunReport& report, PrintedPage page);
+/// Paints the page of the current card. The path is that of the page in a report, empty for a printer. Error
+/// 482 when the device takes no page.
+void PrintPage(Workshop& workshop, RunReport& report, PrintedPage page, QPaintDevice& device,
+               const QString& path = {});
 
 /// The same page as a PDF file on A4 paper, which is printable to its edges. A failure of the file is thrown.
 void WritePdf(Workshop& workshop, RunReport& report, PrintedPage page, const QString& path,

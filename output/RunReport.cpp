@@ -35,26 +35,11 @@ QString NoFolder(const QString& path)
 
 } // namespace
 
-RunReport::RunReport(UserPort& user) : m_user(user)
-{
-    m_user.ReportProblems({}); // those of the run before are over
-}
-
-RunReport::~RunReport()
-{
-    if (!m_problems.isEmpty())
-        m_user.ReportProblems(m_problems);
-}
-
 void RunReport::Begin(const CardSet& set, CardKind kind, int16 index)
 {
     static constexpr const char* words[] = {"card ", "large card ", "character ", "card back "};
-    const QString title = WithListOf(set, kind, [&](const auto& list) {
-        using Record = std::decay_t<decltype(list[index])>;
-        return index <= list.Count() ? list[index].*NameField<Record> : QString();
-    });
     const char* const word = words[static_cast<std::size_t>(kind)];
-    m_element = ElementName(QLatin1String(word) + QString::number(index), title);
+    m_element = ElementName(QLatin1String(word) + QString::number(index), NameOf(set, kind, index));
 }
 
 void RunReport::Add(const QString& file, const QString& reason)

@@ -9,13 +9,20 @@
 namespace deckforge {
 
 /// What a run (one image, all images, sheets, pages or a printed page) did not do as the user expects, and
-/// which files it has written. The user gets the problems when the run is over, however it ends.
+/// which files it has written. Whoever starts a run derives from it to follow the run while it goes on.
 class RunReport {
 public:
-    explicit RunReport(UserPort& user);
-    ~RunReport();
+    RunReport() = default;
+    virtual ~RunReport() = default;
     RunReport(const RunReport&) = delete;
     RunReport& operator=(const RunReport&) = delete;
+
+    /// How far the run is: done of total. The last call has done equal to total.
+    virtual void ShowProgress(int done, int total) = 0;
+    /// A card could not be composed; the run goes on.
+    virtual void ShowNotComposed(const RunTimeError& error) = 0;
+    /// An image could not be written; the run goes on. The reason is empty where it has no words of its own.
+    virtual void ShowNotWritten(const char* title, const QString& reason) = 0;
 
     /// The card that the problems and files from here on belong to.
     void Begin(const CardSet& set, CardKind kind, int16 index);
@@ -58,7 +65,6 @@ private:
     void AddSymbol(Workshop& workshop);
     void AddLine(const QString& line);
 
-    UserPort& m_user;
     QString m_element;
     QStringList m_problems;
     QSet<QString> m_reported;         ///< the same

@@ -102,10 +102,4 @@ QString StatisticsText(const CardSet& set)
                .arg(set.Characters.Count());
 }
 
-void Statistics(const CardSet& set, UserPort& user)
-{
-    user.ShowMessage(
-        {.Text = StatisticsText(set), .Title = QStringLiteral("Statistics"), .Style = BoxStyle::Information});
-}
-
 } // namespace deckforge

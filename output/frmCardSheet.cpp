@@ -3,6 +3,7 @@
 #include "imaging/cDIBSection.h"
 #include "output/CardWalk.h"
 #include "output/ImageWriters.h"
+#include "output/modCapture.h"
 #include "platform/Numbers.h"
 
 #include <QScopeGuard>
@@ -89,7 +90,7 @@ void TakeLargeCard(Workshop& workshop, QSize size)
     picDone.Freeze();
     cDIBSection card;
     card.CreateFromPicture(picDone.Image());
-    card.CopyToClipboard(false, workshop.User);
+    card.CopyToClipboard();
 }
 
 /// The card, and below it its back in four lines of black.
@@ -110,36 +111,20 @@ void StackLargeCard(Workshop& workshop, QSize size)
     picStore.Freeze();
 }
 
-/// What the runs of the kinds differ in.
-template <class Record>
-struct SheetRow {
-    const CardWalk<Record>& Walk;
-    int (*Copies)(const Record&);
-    const Box* (*LargeSheetCard)(const CardTemplates&); ///< whose size the large sheet goes by; null for none
-    const char* BoxTitle;
-    const char* One;
-    const char* Others;
-};
+/// The card by whose size a large sheet is laid out; null for sheets of standard cards.
+const Box* LargeSheetCard(const CardTemplates& templates, CardKind kind)
+{
+    return kind == CardKind::Large       ? &templates.Large.picCardLarge
+           : kind == CardKind::Character ? &templates.Character.picCharacter
+                                         : nullptr;
+}
 
-constexpr SheetRow<Card> StandardSheets = {StandardWalk,
-                                           [](const Card& card) { return int{card.Copies}; },
-                                           nullptr,
-                                           "Create cardsheets",
-                                           " cardsheet is created.",
-                                           " cardsheets are created."};
-constexpr SheetRow<LargeCard> LargeSheets = {LargeWalk,
-                                             [](const LargeCard& card) { return int{card.Copies}; },
-                                             [](const CardTemplates& t) { return &t.Large.picCardLarge; },
-                                             "Create large cardsheets",
-                                             " large cardsheet is created.",
-                                             " large cardsheets are created."};
-constexpr SheetRow<Character> CharacterSheets = {
-    CharacterWalk,
-    [](const Character&) { return 1; },
-    [](const CardTemplates& t) { return &t.Character.picCharacter; },
-    "Create large cardsheets",
-    " character cardsheet is created.",
-    " character cardsheets are created."};
+int CopiesOf(const CardSet& set, CardKind kind, int16 index)
+{
+    return kind == CardKind::Standard ? set.Cards[index].Copies
+           : kind == CardKind::Large  ? set.LargeCards[index].Copies
+                                      : 1;
+}
 
 /// Goes to the next cell; gives the number of the sheet it is on.
 int16 NextCell(SheetState& sheet, int16 number)
@@ -178,10 +163,8 @@ void ReportUnwritten(const Workshop& workshop, RunReport& report, CardKind kind)
     }
 }
 
-template <class Record>
-int16 PlaceAll(Workshop& workshop, RunReport& report, const SheetRow<Record>& row, SheetGrid grid)
+void BeginSheets(Workshop& workshop, CardKind kind, SheetGrid grid)
 {
-    const CardList<Record>& cards = ListOf<Record>(workshop.Set);
     SheetState& sheet = workshop.Sheet;
     sheet.SheetCols = grid.Cols;
     sheet.SheetRows = grid.Rows;
@@ -189,54 +172,34 @@ int16 PlaceAll(Workshop& workshop, RunReport& report, const SheetRow<Record>& ro
     sheet.SheetRow = 1;
     sheet.Unwritten.clear();
     DropSheets(workshop);
-    if (row.LargeSheetCard != nullptr)
-        PrepareLargeSheet(workshop, *row.LargeSheetCard(workshop.Templates));
-    int16 number = 1;
-    ForEachShown(workshop, row.Walk, [&](int16 index) {
-        const int copies = row.Copies(cards[index]);
-        for (int k = 1; k <= copies; ++k) {
-            number = NextCell(sheet, number);
-            if (index == cards.Count() && k == copies)
-                sheet.SheetLast = true;
-            row.Walk.Save(workshop, report, index, Ask::No, Tell::No, number);
-        }
-    });
-    DropSheets(workshop);
-    ReportUnwritten(workshop, report, KindOf<Record>);
-    return number;
-}
-
-template <class Record>
-void CreateSheets(Workshop& workshop, RunReport& report, const SheetRow<Record>& row,
-                  std::optional<SheetGrid> grid)
-{
-    const int16 number = grid ? PlaceAll(workshop, report, row, *grid) : int16{0};
-    workshop.User.ShowMessage(
-        {.Text = QString::number(number) + QLatin1String(number == 1 ? row.One : row.Others),
-         .Title = QString::fromLatin1(row.BoxTitle),
-         .Style = BoxStyle::Information});
+    if (const Box* const card = LargeSheetCard(workshop.Templates, kind))
+        PrepareLargeSheet(workshop, *card);
 }
 
 } // namespace
 
-void CreateCardSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid)
+int16 SaveSheets(Workshop& workshop, RunReport& report, CardKind kind, SheetGrid grid)
 {
-    CreateSheets(workshop, report, StandardSheets, grid);
-}
-
-void CreateLargeCardSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid)
-{
-    CreateSheets(workshop, report, LargeSheets, grid);
-}
-
-void CreateCharacterSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid)
-{
-    CreateSheets(workshop, report, CharacterSheets, grid);
+    BeginSheets(workshop, kind, grid);
+    int16 number = 1;
+    const int16 count = CountOf(workshop.Set, kind);
+    ForEachShown(workshop, report, kind, [&](int16 index) {
+        const int copies = CopiesOf(workshop.Set, kind, index);
+        for (int k = 1; k <= copies; ++k) {
+            number = NextCell(workshop.Sheet, number);
+            if (index == count && k == copies)
+                workshop.Sheet.SheetLast = true;
+            SaveImage(workshop, report, kind, index, {.Sheet = number});
+        }
+    });
+    DropSheets(workshop);
+    ReportUnwritten(workshop, report, kind);
+    return number;
 }
 
 void SaveCardSheet(Workshop& workshop, RunReport& report, const FilePath& path)
 {
-    WriteOrTell(workshop, report, path, FailureTitle, [&] {
+    WriteOrReport(workshop, report, path, FailureTitle, [&] {
         PictureBox& picDone = workshop.Surfaces.picDone;
         SizeCardSheet(workshop);
         workshop.Surfaces.picACard.Refresh();
@@ -251,7 +214,7 @@ void SaveCardSheet(Workshop& workshop, RunReport& report, const FilePath& path)
 
 void SaveLargeCardSheet(Workshop& workshop, RunReport& report, const FilePath& path)
 {
-    WriteOrTell(workshop, report, path, FailureTitle, [&] {
+    WriteOrReport(workshop, report, path, FailureTitle, [&] {
         const Box& picCardLarge = workshop.Templates.Large.picCardLarge;
         const QSize size(picCardLarge.Width, picCardLarge.Height);
         PictureBox& picLargeSheet = workshop.Surfaces.picLargeSheet;

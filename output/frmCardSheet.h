@@ -17,16 +17,15 @@ struct SheetGrid {
     static constexpr int16 MostRows = 8;
 };
 
-// A run over all cards of a kind and their copies, and a box that tells how many sheets they take; without a
-// grid, which is a cancel, the box alone. The flag of the last card stays set when a run is over: another run
-// of the same program writes at every card, and each of its sheets ends up with its last card only.
-// Characters are walked through and no file results. What the box counts and no file holds is reported.
-void CreateCardSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid);
-void CreateLargeCardSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid);
-void CreateCharacterSheets(Workshop& workshop, RunReport& report, std::optional<SheetGrid> grid);
+/// A run over all cards of a kind and their copies. Returns the number of sheets that they take.
+///
+/// The flag of the last card stays set when a run is over: another run of the same program writes at every
+/// card, and each of its sheets ends up with its last card only. Characters are walked through and no file
+/// results. Sheets that are counted but not written are reported.
+int16 SaveSheets(Workshop& workshop, RunReport& report, CardKind kind, SheetGrid grid);
 
 /// Places the composed card and its back on the sheet, and writes the sheet when that is due. A failure is
-/// told.
+/// reported.
 void SaveCardSheet(Workshop& workshop, RunReport& report, const FilePath& path);
 
 /// The same for a large card, which stands above its back, though the cell is as wide as both. The clipboard

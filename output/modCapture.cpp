@@ -13,35 +13,32 @@ namespace deckforge {
 namespace {
 
 /// What the images of the kinds differ in.
-template <class Record>
 struct ImageRow {
+    FinalImage Image;
     const char* NamePrefix;
     const char* SheetPart; ///< of a sheet's name
     CardKind SheetKind;    ///< whose count sheets are numbered by
-    void (*Write)(Workshop&, RunReport&, int16, const FilePath&);
-    void (*PlaceOnSheet)(Workshop&, RunReport&, int16, const FilePath&);
-    const char* DialogTitle;
-    const char* BoxTitle;
-    const char* Saved;
 };
 
-void WriteStandardImage(Workshop& workshop, RunReport& report, int16 /*index*/, const FilePath& path)
+const ImageRow& RowOf(CardKind kind)
 {
-    WriteCard(workshop, report, path);
-}
-
-void WriteLargeImage(Workshop& workshop, RunReport& report, int16 /*index*/, const FilePath& path)
-{
-    WriteLargeCard(workshop, report, path);
-}
-
-void WriteCharacterImages(Workshop& workshop, RunReport& report, int16 index, const FilePath& path)
-{
-    WriteCharacter(workshop, report, path);
-    const CardSet& set = workshop.Set;
-    const QString piece = ImageName(set.Header, QStringLiteral("Character Piece "),
-                                    set.Characters[index].Filename, index, set.Characters.Count());
-    WritePlayingPiece(workshop, report, {path.Folder, piece});
+    static constexpr ImageRow rows[] = {{.Image = FinalImage::Card,
+                                         .NamePrefix = "",
+                                         .SheetPart = " Sheet ",
+                                         .SheetKind = CardKind::Standard},
+                                        {.Image = FinalImage::LargeCard,
+                                         .NamePrefix = "Large ",
+                                         .SheetPart = " Sheet Large ",
+                                         .SheetKind = CardKind::Large},
+                                        {.Image = FinalImage::Character,
+                                         .NamePrefix = "Character ",
+                                         .SheetPart = " Sheet Large ",
+                                         .SheetKind = CardKind::Character},
+                                        {.Image = FinalImage::NewBack,
+                                         .NamePrefix = "",
+                                         .SheetPart = " Sheet ",
+                                         .SheetKind = CardKind::Standard}};
+    return rows[static_cast<std::size_t>(kind)];
 }
 
 void ComposeNewBack(Workshop& workshop, int16 index)
@@ -50,193 +47,104 @@ void ComposeNewBack(Workshop& workshop, int16 index)
     DrawNewCardBack(workshop, index);
 }
 
-void WriteNewBackImage(Workshop& workshop, RunReport& report, int16 index, const FilePath& path)
+void WriteImageOf(Workshop& workshop, RunReport& report, CardKind kind, int16 index, const FilePath& path)
 {
-    ComposeNewBack(workshop, index);
-    WriteNewCardBack(workshop, report, path);
-}
-
-void PlaceStandardCard(Workshop& workshop, RunReport& report, int16 /*index*/, const FilePath& path)
-{
-    SaveCardSheet(workshop, report, path);
-}
-
-void PlaceLargeCard(Workshop& workshop, RunReport& report, int16 /*index*/, const FilePath& path)
-{
-    SaveLargeCardSheet(workshop, report, path);
-}
-
-/// The sheets of characters are named and counted, and no file results.
-void PlaceNoCharacter(Workshop& /*workshop*/, RunReport& /*report*/, int16 /*index*/,
-                      const FilePath& /*path*/)
-{
-}
-
-void PlaceNewBack(Workshop& workshop, RunReport& report, int16 index, const FilePath& path)
-{
-    ComposeNewBack(workshop, index);
-    SaveCardSheet(workshop, report, path);
-}
-
-constexpr ImageRow<Card> StandardImage = {"",
-                                          " Sheet ",
-                                          CardKind::Standard,
-                                          WriteStandardImage,
-                                          PlaceStandardCard,
-                                          "Save Card",
-                                          "Save card",
-                                          "The card is saved to the filename:"};
-constexpr ImageRow<LargeCard> LargeImage = {
-    "Large ",       " Sheet Large ",   CardKind::Large,   WriteLargeImage,
-    PlaceLargeCard, "Save Large Card", "Save large card", "The large card is saved to the filename:"};
-constexpr ImageRow<Character> CharacterImage = {
-    "Character ",          " Sheet Large ",
-    CardKind::Character,   WriteCharacterImages,
-    PlaceNoCharacter,      "Save Character Card",
-    "Save character card", "The character card is saved to the filename:"};
-constexpr ImageRow<NewCardBack> NewBackImage = {"",
-                                                " Sheet ",
-                                                CardKind::Standard,
-                                                WriteNewBackImage,
-                                                PlaceNewBack,
-                                                "Save New Card Back",
-                                                "Save card",
-                                                "The card is saved to the filename:"};
-
-FileDialogRequest ImageDialog(const char* dialogTitle, const QString& title, const QString& extension)
-{
-    return {.Title = QString::fromLatin1(dialogTitle),
-            .FileName = title + QLatin1Char('.') + extension,
-            .Filter = QStringLiteral("All files(*.*)|*.*|Picture (*.%1)|*.%1").arg(extension),
-            .FilterIndex = 2,
-            .DefaultExtension = extension,
-            .Folder = {}};
-}
-
-/// The folder that the image goes to; the card's file name is set on the way. Nothing on a cancel.
-std::optional<QString> ChooseFolder(Workshop& workshop, const char* dialogTitle, const QString& title,
-                                    QString& fileName, Ask ask, Tell tell)
-{
-    const SetHeader& header = workshop.Set.Header;
-    if (ask == Ask::No && (!fileName.isEmpty() || tell == Tell::No)) {
-        if (fileName.isEmpty())
-            fileName = title;
-        return header.SaveTo;
+    if (kind == CardKind::NewBack)
+        ComposeNewBack(workshop, index);
+    WriteFinalPicture(workshop, report, RowOf(kind).Image, path);
+    if (kind == CardKind::Character) {
+        const CardSet& set = workshop.Set;
+        const QString piece = ImageName(set.Header, QStringLiteral("Character Piece "),
+                                        set.Characters[index].Filename, index, set.Characters.Count());
+        WriteFinalPicture(workshop, report, FinalImage::PlayingPiece, {path.Folder, piece});
     }
-    const auto chosen =
-        workshop.User.AskSaveFile(ImageDialog(dialogTitle, title, ImageExtension(header.SaveFormat)));
-    if (!chosen)
-        return std::nullopt;
-    fileName = NamePart(*chosen).section(QLatin1Char('.'), 0, 0);
-    return FolderPart(*chosen);
 }
 
-void TellSaved(UserPort& user, const char* boxTitle, const char* saved, const FilePath& path)
+void PlaceOnSheet(Workshop& workshop, RunReport& report, CardKind kind, int16 index, const FilePath& path)
 {
-    user.ShowMessage({.Text = QLatin1String(saved) + QStringLiteral("\r\n\r\n") + path.Full(),
-                      .Title = QString::fromLatin1(boxTitle),
-                      .Style = BoxStyle::Information});
+    switch (kind) {
+    case CardKind::Character: // its sheets are named and counted, and no file results
+        return;
+    case CardKind::Large:
+        SaveLargeCardSheet(workshop, report, path);
+        return;
+    case CardKind::NewBack:
+        ComposeNewBack(workshop, index);
+        break;
+    case CardKind::Standard:
+        break;
+    }
+    SaveCardSheet(workshop, report, path);
 }
 
-template <class Record>
-void SaveElement(Workshop& workshop, RunReport& report, const ImageRow<Record>& row, int16 index, Ask ask,
-                 Tell tell, SheetNumber sheet)
+/// The title and the file name of a card.
+struct CardNames {
+    const QString& Title;
+    QString& FileName;
+};
+
+CardNames NamesOf(CardSet& set, CardKind kind, int16 index)
+{
+    return WithListOf(set, kind, [&](auto& list) -> CardNames {
+        auto& record = list[index];
+        return {record.*NameField<std::decay_t<decltype(record)>>, record.Filename};
+    });
+}
+
+/// Sets the card's file name and returns the folder that its image is written to.
+QString TakeTarget(const SetHeader& header, const ImageTarget& target, const CardNames& names)
+{
+    if (target.Chosen) {
+        names.FileName = NamePart(*target.Chosen).section(QLatin1Char('.'), 0, 0);
+        return FolderPart(*target.Chosen);
+    }
+    if (names.FileName.isEmpty())
+        names.FileName = names.Title;
+    return header.SaveTo;
+}
+
+FilePath SaveElement(Workshop& workshop, RunReport& report, CardKind kind, int16 index,
+                     const ImageTarget& target)
 {
     CardSet& set = workshop.Set;
-    CardList<Record>& cards = ListOf<Record>(set);
-    Record& record = cards[index];
+    const ImageRow& row = RowOf(kind);
+    const CardNames names = NamesOf(set, kind, index);
     // A failure leaves the card its name.
-    auto restoreName = qScopeGuard([&, before = record.Filename] { record.Filename = before; });
-    const auto folder =
-        ChooseFolder(workshop, row.DialogTitle, record.*NameField<Record>, record.Filename, ask, tell);
-    if (!folder)
-        return;
-    const FilePath path = {*folder, ImageName(set.Header, QString::fromLatin1(row.NamePrefix),
-                                              record.Filename, index, cards.Count())};
-    if (sheet) {
+    auto restoreName = qScopeGuard([&, before = names.FileName] { names.FileName = before; });
+    const QString folder = TakeTarget(set.Header, target, names);
+    FilePath path = {folder, ImageName(set.Header, QString::fromLatin1(row.NamePrefix), names.FileName, index,
+                                       CountOf(set, kind))};
+    if (target.Sheet) {
         const int cardsPerSheet = workshop.Sheet.SheetRows * workshop.Sheet.SheetCols;
-        const QString name = SheetName(set.Header, QString::fromLatin1(row.SheetPart), *sheet,
+        const QString name = SheetName(set.Header, QString::fromLatin1(row.SheetPart), *target.Sheet,
                                        CountOf(set, row.SheetKind), cardsPerSheet);
-        row.PlaceOnSheet(workshop, report, index, {*folder, name});
+        PlaceOnSheet(workshop, report, kind, index, {folder, name});
     } else {
-        row.Write(workshop, report, index, path);
+        WriteImageOf(workshop, report, kind, index, path);
     }
     restoreName.dismiss();
     report.AddPictures(workshop);
-    if (tell == Tell::Yes)
-        TellSaved(workshop.User, row.BoxTitle, row.Saved, path);
-}
-
-/// A failure before the writing is reported, and the caller goes on.
-template <class Record>
-void SaveOrReport(Workshop& workshop, RunReport& report, const ImageRow<Record>& row, int16 index, Ask ask,
-                  Tell tell, SheetNumber sheet)
-{
-    report.Begin(workshop.Set, KindOf<Record>, index);
-    try {
-        WithMemoryAsFailure([&] { SaveElement(workshop, report, row, index, ask, tell, sheet); });
-    } catch (const RunTimeError& error) {
-        report.Add(error.Place(), error.Description());
-    }
-}
-
-/// The box at the end of a run over all cards of a kind.
-void TellCreated(UserPort& user, const char* title, int count, const char* one, const char* others)
-{
-    user.ShowMessage({.Text = QString::number(count) + QLatin1String(count == 1 ? one : others),
-                      .Title = QString::fromLatin1(title),
-                      .Style = BoxStyle::Information});
-}
-
-template <class Record>
-void CreateImages(Workshop& workshop, RunReport& report, const CardWalk<Record>& walk)
-{
-    ForEachShown(workshop, walk,
-                 [&](int16 index) { walk.Save(workshop, report, index, Ask::No, Tell::No, std::nullopt); });
+    return path;
 }
 
 } // namespace
 
-void SaveCard(Workshop& workshop, RunReport& report, int16 index, Ask ask, Tell tell, SheetNumber sheet)
+std::optional<FilePath> SaveImage(Workshop& workshop, RunReport& report, CardKind kind, int16 index,
+                                  const ImageTarget& target)
 {
-    SaveOrReport(workshop, report, StandardImage, index, ask, tell, sheet);
+    report.Begin(workshop.Set, kind, index);
+    std::optional<FilePath> path;
+    try {
+        WithMemoryAsFailure([&] { path = SaveElement(workshop, report, kind, index, target); });
+    } catch (const RunTimeError& error) {
+        report.Add(error.Place(), error.Description());
+    }
+    return path;
 }
 
-void SaveLargeCard(Workshop& workshop, RunReport& report, int16 index, Ask ask, Tell tell, SheetNumber sheet)
+void SaveImages(Workshop& workshop, RunReport& report, CardKind kind)
 {
-    SaveOrReport(workshop, report, LargeImage, index, ask, tell, sheet);
-}
-
-void SaveCharacter(Workshop& workshop, RunReport& report, int16 index, Ask ask, Tell tell, SheetNumber sheet)
-{
-    SaveOrReport(workshop, report, CharacterImage, index, ask, tell, sheet);
-}
-
-void SaveNewCardBack(Workshop& workshop, RunReport& report, int16 index, Ask ask, Tell tell,
-                     SheetNumber sheet)
-{
-    SaveOrReport(workshop, report, NewBackImage, index, ask, tell, sheet);
-}
-
-void CreateCards(Workshop& workshop, RunReport& report)
-{
-    CreateImages(workshop, report, StandardWalk);
-    TellCreated(workshop.User, "Create cards", workshop.Set.Cards.Count(), " card is created.",
-                " cards are created.");
-}
-
-void CreateLargeCards(Workshop& workshop, RunReport& report)
-{
-    CreateImages(workshop, report, LargeWalk);
-    TellCreated(workshop.User, "Create large cards", workshop.Set.LargeCards.Count(),
-                " large card is created.", " large cards are created.");
-}
-
-void CreateCharacters(Workshop& workshop, RunReport& report)
-{
-    CreateImages(workshop, report, CharacterWalk);
-    TellCreated(workshop.User, "Create large cards", workshop.Set.Characters.Count(),
-                " character card is created.", " characters cards are created.");
+    ForEachShown(workshop, report, kind, [&](int16 index) { SaveImage(workshop, report, kind, index); });
 }
 
 void WriteCardBacks(Workshop& workshop, const QString& folder)
@@ -254,17 +162,6 @@ void WriteCardBacks(Workshop& workshop, const QString& folder)
     }
     for (int j = 0; j < characterBacks; ++j)
         save(workshop.Art.imgChB(j), QStringLiteral("character back %1").arg(j));
-}
-
-void ExportCardBacks(Workshop& workshop)
-{
-    const std::optional<QString> folder = workshop.User.BrowseForFolder();
-    if (!folder)
-        return;
-    WriteCardBacks(workshop, *folder);
-    workshop.User.ShowMessage({.Text = QStringLiteral("All card backs are exported."),
-                               .Title = QStringLiteral("Export"),
-                               .Style = BoxStyle::Information});
 }
 
 } // namespace deckforge

@@ -1,3 +1,4 @@
+#include "commands/SetCommands.h"
 #include "editor/WindowTest.h"
 #include "platform/Paths.h"
 #include "support/EveryKind.h"
@@ -31,7 +32,7 @@ protected:
         ScriptedUser reader;
         CardSet rescued;
         InitSet(rescued);
-        return ReadDKF(rescued, RescuedPath(age), reader) ? rescued.Cards[1].Title : QString();
+        return OpenSet(rescued, RescuedPath(age), reader) ? rescued.Cards[1].Title : QString();
     }
     QString Note() { return window.statusBar()->currentMessage(); }
 
@@ -41,8 +42,7 @@ protected:
         CardSet set;
         InitSet(set);
         set.Cards[1].Title = title;
-        ScriptedUser silent;
-        EXPECT_TRUE(WriteDKF(set, folder.Path(file), silent, Report::Silent));
+        WriteDKF(set, folder.Path(file));
         return folder.Path(file);
     }
     void Open(const QString& path)

@@ -136,7 +136,7 @@ protected:
         change(changed);
         const QString path = folder.Path("set.dkf");
         ScriptedUser silent;
-        ASSERT_TRUE(WriteDKF(changed, path, silent, Report::Silent));
+        ASSERT_TRUE(WriteSet(changed, path, silent));
         window.Start(path);
     }
 

@@ -236,12 +236,12 @@ class GoldenSetTest : public SetTest {
 protected:
     void Read(const QByteArray& bytes)
     {
-        ASSERT_TRUE(ReadDKF(Set, Folder.Write("golden.dkf", bytes), User)) << User.LastTold().toStdString();
+        ASSERT_TRUE(OpenSet(Set, Folder.Write("golden.dkf", bytes), User)) << User.LastTold().toStdString();
     }
 
     void ExpectWrittenLikeRead(const QByteArray& file)
     {
-        ASSERT_TRUE(WriteDKF(Set, Folder.Path("written.dkf"), User, Report::Silent));
+        ASSERT_TRUE(WriteSet(Set, Folder.Path("written.dkf"), User));
         const QList<QByteArray> expected = file.split('\n');
         const QList<QByteArray> written = Folder.Read("written.dkf").split('\n');
         EXPECT_EQ(written.size(), expected.size());

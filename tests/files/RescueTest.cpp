@@ -30,7 +30,7 @@ protected:
         CardSet read;
         InitSet(read);
         ScriptedUser silent;
-        return ReadDKF(read, Folder.Path(file), silent) ? read.Header.SetName : QString();
+        return OpenSet(read, Folder.Path(file), silent) ? read.Header.SetName : QString();
     }
     /// The names in the latest files.
     QString Names()

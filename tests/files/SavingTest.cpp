@@ -41,7 +41,7 @@ protected:
         Folder.Write(Name, OldBytes);
     }
 
-    bool Save() { return WriteDKF(Set, Folder.Path(Name), User, Report::Silent); }
+    bool Save() { return WriteSet(Set, Folder.Path(Name), User); }
     /// Saves in a child that is killed at its system call of that number; false when it ended before.
     bool SaveKilledAt(int call)
     {
@@ -133,7 +133,7 @@ TEST_P(SavingEitherWayTest, TwoSaversOfOneSetLeaveOneOfBothWhole)
     for (int round = 0; round < 20; ++round) {
         const pid_t child = ::fork();
         if (child == 0)
-            ::_exit(WriteDKF(larger, Folder.Path(Name), User, Report::Silent) ? 0 : 2);
+            ::_exit(WriteSet(larger, Folder.Path(Name), User) ? 0 : 2);
         EXPECT_TRUE(Save());
         int status = 0;
         ::waitpid(child, &status, 0);
@@ -185,8 +185,8 @@ TEST_F(SavingTest, TheLongestNameIsSavedAgainAndAgain)
 {
     const QString longest = QString(251, 'x') + ".dkf";
     for (int i = 0; i < 2; ++i)
-        EXPECT_TRUE(WriteDKF(Set, Folder.Path(longest), User, Report::Silent)) << i;
-    EXPECT_FALSE(WriteDKF(Set, Folder.Path('x' + longest), User, Report::Silent));
+        EXPECT_TRUE(WriteSet(Set, Folder.Path(longest), User)) << i;
+    EXPECT_FALSE(WriteSet(Set, Folder.Path('x' + longest), User));
     EXPECT_TRUE(User.LastTold().endsWith("52, Bad file name or number"));
     EXPECT_EQ(Files(), (QStringList{Name, longest}));
 }
@@ -203,12 +203,12 @@ TEST_F(SavingTest, OpeningAFileWhoseSaveWasCutOffTellsWhereItsCopyIs)
     ASSERT_EQ(Files().size(), 2) << "the copy goes last";
     const QString copy = Folder.Path(Files().constFirst());
 
-    ASSERT_TRUE(ReadDKF(Set, Folder.Path(Name), User));
+    ASSERT_TRUE(OpenSet(Set, Folder.Path(Name), User));
     EXPECT_TRUE(User.LastBox().Text.contains(copy)) << User.LastTold().toStdString();
     EXPECT_TRUE(Save());
     EXPECT_TRUE(QFile::exists(copy)) << "no save takes away what it did not make";
 
-    ASSERT_TRUE(ReadDKF(Set, copy, User));
+    ASSERT_TRUE(OpenSet(Set, copy, User));
     User.WillCancelDialog();
     SaveSet(Set, User);
     EXPECT_EQ(User.SaveDialogs[0].FileName, Set.Header.FileName) << "not over the copy";
@@ -236,7 +236,7 @@ TEST_F(SavingTest, PlacesThatTakeNoSetAreToldAndLeaveAll)
         place.Write(Name, OldBytes);
         prepare(QDir(place.Path()));
         const bool isThere = QFileInfo(place.Path(Name)).isFile();
-        EXPECT_FALSE(WriteDKF(Set, place.Path(Name), User, Report::Silent));
+        EXPECT_FALSE(WriteSet(Set, place.Path(Name), User));
         EXPECT_EQ(User.LastBox().Text, QString("The file is NOT saved due to an error.\r\n\r\n") + failure);
         EXPECT_TRUE(!isThere || place.Read(Name) == OldBytes);
         QFile::remove(place.Path());
@@ -272,7 +272,7 @@ TEST_F(SavingTest, ALinkStaysALink)
         ASSERT_TRUE(QFile::link(Folder.Path(target), link));
         if (isThere)
             Folder.Write(target, OldBytes);
-        EXPECT_TRUE(WriteDKF(Set, link, User, Report::Silent));
+        EXPECT_TRUE(WriteSet(Set, link, User));
         EXPECT_EQ(QFile::symLinkTarget(link), Folder.Path(target));
         EXPECT_EQ(Folder.Read(target), NewBytes);
     }

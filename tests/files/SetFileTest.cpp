@@ -35,11 +35,11 @@ QByteArray VersionOne(const QByteArray& type, const QByteArray& typeIndex, const
 
 class SetFileTest : public SetTest {
 protected:
-    bool Read(const QByteArray& bytes) { return ReadDKF(Set, Folder.Write("set.dkf", bytes), User); }
-    bool Write() { return WriteDKF(Set, Folder.Path("written.dkf"), User, Report::Tell); }
+    bool Read(const QByteArray& bytes) { return OpenSet(Set, Folder.Write("set.dkf", bytes), User); }
+    bool Write() { return WriteSet(Set, Folder.Path("written.dkf"), User); }
     QByteArray Written()
     {
-        EXPECT_TRUE(WriteDKF(Set, Folder.Path("written.dkf"), User, Report::Silent));
+        EXPECT_TRUE(WriteSet(Set, Folder.Path("written.dkf"), User));
         return Folder.Read("written.dkf");
     }
 
@@ -147,7 +147,7 @@ TEST_F(SetFileTest, WhatIsNoSetChangesNothing)
         EXPECT_FALSE(Read(bytes));
         EXPECT_EQ(User.LastTold(), told);
     }
-    EXPECT_FALSE(ReadDKF(Set, Folder.Path("none.dkf"), User));
+    EXPECT_FALSE(OpenSet(Set, Folder.Path("none.dkf"), User));
     EXPECT_EQ(User.LastTold(), ReadFailure + "53, File not found");
     EXPECT_EQ(Set.Header.SetName, "New set");
 }
@@ -196,7 +196,7 @@ TEST_F(SetFileTest, ADamagedCountOfAnySectionLeavesASetThatCanBeSavedAndOpened)
             const QByteArray saved = Written();
             CardSet again;
             InitSet(again);
-            ASSERT_TRUE(ReadDKF(again, Folder.Path("written.dkf"), User)) << User.LastTold().toStdString();
+            ASSERT_TRUE(OpenSet(again, Folder.Path("written.dkf"), User)) << User.LastTold().toStdString();
             EXPECT_EQ(SetFileBytes(again, Unwritable::Fail), saved);
         }
     }
@@ -339,7 +339,7 @@ TEST_F(SetFileTest, AFileThatWasMovedIsSavedWhereItIs)
     Set.Header.FileName = "/elsewhere/old.dkf";
 
     UnsavedWork work(Folder.WithSeparator(), std::chrono::minutes(1));
-    ASSERT_TRUE(ReadDKF(Set, work.Rescue(Set), User));
+    ASSERT_TRUE(OpenSet(Set, work.Rescue(Set), User));
     EXPECT_EQ(proposed().FileName, "/elsewhere/old.dkf") << "where the rescued set was";
     EXPECT_FALSE(proposed().Known);
 

@@ -144,14 +144,10 @@ TEST(cDIBSection, TestPatternsCanBeGrey)
 
 TEST(cDIBSection, GoesToTheClipboardAsABitmapOnly)
 {
-    ScriptedUser user;
     const cDIBSection section = SectionOf({"rg"});
-    EXPECT_FALSE(section.CopyToClipboard(true, user));
-    EXPECT_EQ(user.LastBox().Text,
-              "I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!");
-    ASSERT_TRUE(section.CopyToClipboard(false, user));
+    ASSERT_TRUE(section.CopyToClipboard());
     EXPECT_EQ(RowsOf(Picture(QGuiApplication::clipboard()->image())), PixelRows{"rg"});
-    EXPECT_FALSE(cDIBSection().CopyToClipboard(false, user));
+    EXPECT_FALSE(cDIBSection().CopyToClipboard());
 }
 
 } // namespace deckforge

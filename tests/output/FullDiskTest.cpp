@@ -14,25 +14,25 @@ TEST_F(FullDiskTest, AnImageThatCouldNotBeWrittenIsToldWhateverIsLeftOfTheOlderO
     for (int16 format = 0; format < 3; ++format) {
         const QString name = QStringList{"card.bmp", "card.jpg", "card.gif"}[format];
         Header().SaveFormat = format;
-        SaveCard(Shop, TheRun, 1, Ask::No, Tell::No);
+        SaveImage(Shop, TheRun, CardKind::Standard, 1);
         ASSERT_TRUE(User.Boxes.empty());
         const QByteArray good = Folder.Read(name);
         for (qsizetype room = 0; room < good.size(); room += 1 + good.size() / 50) {
             {
                 const FullDisk full(room);
-                SaveCard(Shop, TheRun, 1, Ask::No, Tell::No);
+                SaveImage(Shop, TheRun, CardKind::Standard, 1);
             }
             EXPECT_EQ(User.Boxes.size(), 1U) << name.toStdString() << ' ' << room;
             EXPECT_EQ(User.LastBox().Title, "Saving the card");
             User.Boxes.clear();
         }
-        SaveCard(Shop, TheRun, 1, Ask::No, Tell::No);
+        SaveImage(Shop, TheRun, CardKind::Standard, 1);
         EXPECT_EQ(Folder.Read(name), good);
     }
     EXPECT_FALSE(QFile::exists(ProgramFolder() + "qdwtemp.bmp.lock"));
 
     const FullDisk full(100); // pages and backs are told as well
-    (void)CreateHtmlCards(Shop.Set, User, TheRun);
+    (void)CreateHtml(Shop.Set, TheRun, HtmlPages::Cards);
     EXPECT_TRUE(TheRun.Problems().last().endsWith("New set 1.htm: Disk full"));
     EXPECT_EQ(FailureOf([&] { WriteCardBacks(Shop, Folder.Path()); }), 61);
 }

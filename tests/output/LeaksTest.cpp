@@ -1,4 +1,4 @@
-#include "files/modFile.h"
+#include "commands/SetCommands.h"
 #include "output/HtmlSheets.h"
 #include "output/modCapture.h"
 #include "support/EveryKind.h"
@@ -33,24 +33,24 @@ protected:
         FirstCard().Picture = Folder.WritePicture("picture.bmp");
         Shop.Set.Cards[2].Picture = Folder.Write("damaged.bmp", "BM");
         Shop.Set.LargeCards[1].Picture = Folder.Path("missing.bmp");
-        EXPECT_TRUE(WriteDKF(Shop.Set, Path, User, Report::Silent));
+        EXPECT_TRUE(WriteSet(Shop.Set, Path, User));
     }
 
     /// Opens the set, steps through it, exports all, saves it, and fails to open and to save others.
     void Work(int round)
     {
-        ASSERT_TRUE(ReadDKF(Shop.Set, Path, User));
-        ShowOpenedSet(Shop);
+        ASSERT_TRUE(OpenSet(Shop.Set, Path, User));
+        (void)ShowOpenedSet(Shop);
         Header().SaveFormat = round == 0 ? int16{2} : static_cast<int16>(round % 2);
-        CreateCards(Shop, TheRun);
-        CreateLargeCards(Shop, TheRun);
-        CreateCharacters(Shop, TheRun);
-        SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
-        EXPECT_TRUE(CreateHtmlCards(Shop.Set, User, TheRun));
-        EXPECT_TRUE(ExportSetText(Shop.Set, Folder.Path("set.txt"), User));
-        EXPECT_TRUE(WriteDKF(Shop.Set, Path, User, Report::Silent));
-        EXPECT_FALSE(ReadDKF(Shop.Set, Folder.Path("damaged.bmp"), User));
-        EXPECT_FALSE(WriteDKF(Shop.Set, "/dev/full", User, Report::Silent));
+        CreateImages(Shop, TheRun, CardKind::Standard);
+        CreateImages(Shop, TheRun, CardKind::Large);
+        CreateImages(Shop, TheRun, CardKind::Character);
+        SaveImage(Shop, TheRun, CardKind::NewBack, 1);
+        EXPECT_TRUE(CreateHtml(Shop.Set, TheRun, HtmlPages::Cards));
+        EXPECT_TRUE(WriteListing(Shop.Set, Folder.Path("set.txt"), User));
+        EXPECT_TRUE(WriteSet(Shop.Set, Path, User));
+        EXPECT_FALSE(OpenSet(Shop.Set, Folder.Path("damaged.bmp"), User));
+        EXPECT_FALSE(WriteSet(Shop.Set, "/dev/full", User));
         User.Boxes.clear();
         User.Pointers.clear();
     }

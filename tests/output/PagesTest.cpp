@@ -1,4 +1,4 @@
-#include "output/HtmlSheets.h"
+#include "commands/OutputCommands.h"
 #include "output/Statistics.h"
 #include "platform/Version.h"
 #include "support/SetTest.h"
@@ -31,14 +31,14 @@ protected:
         return images.join('|');
     }
 
-    RunReport TheRun{User};
+    ShownRun TheRun{User};
 };
 
 TEST_F(PagesTest, APageOfSixHasTheSameLinesWhateverItsSlots)
 {
     AddCards(1);
     Set.Header.FilenamePrefix = "p";
-    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun));
+    EXPECT_TRUE(CreateHtml(Set, TheRun, HtmlPages::Cards));
     const QByteArray table = "<TABLE BORDER=0 BORDERCOLOR=\"#000000\" CELLPADDING=0 CELLSPACING=0>\r\n";
     const QByteArray gap = "</TD>\r\n<TD>&nbsp;&nbsp;</TD>\r\n<TD>\r\n</TD>\r\n</TR>\r\n";
     const QByteArray empty = "<TR>\r\n<TD>\r\n" + gap;
@@ -59,7 +59,7 @@ TEST_F(PagesTest, PagesAreLinkedAndCopiesAreRepeatedImages)
     AddCards(7);
     Set.Cards[1].Copies = 6;
     Set.Header.ReplaceSpace = true;
-    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun));
+    EXPECT_TRUE(CreateHtml(Set, TheRun, HtmlPages::Cards));
     // Twelve copies announce three pages and fill two.
     const QByteArray second = Folder.Read("My_Set_2.htm");
     EXPECT_TRUE(
@@ -76,7 +76,7 @@ TEST_F(PagesTest, NamesCannotEndATextOrAnAttribute)
     AddCards(7);
     Set.Header.SetName = "<script>\"&amp;";
     Set.Cards[1].Filename = "\"><b>&";
-    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun));
+    EXPECT_TRUE(CreateHtml(Set, TheRun, HtmlPages::Cards));
     const QByteArray page = Folder.Read("<script>\"&amp; 1.htm");
     const QByteArray name = "&lt;script&gt;&quot;&amp;";
     for (const QByteArray& line : {"<TITLE>" + name + "</TITLE>", "<A HREF=\"" + name + " 2.htm\">2</A>",
@@ -94,8 +94,8 @@ TEST_F(PagesTest, ImagesAreNamedByKindPrefixAndNumber)
     AddCards(12);
     Set.Header.FilenamePrefix = "sea";
     Set.Header.FileNr = true;
-    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun) && CreateHtmlLargeCards(Set, User, TheRun) &&
-                CreateHtmlCharacters(Set, User, TheRun) && CreateHtmlPieces(Set, User, TheRun));
+    EXPECT_TRUE(CreateHtml(Set, TheRun, HtmlPages::Cards) && CreateHtml(Set, TheRun, HtmlPages::LargeCards) &&
+                CreateHtml(Set, TheRun, HtmlPages::Characters) && CreateHtml(Set, TheRun, HtmlPages::Pieces));
     EXPECT_TRUE(ImagesOf("My Set 2.htm").endsWith("|sea 12 card 12.bmp"));
     EXPECT_EQ(ImagesOf("Large My Set 2.htm"), "Large sea 1 Whale.bmp");
     EXPECT_EQ(ImagesOf("Character My Set 1.htm"), "Character sea 1 Sailor.bmp");
@@ -103,20 +103,20 @@ TEST_F(PagesTest, ImagesAreNamedByKindPrefixAndNumber)
     EXPECT_TRUE(Folder.Read("Large My Set 1.htm").contains("<TITLE>My Set</TITLE>"));
     EXPECT_TRUE(Folder.Read("Character Piece My Set 1.htm").contains("<TITLE>Character Piece My Set<"));
     Set.Header.FileNr = false;
-    CreateHtmlLargeCards(Set, User, TheRun);
+    CreateHtml(Set, TheRun, HtmlPages::LargeCards);
     EXPECT_EQ(ImagesOf("Large My Set 2.htm"), "Large sea Whale.bmp");
 }
 
 TEST_F(PagesTest, ACardWithoutAFileNameStopsThePages)
 {
-    EXPECT_FALSE(CreateHtmlCards(Set, User, TheRun));
+    EXPECT_FALSE(CreateHtml(Set, TheRun, HtmlPages::Cards));
     EXPECT_EQ(User.LastBox().Title, "Missing information");
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Exclamation);
-    EXPECT_TRUE(CreateHtmlPieces(Set, User, TheRun));
+    EXPECT_TRUE(CreateHtml(Set, TheRun, HtmlPages::Pieces));
     EXPECT_EQ(User.LastBox().Text, "0 character playing piece HTML sheets are created.");
     AddCards(1);
     Set.Header.SetName = "../outside";
-    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun));
+    EXPECT_TRUE(CreateHtml(Set, TheRun, HtmlPages::Cards));
     EXPECT_EQ(TheRun.Problems(), QStringList("card 1 \"CARD 1\": " + Folder.Path("../outside 1.htm") +
                                              ": Bad file name or number"));
     EXPECT_EQ(User.LastBox().Text, "1 HTML sheet is created.") << "it is counted all the same";
@@ -124,11 +124,11 @@ TEST_F(PagesTest, ACardWithoutAFileNameStopsThePages)
     Set.Header.SetName = "less";
     Set.Cards[1].Copies = 12;
     Set.Cards[2].Copies = -12;
-    EXPECT_TRUE(CreateHtmlCards(Set, User, TheRun)) << "fewer pages are announced than there are";
+    EXPECT_TRUE(CreateHtml(Set, TheRun, HtmlPages::Cards)) << "fewer pages are announced than there are";
     EXPECT_EQ(ImagesOf("less 2.htm").count("bmp"), 6);
     for (int i = 1; i <= 7; ++i)
         Set.Cards[i].Copies = 32767;
-    EXPECT_EQ(FailureOf([&] { CreateHtmlCards(Set, User, TheRun); }), 6);
+    EXPECT_EQ(FailureOf([&] { CreateHtml(Set, TheRun, HtmlPages::Cards); }), 6);
 }
 
 TEST_F(PagesTest, TheListingHasTheTextsOfAllKinds)
@@ -136,7 +136,7 @@ TEST_F(PagesTest, TheListingHasTheTextsOfAllKinds)
     Set.Cards[1].Info = "one\r\ntwo";
     AddElement<LargeCard>(Set);
     AddElement<Character>(Set);
-    EXPECT_TRUE(ExportSetText(Set, Folder.Path("set.txt"), User));
+    EXPECT_TRUE(WriteListing(Set, Folder.Path("set.txt"), User));
     EXPECT_EQ(
         Folder.Read("set.txt"),
         QByteArray("Created with Varnhelm Deck Forge\r\n") + WebAddress +
@@ -146,7 +146,7 @@ TEST_F(PagesTest, TheListingHasTheTextsOfAllKinds)
             " \r\n1 Characters\r\n \r\n1. CHARACTER 1\r\nStrength:   3\r\nCraft:      3\r\nGold:       \r\n"
             "Lives:      \r\nAlignment:  NEUTRAL\r\nStart area: VILLAGE\r\nAbilities:  \r\n \r\n");
     EXPECT_EQ(User.BoxTexts(), QStringList{"Save text|The card set text is exported."});
-    EXPECT_FALSE(ExportSetText(Set, Folder.Path("none/set.txt"), User));
+    EXPECT_FALSE(WriteListing(Set, Folder.Path("none/set.txt"), User));
     EXPECT_EQ(User.LastBox().Text, "The file is NOT saved due to an error.\r\n\r\n76, Path not found");
 }
 
@@ -158,7 +158,7 @@ TEST_F(PagesTest, StatisticsCountEachCardOnceHighestFirst)
     Set.Cards[5].SubType = "Dragon";
     Set.Cards[5].Copies = 9;
     Set.Cards[8].CardBack = 3;
-    Statistics(Set, User);
+    ShowStatistics(Set, User);
     EXPECT_EQ(User.LastBox().Title, "Statistics");
     EXPECT_EQ(User.LastBox().Text,
               "Number of cards used/type:\r\n4 - ENEMY- Animal (50%)\r\n3 - OMEN (38%)\r\n"

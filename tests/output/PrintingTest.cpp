@@ -59,11 +59,11 @@ TEST_F(PrintingTest, PicturesKeepTheirSizeAndMarginsTheirPixels)
     for (const auto& [page, dotsPerInch, noBack, width, height] : rows) {
         Header().NoBack = noBack;
         if (page == PrintedPage::Card)
-            ShowCard(Shop, 1);
+            (void)ShowCard(Shop, 1);
         else if (page == PrintedPage::LargeCard)
-            ShowLargeCard(Shop, 1);
+            (void)ShowLargeCard(Shop, 1);
         else
-            ShowCharacter(Shop, 1);
+            (void)ShowCharacter(Shop, 1);
         const QImage paper = Laid(page, dotsPerInch);
         const int lineHeight = FontMeasures({"Arial", 12}, dotsPerInch).LineHeight();
         const int top = 40 + 2 * lineHeight + 20;
@@ -91,7 +91,7 @@ TEST_F(PrintingTest, HeadingIsTwoLinesOfTwelvePoints)
 
 TEST_F(PrintingTest, PieceStandsWhereItAlwaysStood)
 {
-    ShowCharacter(Shop, 1);
+    (void)ShowCharacter(Shop, 1);
     Header().NoBack = true; // the piece is there twice all the same
     const QImage paper = Laid(PrintedPage::Character, 300);
     const int lineHeight = FontMeasures({"Arial", 12}, 300).LineHeight();

@@ -18,23 +18,23 @@ protected:
     {
         User.Problems.clear();
         {
-            RunReport report(User);
+            ShownRun report(User);
             run(report);
         }
         return User.Problems;
     }
     QStringList ProblemsOfImages()
     {
-        return ProblemsOf([&](RunReport& report) {
-            CreateCards(Shop, report);
-            CreateLargeCards(Shop, report);
-            CreateCharacters(Shop, report);
-            SaveNewCardBack(Shop, report, 1, Ask::No, Tell::No);
+        return ProblemsOf([&](ShownRun& report) {
+            CreateImages(Shop, report, CardKind::Standard);
+            CreateImages(Shop, report, CardKind::Large);
+            CreateImages(Shop, report, CardKind::Character);
+            SaveImage(Shop, report, CardKind::NewBack, 1);
         });
     }
     QStringList ProblemsOfSheets(SheetGrid grid)
     {
-        return ProblemsOf([&](RunReport& report) { CreateCardSheets(Shop, report, grid); });
+        return ProblemsOf([&](ShownRun& report) { CreateSheets(Shop, report, CardKind::Standard, grid); });
     }
     void AddCards(int count)
     {
@@ -85,7 +85,7 @@ TEST_F(RunReportTest, AFileWrittenTwiceInARunIsReportedWhateverItsName)
     for (const char* extension : {"bmp", "jpg", "gif"}) {
         const QString path = Folder.Path("CARD 1.") + extension;
         const QStringList expected = {"card 2 \"CARD 1\": " + path + ": " + replaced};
-        const auto run = [&](RunReport& report) { CreateCards(Shop, report); };
+        const auto run = [&](ShownRun& report) { CreateImages(Shop, report, CardKind::Standard); };
         EXPECT_EQ(ProblemsOf(run), expected);
         EXPECT_EQ(ProblemsOf(run), expected) << "files of an earlier run do not count";
         ++Header().SaveFormat;
@@ -93,7 +93,7 @@ TEST_F(RunReportTest, AFileWrittenTwiceInARunIsReportedWhateverItsName)
     Header().SaveFormat = 0;
     Shop.Set.Cards[2].Filename = "link";
     QFile::link(Folder.Path("CARD 1.bmp"), Folder.Path("link.bmp"));
-    EXPECT_EQ(ProblemsOf([&](RunReport& report) { CreateCards(Shop, report); }),
+    EXPECT_EQ(ProblemsOf([&](ShownRun& report) { CreateImages(Shop, report, CardKind::Standard); }),
               QStringList("card 2 \"CARD 1\": " + Folder.Path("link.bmp") + ": " + replaced));
 }
 
@@ -112,7 +112,7 @@ TEST_F(RunReportTest, SheetsThatAreReplacedOrLeftUnwrittenAreReported)
     EXPECT_EQ(ProblemsOfSheets({6, 8}), // 92 cells on sheets of 48
               QStringList("card 24 \"CARD 24\": " + Folder.Path("New set Sheet 2.bmp") +
                           ": Not written, since the last card has no copies"));
-    EXPECT_EQ(ProblemsOf([&](RunReport& report) { CreateLargeCardSheets(Shop, report, SheetGrid()); }),
+    EXPECT_EQ(ProblemsOf([&](ShownRun& report) { CreateSheets(Shop, report, CardKind::Large, SheetGrid()); }),
               QStringList("set \"New set\": No sheet is written"));
 }
 
@@ -122,15 +122,16 @@ TEST_F(RunReportTest, PagesThatAreNotWrittenAreReported)
     for (int i = 1; i <= 8; ++i)
         Shop.Set.Cards[i].Filename = "c";
     Shop.Set.Cards[8].Copies = 0;
-    EXPECT_EQ(ProblemsOf([&](RunReport& report) { EXPECT_TRUE(CreateHtmlCards(Shop.Set, User, report)); }),
-              QStringList("card 8 \"CARD 8\": " + Folder.Path("New set 2.htm") +
-                          ": Not written, since the last card has no copies"));
+    EXPECT_EQ(
+        ProblemsOf([&](ShownRun& report) { EXPECT_TRUE(CreateHtml(Shop.Set, report, HtmlPages::Cards)); }),
+        QStringList("card 8 \"CARD 8\": " + Folder.Path("New set 2.htm") +
+                    ": Not written, since the last card has no copies"));
 }
 
 TEST_F(RunReportTest, AFolderIsMadeOrReportedOnceAndAFormatThatThereIsNotForEachFile)
 {
     AddCards(2);
-    const auto run = [&](RunReport& report) { CreateCards(Shop, report); };
+    const auto run = [&](ShownRun& report) { CreateImages(Shop, report, CardKind::Standard); };
     Header().SaveTo = Folder.Path("made/here/");
     EXPECT_EQ(ProblemsOf(run), QStringList());
     EXPECT_TRUE(Folder.Has("made/here/CARD 2.bmp"));
@@ -152,7 +153,7 @@ TEST_F(RunReportTest, APlayingPieceOffThePageIsReported)
 {
     AddElement<Character>(Shop.Set);
     const auto problems = [&](int pixelsPerInch) {
-        return ProblemsOf([&](RunReport& report) {
+        return ProblemsOf([&](ShownRun& report) {
             WritePdf(Shop, report, PrintedPage::Character, Folder.Path("a.pdf"), pixelsPerInch);
         });
     };

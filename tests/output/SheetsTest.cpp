@@ -31,9 +31,9 @@ protected:
         return cards;
     }
 
-    QImage Composed(bool (*show)(Workshop&, int16), int card)
+    QImage Composed(CompositionFailure (*show)(Workshop&, int16), int card)
     {
-        EXPECT_TRUE(show(Shop, static_cast<int16>(card)));
+        EXPECT_FALSE(show(Shop, static_cast<int16>(card)));
         return Surface().Image().Pixels();
     }
 
@@ -44,7 +44,7 @@ TEST_F(SheetTest, EachCopyTakesACellAndTheLastSheetIsWrittenAsFarAsItIsFilled)
 {
     Shop.Set.Cards[2].Copies = 3;
     Shop.Set.Cards[4].Copies = 0;
-    CreateCardSheets(Shop, TheRun, SheetGrid{2, 2});
+    CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{2, 2});
     const QImage first = Folder.Image("Sea Sheet 1.bmp");
     ASSERT_EQ(first.size(), QSize(608, 512));
     EXPECT_EQ(CardsIn(first, {{0, 0}, {304, 0}, {0, 256}, {304, 256}}), (std::vector{1, 2, 2, 2}));
@@ -55,7 +55,7 @@ TEST_F(SheetTest, EachCopyTakesACellAndTheLastSheetIsWrittenAsFarAsItIsFilled)
 
 TEST_F(SheetTest, TheGridLiesOnTheOuterPixelsAndBacksAtTheRight)
 {
-    CreateCardSheets(Shop, TheRun, SheetGrid{2, 3});
+    CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{2, 3});
     const QImage sheet = Folder.Image("Sea Sheet 1.bmp");
     for (const int x : {151, 152, 303, 304 + 151, 304 + 152, 607})
         EXPECT_EQ(sheet.pixel(x, 130), BlackPixel) << x;
@@ -70,7 +70,7 @@ TEST_F(SheetTest, EachCellHasItsCardAndTheBackOfIt)
 {
     for (int16 i = 1; i <= 5; ++i)
         Shop.Set.Cards[i].CardBack = i;
-    CreateCardSheets(Shop, TheRun, SheetGrid{2, 3});
+    CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{2, 3});
     const QImage sheet = Folder.Image("Sea Sheet 1.bmp");
     for (int i = 0; i < 5; ++i) {
         const QRect back(i % 2 * 304 + 152 + 1, i / 2 * 256, 149, 254); // its first column is under the grid
@@ -85,7 +85,7 @@ TEST_F(SheetTest, EachCellHasItsCardAndTheBackOfIt)
 TEST_F(SheetTest, WithoutBacksACellIsACard)
 {
     Header().NoBack = true;
-    CreateCardSheets(Shop, TheRun, SheetGrid{5, 1});
+    CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{5, 1});
     const QImage sheet = Folder.Image("Sea Sheet 1.bmp");
     ASSERT_EQ(sheet.size(), QSize(760, 256));
     EXPECT_EQ(CardsIn(sheet, {{0, 0}, {152, 0}, {304, 0}, {456, 0}, {608, 0}}), (std::vector{1, 2, 3, 4, 5}));
@@ -96,17 +96,17 @@ TEST_F(SheetTest, WithoutBacksACellIsACard)
 TEST_F(SheetTest, ALastCardWithoutCopiesKeepsThePartialSheetFromBeingWritten)
 {
     Shop.Set.Cards[5].Copies = 0;
-    CreateCardSheets(Shop, TheRun, SheetGrid{3, 1});
+    CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{3, 1});
     EXPECT_TRUE(Folder.Has("Sea Sheet 1.bmp"));
     EXPECT_FALSE(Folder.Has("Sea Sheet 2.bmp"));
-    CreateCardSheets(Shop, TheRun, std::nullopt);
+    CreateSheets(Shop, TheRun, CardKind::Standard, std::nullopt);
     EXPECT_EQ(User.LastBox().Text, "0 cardsheets are created.");
 }
 
 TEST_F(SheetTest, ASecondRunWritesAtEveryCard)
 {
-    CreateCardSheets(Shop, TheRun, SheetGrid{6, 1});
-    CreateCardSheets(Shop, TheRun, SheetGrid{6, 1});
+    CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{6, 1});
+    CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{6, 1});
     const QImage sheet = Folder.Image("Sea Sheet 1.bmp");
     EXPECT_EQ(CardsIn(sheet, {{0, 0}, {4 * 304, 0}}), (std::vector{0, 5}))
         << "each sheet ends up with its last card only";
@@ -120,7 +120,7 @@ TEST_F(SheetTest, LargeCardsStandAboveTheirBacksAndGoToTheClipboard)
         Shop.Set.LargeCards[i].Color = 0x10 * i;
         Shop.Set.LargeCards[i].ShowPicture = false;
     }
-    CreateLargeCardSheets(Shop, TheRun, SheetGrid{1, 2});
+    CreateSheets(Shop, TheRun, CardKind::Large, SheetGrid{1, 2});
     const QImage sheet = Folder.Image("Sea Sheet Large 1.bmp");
     ASSERT_EQ(sheet.size(), QSize(608, 512));
     EXPECT_EQ(CardsIn(sheet, {{0, 0}, {0, 256}}), (std::vector{1, 2})) << "over the back of the row above";
@@ -129,7 +129,7 @@ TEST_F(SheetTest, LargeCardsStandAboveTheirBacksAndGoToTheClipboard)
     EXPECT_EQ(User.LastBox().Text, "1 large cardsheet is created.");
 
     AddElement<Character>(Shop.Set);
-    CreateCharacterSheets(Shop, TheRun, SheetGrid{1, 1});
+    CreateSheets(Shop, TheRun, CardKind::Character, SheetGrid{1, 1});
     EXPECT_EQ(User.LastTold(), "Create large cardsheets|1 character cardsheet is created.");
     EXPECT_FALSE(Folder.Has("Sea Sheet Large 2.bmp"));
 }
@@ -142,7 +142,7 @@ TEST_F(SheetTest, BelowALargeCardIsItsBackInAnOutlineUnlessARowFollows)
         Shop.Set.LargeCards[i].ShowPicture = false;
     }
     Shop.Set.LargeCards[2].CardBack = Folder.WritePicture("rear.bmp", PictureOfPlaces({304, 256}));
-    CreateLargeCardSheets(Shop, TheRun, SheetGrid{2, 2});
+    CreateSheets(Shop, TheRun, CardKind::Large, SheetGrid{2, 2});
     const QImage sheet = Folder.Image("Sea Sheet Large 1.bmp");
     ASSERT_EQ(sheet.size(), QSize(2 * 608, 512));
     EXPECT_EQ(CardsIn(sheet, {{0, 0}, {608, 0}, {0, 256}}), (std::vector{1, 2, 3}));
@@ -155,7 +155,7 @@ TEST_F(SheetTest, BelowALargeCardIsItsBackInAnOutlineUnlessARowFollows)
     EXPECT_EQ(sheet.copy(608, 256, 304, 256).convertToFormat(expected.format()), expected);
 
     Header().NoBack = true;
-    CreateLargeCardSheets(Shop, TheRun, SheetGrid{2, 2});
+    CreateSheets(Shop, TheRun, CardKind::Large, SheetGrid{2, 2});
     const QImage bare = Folder.Image("Sea Sheet Large 1.bmp");
     ASSERT_EQ(bare.size(), QSize(2 * 304, 512));
     EXPECT_EQ(CardsIn(bare, {{0, 0}, {304, 0}, {0, 256}, {304, 256}}), (std::vector{0, 0, 3, 0}))
@@ -172,7 +172,7 @@ TEST_F(SheetTest, SheetsHaveTheNameAndTheFormatOfTheSet)
                                                {"my sea", int16{2}, "my_sea_Sheet_2.gif"}}) {
         Header().FilenamePrefix = prefix;
         Header().SaveFormat = format;
-        CreateCardSheets(Shop, TheRun, SheetGrid{3, 1});
+        CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{3, 1});
         EXPECT_EQ(Folder.Image(name).size(), QSize(3 * 152, 256)) << name;
     }
 }
@@ -180,7 +180,7 @@ TEST_F(SheetTest, SheetsHaveTheNameAndTheFormatOfTheSet)
 TEST_F(SheetTest, AFailureIsToldAndTheRunGoesOn)
 {
     Header().SaveTo = Folder.Write("file", {}) + "/";
-    CreateCardSheets(Shop, TheRun, SheetGrid{6, 1});
+    CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{6, 1});
     EXPECT_EQ(User.BoxTexts(), (QStringList{"Saving the cardsheet|Something went wrong.",
                                             "Create cardsheets|1 cardsheet is created."}));
 }

@@ -60,20 +60,21 @@ TEST_F(ImageTest, CardAndBackStandSideBySideInTheirOutlines)
     Shop.Set.Characters[1].CardBack = 1;
     const struct {
         const char* Name;
-        bool (*Show)(Workshop&, int16);
-        Picture (*Final)(Workshop&);
+        CompositionFailure (*Show)(Workshop&, int16);
+        FinalImage Final;
         PictureBox WorkSurfaces::*Front;
         Picture Back; ///< empty for the front again
     } rows[] = {
-        {"card", ShowCard, FinalCard, &WorkSurfaces::picACard, Shop.Art.imgCB(1)},
-        {"large card", ShowLargeCard, FinalLargeCard, &WorkSurfaces::picACard, PictureOfPlaces({302, 254})},
-        {"character", ShowCharacter, FinalCharacter, &WorkSurfaces::picACard, Shop.Art.imgChB(1)},
-        {"piece", ShowCharacter, FinalPlayingPiece, &WorkSurfaces::picACardPP, {}}};
+        {"card", ShowCard, FinalImage::Card, &WorkSurfaces::picACard, Shop.Art.imgCB(1)},
+        {"large card", ShowLargeCard, FinalImage::LargeCard, &WorkSurfaces::picACard,
+         PictureOfPlaces({302, 254})},
+        {"character", ShowCharacter, FinalImage::Character, &WorkSurfaces::picACard, Shop.Art.imgChB(1)},
+        {"piece", ShowCharacter, FinalImage::PlayingPiece, &WorkSurfaces::picACardPP, {}}};
     for (const auto& row : rows) {
         for (const bool noBack : {false, true}) {
             SCOPED_TRACE(testing::Message() << row.Name << (noBack ? " without back" : ""));
             Header().NoBack = noBack;
-            ASSERT_TRUE(row.Show(Shop, 1));
+            ASSERT_FALSE(row.Show(Shop, 1));
             const Picture front = (Shop.Surfaces.*row.Front).Image();
             const int w = front.Size().width();
             const bool isDouble = !noBack || row.Back.IsEmpty();
@@ -83,10 +84,10 @@ TEST_F(ImageTest, CardAndBackStandSideBySideInTheirOutlines)
             expected.PaintPicture(front, 1, 1);
             expected.LineBox(0, 0, w - 1, 255);
             expected.LineBox(w, 0, 2 * w - 1, 255);
-            EXPECT_EQ(row.Final(Shop).Pixels(), expected.Image().Pixels());
+            EXPECT_EQ(FinalPictureOf(Shop, row.Final).Pixels(), expected.Image().Pixels());
         }
     }
-    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
+    SaveImage(Shop, TheRun, CardKind::NewBack, 1);
     const QImage back = Folder.Image("Back 1.bmp");
     EXPECT_EQ(back.size(), QSize(152, 256));
     EXPECT_EQ(back.pixel(151, 255), qRgb(0, 0, 0)) << "an outline, and nothing beside it";
@@ -98,7 +99,7 @@ TEST_F(ImageTest, ABatchNamesCardsByTheirTitlesAndComesBackToTheCurrentOne)
     Shop.Set.Cards[1].Title = "Dr. Who";
     Shop.Set.Cards[2].Filename = "kept";
     Header().ReplaceSpace = true;
-    CreateCards(Shop, TheRun);
+    CreateImages(Shop, TheRun, CardKind::Standard);
     EXPECT_TRUE(Folder.Has("Dr._Who.bmp"));
     EXPECT_TRUE(Folder.Has("kept.bmp"));
     EXPECT_EQ(Shop.Set.Cards[1].Filename, "Dr. Who");
@@ -113,7 +114,7 @@ TEST_F(ImageTest, TheDialogGivesFolderAndNameAndTheBoxTellsThePathBeforeReplacem
     Header().FilenamePrefix = "set";
     Header().ReplaceSpace = true;
     User.WillChoose(Folder.Path("a.b.jpg"));
-    SaveCard(Shop, TheRun, 1, Ask::Yes, Tell::Yes);
+    SaveImageAs(Shop, TheRun, CardKind::Standard, 1);
     EXPECT_EQ(FirstCard().Filename, "a");
     EXPECT_TRUE(Folder.Has("set_a.bmp"));
     EXPECT_EQ(User.LastTold(),
@@ -124,16 +125,13 @@ TEST_F(ImageTest, TheDialogGivesFolderAndNameAndTheBoxTellsThePathBeforeReplacem
     EXPECT_EQ(User.SaveDialogs[0].Filter, "All files(*.*)|*.*|Picture (*.bmp)|*.bmp");
     EXPECT_EQ(Header().SaveTo, Folder.WithSeparator());
 
-    // Who is told is asked for a missing name; a cancel changes nothing.
+    // A cancel changes nothing.
     FirstCard().Filename.clear();
     User.Boxes.clear();
     User.WillCancelDialog();
-    SaveCard(Shop, TheRun, 1, Ask::No, Tell::Yes);
+    SaveImageAs(Shop, TheRun, CardKind::Standard, 1);
     EXPECT_EQ(FirstCard().Filename, "");
     EXPECT_TRUE(User.Boxes.empty());
-    FirstCard().Filename = "named";
-    SaveCard(Shop, TheRun, 1, Ask::No, Tell::Yes);
-    EXPECT_TRUE(Folder.Has("set_named.bmp"));
 }
 
 TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
@@ -142,7 +140,7 @@ TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
     FirstCard().Title = "../outside";
     for (const int16 format : {int16{0}, int16{1}, int16{2}}) {
         Header().SaveFormat = format;
-        CreateCards(Shop, TheRun);
+        CreateImages(Shop, TheRun, CardKind::Standard);
         EXPECT_EQ(User.BoxTexts(), (QStringList{"Saving the card|Something went wrong.",
                                                 "Create cards|2 cards are created."}));
         User.Boxes.clear();
@@ -151,12 +149,12 @@ TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
         EXPECT_EQ(Folder.Image(name).size(), QSize(304, 256)) << name;
     Header().SaveFormat = 9;
     Shop.Set.Cards[1].Filename = "unknown";
-    SaveCard(Shop, TheRun, 1, Ask::No, Tell::No);
+    SaveImage(Shop, TheRun, CardKind::Standard, 1);
     EXPECT_FALSE(Folder.Has("unknown."));
 
     Header().SaveFormat = 2; // which goes by a temporary file
     EXPECT_TRUE(QFile::exists(ProgramFolder() + "qdwtemp.bmp"));
-    WriteCard(Shop, TheRun, {"/proc/none/", "card.gif"});
+    WriteFinalPicture(Shop, TheRun, FinalImage::Card, {"/proc/none/", "card.gif"});
     EXPECT_EQ(User.LastBox().Text, "Something went wrong.\r\n\r\nPath not found");
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Critical);
 }
@@ -165,15 +163,12 @@ TEST_F(ImageTest, ABackThatCannotBeShownKeepsItsNameAndItsOlderImage)
 {
     AddElement<NewCardBack>(Shop.Set);
     NewCardBack& back = Shop.Set.NewCardBacks[1];
-    User.WillCancelDialog();
-    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::Yes);
-    EXPECT_TRUE(User.Boxes.empty()) << "whoever is told is asked for a name, and cancelled";
-    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
+    SaveImage(Shop, TheRun, CardKind::NewBack, 1);
     EXPECT_EQ(Folder.Image("Back 1.bmp").size(), QSize(152, 256));
     back.Filename.clear();
     back.UsePicture = true;
     back.Picture = Folder.Path("none.bmp");
-    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
+    SaveImage(Shop, TheRun, CardKind::NewBack, 1);
     EXPECT_TRUE(back.Filename.isEmpty());
     EXPECT_TRUE(User.Boxes.empty());
 }

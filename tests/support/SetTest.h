@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/modInfo.h"
+#include "commands/SetCommands.h"
 #include "files/modFile.h"
 #include "support/ScriptedUser.h"
 #include "support/TestFolder.h"

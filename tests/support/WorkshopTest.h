@@ -1,9 +1,8 @@
 #pragma once
 
-#include "compose/SetView.h"
+#include "commands/OutputCommands.h"
 #include "core/SetTables.h"
 #include "core/modInfo.h"
-#include "output/RunReport.h"
 #include "support/ScriptedUser.h"
 #include "support/TestFolder.h"
 
@@ -17,7 +16,7 @@ class WorkshopTest : public testing::Test {
 protected:
     WorkshopTest()
     {
-        InitForm(Shop);
+        (void)InitForm(Shop);
         Header().SaveTo = Folder.WithSeparator();
     }
 
@@ -27,8 +26,8 @@ protected:
 
     TestFolder Folder;
     ScriptedUser User;
-    Workshop Shop{User};
-    RunReport TheRun{User};
+    Workshop Shop;
+    ShownRun TheRun{User};
 };
 
 } // namespace deckforge
