@@ -8,7 +8,6 @@
 #include <QLockFile>
 #include <QScopeGuard>
 #include <cstdio>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace deckforge {
@@ -39,19 +38,11 @@ QString MakeRoom(const QString& folder, const QString& toOpen)
     return RescuedName(folder, 0);
 }
 
-/// Everybody may write into the temporary folder: one of ours is made by us and open to nobody else.
+/// The folder for rescue files where no other takes one. Everybody may write into the temporary folder, so it
+/// has to be private.
 QString TemporaryFolder()
 {
-    return QStringLiteral("%1/varnhelm-deck-forge-%2/").arg(QDir::tempPath()).arg(::getuid());
-}
-
-bool IsOurs(const QString& folder)
-{
-    struct stat status = {};
-    const QByteArray name =
-        QFile::encodeName(folder.chopped(1)); // with its separator a link would be followed
-    return ::lstat(name.constData(), &status) == 0 && S_ISDIR(status.st_mode) &&
-           status.st_uid == ::getuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+    return QStringLiteral("%1/varnhelm-deck-forge-%2").arg(QDir::tempPath()).arg(::getuid());
 }
 
 QByteArray Fingerprint(const CardSet& set, Unwritable unwritable)
@@ -140,11 +131,8 @@ QString UnsavedWork::Rescue(const CardSet& set, const QString& toOpen)
         } catch (const RunTimeError&) {
         }
     }
-    const QString temporary = TemporaryFolder();
-    ::mkdir(QFile::encodeName(temporary).constData(), S_IRWXU);
-    if (!IsOurs(temporary))
-        throw RunTimeError(ErrorNumber::PathFileAccess);
-    return WriteTo(temporary, bytes, toOpen);
+    MakePrivateFolder(TemporaryFolder());
+    return WriteTo(WithSeparator(TemporaryFolder()), bytes, toOpen);
 }
 
 QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes, const QString& toOpen)
@@ -201,8 +189,9 @@ void UnsavedWork::RescueAtTheEnd(const CardSet& set) noexcept
 std::optional<UnsavedWork::RescuedSet> UnsavedWork::LatestRescued() const
 {
     std::optional<RescuedSet> latest;
-    const QString temporary = TemporaryFolder();
-    for (const QString& folder : {m_programFolder, m_setFolder, IsOurs(temporary) ? temporary : QString()}) {
+    const bool hasTemporary = IsPrivateFolder(TemporaryFolder());
+    for (const QString& folder :
+         {m_programFolder, m_setFolder, hasTemporary ? WithSeparator(TemporaryFolder()) : QString()}) {
         for (int age = 0; age <= MaxEarlier && !folder.isEmpty(); ++age) {
             const QString path = RescuedName(folder, age);
             const std::optional<FileAttributes> there = AttributesOf(path);

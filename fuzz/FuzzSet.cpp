@@ -7,7 +7,6 @@
 #include "files/modFile.h"
 #include "fuzz/Drawing.h"
 #include "fuzz/FuzzedFile.h"
-#include "platform/SilentUser.h"
 
 // A set from a stranger: reading it, showing it and writing it again. What was read is written as it can be
 // read again.
@@ -53,16 +52,15 @@ void ShowAll(Workshop& workshop)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     StartDrawing();
-    static SilentUser user;
     static Workshop workshop;
     (void)InitForm(workshop);
-    if (!OpenSet(workshop.Set, FuzzedFile(bytes, size).Path(), user))
+    if (!ReadDKF(workshop.Set, FuzzedFile(bytes, size).Path()).IsRead())
         return 0;
     const QByteArray written = SetFileBytes(workshop.Set, Unwritable::Fail);
     CardSet again = workshop.Set;
     const FuzzedFile file(reinterpret_cast<const std::uint8_t*>(written.data()),
                           static_cast<std::size_t>(written.size()));
-    if (!OpenSet(again, file.Path(), user) || SetFileBytes(again, Unwritable::Fail) != written)
+    if (!ReadDKF(again, file.Path()).IsRead() || SetFileBytes(again, Unwritable::Fail) != written)
         std::abort();
     ForgetPictures(workshop.Set);
     if (workshop.Set.Cards.Count() > 0)

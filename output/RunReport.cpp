@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <sys/stat.h>
 
 namespace deckforge {
 
@@ -57,6 +56,8 @@ void RunReport::AddPictures(Workshop& workshop)
 
 void RunReport::AddSymbol(Workshop& workshop)
 {
+    if (std::exchange(m_isSymbolChecked, true))
+        return;
     try {
         WithMemoryAsFailure([&] { (void)workshop.Pictures.LoadPicture(workshop.Set.Header.Symbol); });
     } catch (const RunTimeError& error) {
@@ -77,14 +78,6 @@ void RunReport::AddNotWritten(const QString& path, const QString& reason)
         Add(path, reason);
 }
 
-std::optional<RunReport::FileId> RunReport::IdOf(const QString& path)
-{
-    struct stat file = {};
-    if (::stat(QFile::encodeName(PathToOpen(path)).constData(), &file) != 0)
-        return std::nullopt;
-    return FileId(file.st_dev, file.st_ino);
-}
-
 /// Only of a full path: "C:\cards" from another machine is none here.
 void RunReport::MakeFolderOf(const QString& path)
 {
@@ -97,16 +90,17 @@ void RunReport::MakeFolderOf(const QString& path)
 
 QString RunReport::TakeWriter(const QString& path)
 {
-    const std::optional<FileId> before = IdOf(path);
-    return before ? m_writers.take(*before) : QString();
+    const auto before = AttributesOf(path);
+    const auto writer = before ? m_writers.extract(before->Id) : decltype(m_writers)::node_type();
+    return writer ? writer.mapped() : QString();
 }
 
 void RunReport::NoteWritten(const QString& path, const QString& replaced)
 {
     if (!replaced.isEmpty())
         Add(path, QStringLiteral("Replaces the file of ") + replaced);
-    if (const std::optional<FileId> file = IdOf(path))
-        m_writers.insert(*file, m_element);
+    if (const auto file = AttributesOf(path))
+        m_writers[file->Id] = m_element;
 }
 
 void RunReport::AddLine(const QString& line)

@@ -2,9 +2,10 @@
 
 #include "compose/Workshop.h"
 #include "core/CardKind.h"
+#include "platform/Files.h"
 
-#include <QHash>
 #include <QSet>
+#include <map>
 
 namespace deckforge {
 
@@ -51,15 +52,11 @@ public:
             NoteWritten(path, replaced);
     }
 
-    [[nodiscard]] bool HasWritten() const { return !m_writers.isEmpty(); }
+    [[nodiscard]] bool HasWritten() const { return !m_writers.empty(); }
     [[nodiscard]] const QStringList& Problems() const { return m_problems; }
 
 private:
-    /// What tells files apart whatever their names: device and inode.
-    using FileId = QPair<quint64, quint64>;
-
     void MakeFolderOf(const QString& path);
-    [[nodiscard]] static std::optional<FileId> IdOf(const QString& path);
     [[nodiscard]] QString TakeWriter(const QString& path);
     void NoteWritten(const QString& path, const QString& replaced);
     void AddSymbol(Workshop& workshop);
@@ -67,8 +64,9 @@ private:
 
     QString m_element;
     QStringList m_problems;
-    QSet<QString> m_reported;         ///< the same
-    QHash<FileId, QString> m_writers; ///< of each written file, the card that it was written for
+    QSet<QString> m_reported;            ///< the same
+    std::map<FileId, QString> m_writers; ///< of each written file, the card that it was written for
+    bool m_isSymbolChecked = false;
 };
 
 } // namespace deckforge

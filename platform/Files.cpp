@@ -12,7 +12,8 @@ namespace {
 FileAttributes AttributesIn(const struct stat& status)
 {
     constexpr mode_t permissionBits = 07777;
-    return {.Size = status.st_size,
+    return {.Id = {.Device = status.st_dev, .Inode = status.st_ino},
+            .Size = status.st_size,
             .LastAccess = status.st_atim,
             .LastWrite = status.st_mtim,
             .Permissions = status.st_mode & permissionBits};
@@ -80,11 +81,23 @@ bool IsRegularFile(const QString& path)
 
 bool IsSameFile(const QString& one, const QString& other)
 {
-    struct stat first = {};
-    struct stat second = {};
-    return ::stat(NameForSystem(one).constData(), &first) == 0 &&
-           ::stat(NameForSystem(other).constData(), &second) == 0 && first.st_dev == second.st_dev &&
-           first.st_ino == second.st_ino;
+    const auto first = AttributesOf(one);
+    const auto second = AttributesOf(other);
+    return first && second && first->Id == second->Id;
+}
+
+bool IsPrivateFolder(const QString& folder)
+{
+    struct stat status = {};
+    return ::lstat(NameForSystem(folder).constData(), &status) == 0 && S_ISDIR(status.st_mode) &&
+           status.st_uid == ::getuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+}
+
+void MakePrivateFolder(const QString& folder)
+{
+    (void)::mkdir(NameForSystem(folder).constData(), S_IRWXU);
+    if (!IsPrivateFolder(folder))
+        throw RunTimeError(ErrorNumber::PathFileAccess);
 }
 
 void RenameFile(const QString& from, const QString& to)

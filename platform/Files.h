@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
+#include <compare>
 #include <ctime>
 #include <optional>
 
@@ -21,7 +22,16 @@ void TakeSizeLimitAsFullDisk();
 /// The whole of a regular file. A file of more than mostBytes is error 7.
 [[nodiscard]] QByteArray ReadWholeFile(const QString& path, qint64 mostBytes);
 
+/// Identifies an existing file whatever its names.
+struct FileId {
+    quint64 Device = 0;
+    quint64 Inode = 0;
+
+    auto operator<=>(const FileId&) const = default;
+};
+
 struct FileAttributes {
+    FileId Id = {};
     qint64 Size = 0;
     timespec LastAccess = {};
     timespec LastWrite = {};
@@ -60,6 +70,13 @@ void CheckWritable(const QString& path);
 
 /// Whether both paths lead to one existing file, by links of any kind.
 [[nodiscard]] bool IsSameFile(const QString& one, const QString& other);
+
+/// Whether there is a folder that is the user's own and closed to others; a link is none. The path ends
+/// without a separator.
+[[nodiscard]] bool IsPrivateFolder(const QString& folder);
+
+/// Makes such a folder if it is not there. Error 75 where something else has its name.
+void MakePrivateFolder(const QString& folder);
 
 /// Gives a file another name in its folder or disk; what has that name goes. It has one of the two names at
 /// any moment, and the new one on the disk before this returns.

@@ -155,7 +155,6 @@ TEST_F(StandardCardTest, ADamagedPictureIsToldInABoxAndTheCardIsNotComposed)
 
 TEST(StandardCardAtScale, IsTheSameCardAndBreaksItsLinesAtTheSamePlaces)
 {
-    ScriptedUser user;
     const auto composed = [&](int scale) {
         Workshop shop(scale);
         (void)InitForm(shop);
