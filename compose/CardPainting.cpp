@@ -30,16 +30,18 @@ void PaintPictureBlock(PictureBox& surface, const Picture& white, const FramedPi
     }
 }
 
-void BeginCard(PictureBox& surface, const Box& preview)
+void BeginCard(PictureBox& surface, const Box& preview, const FontSpec& pen)
 {
     surface.SetSize({preview.Width, preview.Height});
     surface.SetPicture({});
+    UseFont(surface, pen);
 }
 
-void PaintBackground(Workshop& workshop, const Box& preview, const QString& path, Colour colour)
+void PaintBackground(Workshop& workshop, const Box& preview, const QString& path, Colour colour,
+                     const FontSpec& pen)
 {
     PictureBox& picACard = workshop.Surfaces.picACard;
-    BeginCard(picACard, preview);
+    BeginCard(picACard, preview, pen);
     Attempt([&] { picACard.SetPicture(workshop.Pictures.LoadPicture(path)); });
     picACard.SetBackColor(colour);
 }

@@ -34,15 +34,16 @@ FramedPicture FramedPictureOf(const Record& record, const Box& frame, const Box&
             .IsSet = !record.Picture.isEmpty()};
 }
 
-/// Blanks the frame in white, paints the part of the picture that it shows, and outlines it in the colour
-/// that the composition before left on the surface: nothing sets one here.
+/// Blanks the frame in white, paints the part of the picture that it shows, and outlines it in the colour of
+/// the surface, which is that of the carried pen.
 void PaintPictureBlock(PictureBox& surface, const Picture& white, const FramedPicture& picture);
 
-/// Gives the surface the size of the preview it mirrors, and nothing on it.
-void BeginCard(PictureBox& surface, const Box& preview);
+/// Gives the surface the size of the preview it mirrors, nothing on it, and the carried pen.
+void BeginCard(PictureBox& surface, const Box& preview, const FontSpec& pen);
 
-/// The background of a card over its colour. A file that has vanished leaves the colour.
-void PaintBackground(Workshop& workshop, const Box& preview, const QString& path, Colour colour);
+/// Begins picACard with the background of a card over its colour. A missing file leaves the colour.
+void PaintBackground(Workshop& workshop, const Box& preview, const QString& path, Colour colour,
+                     const FontSpec& pen);
 
 /// The symbol of the set, where it has one.
 void PaintSymbol(Workshop& workshop, const Box& symbol, QPoint origin);

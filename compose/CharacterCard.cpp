@@ -151,15 +151,16 @@ void PrintTexts(Workshop& workshop, const Character& character, int16 index, QPo
     PrintWatermark(picACard, t.lblWatermark, panel);
 }
 
-void DrawCharacterCard(Workshop& workshop, int16 index)
+void DrawCharacterCard(Workshop& workshop, int16 index, FontSpec& pen)
 {
     const CharacterTemplate& t = workshop.Templates.Character;
     const Character& character = workshop.Set.Characters[index];
     const QPoint panel = t.picBackgroundChar.Place().topLeft();
-    BeginCard(workshop.Surfaces.picACard, t.picCharacter);
+    BeginCard(workshop.Surfaces.picACard, t.picCharacter, pen);
     workshop.Surfaces.picACard.SetPicture(t.picCharacter.Surface->GetPicture());
     PaintPictures(workshop, character, panel);
     PrintTexts(workshop, character, index, panel);
+    pen = workshop.Surfaces.picACard.Pen();
 }
 
 // Composition of the playing piece
@@ -179,21 +180,21 @@ FramedPicture PiecePicture(const PlayingPieceTemplate& t, const Character& chara
             .IsSet = isSet};
 }
 
-void DrawPlayingPiece(Workshop& workshop, int16 index)
+void DrawPlayingPiece(Workshop& workshop, int16 index, CarriedPens& pens)
 {
     const PlayingPieceTemplate& t = workshop.Templates.PlayingPiece;
     PictureBox& picACardPP = workshop.Surfaces.picACardPP;
-    BeginCard(picACardPP, t.picPlayingPiece);
+    BeginCard(picACardPP, t.picPlayingPiece, pens.Piece);
     PaintPictureBlock(picACardPP, workshop.Surfaces.picWhite,
                       PiecePicture(t, workshop.Set.Characters[index]));
     const QRect cutLine = t.CutLine.Place();
     picACardPP.LineBox(cutLine.left(), cutLine.top(), cutLine.right(), cutLine.bottom());
-    // The piece's font goes to the card surface, not to the piece's own: the name below is printed in
-    // whatever font the last watermark left there, and the outline of the next card has this colour. Cards
-    // made so far look like this.
+    // Kept: the piece's font is set on the card surface, not on the piece's own. The name below is printed in
+    // the font of the last watermark, and the outline of the next card has this colour.
     UseFont(workshop.Surfaces.picACard, workshop.Set.Header.FontPlayingPiece);
     PrintCentred(picACardPP, t.lblPlayingPieceName, t.lblPlayingPieceName.Caption);
     PrintWatermark(picACardPP, t.lblWatermark);
+    pens = {.Card = workshop.Surfaces.picACard.Pen(), .Piece = picACardPP.Pen()};
 }
 
 } // namespace
@@ -208,8 +209,8 @@ CompositionFailure ShowCharacter(Workshop& workshop, int16 index)
         ShowPictureFrame(t, character.ShowPicture);
         LoadPictures(run, workshop, character);
         DrawCharAttributes(workshop, character);
-        DrawCharacterCard(workshop, index);
-        DrawPlayingPiece(workshop, index);
+        DrawCharacterCard(workshop, index, workshop.Carried.Card);
+        DrawPlayingPiece(workshop, index, workshop.Carried);
     });
 }
 

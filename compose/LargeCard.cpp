@@ -96,16 +96,17 @@ void PrintTexts(Workshop& workshop, const LargeCard& card, int16 index)
 }
 
 /// Composes the card from the places of the boxes. Never fails: a step that does is passed over.
-void DrawLargeCard(Workshop& workshop, int16 index)
+void DrawLargeCard(Workshop& workshop, int16 index, FontSpec& pen)
 {
     const LargeCardTemplate& t = workshop.Templates.Large;
     const LargeCard& card = workshop.Set.LargeCards[index];
-    PaintBackground(workshop, t.picCardLarge, card.Background, card.Color);
+    PaintBackground(workshop, t.picCardLarge, card.Background, card.Color, pen);
     FramedPicture picture = FramedPictureOf(card, t.picFrameLarge, t.picImageLarge);
     picture.Clip.FrameHugsHeight = card.Resize;
     PaintPictureBlock(workshop.Surfaces.picACard, workshop.Surfaces.picWhite, picture);
     PaintSymbol(workshop, t.picSymbolLarge, {0, 0});
     PrintTexts(workshop, card, index);
+    pen = workshop.Surfaces.picACard.Pen();
 }
 
 } // namespace
@@ -122,7 +123,7 @@ CompositionFailure ShowLargeCard(Workshop& workshop, int16 index)
         PlaceTexts(t);
         t.lblAutonumberLarge.Caption = QString::number(index);
         LoadPictures(run, workshop, card);
-        DrawLargeCard(workshop, index);
+        DrawLargeCard(workshop, index, workshop.Carried.Card);
     });
 }
 

@@ -160,11 +160,12 @@ void DrawNewCardBack(Workshop& workshop, int16 index)
     const NewBackTemplate& t = workshop.Templates.NewBack;
     const NewCardBack& back = workshop.Set.NewCardBacks[index];
     PictureBox& picACardPP = workshop.Surfaces.picACardPP;
-    BeginCard(picACardPP, t.picNewBack);
+    BeginCard(picACardPP, t.picNewBack, workshop.Carried.Piece);
     picACardPP.SetPicture(t.picNewBack.Surface->GetPicture());
     UseFont(picACardPP, back.Font);
     PrintBackText(picACardPP, t.lblBackTitle, back.BackText);
     PrintWatermark(picACardPP, t.lblWatermark);
+    workshop.Carried.Piece = picACardPP.Pen();
     picACardPP.Freeze();
     RotatePictureShifted(picACardPP, workshop.Surfaces.picACard, Turn::Clockwise);
 }

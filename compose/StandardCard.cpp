@@ -184,13 +184,14 @@ void PrintTexts(Workshop& workshop, const Card& card, int16 index)
 }
 
 /// Composes the card from the places of the boxes. Never fails: a step that does is passed over.
-void DrawCard(Workshop& workshop, int16 index)
+void DrawCard(Workshop& workshop, int16 index, FontSpec& pen)
 {
     const Card& card = workshop.Set.Cards[index];
-    PaintBackground(workshop, workshop.Templates.Standard.picCard, card.Background, card.Color);
+    PaintBackground(workshop, workshop.Templates.Standard.picCard, card.Background, card.Color, pen);
     PaintPictures(workshop, card);
     PrintTexts(workshop, card, index);
     workshop.Surfaces.picACard.Freeze();
+    pen = workshop.Surfaces.picACard.Pen();
 }
 
 } // namespace
@@ -208,7 +209,7 @@ CompositionFailure ShowCard(Workshop& workshop, int16 index)
         LoadBackground(run, workshop, card);
         LoadBack(run, workshop, card);
         DrawArtistCredit(workshop, index);
-        DrawCard(workshop, index);
+        DrawCard(workshop, index, workshop.Carried.Card);
     });
 }
 

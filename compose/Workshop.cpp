@@ -28,7 +28,10 @@ WorkSurfaces::WorkSurfaces(int scale)
     picCharAttribute.SetBackColor(Black);
 }
 
-Workshop::Workshop(int scale) : Templates(scale), Surfaces(scale), Art(scale)
+Workshop::Workshop(int scale)
+    : Templates(scale),
+      Surfaces(scale), Carried{.Card = Surfaces.picACard.Pen(), .Piece = Surfaces.picACardPP.Pen()},
+      Art(scale)
 {
     Templates.Standard.picBack.Surface->SetPicture(Art.picBack());
     Templates.Character.picCharacter.Surface->SetPicture(Art.picCharacter());

@@ -26,6 +26,15 @@ struct WorkSurfaces {
     PictureBox picStore;      ///< a large card with its back below it
 };
 
+/// Font and colour that a composition leaves to the next one on the same surface.
+///
+/// Kept: the outline of a picture has the colour of the text printed before it, and the name on a playing
+/// piece its font. Both come from the composition before.
+struct CarriedPens {
+    FontSpec Card;  ///< on picACard
+    FontSpec Piece; ///< on picACardPP
+};
+
 /// Where a run of card sheets stands.
 struct SheetState {
     int16 SheetCols = 0;
@@ -56,6 +65,7 @@ struct Workshop {
     CardSet Set;
     CardTemplates Templates;
     WorkSurfaces Surfaces;
+    CarriedPens Carried;
     BuiltInArt Art;
     PictureLoader Pictures;
     SheetState Sheet;

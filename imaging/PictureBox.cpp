@@ -123,6 +123,15 @@ void PictureBox::SetFontSize(double points)
     m_font.Size = points;
 }
 
+FontSpec PictureBox::Pen() const
+{
+    return {.Name = m_font.Name,
+            .Size = m_font.Size,
+            .Bold = m_font.Bold,
+            .Italic = m_font.Italic,
+            .Color = ForeColor};
+}
+
 const FontMeasures& PictureBox::Measures() const
 {
     constexpr qsizetype mostKept = 100; // a set from a stranger can have a font on each of its card backs

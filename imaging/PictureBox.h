@@ -41,7 +41,8 @@ public:
     void SetFontName(const QString& name); ///< error 380 for an empty one
     void SetFontBold(bool bold);
     void SetFontItalic(bool italic);
-    void SetFontSize(double points); ///< error 380 unless above 0 and at most MostPoints
+    void SetFontSize(double points);    ///< error 380 unless above 0 and at most MostPoints
+    [[nodiscard]] FontSpec Pen() const; ///< font and ForeColor
     [[nodiscard]] double TextWidth(QStringView text) const;
     [[nodiscard]] double TextHeight(QStringView text) const; ///< of all its lines, parted by CR LF
     /// Draws the text with its top left corner at CurrentX, CurrentY. The position then is the start of the

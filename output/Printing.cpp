@@ -101,10 +101,8 @@ bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
     fine.Set = workshop.Set;
     static_cast<void>(ShowSet(fine));
     TakeSymbolPlaces(fine.Templates, workshop.Templates);
-    // Twice: some fonts and outlines are those that the composition before left. In a window, too, a card
-    // was shown before it is printed.
-    const int16 index = CurrentOf(fine.Set, KindOnPage(page));
-    return !ShowForPage(fine, page, index) && !ShowForPage(fine, page, index);
+    fine.Carried = workshop.Carried;
+    return !ShowForPage(fine, page, CurrentOf(fine.Set, KindOnPage(page)));
 }
 
 } // namespace
