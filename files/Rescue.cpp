@@ -6,6 +6,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QLockFile>
+#include <QRandomGenerator>
 #include <QScopeGuard>
 #include <cstdio>
 #include <unistd.h>
@@ -123,7 +124,10 @@ bool UnsavedWork::ReturnTo(const CardSet& set)
 
 QString UnsavedWork::Rescue(const CardSet& set, const QString& toOpen)
 {
-    const QByteArray bytes = SetFileBytes(set, Unwritable::Mend);
+    CardSet rescued = set;
+    if (set.File)
+        rescued.Header.FileName = set.File->Path; // where it is to be saved, also if the file was moved
+    const QByteArray bytes = SetFileBytes(rescued, Unwritable::Mend);
     for (const QString& folder : {m_programFolder, m_setFolder}) {
         try {
             if (!folder.isEmpty())
@@ -138,7 +142,8 @@ QString UnsavedWork::Rescue(const CardSet& set, const QString& toOpen)
 QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes, const QString& toOpen)
 {
     QDir().mkpath(folder); // it may have gone since the program began
-    const QString unfinished = RescuedName(folder, 0) + QStringLiteral("~");
+    const quint64 random = QRandomGenerator::system()->generate64();
+    const QString unfinished = folder + QStringLiteral(".rescued-") + QString::number(random, 36);
     QLockFile lock(RescuedName(folder, 0) + QStringLiteral(".lock"));
     lock.tryLock(LockMilliseconds);
     auto removeUnfinished = qScopeGuard([&] { QFile::remove(unfinished); });

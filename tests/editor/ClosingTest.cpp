@@ -105,8 +105,9 @@ TEST_F(ClosingTest, TheWindowStaysWithASetThatCannotBeRescued)
     const auto restore = qScopeGuard([&] { qputenv("TMPDIR", before); });
     qputenv("TMPDIR", folder.Path().toUtf8());
     folder.Write(QStringLiteral("varnhelm-deck-forge-%1").arg(::getuid()), "in the way");
-    const QString inTheWay = RescuedPath() + QStringLiteral("~");
-    ASSERT_TRUE(QDir().mkdir(inTheWay));
+    const QString programFolder = ProgramFolder().chopped(1);
+    ASSERT_TRUE(QDir().rename(programFolder, programFolder + "-away"));
+    ASSERT_TRUE(QFile(programFolder).open(QIODevice::WriteOnly));
     const QString other = WriteSet("other.dkf", "Other");
     window.show();
     EXPECT_FALSE(window.close());
@@ -120,7 +121,8 @@ TEST_F(ClosingTest, TheWindowStaysWithASetThatCannotBeRescued)
     RunAndAnswer("exit", Answer::No);
     EXPECT_FALSE(window.isVisible()) << "the user was asked";
     window.show();
-    ASSERT_TRUE(QDir().rmdir(inTheWay));
+    ASSERT_TRUE(QFile::remove(programFolder));
+    ASSERT_TRUE(QDir().rename(programFolder + "-away", programFolder));
     Line("txtTitle").setText("гризли");
     EXPECT_TRUE(window.close());
     EXPECT_TRUE(IsRescued());
