@@ -17,29 +17,27 @@ TEST(FontScheme, DressesEveryLabelInItsFont)
     for (FontSpec SetHeader::*font : setFile::Fonts)
         (header.*font).Size = ++size;
     SetFont(templates, header);
-    const std::pair<const Box&, double> rows[] = {{card.lblTitle, 1},
-                                                  {card.lblType[0], 2},
-                                                  {card.lblType[1], 2},
-                                                  {card.lblType[2], 2},
-                                                  {card.lblType[3], 2},
-                                                  {card.lblNumber, 3},
-                                                  {card.lblBold, 4},
-                                                  {card.lblInformation, 5},
-                                                  {card.lblAutonumber, 6},
-                                                  {large.lblAutonumberLarge, 6},
-                                                  {large.lblTitleLarge, 7},
-                                                  {large.lblInformationLarge, 8},
-                                                  {character.lblAutonumberCharacter, 6},
-                                                  {character.lblCharacter, 9},
-                                                  {character.lblSpecialTitle, 10},
-                                                  {character.lblSpecial, 11},
-                                                  {character.lblAlignmentTitle, 12},
-                                                  {character.lblAlignment, 12},
-                                                  {character.lblStartTitle, 12},
-                                                  {character.lblStart, 12},
-                                                  {templates.PlayingPiece.lblPlayingPieceName, 13}};
-    for (const auto& [label, points] : rows)
-        EXPECT_EQ(label.Font.Size, points) << label.Name.toStdString();
+    const std::vector<const Box*> labels[] = {
+        {&card.lblTitle},
+        {&card.lblType[0], &card.lblType[1], &card.lblType[2], &card.lblType[3]},
+        {&card.lblNumber},
+        {&card.lblBold},
+        {&card.lblInformation},
+        {&card.lblAutonumber, &large.lblAutonumberLarge, &character.lblAutonumberCharacter},
+        {&large.lblTitleLarge},
+        {&large.lblInformationLarge},
+        {&character.lblCharacter},
+        {&character.lblSpecialTitle},
+        {&character.lblSpecial},
+        {&character.lblAlignmentTitle, &character.lblAlignment, &character.lblStartTitle,
+         &character.lblStart},
+        {&templates.PlayingPiece.lblPlayingPieceName}};
+    size = 0;
+    for (const auto& ofFont : labels) {
+        ++size;
+        for (const Box* label : ofFont)
+            EXPECT_EQ(label->Font.Size, size) << label->Name.toStdString();
+    }
     EXPECT_EQ(character.lblObjects.Font, objects) << "outside the scheme";
 }
 

@@ -26,20 +26,14 @@ protected:
     const QString Places = Folder.WritePicture("places.bmp", PictureOfPlaces({200, 250}));
 };
 
-TEST_F(OtherKindsTest, TheTextOfALargeCardFollowsItsFrame)
+TEST_F(OtherKindsTest, WithoutAPictureTheTextTakesTheWholeCard)
 {
-    const LargeCardTemplate& t = Shop.Templates.Large;
-    Large().FrameHeight = 100;
-    ASSERT_TRUE(ShowLargeCard(Shop, 1));
-    EXPECT_EQ(Surface().Size(), QSize(304, 256));
-    EXPECT_EQ(t.lblPicSizeLarge.Left, 108);
-    EXPECT_EQ(t.lblTitleLarge.Place(), QRect(113, 8, 183, 25));
-    EXPECT_EQ(t.lblInformationLarge.Place(), QRect(113, 32, 183, 212));
-    Large().ShowPicture = false;
-    ASSERT_TRUE(ShowLargeCard(Shop, 1));
-    EXPECT_EQ(t.lblTitleLarge.Place(), QRect(10, 8, 286, 25));
-    EXPECT_EQ(t.lblInformationLarge.Place(), QRect(10, 32, 286, 212));
-    EXPECT_EQ(t.picBackLarge.Surface->GetPicture().Pixels(), Shop.Art.imgChB(3).Pixels());
+    Large().ShowPicture = Hero().ShowPicture = false;
+    ASSERT_TRUE(ShowLargeCard(Shop, 1) && ShowCharacter(Shop, 1));
+    EXPECT_EQ(Shop.Templates.Large.lblTitleLarge.Place(), QRect(10, 8, 286, 25));
+    EXPECT_EQ(Shop.Templates.Large.lblInformationLarge.Place(), QRect(10, 32, 286, 212));
+    EXPECT_EQ(Shop.Templates.Character.lblSpecial.Place(), QRect(6, 43, 266, 177));
+    EXPECT_EQ(Shop.Templates.Large.picBackLarge.Surface->GetPicture().Pixels(), Shop.Art.imgChB(3).Pixels());
 }
 
 TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreToldOnTheStandardCard)
@@ -59,21 +53,6 @@ TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreToldOnTheStandardCard)
         EXPECT_EQ(RowsOf(Shop.Templates.Character.picCharacterBack.Surface->GetPicture()),
                   RowsOf(Shop.Art.imgChB(0)));
     }
-}
-
-TEST_F(OtherKindsTest, TheTextOfACharacterFollowsItsFrame)
-{
-    const CharacterTemplate& t = Shop.Templates.Character;
-    ASSERT_TRUE(ShowCharacter(Shop, 1));
-    EXPECT_EQ(t.picFrameCharacter.Height, 220);
-    EXPECT_EQ(t.lblPicSizeCharacter.Left, 122);
-    EXPECT_EQ(t.lblStart.Place(), QRect(169, 15, 103, 12));
-    EXPECT_EQ(t.lblSpecial.Place(), QRect(128, 43, 144, 177));
-    Hero().Frame = true;
-    Hero().ShowPicture = false;
-    ASSERT_TRUE(ShowCharacter(Shop, 1));
-    EXPECT_EQ(t.picFrameCharacter.Height, 218);
-    EXPECT_EQ(t.lblSpecial.Place(), QRect(6, 43, 266, 177));
 }
 
 TEST_F(OtherKindsTest, ThePiecePrintsItsNameInWhatTheSurfaceHadAndDressesTheCard)
