@@ -83,27 +83,12 @@ TEST_F(PlacementTest, KeysLayThePictureAtTheEdgesOfItsFrame)
     }
     Press(Qt::Key_Left, Qt::ControlModifier);
     EXPECT_EQ(Offset(FirstCard()), QPointF(1, 0));
-    Press(Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_EQ(FirstCard().FrameHeight, 106);
     Press(Qt::Key_End, Qt::ShiftModifier);
-    Press(Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_EQ(FirstCard().FrameHeight, 168);
     Press(Qt::Key_Home, Qt::ShiftModifier);
     Press(Qt::Key_Up, Qt::ShiftModifier);
     EXPECT_EQ(FirstCard().FrameHeight, 20);
     EXPECT_EQ(Offset(FirstCard()), QPointF(1, 0));
-}
-
-TEST_F(PlacementTest, EdgesOfALargePictureAreFoundByThePictureOfTheStandardCard)
-{
-    ChoosePicture("cmdGetPic", folder.WritePicture("imp.bmp", PictureOfPlaces({30, 20})));
-    SelectTab(2);
-    ChoosePicture("cmdGetPicLarge", folder.WritePicture("hill.bmp", PictureOfPlaces({100, 90})));
-    Press(Qt::Key_End);
-    Press(Qt::Key_PageDown);
-    EXPECT_EQ(Offset(Set().LargeCards[1]), QPointF(121 - 1 - 30, 238 - 3 - 20));
-    Press(Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_EQ(Set().LargeCards[1].FrameHeight, 121);
 }
 
 TEST_F(PlacementTest, CharacterAndPieceMoveEachTheirOwnPicture)

@@ -37,7 +37,7 @@ protected:
 
     // Controls
     /// What controls show, parted by bars: their texts; of a slider its place and its end: "1 (2)".
-    QString Text(std::initializer_list<const char*> names)
+    QString Text(const std::vector<const char*>& names)
     {
         QStringList texts;
         for (const char* name : names) {
@@ -51,7 +51,7 @@ protected:
         }
         return texts.join('|');
     }
-    QString Text(const char* name) { return Text({name}); }
+    QString Text(const char* name) { return Text(std::vector{name}); }
     QLineEdit& Line(const char* name)
     {
         auto* const list = root->findChild<QComboBox*>(name);
