@@ -37,16 +37,8 @@ TEST_F(SetLifecycle, ThereIsNoCardBehindTheLastNumber)
     EXPECT_EQ(FailureOf([&] { (void)Set.Cards[-1]; }), 9);
 }
 
-TEST_F(SetLifecycle, ANewElementHasTheDefaultsOfItsKind)
+TEST_F(SetLifecycle, ANewCardTakesTheDefaultsOfTheSet)
 {
-    AddOneOfEachKind(Set);
-    const QByteArray written = SetFileBytes(Set, Unwritable::Fail);
-    for (const char* lines :
-         {"; 1 ;LARGE CARD 1; 1 ;True;; 0 ; 0 ; 121 ;True;False;;;; 16777215 ;;",
-          "; 1 ;CHARACTER 1;;NEUTRAL;;3;;---;---; 0 ; 0 ;; 121 ;VILLAGE;3;False;True; 0 ;;; 0 ; 0 ;",
-          "; 1 ;New set;; 16777215 ; 0 ;Back 1; 16777215 ;;False;Arial; 18 ;True;False; 16777215 ;"})
-        EXPECT_TRUE(written.contains(QByteArray(lines).replace(";", "\r\n"))) << lines;
-
     Set.LastType = "type";
     Set.LastSubType = "second";
     Set.LastTypeReversed = "reversed";

@@ -2,7 +2,6 @@
 #include "platform/Paths.h"
 #include "support/EveryKind.h"
 
-#include <QMimeData>
 #include <QScopeGuard>
 #include <QStatusBar>
 #include <unistd.h>
@@ -49,16 +48,6 @@ protected:
     {
         user.WillChoose(path);
         Run("open");
-    }
-    void Drop(const QString& path)
-    {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
-        QDragEnterEvent enter({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&window, &enter);
-        QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&window, &drop);
-        QCoreApplication::processEvents();
     }
     void RunAndAnswer(const char* command, Answer answer)
     {
@@ -161,15 +150,6 @@ TEST_F(ClosingTest, ChangesRenewTheRescuedSetUntilTheyAreSaved)
     user.WillChoose(folder.Path("saved.dkf"));
     Run("save");
     EXPECT_FALSE(IsRescued());
-}
-
-TEST_F(ClosingTest, ARescuedSetIsOpenedOverAChangedOne)
-{
-    QFile::copy(WriteSet("lost.dkf", "Lost"), RescuedPath());
-    Type("txtTitle", "Bear");
-    Open(RescuedPath());
-    EXPECT_EQ(FirstCard().Title, "Lost");
-    EXPECT_EQ(RescuedTitle(1), "Bear");
 }
 
 TEST_F(ClosingTest, TheStartTellsOfARescuedSet)

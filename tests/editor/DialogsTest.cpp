@@ -135,16 +135,6 @@ TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedAtOnce)
     EXPECT_EQ(FirstCard().CardBack, 1) << "the card kept its back";
 }
 
-TEST_F(DialogsTest, TheWheelOverAClosedListTurnsNothing)
-{
-    OpenChangedSet([](CardSet& set) { AddOwnBack(set, "Owls", {}), set.LastCardBack = 28; });
-    WithDialog("setinfo", [&] {
-        EXPECT_EQ(Text("cboCBDefault"), "Owls");
-        TurnWheel(Find<QComboBox>("cboCBDefault"), 120);
-        EXPECT_EQ(Set().LastCardBack, 28);
-    });
-}
-
 TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
 {
     WithDialog("setinfo", [&] {
@@ -207,16 +197,6 @@ TEST_F(DialogsTest, ListFindsACardByItsFirstLettersHoweverItIsSorted)
     EXPECT_EQ(Set().Cards.Current, 3);
     WithDialog("cmdSort", [&] { Select(List("lvCard"), 0); });
     EXPECT_EQ(Set().Cards.Current, 3) << "closed without a choice";
-}
-
-TEST_F(DialogsTest, ListOfLargeCardsGivesCharactersAndFailsPastTheLastCard)
-{
-    SelectTab(3);
-    Click("cmdCharacterAdd");
-    SelectTab(2);
-    WithDialog("cmdSortLarge", [&] { DoubleClick(List("lvCard"), 1); });
-    EXPECT_EQ(Set().LargeCards.Current, 2);
-    EXPECT_EQ(user.LastTold(), "Varnhelm Deck Forge|Run-time error '9':\r\n\r\nSubscript out of range");
 }
 
 TEST_F(DialogsTest, FontOptionsFollowTheSampleAndAStrayOneChangesTheAutonumber)

@@ -133,22 +133,6 @@ TEST_F(FieldsTest, EveryPictureButtonCarriesToItsOwnField)
     }
 }
 
-TEST_F(FieldsTest, TheSymbolLiesElsewhereOnTheCharacterWhenItIsChosen)
-{
-    SelectTab(3);
-    const QString path = folder.WritePicture("sun.bmp", PictureOfPlaces({9, 10}));
-    ChoosePicture("cmdSymbol", path);
-    EXPECT_EQ(Set().Header.Symbol, path);
-    EXPECT_EQ(Boxes().Large.picSymbolLarge.Place(), QRect(304 - 9 - 2, 256 - 10 - 2, 9, 10));
-    EXPECT_EQ(Boxes().Character.picSymbolCharacter.Place(), QRect(304 - 9 - 16, 256 - 10 - 16, 9, 10));
-    Click("cmdDelSymbol");
-    EXPECT_EQ(Set().Header.Symbol + Text("txtSymbol"), "");
-    EXPECT_FALSE(Boxes().Standard.picSymbol.Visible);
-    EXPECT_TRUE(Boxes().Character.picSymbolCharacter.Visible) << "until a character is shown";
-    ClickTab(3);
-    EXPECT_FALSE(Boxes().Character.picSymbolCharacter.Visible);
-}
-
 TEST_F(FieldsTest, ACharacterTakesThePlaceOfAnAreaAndAttributesAsTyped)
 {
     SelectTab(3);

@@ -1,7 +1,5 @@
 #include "editor/WindowTest.h"
 
-#include <QMimeData>
-
 namespace deckforge {
 
 class PlacementTest : public WindowTest {
@@ -13,19 +11,11 @@ protected:
         return QPointF(element.PictureLeft, element.PictureTop) / 15;
     }
     void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(&View(), key, held); }
-    void Drop(const QString& path, const Box& box, QPoint inBox = {1, 1}) { Drop(path, PointOn(box, inBox)); }
-    void Drop(const QString& path, QPoint point)
+    void Drop(const QString& path, const Box& box, QPoint inBox = {1, 1})
     {
-        QMimeData file;
-        file.setUrls({QUrl::fromLocalFile(path)});
-        const QPoint place = View().mapTo(&window, point);
-        QDragEnterEvent enter(place, Qt::CopyAction, &file, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&window, &enter);
-        QDragMoveEvent move(place, Qt::CopyAction, &file, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&window, &move);
-        QDropEvent drop(place, Qt::CopyAction, &file, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&window, &drop);
+        WindowTest::Drop(path, View().mapTo(&window, PointOn(box, inBox)));
     }
+    using WindowTest::Drop;
 };
 
 TEST_F(PlacementTest, ADraggedPictureMovesByPixelsOfTheCardAtEveryZoom)
@@ -119,24 +109,6 @@ TEST_F(PlacementTest, AFrameThatHugsItsPictureStandsInTheMiddle)
     EXPECT_EQ(Preview().picFrame.Place(), QRect(5, 40, 139, 105));
 }
 
-TEST_F(PlacementTest, ThePointerTellsWhatCanBeMoved)
-{
-    const auto pointerOn = [&](const Box& box) {
-        SendMove(PointOn(box), Qt::NoButton);
-        return View().cursor().shape();
-    };
-    EXPECT_EQ(pointerOn(Preview().picImage), Qt::SizeAllCursor);
-    EXPECT_EQ(pointerOn(Preview().lblPicSize), Qt::SizeVerCursor);
-    EXPECT_EQ(pointerOn(Preview().lblTitle), Qt::ArrowCursor);
-    Click("chkShowPicture");
-    EXPECT_EQ(pointerOn(Preview().picImage), Qt::ArrowCursor);
-    EXPECT_EQ(Preview().lblBold.Top, 28 + 13 + 3) << "the texts move up";
-    Click("chkShowPicture");
-    EXPECT_EQ(Preview().lblBold.Top, 40 + 105 + 3);
-    SelectTab(2);
-    EXPECT_EQ(pointerOn(Boxes().Large.lblPicSizeLarge), Qt::SizeHorCursor);
-}
-
 TEST_F(PlacementTest, ADroppedPictureGoesWhereItFalls)
 {
     const QString path = folder.WritePicture("imp.bmp");
@@ -173,15 +145,13 @@ TEST_F(PlacementTest, ADroppedSetIsOpenedAfterTheQuestion)
     const QString set = folder.Path("set.dkf");
     Type("txtTitle", "Changed");
     user.WillAnswer(Answer::Cancel);
-    Drop(set, QPoint(1, 1));
-    QCoreApplication::processEvents();
+    Drop(set);
     EXPECT_EQ(Text("txtTitle"), "Changed");
     window.ShowProgress(1, 3);
-    Drop(set, QPoint(1, 1)); // refused while a run goes on
+    Drop(set); // refused while a run goes on
     window.ShowProgress(3, 3);
     user.WillAnswer(Answer::No);
-    Drop(set, QPoint(1, 1));
-    QCoreApplication::processEvents();
+    Drop(set);
     EXPECT_EQ(Text("txtTitle"), "Stored");
 }
 

@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -119,6 +120,19 @@ protected:
         QMouseEvent move(QEvent::MouseMove, point, View().mapToGlobal(point), Qt::NoButton, held,
                          Qt::NoModifier);
         QCoreApplication::sendEvent(&View(), &move);
+    }
+
+    /// Drops a file on a place of the window.
+    void Drop(const QString& path, QPoint place = {1, 1})
+    {
+        QMimeData file;
+        file.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(place, Qt::CopyAction, &file, Qt::LeftButton, {});
+        QDragMoveEvent move(place, Qt::CopyAction, &file, Qt::LeftButton, {});
+        QDropEvent drop(place, Qt::CopyAction, &file, Qt::LeftButton, {});
+        for (QEvent* event : std::initializer_list<QEvent*>{&enter, &move, &drop})
+            QCoreApplication::sendEvent(&window, event);
+        QCoreApplication::processEvents();
     }
 
     /// Answers the dialog of a picture button, and clicks it.

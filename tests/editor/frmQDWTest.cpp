@@ -135,18 +135,4 @@ TEST_F(frmQDWTest, HelpAnswersWhateverModifierIsHeld)
     }
 }
 
-TEST_F(frmQDWTest, BackgroundTellsTheVersionAndTheCardDoesNot)
-{
-    window.resize(1000, 800);
-    window.show();
-    const auto doubleClick = [&](const QWidget& control, QPoint point) {
-        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, control.mapTo(&window, point));
-    };
-    doubleClick(View(), PointOn(Preview().lblWatermark));
-    doubleClick(Find<QLabel>("lblCurrentCard"), {2, 2});
-    EXPECT_TRUE(user.Boxes.empty());
-    doubleClick(View(), {2, -4});
-    EXPECT_EQ(user.BoxTexts(), QStringList("Hello!|Version 1.7.4"));
-}
-
 } // namespace deckforge

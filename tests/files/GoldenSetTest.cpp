@@ -1,4 +1,4 @@
-#include "BuildPaths.h"
+#include "support/FileBytes.h"
 #include "support/SetTest.h"
 
 namespace deckforge {
@@ -27,10 +27,8 @@ using Rows = std::vector<Row>;
 
 Rows GoldenRows()
 {
-    QFile file(DECKFORGE_SOURCE_DIR "/tests/data/golden-set.txt");
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     Rows rows;
-    for (const QByteArray& text : file.readAll().split('\n')) {
+    for (const QByteArray& text : TestData("golden-set.txt").split('\n')) {
         const QList<QByteArray> quoted = text.split('"');
         const QList<QByteArray> words = quoted[0].split(' ');
         if (quoted.size() < 3 || words[0] == "#")
@@ -132,11 +130,7 @@ protected:
     void ExpectWrittenLikeRead(const QByteArray& file)
     {
         ASSERT_TRUE(WriteDKF(Set, Folder.Path("written.dkf"), User, Report::Silent));
-        const QList<QByteArray> expected = file.split('\n');
-        const QList<QByteArray> written = Folder.Read("written.dkf").split('\n');
-        EXPECT_EQ(written.size(), expected.size());
-        for (qsizetype line = 0; line < std::min(written.size(), expected.size()); ++line)
-            EXPECT_EQ(written[line], expected[line]) << "line " << line + 1;
+        ExpectLines(Folder.Read("written.dkf"), file);
     }
 
     const Rows Golden = GoldenRows();

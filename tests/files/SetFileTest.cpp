@@ -1,6 +1,8 @@
 #include "core/SetTables.h"
 #include "files/Rescue.h"
 #include "platform/Paths.h"
+#include "support/EveryKind.h"
+#include "support/FileBytes.h"
 #include "support/SetTest.h"
 
 #include <limits>
@@ -50,22 +52,8 @@ TEST_F(SetFileTest, ANewSetIsWrittenLineForLine)
     EXPECT_EQ(Set.Header.SaveTo, ProgramFolder());
     Set.Header.SaveTo = "/out/";
     Set.Header.FileName = "/sets/new.dkf";
-    const auto font = [](const char* size, const char* bold, const char* colour) {
-        return LinesOf(QByteArray("Small Fonts;") + size + ";" + bold + ";False;" + colour + ";");
-    };
-    const QByteArray plain = font(" 7 ", "False", " 0 ");
-    const QByteArray bold = font(" 7 ", "True", " 0 ");
-    const QByteArray fonts = bold + plain + plain + bold + plain + font(" 5 ", "False", " 0 ") + bold +
-                             plain + font(" 7 ", "True", " 16777215 ") + bold + plain +
-                             font(" 6 ", "True", " 0 ") + bold;
-    EXPECT_EQ(
-        Written(),
-        HeadOf("Version 10") +
-            LinesOf("New set;/sets/new.dkf;/out/;False;;;False;False; 0 ;False; 12632256 ;") + fonts +
-            LinesOf(
-                " 0 ; 0 ; 0 ; 1 ;CARD 1; 1 ;ENEMY-;Animal;-ENEMY;Animal;False; 0 ;2;True;; 0 ; 105 ; 0 ;") +
-            LinesOf(
-                "True;False;;;;; 1 ; 16777215 ;; 0 ; 0 ; 1 ;ENEMY-;-ENEMY;Animal;Animal; 2 ;;-- END --;"));
+    AddOneOfEachKind(Set);
+    ExpectLines(Written(), TestData("new-set.txt"));
 }
 
 TEST_F(SetFileTest, AFileOfVersionOneIsConverted)
@@ -121,9 +109,7 @@ TEST_F(SetFileTest, ADamagedCountOfAnySectionLeavesASetThatCanBeSavedAndOpened)
     for (int i = 0; i < 2; ++i) {
         AddOwnType(Set, {"QUEST", {}, {}, {}, 0, false});
         AddOwnBack(Set, "own", "own.bmp");
-        AddElement<NewCardBack>(Set);
-        AddElement<LargeCard>(Set);
-        AddElement<Character>(Set);
+        AddOneOfEachKind(Set);
     }
     AddElement<Card>(Set);
     const CardSet before = Set;

@@ -1,10 +1,7 @@
 #include "imaging/cDIBSection.h"
 #include "support/Failures.h"
 #include "support/PixelText.h"
-#include "support/ScriptedUser.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <algorithm>
 
 namespace deckforge {
@@ -124,18 +121,6 @@ TEST(cDIBSection, TestPatternsReachItsLastColumnWithoutBlueOrInGrey)
         }
         EXPECT_TRUE((found & 0xFF) != 0 && found > 0xFF);
     }
-}
-
-TEST(cDIBSection, GoesToTheClipboardAsABitmapOnly)
-{
-    ScriptedUser user;
-    const cDIBSection section = SectionOf({"rg"});
-    EXPECT_FALSE(section.CopyToClipboard(true, user));
-    EXPECT_EQ(user.LastBox().Text,
-              "I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!");
-    ASSERT_TRUE(section.CopyToClipboard(false, user));
-    EXPECT_EQ(RowsOf(Picture(QGuiApplication::clipboard()->image())), PixelRows{"rg"});
-    EXPECT_FALSE(cDIBSection().CopyToClipboard(false, user));
 }
 
 } // namespace deckforge
