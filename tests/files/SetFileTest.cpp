@@ -74,13 +74,13 @@ TEST_F(SetFileTest, AFileOfVersionOneIsConverted)
 
 TEST_F(SetFileTest, WhatIsNoSetChangesNothing)
 {
-    const std::pair<QByteArray, QString> rows[] = {
-        {"amber gnome - Varnhelm Deck Foundry\r\nVersion 10\r\n",
-         "Open File Error|This is not a correct card set file."},
-        {HeadOf("Version 11"), "Version conflict|The set you are opening is from a newer version.\r\n"
-                               "It can not be opened in this version."},
-        {HeadOf("Version10"), ReadFailure + "13, Type mismatch"}};
-    for (const auto& [bytes, told] : rows) {
+    const QString newer = "Version conflict|The set you are opening is from a newer version.\r\n"
+                          "It can not be opened in this version.";
+    for (const auto& [bytes, told] :
+         {std::pair{HeadOf("Version 10").toLower(),
+                    QString("Open File Error|This is not a correct card set file.")},
+          {HeadOf("Version 11"), newer},
+          {HeadOf("Version10"), ReadFailure + "13, Type mismatch"}}) {
         EXPECT_FALSE(Read(bytes));
         EXPECT_EQ(User.LastTold(), told);
     }
@@ -119,7 +119,7 @@ TEST_F(SetFileTest, ADamagedCountOfAnySectionLeavesASetThatCanBeSavedAndOpened)
         for (const char* number : {" 0 ", "-2 ", "-32768 ", " 1 ", " 3 ", " 32767 ", " 1000000000 "}) {
             if (lines[line] != " 2 \r")
                 continue;
-            SCOPED_TRACE(QString("line %1 is %2").arg(line + 1).arg(number).toStdString());
+            SCOPED_TRACE(testing::Message() << "line " << line + 1 << " is " << number);
             ++damaged;
             Set = before;
             Set.Characters.Current = 2;
@@ -129,10 +129,8 @@ TEST_F(SetFileTest, ADamagedCountOfAnySectionLeavesASetThatCanBeSavedAndOpened)
             EXPECT_TRUE(Set.Cards.Current >= 1 && Set.Cards.Current <= Set.Cards.Count());
             EXPECT_LE(Set.Characters.Current, Set.Characters.Count());
             const QByteArray saved = Written();
-            CardSet again;
-            InitSet(again);
-            ASSERT_TRUE(ReadDKF(again, Folder.Path("written.dkf"), User)) << User.LastTold().toStdString();
-            EXPECT_EQ(SetFileBytes(again, Unwritable::Fail), saved);
+            ASSERT_TRUE(Read(saved)) << User.LastTold().toStdString();
+            EXPECT_EQ(Written(), saved);
         }
     }
     EXPECT_GE(damaged, 6 * 7) << "six sections";
@@ -264,17 +262,17 @@ TEST_F(SetFileTest, FoldersNamedInAnyLanguageAreSavedAndReadAgain)
     Set.Cards[1].Picture = "/data/Ελλάδα/two\r\nlines.bmp";
     Set.Cards[1].Background = "/home/josé/bär €.bmp"; // in the code page, so as it stands
     Set.LastBackground = "file:///home/%41.bmp";      // looks like an address, and is none
-    const auto paths = [&] {
-        return QStringList{Set.Header.SaveTo, Set.Header.FileName, Set.Cards[1].Picture,
-                           Set.Cards[1].Background, Set.LastBackground};
-    };
-    const QStringList before = paths();
+    const CardSet before = Set;
     const QByteArray written = Written();
     EXPECT_TRUE(written.contains("file:///data/%CE%95%CE%BB%CE%BB%CE%AC%CE%B4%CE%B1/two%0D%0Alines.bmp\r\n"));
     EXPECT_TRUE(written.contains("/home/jos\xE9/b\xE4r \x80.bmp\r\n"));
     InitSet(Set);
     ASSERT_TRUE(Read(written));
-    EXPECT_EQ(paths(), before);
+    EXPECT_EQ(Set.Header.SaveTo, before.Header.SaveTo);
+    EXPECT_EQ(Set.Header.FileName, before.Header.FileName);
+    EXPECT_EQ(Set.Cards[1].Picture, before.Cards[1].Picture);
+    EXPECT_EQ(Set.Cards[1].Background, before.Cards[1].Background);
+    EXPECT_EQ(Set.LastBackground, before.LastBackground);
 }
 
 } // namespace deckforge
