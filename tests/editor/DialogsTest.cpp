@@ -82,18 +82,15 @@ TEST_F(DialogsTest, CheckedPicturesMoveToTheTypedFolder)
         const auto checked = [&](int row) {
             return list.model()->index(row, 0).data(Qt::CheckStateRole).toInt();
         };
-        EXPECT_EQ(list.model()->rowCount(), 2);
-        EXPECT_EQ(Cell(list, 1, 0) + Cell(list, 1, 1), "Two/old/two.bmp");
         Click("cmdSelectAll");
         EXPECT_EQ(checked(0), Qt::Checked);
         Click("optCard6");
         Click("optCard0");
         EXPECT_EQ(checked(0), Qt::Unchecked) << "another choice drops the checks";
-        Click("cmdChange");
-        EXPECT_EQ(Cell(list, 1, 1), "/old/two.bmp") << "no folder yet";
-        list.setFocus();
         Select(list, 1);
         QTest::keyClick(&list, Qt::Key_Space);
+        Click("cmdChange");
+        EXPECT_EQ(Cell(list, 1, 0) + Cell(list, 1, 1), "Two/old/two.bmp") << "no folder yet";
         ChoosePicture("cmdBrowse", "/new/");
         QTest::keyClick(&Line("txtNewPath"), Qt::Key_Return);
         EXPECT_TRUE(root->isVisible()) << "Enter takes the folder";

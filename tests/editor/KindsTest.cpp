@@ -163,11 +163,6 @@ TEST_F(KindsTest, OnlyTheLastOfTheOtherKindsStaysWithoutAWord)
     SelectTab(3);
     Click("cmdCharacterDelete");
     EXPECT_TRUE(user.Boxes.empty());
-    Click("cmdCharacterAdd");
-    user.WillAnswer(Answer::Yes);
-    Click("cmdCharacterDelete");
-    EXPECT_EQ(user.LastBox().Text, "Are you sure you want to delete the character \"CHARACTER 2\"?");
-    EXPECT_EQ(Text("lblCurrentCardCharacter"), "1 (1)");
     SelectTab(1);
     Click("cmdCardDelete");
     EXPECT_EQ(user.LastTold(), "|You have only one card in your set. This can't be deleted.");
