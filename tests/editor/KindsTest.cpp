@@ -31,28 +31,6 @@ TEST_F(KindsTest, TheFirstOfAKindComesWithTheFirstLookAtItsTab)
     }
 }
 
-TEST_F(KindsTest, ASwitchOfTabComesBackToTheFront)
-{
-    const auto expectShown = [&](const Box& expected) {
-        for (const Box* box :
-             {&Boxes().Large.picCardLarge, &Boxes().Large.picBackLarge, &Boxes().Character.picCharacter,
-              &Boxes().Character.picCharacterBack, &Boxes().PlayingPiece.picPlayingPiece})
-            EXPECT_EQ(box->Visible, box == &expected) << box->Name.toStdString();
-    };
-    SelectTab(2);
-    expectShown(Boxes().Large.picCardLarge);
-    Click("chkShowBackLarge");
-    expectShown(Boxes().Large.picBackLarge);
-    SelectTab(3);
-    Click("chkShowCharacterBack");
-    Click("chkShowPlayingPiece");
-    expectShown(Boxes().PlayingPiece.picPlayingPiece);
-    Click("chkShowPlayingPiece");
-    expectShown(Boxes().Character.picCharacterBack);
-    ClickTab(3);
-    expectShown(Boxes().Character.picCharacter);
-}
-
 TEST_F(KindsTest, AfterANewSetNothingIsTypedIntoAHiddenBox)
 {
     window.show();
@@ -138,22 +116,6 @@ TEST_F(KindsTest, KeysAndCommandsGoByTheTab)
     Slide("hsbCharacter", 1);
     Run("paste");
     EXPECT_EQ(Hero().Name, "CHARACTER 2");
-}
-
-TEST_F(KindsTest, ImagesAreMadeOfTheKindThatTheTabShows)
-{
-    OpenChangedSet([&](CardSet& set) { set.Header.SaveTo = folder.WithSeparator(); });
-    for (const int tab : {2, 3, 4})
-        SelectTab(tab);
-    user.WillChoose(folder.Path("owl.bmp"));
-    Run("createone");
-    EXPECT_TRUE(folder.Has("owl.bmp"));
-    Run("createall");
-    EXPECT_EQ(user.LastBox().Text, "1 character card is created.");
-    SelectTab(2);
-    Run("createall");
-    EXPECT_EQ(user.LastBox().Text, "1 large card is created.");
-    EXPECT_TRUE(folder.Has("Large  LARGE CARD 1.bmp"));
 }
 
 TEST_F(KindsTest, OnlyTheLastOfTheOtherKindsStaysWithoutAWord)

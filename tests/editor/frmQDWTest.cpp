@@ -49,26 +49,6 @@ TEST_F(frmQDWTest, TypedTextGoesToThePreviewAndCompletesAttributes)
     EXPECT_EQ(FirstCard().BoldText, "s");
 }
 
-TEST_F(frmQDWTest, SlidersTellOfTheNextElementBeforeItIsShown)
-{
-    const std::tuple<int, const char*, const char*, std::vector<const char*>, const char*> rows[] = {
-        {1, "cmdCardAdd", "hsbCard", {"lblCurrentCard", "lblCardTitle"}, "1 (2)|CARD 1 (ENEMY- Animal)"},
-        {2, "cmdCardAddLarge", "hsbCardLarge", {"lblCurrentCardLarge", "lblCardTitleLarge"}, "2 (2)|"},
-        {3, "cmdCharacterAdd", "hsbCharacter", {"lblCurrentCardCharacter", "lblChar"}, "1 (2)|CHARACTER 1"},
-        {4, "cmdNewCardBackAdd", "hsbNewCardBack", {"lblCurrentNewCardBack"}, "1 (2)"}};
-    for (const auto& [tab, add, slider, labels, texts] : rows) {
-        SelectTab(tab);
-        Click(add);
-        Find<QScrollBar>(slider).setSliderDown(true);
-        Find<QScrollBar>(slider).setSliderPosition(1);
-        EXPECT_EQ(Text(labels), texts);
-    }
-    EXPECT_EQ(Set().Cards.Current, 2);
-    Find<QScrollBar>("hsbCard").setSliderDown(false);
-    EXPECT_EQ(Set().Cards.Current, 1);
-    EXPECT_EQ(Text({"lblCardTitle", "txtTitle"}), "|CARD 1");
-}
-
 TEST_F(frmQDWTest, NewCardTakesTheNextKeysAsItsTitleAndALastOneGivesWayToTheOneBefore)
 {
     window.show();

@@ -112,6 +112,7 @@ TEST_F(RunReportTest, SheetsThatAreReplacedOrLeftUnwrittenAreReported)
     EXPECT_EQ(ProblemsOfSheets({6, 8}), // 92 cells on sheets of 48
               QStringList("card 24 \"CARD 24\": " + Folder.Path("New set Sheet 2.bmp") +
                           ": Not written, since the last card has no copies"));
+    EXPECT_TRUE(Folder.Has("New set Sheet 1.bmp"));
     EXPECT_EQ(ProblemsOf([&](RunReport& report) { CreateLargeCardSheets(Shop, report, SheetGrid()); }),
               QStringList("set \"New set\": No sheet is written"));
 }

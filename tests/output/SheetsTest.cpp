@@ -73,7 +73,7 @@ TEST_F(SheetTest, EachCellHasItsCardAndTheBackOfItInAGrid)
     }
 }
 
-TEST_F(SheetTest, WithoutBacksACellIsACard)
+TEST_F(SheetTest, WithoutBacksACellIsACardAndASecondRunWritesAtEveryCard)
 {
     Header().NoBack = true;
     CreateCardSheets(Shop, TheRun, SheetGrid{5, 1});
@@ -82,24 +82,8 @@ TEST_F(SheetTest, WithoutBacksACellIsACard)
     EXPECT_EQ(CardsIn(sheet, {{0, 0}, {152, 0}, {304, 0}, {456, 0}, {608, 0}}), (std::vector{1, 2, 3, 4, 5}));
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(sheet.pixel(152 * i + 151, 60), BlackPixel);
-}
-
-TEST_F(SheetTest, ALastCardWithoutCopiesKeepsThePartialSheetFromBeingWritten)
-{
-    Shop.Set.Cards[5].Copies = 0;
-    CreateCardSheets(Shop, TheRun, SheetGrid{3, 1});
-    EXPECT_TRUE(Folder.Has("Sea Sheet 1.bmp"));
-    EXPECT_FALSE(Folder.Has("Sea Sheet 2.bmp"));
-    CreateCardSheets(Shop, TheRun, std::nullopt);
-    EXPECT_EQ(User.LastBox().Text, "0 cardsheets are created.");
-}
-
-TEST_F(SheetTest, ASecondRunWritesAtEveryCard)
-{
     CreateCardSheets(Shop, TheRun, SheetGrid{6, 1});
-    CreateCardSheets(Shop, TheRun, SheetGrid{6, 1});
-    const QImage sheet = Folder.Image("Sea Sheet 1.bmp");
-    EXPECT_EQ(CardsIn(sheet, {{0, 0}, {4 * 304, 0}}), (std::vector{0, 5}))
+    EXPECT_EQ(CardsIn(Folder.Image("Sea Sheet 1.bmp"), {{0, 0}, {608, 0}}), (std::vector{0, 5}))
         << "each sheet ends up with its last card only";
 }
 
