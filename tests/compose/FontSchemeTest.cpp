@@ -17,27 +17,25 @@ TEST(FontScheme, DressesEveryLabelInItsFont)
     for (FontSpec SetHeader::*font : setFile::Fonts)
         (header.*font).Size = ++size;
     SetFont(templates, header);
-    const std::vector<const Box*> labels[] = {
-        {&card.lblTitle},
-        {&card.lblType[0], &card.lblType[1], &card.lblType[2], &card.lblType[3]},
-        {&card.lblNumber},
-        {&card.lblBold},
-        {&card.lblInformation},
-        {&card.lblAutonumber, &large.lblAutonumberLarge, &character.lblAutonumberCharacter},
-        {&large.lblTitleLarge},
-        {&large.lblInformationLarge},
-        {&character.lblCharacter},
-        {&character.lblSpecialTitle},
-        {&character.lblSpecial},
-        {&character.lblAlignmentTitle, &character.lblAlignment, &character.lblStartTitle,
-         &character.lblStart},
-        {&templates.PlayingPiece.lblPlayingPieceName}};
-    size = 0;
-    for (const auto& ofFont : labels) {
-        ++size;
-        for (const Box* label : ofFont)
-            EXPECT_EQ(label->Font.Size, size) << label->Name.toStdString();
-    }
+    const auto expect = [&](const FontSpec& font, std::initializer_list<const Box*> labels) {
+        for (const Box* label : labels)
+            EXPECT_EQ(label->Font.Size, font.Size) << label->Name.toStdString();
+    };
+    expect(header.FontTitle, {&card.lblTitle});
+    expect(header.FontType, {&card.lblType[0], &card.lblType[1], &card.lblType[2], &card.lblType[3]});
+    expect(header.FontNumber, {&card.lblNumber});
+    expect(header.FontBold, {&card.lblBold});
+    expect(header.FontInformation, {&card.lblInformation});
+    expect(header.FontAutonumber, {&card.lblAutonumber, &large.lblAutonumberLarge});
+    expect(header.FontAutonumber, {&character.lblAutonumberCharacter});
+    expect(header.FontTitleLarge, {&large.lblTitleLarge});
+    expect(header.FontInformationLarge, {&large.lblInformationLarge});
+    expect(header.FontCharacter, {&character.lblCharacter});
+    expect(header.FontSpecialTitle, {&character.lblSpecialTitle});
+    expect(header.FontSpecial, {&character.lblSpecial});
+    expect(header.FontAlignment, {&character.lblAlignmentTitle, &character.lblAlignment});
+    expect(header.FontAlignment, {&character.lblStartTitle, &character.lblStart});
+    expect(header.FontPlayingPiece, {&templates.PlayingPiece.lblPlayingPieceName});
     EXPECT_EQ(character.lblObjects.Font, objects) << "outside the scheme";
 }
 

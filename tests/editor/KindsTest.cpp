@@ -118,18 +118,6 @@ TEST_F(KindsTest, KeysAndCommandsGoByTheTab)
     EXPECT_EQ(Hero().Name, "CHARACTER 2");
 }
 
-TEST_F(KindsTest, OnlyTheLastOfTheOtherKindsStaysWithoutAWord)
-{
-    SelectTab(2);
-    Click("cmdCardDeleteLarge");
-    SelectTab(3);
-    Click("cmdCharacterDelete");
-    EXPECT_TRUE(user.Boxes.empty());
-    SelectTab(1);
-    Click("cmdCardDelete");
-    EXPECT_EQ(user.LastTold(), "|You have only one card in your set. This can't be deleted.");
-}
-
 TEST_F(KindsTest, TheWheelTurnsNothingThatTheUserDoesNotWorkIn)
 {
     for (const char* name : {"cboCardBack", "cboType", "udCopy", "tbCard"})

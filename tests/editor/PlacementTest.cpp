@@ -94,20 +94,6 @@ TEST_F(PlacementTest, CharacterAndPieceMoveEachTheirOwnPicture)
     EXPECT_EQ(QPointF(Hero().PlayingPieceLeft, Hero().PlayingPieceTop), QPointF(-2, 3) * 15);
 }
 
-TEST_F(PlacementTest, AFrameThatHugsItsPictureStandsInTheMiddle)
-{
-    ChoosePicture("cmdGetPic", folder.WritePicture("imp.bmp", PictureOfPlaces({43, 60})));
-    Click("chkResize");
-    EXPECT_EQ(FirstCard().PictureLeft, (142 - 43) / 2.0 * 15);
-    EXPECT_EQ(Preview().picFrame.Width, 43);
-    for (int pixel = 0; pixel < 8; ++pixel) // in half pixels, and still as far as the pointer
-        Drag(Preview().picImage, {10, 10}, {1, 0});
-    EXPECT_EQ(FirstCard().PictureLeft, (142 - 43) / 2.0 * 15 + 8 * 15);
-    EXPECT_EQ(Preview().picImage.Left, 0);
-    Click("chkResize");
-    EXPECT_EQ(Preview().picFrame.Place(), QRect(5, 40, 139, 105));
-}
-
 TEST_F(PlacementTest, ADroppedPictureGoesWhereItFalls)
 {
     const QString path = folder.WritePicture("imp.bmp");

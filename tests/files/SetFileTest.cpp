@@ -164,13 +164,19 @@ TEST_F(SetFileTest, LinesMayEndInLfAloneWhereNoneEndsInCrLf)
     EXPECT_EQ(Set.Cards[1].Title, "line\nfeed");
 }
 
-TEST_F(SetFileTest, WhatTheReaderWouldNotTakeIsNotWritten)
+TEST_F(SetFileTest, WhatNoFileCanHoldOrTheReaderWouldNotTakeIsNotWritten)
 {
     const QByteArray old = Written();
+    const QString failure = "Error|The file is NOT saved due to an error.\r\n\r\n";
+    Set.Cards[1].Info = "Łódź";
+    EXPECT_FALSE(Write());
+    EXPECT_EQ(User.LastBox().Style, BoxStyle::Critical);
+    EXPECT_TRUE(User.LastTold().startsWith(failure + "5, "));
+    EXPECT_TRUE(User.LastBox().Text.contains("Ł"));
+    Set.Cards[1].Info.clear();
     Set.Cards[1].PictureTop = std::numeric_limits<double>::quiet_NaN(); // nothing else is known that fails
     EXPECT_FALSE(Write());
-    EXPECT_EQ(User.LastTold(), "Error|The file is NOT saved due to an error.\r\n\r\n"
-                               "13, The set could not be opened again: Type mismatch");
+    EXPECT_EQ(User.LastTold(), failure + "13, The set could not be opened again: Type mismatch");
     EXPECT_EQ(Folder.Read("written.dkf"), old);
     Set.Cards[1].PictureTop = std::numeric_limits<double>::max();
     EXPECT_TRUE(Write()) << "rounded to what the reader takes";
@@ -179,54 +185,27 @@ TEST_F(SetFileTest, WhatTheReaderWouldNotTakeIsNotWritten)
 TEST_F(SetFileTest, ALineThatIsTooLongOrTwoIsNeitherReadNorWritten)
 {
     constexpr qsizetype longest = 1 << 16;
+    QString& title = Set.Cards[1].Title;
     Set.Cards[1].Info = QStringLiteral("\r\n").repeated(longest);
-    Set.Cards[1].Title = QString(longest, 'x');
+    title = QString(longest, 'x');
     const QByteArray whole = Written();
     EXPECT_TRUE(Read(whole));
     EXPECT_EQ(Set.Cards[1].Info.size(), 2 * longest);
-
     EXPECT_FALSE(Read(QByteArray(whole).replace("xx\r", "xxx\r")));
     EXPECT_TRUE(User.LastTold().startsWith(ReadFailure + "6, A line"));
-    for (QString* text : {&Set.Cards[1].Info, &Set.Cards[1].Title}) {
-        const QString before = *text;
-        *text += QStringLiteral("\r\n\r\nx").right(text == &Set.Cards[1].Title ? 1 : 2);
-        EXPECT_FALSE(Write());
-        EXPECT_TRUE(User.LastBox().Text.contains("\r\n\r\n6, A line"));
-        *text = before;
-    }
-    Set.Cards[1].Title += 'x';
-    EXPECT_EQ(SetFileBytes(Set, Unwritable::Mend).size(), whole.size()) << "cut";
-    Set.Cards[1].Title = "two\r\nlines";
-    EXPECT_FALSE(Write()) << "a line that is two breaks those of the file";
-}
-
-TEST_F(SetFileTest, SavingAsksEveryTimeAndThePathStandsInTheFile)
-{
-    const QString path = Folder.Path("chosen.dkf");
-    User.WillChoose(path);
-    SaveSet(Set, User);
-    EXPECT_TRUE(Folder.Read("chosen.dkf").contains(path.toUtf8()));
-    EXPECT_EQ(User.BoxTexts(), QStringList{"Save file|The card set is saved."});
-    User.WillCancelDialog();
-    SaveSet(Set, User);
-    ASSERT_EQ(User.SaveDialogs.size(), 2U);
-    EXPECT_EQ(User.SaveDialogs[1].FileName, path);
-    EXPECT_EQ(User.SaveDialogs[1].Title, "Save Card Set");
-    EXPECT_EQ(User.Boxes.size(), 1U);
-}
-
-TEST_F(SetFileTest, ATextThatNoFileCanHoldLeavesTheFileAlone)
-{
-    const QByteArray old = Written();
-    Set.Cards[1].Info = "Łódź";
+    title += 'x';
     EXPECT_FALSE(Write());
-    EXPECT_EQ(User.LastBox().Style, BoxStyle::Critical);
-    EXPECT_TRUE(User.LastTold().startsWith("Error|The file is NOT saved due to an error.\r\n\r\n5, "));
-    EXPECT_TRUE(User.LastBox().Text.contains("Ł"));
-    EXPECT_EQ(Folder.Read("written.dkf"), old);
+    EXPECT_TRUE(User.LastBox().Text.contains("\r\n\r\n6, A line"));
+    EXPECT_EQ(SetFileBytes(Set, Unwritable::Mend).size(), whole.size()) << "cut";
+    title = "two\r\nlines";
+    EXPECT_FALSE(Write()) << "a line that is two breaks those of the file";
+    title.clear();
+    EXPECT_TRUE(Write());
+    Set.Cards[1].Info += "\r\n";
+    EXPECT_FALSE(Write());
 }
 
-TEST_F(SetFileTest, AFileThatWasMovedIsSavedWhereItIs)
+TEST_F(SetFileTest, SavingProposesTheFileWhereItIsAndPutsThePathIntoIt)
 {
     const auto proposed = [&] {
         User.WillCancelDialog();
@@ -237,20 +216,21 @@ TEST_F(SetFileTest, AFileThatWasMovedIsSavedWhereItIs)
     ASSERT_TRUE(Read(Written()));
     EXPECT_EQ(Set.Header.FileName, "/elsewhere/old.dkf");
     EXPECT_EQ(proposed().FileName, Folder.Path("set.dkf"));
-    ASSERT_TRUE(proposed().Known);
-    EXPECT_TRUE(HaveSameContents(*proposed().Known, *AttributesOf(Folder.Path("set.dkf"))));
+    EXPECT_EQ(proposed().Title, "Save Card Set");
+    EXPECT_TRUE(HaveSameContents(proposed().Known.value(), *AttributesOf(Folder.Path("set.dkf"))));
 
     User.WillChoose(Folder.Path("none/set.dkf"));
     EXPECT_EQ(SaveSet(Set, User), SaveResult::Failed);
     EXPECT_EQ(proposed().FileName, Folder.Path("none/set.dkf")) << "where it was to go";
-    Set.Header.FileName = "/elsewhere/old.dkf";
+    User.WillChoose(Folder.Path("chosen.dkf"));
+    SaveSet(Set, User);
+    EXPECT_TRUE(Folder.Read("chosen.dkf").contains(Folder.Path("chosen.dkf").toUtf8()));
+    EXPECT_EQ(User.LastTold(), "Save file|The card set is saved.");
 
     UnsavedWork work(Folder.WithSeparator(), std::chrono::minutes(1));
     ASSERT_TRUE(ReadDKF(Set, work.Rescue(Set), User));
-    EXPECT_EQ(proposed().FileName, "/elsewhere/old.dkf") << "where the rescued set was";
+    EXPECT_EQ(proposed().FileName, Folder.Path("chosen.dkf")) << "where the rescued set was";
     EXPECT_FALSE(proposed().Known);
-
-    Read(Written());
     InitSet(Set);
     EXPECT_EQ(proposed().FileName, QString()) << "a new set has no file";
 }

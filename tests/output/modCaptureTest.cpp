@@ -86,6 +86,16 @@ TEST_F(ImageTest, CardAndBackStandSideBySideInTheirOutlines)
     const QImage back = Folder.Image("Back 1.bmp");
     EXPECT_EQ(back.size(), QSize(152, 256));
     EXPECT_EQ(back.pixel(151, 255), qRgb(0, 0, 0)) << "an outline, and nothing beside it";
+    NewCardBack& missing = Shop.Set.NewCardBacks[1];
+    missing.Filename.clear();
+    missing.UsePicture = true;
+    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
+    EXPECT_EQ(missing.Filename, "Back 1");
+    missing.Filename.clear();
+    missing.Picture = Folder.Path("none.bmp");
+    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
+    EXPECT_TRUE(missing.Filename.isEmpty()) << "no image of what cannot be shown";
+    EXPECT_EQ(Folder.Image("Back 1.bmp").size(), back.size());
 }
 
 TEST_F(ImageTest, ABatchNamesCardsByTheirTitlesAndComesBackToTheCurrentOne)
@@ -144,23 +154,6 @@ TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
     WriteCard(Shop, TheRun, {"/proc/none/", "card.gif"});
     EXPECT_EQ(User.LastBox().Text, "Something went wrong.\r\n\r\nPath not found");
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Critical);
-}
-
-TEST_F(ImageTest, ABackThatCannotBeShownKeepsItsNameAndItsOlderImage)
-{
-    AddElement<NewCardBack>(Shop.Set);
-    NewCardBack& back = Shop.Set.NewCardBacks[1];
-    User.WillCancelDialog();
-    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::Yes);
-    EXPECT_TRUE(User.Boxes.empty()) << "whoever is told is asked for a name, and cancelled";
-    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
-    EXPECT_EQ(Folder.Image("Back 1.bmp").size(), QSize(152, 256));
-    back.Filename.clear();
-    back.UsePicture = true;
-    back.Picture = Folder.Path("none.bmp");
-    SaveNewCardBack(Shop, TheRun, 1, Ask::No, Tell::No);
-    EXPECT_TRUE(back.Filename.isEmpty());
-    EXPECT_TRUE(User.Boxes.empty());
 }
 
 } // namespace deckforge
