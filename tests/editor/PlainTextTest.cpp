@@ -44,12 +44,11 @@ protected:
             if (!widget->isVisible())
                 continue;
             RestOn(*widget, widget->rect().center());
-            ExpectPlain(where);
-            const auto* const view = qobject_cast<QAbstractItemView*>(widget);
-            for (int column = 0; view && view->model() && column < view->model()->columnCount(); ++column) {
-                RestOn(*view->viewport(), view->visualRect(view->model()->index(0, column)).center());
-                ExpectPlain(where);
+            if (const auto* const view = qobject_cast<QAbstractItemView*>(widget); view && view->model()) {
+                for (int column = 0; column < view->model()->columnCount(); ++column)
+                    RestOn(*view->viewport(), view->visualRect(view->model()->index(0, column)).center());
             }
+            ExpectPlain(where);
         }
     }
     /// Opens a dialog, looks at it and closes it.

@@ -115,10 +115,10 @@ protected:
         SendMove(end);
         QTest::mouseRelease(&View(), Qt::LeftButton, {}, end);
     }
-    void SendMove(QPoint point, Qt::MouseButton held = Qt::LeftButton)
+    void SendMove(QPoint point)
     {
-        QMouseEvent move(QEvent::MouseMove, point, View().mapToGlobal(point), Qt::NoButton, held,
-                         Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, point, View().mapToGlobal(point), Qt::NoButton, Qt::LeftButton,
+                         {});
         QCoreApplication::sendEvent(&View(), &move);
     }
 
