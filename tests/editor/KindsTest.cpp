@@ -17,20 +17,6 @@ protected:
     }
 };
 
-TEST_F(KindsTest, TheFirstOfAKindComesWithTheFirstLookAtItsTab)
-{
-    for (int look = 0; look < 2; ++look) {
-        SelectTab(2);
-        EXPECT_EQ(Text({"txtTitleLarge", "lblCurrentCardLarge"}), "LARGE CARD 1|1 (1)");
-        SelectTab(3);
-        EXPECT_EQ(Text({"txtCharName", "cboStartArea", "cboCharAttr2"}), "CHARACTER 1|VILLAGE|---");
-        SelectTab(4);
-        EXPECT_EQ(Text({"txtNewCardBackName", "txtBackText"}), "Back 1|New set");
-        EXPECT_TRUE(Boxes().NewBack.picNewBack.Visible);
-        EXPECT_EQ(Set().LargeCards.Count() + Set().Characters.Count() + Set().NewCardBacks.Count(), 3);
-    }
-}
-
 TEST_F(KindsTest, AfterANewSetNothingIsTypedIntoAHiddenBox)
 {
     window.show();

@@ -89,6 +89,24 @@ TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
     EXPECT_TRUE(User.Boxes.empty()) << "showing it has told";
 }
 
+TEST_F(PrintingTest, TheSymbolIsPrintedWhereItIsShown)
+{
+    Header().Symbol = Folder.WritePicture("s.bmp", PictureOf(PixelRows(9, "rrrrrrr")));
+    ShowSet(Shop);
+    const auto printedAt = [&](int left, int top) {
+        Shop.Templates.Standard.picSymbol.Left = left;
+        Shop.Templates.Standard.picSymbol.Top = top;
+        WritePdf(Shop, TheRun, PrintedPage::Card, Folder.Path("page.pdf"), 600);
+        const QByteArray page = Folder.Read("page.pdf");
+        const qsizetype picture = page.indexOf("/Width 1216\n");
+        return page.mid(picture, page.indexOf("endstream", picture) - picture);
+    };
+    const QByteArray printed = printedAt(40, 100);
+    EXPECT_TRUE(printed == printedAt(40, 100));
+    EXPECT_FALSE(printed == printedAt(60, 100));
+    EXPECT_FALSE(printed == printedAt(40, 120));
+}
+
 TEST_F(PrintingTest, NothingIsDoneWithAPrinterThatTakesNoPage)
 {
     User.PrinterFile = "/no/such/folder/page.pdf";

@@ -8,6 +8,8 @@
 #include "support/EveryKind.h"
 #include "support/WorkshopTest.h"
 
+#include <QDir>
+
 namespace deckforge {
 
 class RunReportTest : public WorkshopTest {
@@ -75,6 +77,19 @@ TEST_F(RunReportTest, EveryPictureThatIsMissingOrRejectedIsNamedOnceWithItsCard)
             field->clear();
         }
     }
+}
+
+TEST_F(RunReportTest, RunsLeaveNoFilesOpen)
+{
+    AddOneOfEachKind(Shop.Set);
+    FirstCard().Picture = Folder.Write("damaged.bmp", "BM");
+    Shop.Set.LargeCards[1].Picture = Folder.WritePicture("picture.bmp");
+    const auto openFiles = [] { return QDir("/proc/self/fd").entryList(QDir::System | QDir::AllEntries); };
+    ProblemsOfImages();
+    const qsizetype before = openFiles().size();
+    for (Header().SaveFormat = 0; Header().SaveFormat < 3; ++Header().SaveFormat)
+        ProblemsOfImages();
+    EXPECT_EQ(openFiles().size(), before);
 }
 
 TEST_F(RunReportTest, AFileWrittenTwiceInARunIsReportedWhateverItsName)
