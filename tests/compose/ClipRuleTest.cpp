@@ -10,28 +10,15 @@ TEST(ClipRule, TellsSourceAndTargetForEveryPlaceOfThePicture)
     enum Hugs { Neither, ItsWidth, ItsHeight };
     const QRect none;
     const std::tuple<const char*, QSize, QPoint, int, Hugs, QRect, QPoint> rows[] = {
-        {"as large as it is, in the corner", small, {0, 0}, 0, Neither, {0, 0, 50, 40}, {0, 0}},
-        {"inside the outline", small, {0, 0}, 1, Neither, {0, 0, 50, 40}, {1, 1}},
         {"moved: the source reaches past it", small, {10, 20}, 0, Neither, {0, 0, 60, 60}, {10, 20}},
         {"too large", large, {0, 0}, 1, Neither, {0, 0, 138, 104}, {1, 1}},
-        {"too large without outline", large, {0, 0}, 0, Neither, {0, 0, 139, 105}, {0, 0}},
         {"cut at the left: as wide as the frame", large, {-20, 0}, 1, Neither, {20, 0, 139, 104}, {1, 1}},
-        {"cut at the top", large, {0, -50}, 1, Neither, {0, 50, 138, 105}, {1, 1}},
         {"its right end left in the frame", small, {-20, 0}, 0, Neither, {20, 0, 30, 40}, {0, 0}},
         {"past the right side", large, {100, 0}, 1, Neither, {0, 0, 38, 104}, {101, 1}},
-        {"its last column", small, {-49, 0}, 0, Neither, {49, 0, 1, 40}, {0, 0}},
         {"gone to the left", small, {-50, 0}, 0, Neither, none, {}},
-        {"gone to the right", small, {139, 0}, 0, Neither, none, {}},
         {"gone to the right, under the outline", small, {138, 0}, 1, Neither, none, {}},
-        {"gone to the bottom", small, {0, 105}, 0, Neither, none, {}},
         {"the frame has moved in its stead", large, {30, 0}, 1, ItsWidth, {0, 0, 137, 104}, {1, 1}},
-        {"... and it is cut at the left all the same",
-         large,
-         {-30, 0},
-         0,
-         ItsWidth,
-         {30, 0, 137, 105},
-         {0, 0}},
+        {"and is cut at the left", large, {-30, 0}, 0, ItsWidth, {30, 0, 137, 105}, {0, 0}},
         {"the frame has moved down", large, {0, 30}, 1, ItsHeight, {0, 0, 138, 103}, {1, 1}},
     };
     for (const auto& [what, picture, offset, inset, hugs, source, target] : rows) {

@@ -17,29 +17,25 @@ TEST(FontScheme, DressesEveryLabelInItsFont)
     for (FontSpec SetHeader::*font : setFile::Fonts)
         (header.*font).Size = ++size;
     SetFont(templates, header);
-    const std::pair<const Box&, double> rows[] = {{card.lblTitle, 1},
-                                                  {card.lblType[0], 2},
-                                                  {card.lblType[1], 2},
-                                                  {card.lblType[2], 2},
-                                                  {card.lblType[3], 2},
-                                                  {card.lblNumber, 3},
-                                                  {card.lblBold, 4},
-                                                  {card.lblInformation, 5},
-                                                  {card.lblAutonumber, 6},
-                                                  {large.lblAutonumberLarge, 6},
-                                                  {large.lblTitleLarge, 7},
-                                                  {large.lblInformationLarge, 8},
-                                                  {character.lblAutonumberCharacter, 6},
-                                                  {character.lblCharacter, 9},
-                                                  {character.lblSpecialTitle, 10},
-                                                  {character.lblSpecial, 11},
-                                                  {character.lblAlignmentTitle, 12},
-                                                  {character.lblAlignment, 12},
-                                                  {character.lblStartTitle, 12},
-                                                  {character.lblStart, 12},
-                                                  {templates.PlayingPiece.lblPlayingPieceName, 13}};
-    for (const auto& [label, points] : rows)
-        EXPECT_EQ(label.Font.Size, points) << label.Name.toStdString();
+    const auto expect = [&](const FontSpec& font, std::initializer_list<const Box*> labels) {
+        for (const Box* label : labels)
+            EXPECT_EQ(label->Font.Size, font.Size) << label->Name.toStdString();
+    };
+    expect(header.FontTitle, {&card.lblTitle});
+    expect(header.FontType, {&card.lblType[0], &card.lblType[1], &card.lblType[2], &card.lblType[3]});
+    expect(header.FontNumber, {&card.lblNumber});
+    expect(header.FontBold, {&card.lblBold});
+    expect(header.FontInformation, {&card.lblInformation});
+    expect(header.FontAutonumber, {&card.lblAutonumber, &large.lblAutonumberLarge});
+    expect(header.FontAutonumber, {&character.lblAutonumberCharacter});
+    expect(header.FontTitleLarge, {&large.lblTitleLarge});
+    expect(header.FontInformationLarge, {&large.lblInformationLarge});
+    expect(header.FontCharacter, {&character.lblCharacter});
+    expect(header.FontSpecialTitle, {&character.lblSpecialTitle});
+    expect(header.FontSpecial, {&character.lblSpecial});
+    expect(header.FontAlignment, {&character.lblAlignmentTitle, &character.lblAlignment});
+    expect(header.FontAlignment, {&character.lblStartTitle, &character.lblStart});
+    expect(header.FontPlayingPiece, {&templates.PlayingPiece.lblPlayingPieceName});
     EXPECT_EQ(character.lblObjects.Font, objects) << "outside the scheme";
 }
 

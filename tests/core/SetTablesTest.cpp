@@ -55,29 +55,24 @@ TEST_F(SetTables, TheListOfLargeCardsShowsCharacters)
     AddElement<Card>(Set);
     AddElement<LargeCard>(Set);
     AddElement<Character>(Set);
-    Set.Cards[1].Title = "Sword";
-    Set.Cards[1].Type = "OBJECT-";
-    Set.Cards[1].SubType = "Magic";
     Set.Cards[1].CardBack = 2;
     Set.Cards[1].Picture = "a.bmp";
     Set.Cards[2] = {};
     Set.Cards[2].Type = "EVENT";
     Set.Cards[2].CardBack = 28; // past the table
-    Set.Characters[1].Name = "Knight";
     Set.Characters[1].CardBackPicture = "back.bmp";
-    const auto row = [&](CardKind kind, int16 index) {
+    const std::tuple<CardKind, int16, int, const char*> rows[] = {
+        {CardKind::Standard, 1, 2, "CARD 1|ENEMY- Animal|City|No"},
+        {CardKind::Standard, 2, 2, "|EVENT||Yes"},
+        {CardKind::Large, 1, 1, "CHARACTER 1||back.bmp|Yes"},
+        {CardKind::Character, 1, 1, "CHARACTER 1||back.bmp|Yes"}};
+    for (const auto& [kind, row, count, expected] : rows) {
         QStringList texts;
         for (const auto column :
              {CardListColumn::Card, CardListColumn::Type, CardListColumn::Back, CardListColumn::Picture})
-            texts += CardListText(Set, kind, index, column);
-        return texts.join('|');
-    };
-    EXPECT_EQ(CardListCount(Set, CardKind::Standard), 2);
-    EXPECT_EQ(row(CardKind::Standard, 1), "Sword|OBJECT- Magic|City|No");
-    EXPECT_EQ(row(CardKind::Standard, 2), "|EVENT||Yes");
-    for (const CardKind kind : {CardKind::Large, CardKind::Character}) {
-        EXPECT_EQ(CardListCount(Set, kind), 1);
-        EXPECT_EQ(row(kind, 1), "Knight||back.bmp|Yes");
+            texts += CardListText(Set, kind, row, column);
+        EXPECT_EQ(texts.join('|'), expected);
+        EXPECT_EQ(CardListCount(Set, kind), count);
     }
 }
 

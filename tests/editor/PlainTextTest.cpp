@@ -1,7 +1,7 @@
 #include "dialogs/QtUser.h"
 #include "editor/WindowTest.h"
-#include "files/SetFields.h"
 #include "support/EveryKind.h"
+#include "support/EveryText.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -16,27 +16,6 @@ namespace deckforge {
 namespace {
 
 const QString Hostile = QStringLiteral("<img src='none'>");
-
-/// Gives every text of a record the hostile one.
-struct HostileTexts {
-    template <class... Older>
-    void Text(QString& field, const Older&... /*unused*/)
-    {
-        field = Hostile;
-    }
-    void Flattened(QString& field) { field = Hostile; }
-    void Path(QString& field) { field = Hostile; }
-    template <class... Other>
-    void Boolean(const Other&... /*unused*/)
-    {
-    }
-    template <class... Other>
-    void Integer(const Other&... /*unused*/)
-    {
-    }
-    void Real(double /*unused*/) {}
-    static bool Has(setFile::Since /*unused*/) { return true; }
-};
 
 class PlainTextTest : public WindowTest {
 protected:
@@ -65,12 +44,11 @@ protected:
             if (!widget->isVisible())
                 continue;
             RestOn(*widget, widget->rect().center());
-            ExpectPlain(where);
-            const auto* const view = qobject_cast<QAbstractItemView*>(widget);
-            for (int column = 0; view && view->model() && column < view->model()->columnCount(); ++column) {
-                RestOn(*view->viewport(), view->visualRect(view->model()->index(0, column)).center());
-                ExpectPlain(where);
+            if (const auto* const view = qobject_cast<QAbstractItemView*>(widget); view && view->model()) {
+                for (int column = 0; column < view->model()->columnCount(); ++column)
+                    RestOn(*view->viewport(), view->visualRect(view->model()->index(0, column)).center());
             }
+            ExpectPlain(where);
         }
     }
     /// Opens a dialog, looks at it and closes it.
@@ -101,14 +79,8 @@ TEST_F(PlainTextTest, NoLabelTipOrBoxTakesATextOfTheSetForRichText)
         AddElement<Card>(set);
         AddOneOfEachKind(set);
         AddOwnBack(set, {}, Hostile);
-        HostileTexts texts;
-        setFile::HeaderFields(texts, set.Header);
-        setFile::CardBackFields(texts, set.CardBacks[set.CardBacks.Count()]);
-        for (int i = 1; i <= 2; ++i)
-            setFile::CardFields(texts, set.Cards[i]);
-        setFile::LargeCardFields(texts, set.LargeCards[1]);
-        setFile::CharacterFields(texts, set.Characters[1]);
-        setFile::NewCardBackFields(texts, set.NewCardBacks[1]);
+        SetEveryText(set, [] { return Hostile; });
+        set.Cards[2] = set.Cards[1];
     });
     window.Start(folder.Path(Hostile));
     for (int tab = 1; tab <= 4; ++tab) {

@@ -19,18 +19,14 @@ TEST_F(UndoTest, WhatIsTypedIntoAFieldIsOneStepUntilAnotherIsVisited)
     EXPECT_EQ(StepCount(), 1);
     EXPECT_EQ(Document().Steps().undoText(), "Title");
     Type("txtArtist", "Ann");
-    EXPECT_EQ(StepCount(), 2);
     Document().EndVisit();
     Type("txtArtist", "Bob");
     EXPECT_EQ(StepCount(), 3);
     Document().Undo();
-    EXPECT_EQ(FirstCard().Artist, "Ann");
     EXPECT_EQ(Text("txtArtist"), "Ann");
-    Document().Undo();
-    Document().Undo();
-    EXPECT_EQ(Text("txtTitle"), "CARD 1");
+    for (int more = 0; more < 3; ++more) // one more than there are
+        Document().Undo();
     EXPECT_EQ(Preview().lblTitle.Caption, "CARD 1");
-    Document().Undo(); // nothing left
     Document().Redo();
     EXPECT_EQ(Text("txtTitle"), "Wolf");
 }
@@ -73,8 +69,7 @@ TEST_F(UndoTest, GoesToTheTabAndCardOfTheStep)
     EXPECT_EQ(Find<QTabBar>("tbCard").currentIndex(), 0) << "there is no character any more";
     Slide("hsbCard", 1);
     Document().Undo();
-    EXPECT_EQ(Set().Cards.Current, 2);
-    EXPECT_EQ(Text("txtTitle"), "CARD 2");
+    EXPECT_EQ(Text({"txtTitle", "lblCurrentCard"}), "CARD 2|2 (2)");
 }
 
 TEST_F(UndoTest, SavingIsNoStepAndItsPathSurvivesUndo)
@@ -85,22 +80,7 @@ TEST_F(UndoTest, SavingIsNoStepAndItsPathSurvivesUndo)
     Document().Undo();
     EXPECT_EQ(Set().Header.SetName, "New set");
     EXPECT_EQ(Set().Header.FileName, folder.Path("mine.dkf"));
-    ASSERT_TRUE(Set().File);
-    EXPECT_EQ(Set().File->Path, folder.Path("mine.dkf"));
-}
-
-TEST_F(UndoTest, ANewSetCanBeTakenBackWithAllItsCards)
-{
-    Click("cmdCardAdd");
-    Type("txtTitle", "Kept");
-    const QByteArray before = Bytes();
-    user.WillAnswer(Answer::No);
-    Run("new");
-    EXPECT_EQ(Set().Cards.Count(), 1);
-    Document().Undo();
-    EXPECT_EQ(Bytes(), before);
-    EXPECT_EQ(Text("txtTitle"), "Kept");
-    EXPECT_EQ(Text("hsbCard"), "2 (2)");
+    EXPECT_EQ(Set().File.value().Path, folder.Path("mine.dkf"));
 }
 
 TEST_F(UndoTest, AnySequenceOfActionsGoesBackAndForthStepByStep)
@@ -125,6 +105,10 @@ TEST_F(UndoTest, AnySequenceOfActionsGoesBackAndForthStepByStep)
                 user.WillAnswer(Answer::Yes);
                 Click("cmdCardDelete");
             }
+        },
+        [&] {
+            user.WillAnswer(Answer::No);
+            Run("new");
         },
         [&] { Run("copy"); },
         [&] { Run("paste"); },

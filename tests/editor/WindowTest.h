@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -37,7 +38,7 @@ protected:
 
     // Controls
     /// What controls show, parted by bars: their texts; of a slider its place and its end: "1 (2)".
-    QString Text(std::initializer_list<const char*> names)
+    QString Text(const std::vector<const char*>& names)
     {
         QStringList texts;
         for (const char* name : names) {
@@ -51,7 +52,7 @@ protected:
         }
         return texts.join('|');
     }
-    QString Text(const char* name) { return Text({name}); }
+    QString Text(const char* name) { return Text(std::vector{name}); }
     QLineEdit& Line(const char* name)
     {
         auto* const list = root->findChild<QComboBox*>(name);
@@ -114,11 +115,24 @@ protected:
         SendMove(end);
         QTest::mouseRelease(&View(), Qt::LeftButton, {}, end);
     }
-    void SendMove(QPoint point, Qt::MouseButton held = Qt::LeftButton)
+    void SendMove(QPoint point)
     {
-        QMouseEvent move(QEvent::MouseMove, point, View().mapToGlobal(point), Qt::NoButton, held,
-                         Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, point, View().mapToGlobal(point), Qt::NoButton, Qt::LeftButton,
+                         {});
         QCoreApplication::sendEvent(&View(), &move);
+    }
+
+    /// Drops a file on a place of the window.
+    void Drop(const QString& path, QPoint place = {1, 1})
+    {
+        QMimeData file;
+        file.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(place, Qt::CopyAction, &file, Qt::LeftButton, {});
+        QDragMoveEvent move(place, Qt::CopyAction, &file, Qt::LeftButton, {});
+        QDropEvent drop(place, Qt::CopyAction, &file, Qt::LeftButton, {});
+        for (QEvent* event : std::initializer_list<QEvent*>{&enter, &move, &drop})
+            QCoreApplication::sendEvent(&window, event);
+        QCoreApplication::processEvents();
     }
 
     /// Answers the dialog of a picture button, and clicks it.

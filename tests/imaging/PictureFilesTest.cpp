@@ -74,12 +74,6 @@ QByteArray Metafile()
            Words({7, 0, 0x041B, 48, 96, 47, 95}) + Words({3, 0, 0}); // end
 }
 
-/// One that counts its placeable header among its own words, as some programs write it.
-QByteArray MetafileThatCountsItsHeader()
-{
-    return With<quint32>(Metafile(), 28, static_cast<quint32>(Metafile().size() / 2));
-}
-
 /// Pixels of 32 bits with masks of their own; all are red at full, green at half, and no blue.
 QByteArray BmpWithMasks(quint32 red, quint32 green, quint32 blue, quint32 pixel)
 {
@@ -128,12 +122,6 @@ QByteArray JpegOfScans(int count)
     return bytes;
 }
 
-/// A picture of runs with so many ends of rows behind it.
-QByteArray BmpOfRunsAnd(qsizetype emptyRows)
-{
-    return Seed("bmp/rle8") + QByteArray(2 * emptyRows, 0);
-}
-
 } // namespace
 
 class PictureFiles : public testing::Test {
@@ -170,16 +158,12 @@ protected:
 
 TEST_F(PictureFiles, TheContentTellsTheFormatWhateverTheName)
 {
+    EXPECT_TRUE(Load("").IsEmpty());
     EXPECT_EQ(Load(Folder.Write("a.jpg", Encoded("BMP"))).Pixels(),
               PictureOfPlaces({Width, Height}).Pixels());
     EXPECT_EQ(Load(Folder.Write("b.bmp", Encoded("JPEG"))).Size(), QSize(Width, Height));
     EXPECT_EQ(Load(Folder.Write("c.wmf", EncodedGif())).Size(), QSize(Width, Height));
     EXPECT_EQ(Load(Folder.Write("d.gif", Metafile())).Size(), QSize(96, 48));
-}
-
-TEST_F(PictureFiles, NoPathIsTheEmptyPicture)
-{
-    EXPECT_TRUE(Load("").IsEmpty());
 }
 
 TEST_F(PictureFiles, TakesTheFormsThatEachFormatHas)
@@ -195,36 +179,55 @@ TEST_F(PictureFiles, TakesTheFormsThatEachFormatHas)
     }
 }
 
+TEST_F(PictureFiles, WhatCannotBeIsRejectedAndWhatIsOddIsTaken)
+{
+    const QByteArray bmp = Encoded("BMP");
+    const QByteArray jpeg = Encoded("JPEG");
+    const QByteArray gif = EncodedGif();
+    const QByteArray runs = Seed("bmp/rle8"); // no number of bytes follows from its size
+    const QByteArray mono = Seed("gif/mono");
+    const qsizetype frame = jpeg.indexOf("\xFF\xC0") + 5;
+    const std::tuple<const char*, QByteArray, int> rows[] = {
+        {"a text", "no picture at all", 481},
+        {"nothing", "", 481},
+        {"a PNG", Encoded("PNG"), 481},
+        {"two letters", "BM", 481},
+        {"an empty JPEG", "\xFF\xD8\xFF\xD9", 481},
+        {"bytes behind a BMP", bmp + QByteArray(5000, 7), 0},
+        {"bytes behind a JPEG", jpeg + QByteArray(5000, 7), 0},
+        {"bytes behind a GIF", gif + QByteArray(5000, 7), 0},
+        {"bytes behind a WMF", Metafile() + QByteArray(5000, 7), 0},
+        {"a BMP past the limit", With<qint32>(With<qint32>(runs, 18, 8192), 22, 4097), 481},
+        {"an endless BMP", With<qint32>(With<qint32>(runs, 18, 0x7FFFFFFF), 22, -0x7FFFFFFF), 481},
+        {"a JPEG past the limit", With<quint32>(jpeg, frame, qToBigEndian<quint32>(8192 << 16 | 4097)), 481},
+        {"a GIF past the limit", With<quint32>(gif, 6, 8192 << 16 | 4097), 481},
+        {"a WMF past the limit", PlaceableHeader(0, 0, 8192, 4097, 96) + Metafile().sliced(22), 481},
+        {"a BMP without width", With<qint32>(bmp, 18, 0), 481},
+        {"a width below 0", With<qint32>(bmp, 18, -Width), 481},
+        {"65,535 bits per pixel", With<qint16>(bmp, 28, -1), 481},
+        {"rows past the end", With<qint32>(bmp, 10, 55), 481},
+        {"some runs past the end", runs + QByteArray(2 << 18, 0), 0},
+        {"too many runs past the end", runs + QByteArray(2 << 20, 0), 481},
+        {"64 scans", JpegOfScans(64), 0},
+        {"65 scans", JpegOfScans(65), 481},
+        {"no scan", jpeg.first(jpeg.indexOf("\xFF\xDA")) + "\xFF\xD9", 481},
+        {"some codes past the pixels", GifOfOnePixel(1000), 0},
+        {"too many codes past the pixels", GifOfOnePixel(2000), 481},
+        {"40 rows instead of 7", With<quint16>(mono, mono.indexOf(',') + 7, 40), 481}};
+    for (const auto& [what, bytes, failure] : rows)
+        EXPECT_EQ(FailureOfDecoding(bytes), failure) << what;
+}
+
 TEST_F(PictureFiles, WhatIsCutIsRejected)
 {
     for (const QByteArray& whole :
          {Encoded("BMP"), Encoded("JPEG"), EncodedGif(), Metafile(), Seed("bmp/rle8"), Seed("bmp/old-header"),
           Seed("bmp/fields565"), Seed("jpeg/progressive"), Seed("gif/interlaced"), Seed("wmf/plain"),
-          MetafileThatCountsItsHeader()}) {
+          With<quint32>(Metafile(), 28, static_cast<quint32>(Metafile().size() / 2))}) {
         for (const qsizetype cut : {qsizetype(3), qsizetype(20), whole.size() / 2, whole.size() - 3})
             EXPECT_EQ(FailureOfDecoding(whole.first(cut)), 481)
                 << whole.first(20).toHex().toStdString() << " cut at " << cut;
     }
-}
-
-TEST_F(PictureFiles, WhatFollowsAPictureIsIgnored)
-{
-    for (const QByteArray& whole : {Encoded("BMP"), Encoded("JPEG"), EncodedGif(), Metafile()})
-        EXPECT_EQ(FailureOfDecoding(whole + QByteArray(5000, 7)), 0) << whole.first(2).toHex().toStdString();
-}
-
-TEST_F(PictureFiles, WhatIsNoPictureIsRejected)
-{
-    for (const QByteArray& none : {QByteArray("no picture at all"), QByteArray(), Encoded("PNG"),
-                                   QByteArray("BM"), QByteArray("GIF89a"), QByteArray("\xFF\xD8\xFF\xD9")})
-        EXPECT_EQ(FailureOfDecoding(none), 481) << none.left(20).toStdString();
-}
-
-TEST_F(PictureFiles, WhatIsNoFileIsAnErrorOfItsOwn)
-{
-    EXPECT_EQ(FailureOfLoading(Folder.Path("none.bmp")), 53);
-    EXPECT_EQ(FailureOfLoading(Folder.Path("none/a.bmp")), 76);
-    EXPECT_EQ(FailureOfLoading(Folder.Path()), 75);
 }
 
 TEST_F(PictureFiles, AFileOfMoreBytesThanAnyPictureIsNotRead)
@@ -236,38 +239,13 @@ TEST_F(PictureFiles, AFileOfMoreBytesThanAnyPictureIsNotRead)
     EXPECT_EQ(FailureOfLoading(path), 481);
 }
 
-TEST_F(PictureFiles, PicturesPastTheLimitAreRejectedByTheirHeaders)
-{
-    const QByteArray bmp = Seed("bmp/rle8"); // compressed: no number of bytes follows from its size
-    EXPECT_EQ(FailureOfDecoding(With<qint32>(With<qint32>(bmp, 18, 8192), 22, 4097)), 481);
-    EXPECT_EQ(FailureOfDecoding(With<qint32>(With<qint32>(bmp, 18, 0x7FFFFFFF), 22, -0x7FFFFFFF)), 481);
-    QByteArray jpeg = Encoded("JPEG");
-    qToBigEndian<quint32>(8192 << 16 | 4097, jpeg.data() + jpeg.indexOf("\xFF\xC0") + 5);
-    EXPECT_EQ(FailureOfDecoding(jpeg), 481);
-    EXPECT_EQ(FailureOfDecoding(With<quint32>(EncodedGif(), 6, 8192 << 16 | 4097)), 481) << "GIF";
-    EXPECT_EQ(FailureOfDecoding(PlaceableHeader(0, 0, 8192, 4097, 96) + Metafile().sliced(22)), 481);
-}
-
-TEST_F(PictureFiles, ABmpWithWrongNumbersInItsHeaderIsRejected)
-{
-    const QByteArray bmp = Encoded("BMP");
-    EXPECT_EQ(FailureOfDecoding(With<qint32>(bmp, 18, 0)), 481) << "no width";
-    EXPECT_EQ(FailureOfDecoding(With<qint32>(bmp, 18, -Width)), 481) << "a width below 0";
-    EXPECT_EQ(FailureOfDecoding(With<qint16>(bmp, 28, -1)), 481) << "65,535 bits per pixel";
-    EXPECT_EQ(FailureOfDecoding(With<qint32>(bmp, 10, 55)), 481) << "its rows end past the end";
-}
-
-TEST_F(PictureFiles, ABmpMayHaveItsRowsTopDown)
+TEST_F(PictureFiles, ABmpMayHaveItsRowsTopDownAndMasksOfUpToEightBits)
 {
     const QByteArray bmp = With<qint32>(Encoded("BMP"), 22, -Height);
     EXPECT_EQ(Decode(bmp).Pixels(), PictureOfPlaces({Width, Height}).Pixels().mirrored());
-}
-
-TEST_F(PictureFiles, ABmpMayHaveMasksOfUpToEightBits)
-{
-    EXPECT_EQ(Decode(BmpWithMasks(0xFF, 0xFF00, 0xFF0000, 0x80FF)).Pixels().pixel(0, 0), qRgb(255, 128, 0));
-    EXPECT_EQ(Decode(BmpWithMasks(0xFF000000, 0xFF0000, 0xFF, 0xFF800000)).Pixels().pixel(0, 0),
-              qRgb(255, 128, 0));
+    for (const QByteArray& masks :
+         {BmpWithMasks(0xFF, 0xFF00, 0xFF0000, 0x80FF), BmpWithMasks(0xFF000000, 0xFF0000, 0xFF, 0xFF800000)})
+        EXPECT_EQ(Decode(masks).Pixels().pixel(0, 0), qRgb(255, 128, 0));
 }
 
 TEST_F(PictureFiles, ABmpWithWiderMasksIsRejectedWithTheReason)
@@ -285,12 +263,6 @@ TEST_F(PictureFiles, ABmpWithWiderMasksIsRejectedWithTheReason)
     }
 }
 
-TEST_F(PictureFiles, ABmpOfRunsMayHaveSomeOfThemPastItsEnd)
-{
-    EXPECT_EQ(FailureOfDecoding(BmpOfRunsAnd(1 << 18)), 0);
-    EXPECT_EQ(FailureOfDecoding(BmpOfRunsAnd(1 << 20)), 481);
-}
-
 TEST_F(PictureFiles, AJpegMayHaveStrayBytesBetweenItsSegments)
 {
     const QByteArray jpeg = Encoded("JPEG");
@@ -304,42 +276,14 @@ TEST_F(PictureFiles, AJpegMayHaveStrayBytesBetweenItsSegments)
     }
 }
 
-TEST_F(PictureFiles, AJpegMayHaveSixtyFourScans)
-{
-    EXPECT_EQ(FailureOfDecoding(JpegOfScans(64)), 0);
-    EXPECT_EQ(FailureOfDecoding(JpegOfScans(65)), 481);
-}
-
-TEST_F(PictureFiles, AJpegWithoutAScanIsRejected)
-{
-    QByteArray jpeg = Encoded("JPEG");
-    EXPECT_EQ(FailureOfDecoding(jpeg.first(jpeg.indexOf("\xFF\xDA")) + "\xFF\xD9"), 481);
-}
-
-TEST_F(PictureFiles, AGifMayHaveSomeCodesPastItsPixels)
-{
-    EXPECT_EQ(FailureOfDecoding(GifOfOnePixel(1000)), 0);
-    EXPECT_EQ(FailureOfDecoding(GifOfOnePixel(2000)), 481);
-}
-
-TEST_F(PictureFiles, AGifWithFewerCodesThanPixelsIsRejected)
-{
-    QByteArray gif = Seed("gif/mono");
-    const qsizetype picture = gif.indexOf(',');
-    EXPECT_EQ(FailureOfDecoding(With<quint16>(gif, picture + 7, 40)), 481) << "40 rows instead of 7";
-}
-
-TEST_F(PictureFiles, AMetafileIsDrawn)
+TEST_F(PictureFiles, AMetafileIsDrawnAndMayCountItsPlaceableHeaderAsItsOwn)
 {
     PictureBox surface(QSize(96, 48));
-    surface.PaintPicture(Decode(Metafile()), 0, 0);
-    EXPECT_EQ(surface.GetPixel(20, 24), Black);
-    EXPECT_EQ(surface.GetPixel(70, 24), White);
-}
-
-TEST_F(PictureFiles, AMetafileMayCountItsPlaceableHeaderAsItsOwn)
-{
-    EXPECT_EQ(Decode(MetafileThatCountsItsHeader()).Pixels(), Decode(Metafile()).Pixels());
+    const Picture drawn = Decode(Metafile());
+    surface.PaintPicture(drawn, 0, 0);
+    ExpectPixels(surface, {{20, 24, Black}, {70, 24, White}});
+    const auto allWords = static_cast<quint32>(Metafile().size() / 2);
+    EXPECT_EQ(Decode(With<quint32>(Metafile(), 28, allWords)).Pixels(), drawn.Pixels());
 }
 
 TEST_F(PictureFiles, AMetafileHasTheSizeOfItsPlaceableHeader)
@@ -367,9 +311,11 @@ TEST_F(PictureFiles, AMissingConverterIsNamedAndFoundOnceItIsThere)
     EXPECT_EQ(ReasonOf(path), QString());
 }
 
-TEST_F(PictureFiles, AFileIsDecodedOnceUntilItChanges)
+TEST_F(PictureFiles, AFileIsReadOnceUntilItChanges)
 {
-    const QString path = Folder.WritePicture("a.bmp", PictureOf({"rr"}));
+    const QString path = Folder.Write("a.bmp", "no picture");
+    EXPECT_EQ(FailureOfLoading(path), 481);
+    SavePicture(PictureOf({"rr"}), path);
     const QImage first = Load(path).Pixels();
     EXPECT_EQ(Load(path).Pixels().constBits(), first.constBits());
     SavePicture(PictureOf({"gg"}), path);
@@ -377,14 +323,8 @@ TEST_F(PictureFiles, AFileIsDecodedOnceUntilItChanges)
     EXPECT_EQ(RowsOf(Load(path)), PixelRows{"gg"});
     QFile::remove(path);
     EXPECT_EQ(FailureOfLoading(path), 53);
-}
-
-TEST_F(PictureFiles, AFileThatWasRejectedIsReadAgainWhenItHasChanged)
-{
-    const QString path = Folder.Write("a.bmp", "no picture");
-    EXPECT_EQ(FailureOfLoading(path), 481);
-    SavePicture(PictureOf({"g"}), path);
-    EXPECT_EQ(RowsOf(Load(path)), PixelRows{"g"});
+    EXPECT_EQ(FailureOfLoading(Folder.Path("none/a.bmp")), 76);
+    EXPECT_EQ(FailureOfLoading(Folder.Path()), 75);
 }
 
 } // namespace deckforge

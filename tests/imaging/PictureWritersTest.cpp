@@ -50,9 +50,9 @@ protected:
         SavePicture(picture, Folder.Path("a.bmp"));
         return Folder.Read("a.bmp");
     }
-    QByteArray WrittenJpeg(const Picture& picture) const
+    QByteArray WrittenJpeg(const Picture& picture, int dotsPerInch = 96) const
     {
-        EXPECT_TRUE(SaveJPG(SectionOf(picture), Folder.Path("a.jpg"), 90, 96));
+        EXPECT_TRUE(SaveJPG(SectionOf(picture), Folder.Path("a.jpg"), 90, dotsPerInch));
         return Folder.Read("a.jpg");
     }
     QByteArray WrittenGif(const Picture& picture) const
@@ -65,26 +65,23 @@ protected:
     TestFolder Folder;
 };
 
-TEST_F(PictureWriters, ABmpOfASurfaceHas24BitsPerPixelAnd96PixelsPerInch)
+TEST_F(PictureWriters, ABmpHasTheHeaderOfItsPicture)
 {
-    const QByteArray bmp = WrittenBmp(PictureOfPlaces({5, 4}));
-    EXPECT_EQ(LittleEndian<qint32>(bmp, 2), bmp.size());
-    EXPECT_EQ(LittleEndian<qint32>(bmp, 10), 54) << "offset of the pixels";
-    EXPECT_EQ(LittleEndian<qint32>(bmp, 14), 40) << "size of the header";
-    EXPECT_EQ(LittleEndian<qint32>(bmp, 18), 5) << "width";
-    EXPECT_EQ(LittleEndian<qint32>(bmp, 22), 4) << "height, bottom-up";
-    EXPECT_EQ(LittleEndian<qint16>(bmp, 28), 24) << "bits per pixel";
-    EXPECT_EQ(LittleEndian<qint32>(bmp, 30), 0) << "compression";
-    EXPECT_EQ(LittleEndian<qint32>(bmp, 38), 3780) << "pixels per metre across";
-    EXPECT_EQ(LittleEndian<qint32>(bmp, 42), 3780) << "pixels per metre down";
-    EXPECT_EQ(bmp.size(), 54 + 4 * 16);
-}
-
-TEST_F(PictureWriters, ABmpOfAFinerSurfaceHasTheSameSizeOnPaper)
-{
-    const QByteArray bmp = WrittenBmp(PictureBox(QSize(5, 4), 4).Image());
-    EXPECT_EQ(LittleEndian<qint32>(bmp, 18), 20);
-    EXPECT_EQ(LittleEndian<qint32>(bmp, 38), 15118);
+    for (const int scale : {1, 4}) {
+        SCOPED_TRACE(scale);
+        const QByteArray bmp = WrittenBmp(PictureBox(QSize(5, 4), scale).Image());
+        const int rowBytes = scale == 1 ? 16 : 60;
+        EXPECT_EQ(bmp.size(), 54 + 4 * scale * rowBytes);
+        EXPECT_EQ(LittleEndian<qint32>(bmp, 2), bmp.size());
+        EXPECT_EQ(LittleEndian<qint32>(bmp, 10), 54) << "offset of the pixels";
+        EXPECT_EQ(LittleEndian<qint32>(bmp, 14), 40) << "size of the header";
+        EXPECT_EQ(LittleEndian<qint32>(bmp, 18), 5 * scale) << "width";
+        EXPECT_EQ(LittleEndian<qint32>(bmp, 22), 4 * scale) << "height, bottom-up";
+        EXPECT_EQ(LittleEndian<qint16>(bmp, 28), 24) << "bits per pixel";
+        EXPECT_EQ(LittleEndian<qint32>(bmp, 30), 0) << "compression";
+        for (const qsizetype perMetre : {38, 42})
+            EXPECT_EQ(LittleEndian<qint32>(bmp, perMetre), scale == 1 ? 3780 : 15118) << perMetre;
+    }
 }
 
 TEST_F(PictureWriters, ABmpKeepsThePixelsOfAPicture)
@@ -92,86 +89,64 @@ TEST_F(PictureWriters, ABmpKeepsThePixelsOfAPicture)
     const Picture picture = PictureOfPlaces({33, 20});
     WrittenBmp(picture);
     EXPECT_EQ(Folder.Image("a.bmp"), picture.Pixels());
+    EXPECT_EQ(FailureOf([&] { SavePicture(Picture(), Folder.Path("b.bmp")); }), 481);
+    EXPECT_FALSE(Folder.Has("b.bmp"));
 }
 
-TEST_F(PictureWriters, ABmpWithAPaletteHasTheDepthOfIt)
+TEST_F(PictureWriters, ABmpHasTheDepthOfItsPaletteAndZerosAtTheEndsOfItsRows)
 {
-    for (const auto& [colours, bits] : {std::pair{16, 4}, {17, 8}, {256, 8}}) {
-        const QByteArray bmp = WrittenBmp(PaletteOf(colours, {150, 3}));
-        EXPECT_EQ(LittleEndian<qint16>(bmp, 28), bits) << colours << " colours";
-    }
-}
-
-TEST_F(PictureWriters, TheRowsOfABmpEndInZerosWhateverIsInMemory)
-{
+    for (const auto& [colours, bits] : {std::pair{16, 4}, {17, 8}, {256, 8}})
+        EXPECT_EQ(LittleEndian<qint16>(WrittenBmp(PaletteOf(colours, {150, 3})), 28), bits) << colours;
     const QByteArray bmp = WrittenBmp(PaletteOf(256, {150, 2}));
     ASSERT_EQ(bmp.size(), 54 + 1024 + 2 * 152);
     EXPECT_EQ(bmp.last(4), QByteArray::fromHex("94950000"));
     EXPECT_EQ(bmp.sliced(54 + 1024 + 148, 4), QByteArray::fromHex("95960000"));
 }
 
-TEST_F(PictureWriters, AnEmptyPictureIsNotWritten)
+TEST_F(PictureWriters, AJpegHasItsQualityHalfTheColoursAndItsDensity)
 {
-    EXPECT_EQ(FailureOf([&] { SavePicture(Picture(), Folder.Path("b.bmp")); }), 481);
-    EXPECT_FALSE(Folder.Has("b.bmp"));
-}
-
-TEST_F(PictureWriters, AJpegHasTheQuality)
-{
-    const QByteArray jpeg = WrittenJpeg(PictureOfPlaces({153, 40}));
+    const QByteArray jpeg = WrittenJpeg(PictureOfPlaces({153, 40}), 384);
     EXPECT_EQ(CoarsestJpegStep(jpeg, 0), 24) << "brightness";
     EXPECT_EQ(CoarsestJpegStep(jpeg, 1), 20) << "colour";
-}
-
-TEST_F(PictureWriters, AJpegHasColoursAtHalfTheSizeInBothDirections)
-{
-    const QByteArray frame = JpegSegments(WrittenJpeg(PictureOfPlaces({153, 40})), 0xC0);
+    const QByteArray frame = JpegSegments(jpeg, 0xC0);
     ASSERT_EQ(frame.size(), 15);
     EXPECT_EQ(Byte(frame, 5), 3) << "brightness and two of colour";
     EXPECT_EQ(Byte(frame, 7), 0x22) << "brightness";
     EXPECT_EQ(Byte(frame, 10), 0x11) << "blue";
     EXPECT_EQ(Byte(frame, 13), 0x11) << "red";
+    EXPECT_EQ(Folder.Image("a.jpg").dotsPerMeterX(), 15118);
+    EXPECT_EQ(Folder.Image("a.jpg").dotsPerMeterY(), 15118);
 }
 
-TEST_F(PictureWriters, AJpegHasTheTopRowAtTheTop)
+TEST_F(PictureWriters, AJpegHasItsRowsAndColoursInTheirPlaces)
 {
     WrittenJpeg(PictureOfPlaces({153, 40})); // rows with padding
     const QImage read = Folder.Image("a.jpg");
     ASSERT_EQ(read.size(), QSize(153, 40));
     EXPECT_NEAR(qGreen(read.pixel(76, 0)), 0, 12);
     EXPECT_NEAR(qGreen(read.pixel(76, 39)), 39, 12);
-}
-
-TEST_F(PictureWriters, AJpegHasItsColoursInTheirChannels)
-{
     WrittenJpeg(PictureOf(PixelRows(16, std::string(16, 'r'))));
-    const QRgb red = Folder.Image("a.jpg").pixel(8, 8);
-    EXPECT_NEAR(qRed(red), 255, 3);
-    EXPECT_NEAR(qBlue(red), 0, 3);
+    EXPECT_NEAR(qRed(Folder.Image("a.jpg").pixel(8, 8)), 255, 3);
+    EXPECT_NEAR(qBlue(Folder.Image("a.jpg").pixel(8, 8)), 0, 3);
 }
 
 TEST_F(PictureWriters, AJpegKeepsTheTimesOfTheFileThatItReplaces)
 {
-    const QString path = Folder.Write("a.jpg", "an older image");
     const QDateTime old = QDateTime::fromSecsSinceEpoch(1000000000);
+    const QString path = Folder.Write("a.jpg", "an older image");
     Folder.SetTime("a.jpg", old);
     WrittenJpeg(PictureOfPlaces({153, 40}));
     EXPECT_EQ(QFileInfo(path).lastModified(), old);
 }
 
-TEST_F(PictureWriters, AJpegSaysHowManyPixelsItHasToTheInch)
-{
-    EXPECT_TRUE(SaveJPG(SectionOf(PictureOfPlaces({8, 8})), Folder.Path("a.jpg"), 90, 384));
-    const QImage read(Folder.Path("a.jpg"));
-    EXPECT_EQ(read.dotsPerMeterX(), 15118);
-    EXPECT_EQ(read.dotsPerMeterY(), 15118);
-}
-
-TEST_F(PictureWriters, AJpegThatCannotBeMadeIsAnError)
+TEST_F(PictureWriters, AnImageThatCannotBeMadeIsAnError)
 {
     const cDIBSection surface = SectionOf(PictureOfPlaces({8, 8}));
     EXPECT_EQ(FailureOf([&] { SaveJPG(surface, Folder.Path(), 90, 96); }), 75);
     EXPECT_EQ(FailureOf([&] { SaveJPG(cDIBSection(), Folder.Path("b.jpg"), 90, 96); }), 26001);
+    const QString bmp = Folder.WritePicture("a.bmp");
+    EXPECT_EQ(ConvertBmpToGif(Folder.Path("none.bmp"), Folder.Path("a.gif")), "File not found");
+    EXPECT_EQ(ConvertBmpToGif(bmp, Folder.Path("none/a.gif")), "Path not found");
 }
 
 TEST_F(PictureWriters, AGifHasThePaletteOfAPictureWithFewColours)
@@ -188,32 +163,21 @@ TEST_F(PictureWriters, AGifHasThePaletteOfAPictureWithFewColours)
         EXPECT_TRUE(palette.contains(colour)) << colour;
     EXPECT_EQ(palette.count("000000"), 4) << "black, and three that are not used";
     EXPECT_EQ(RowsOf(Picture(Folder.Image("a.gif"))), rows);
-}
-
-TEST_F(PictureWriters, AGifOfASingleColourHasAPaletteOfTwo)
-{
-    const QByteArray gif = WrittenGif(PictureOf({"rr"}));
-    EXPECT_EQ(Byte(gif, 10), 0xF0);
+    EXPECT_EQ(Byte(WrittenGif(PictureOf({"rr"})), 10), 0xF0) << "a palette of two for a single colour";
     EXPECT_EQ(RowsOf(Picture(Folder.Image("a.gif"))), PixelRows{"rr"});
 }
 
-TEST_F(PictureWriters, AGifOfManyColoursHas256OfThem)
-{
-    const QByteArray gif = WrittenGif(PictureOfPlaces({40, 30}));
-    EXPECT_EQ(Byte(gif, 10), 0xF7);
-    const QList<QByteArray> palette = PaletteOfGif(gif);
-    EXPECT_EQ(palette.size(), 256);
-    EXPECT_GT(QSet<QByteArray>(palette.begin(), palette.end()).size(), 250) << "none for nothing";
-}
-
-TEST_F(PictureWriters, AGifOfManyColoursLooksLikeThePicture)
+TEST_F(PictureWriters, AGifOfManyColoursHas256AndLooksLikeThePicture)
 {
     QImage picture(64, 64, QImage::Format_RGB32); // gradients
     for (int y = 0; y < 64; ++y) {
         for (int x = 0; x < 64; ++x)
             picture.setPixel(x, y, qRgb(4 * x, 4 * y, 128));
     }
-    WrittenGif(Picture(picture));
+    const QByteArray gif = WrittenGif(Picture(picture));
+    EXPECT_EQ(Byte(gif, 10), 0xF7);
+    const QList<QByteArray> palette = PaletteOfGif(gif);
+    EXPECT_GT(QSet<QByteArray>(palette.begin(), palette.end()).size(), 250) << "none for nothing";
     const QImage small = Folder.Image("a.gif")
                              .convertToFormat(QImage::Format_RGB32)
                              .scaled(8, 8, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -221,13 +185,6 @@ TEST_F(PictureWriters, AGifOfManyColoursLooksLikeThePicture)
         EXPECT_NEAR(qRed(small.pixel(at)), 32 * at.x() + 14, 8) << at.x();
         EXPECT_NEAR(qGreen(small.pixel(at)), 32 * at.y() + 14, 8) << at.y();
     }
-}
-
-TEST_F(PictureWriters, AGifThatCannotBeMadeIsReported)
-{
-    const QString bmp = Folder.WritePicture("a.bmp");
-    EXPECT_EQ(ConvertBmpToGif(Folder.Path("none.bmp"), Folder.Path("a.gif")), "File not found");
-    EXPECT_EQ(ConvertBmpToGif(bmp, Folder.Path("none/a.gif")), "Path not found");
 }
 
 } // namespace deckforge

@@ -6,29 +6,6 @@
 
 namespace deckforge {
 
-namespace {
-
-/// The first and the last row of ink, up to a gap.
-struct Ink {
-    int Top;
-    int Bottom;
-};
-
-/// The next run of ink in the columns from left, at or below a row.
-Ink NextInk(const QImage& paper, int from, int left, int columns)
-{
-    const auto hasInk = [&](int y) { return !InkIn(paper, {left, y, columns, 1}).isNull(); };
-    int top = from;
-    while (top < paper.height() && !hasInk(top))
-        ++top;
-    int bottom = top;
-    while (bottom < paper.height() && hasInk(bottom))
-        ++bottom;
-    return {top, bottom - 1};
-}
-
-} // namespace
-
 class PrintingTest : public WorkshopTest {
 protected:
     PrintingTest()
@@ -65,28 +42,24 @@ TEST_F(PrintingTest, PicturesKeepTheirSizeAndMarginsTheirPixels)
         else
             (void)ShowCharacter(Shop, 1);
         const QImage paper = Laid(page, dotsPerInch);
-        const int lineHeight = FontMeasures({"Arial", 12}, dotsPerInch).LineHeight();
-        const int top = 40 + 2 * lineHeight + 20;
-        // Its outline runs down the margin; no line of the heading reaches so far down.
-        const Ink outline = NextInk(paper, top - 10, 40, 1);
-        EXPECT_EQ(outline.Top, top) << width;
-        EXPECT_NEAR(outline.Bottom, top + height - 1, 1) << width;
-        EXPECT_NEAR(InkIn(paper, {0, top + 1, paper.width(), 1}).right(), 40 + width - 1, 1) << width;
-        EXPECT_EQ(NextInk(paper, outline.Bottom + 10, 0, paper.width()).Top, paper.height()) << "no piece";
+        const int top = 40 + 2 * FontMeasures({"Arial", 12}, dotsPerInch).LineHeight() + 20;
+        const QRect ink = InkIn(paper, {0, top - 10, paper.width(), paper.height() - top + 10});
+        EXPECT_EQ(ink.topLeft(), QPoint(40, top)) << width;
+        EXPECT_NEAR(ink.bottom(), top + height - 1, 1) << width;
+        EXPECT_NEAR(ink.right(), 40 + width - 1, 1) << width;
     }
 }
 
 TEST_F(PrintingTest, HeadingIsTwoLinesOfTwelvePoints)
 {
+    constexpr int line = 115; // 12 points are 100 pixels here
     const QImage paper = Laid(PrintedPage::Card, 600);
-    const Ink first = NextInk(paper, 0, 40, 1000);
-    const Ink second = NextInk(paper, first.Bottom + 1, 40, 1000);
-    // "V" is as high as capitals are, 0.7 of the 100 pixels that 12 points have here; the base lines are a
-    // line apart.
-    EXPECT_NEAR(first.Bottom - first.Top, 92, 6) << "with the descender of g";
-    EXPECT_GE(first.Top, 40);
-    EXPECT_NEAR(second.Top - first.Top, 115, 4);
-    EXPECT_EQ(NextInk(paper, 0, 0, 40).Top, paper.height()) << "nothing in the margin";
+    const QRect first = InkIn(paper, {0, 0, 1000, 40 + line});
+    const QRect second = InkIn(paper, {0, 40 + line, 1000, line});
+    EXPECT_GE(first.top(), 40);
+    EXPECT_GE(first.left(), 40);
+    EXPECT_NEAR(first.height(), 93, 6) << "capitals and the descender of g";
+    EXPECT_NEAR(second.top() - first.top(), line, 4);
 }
 
 TEST_F(PrintingTest, PieceStandsWhereItAlwaysStood)
@@ -94,11 +67,10 @@ TEST_F(PrintingTest, PieceStandsWhereItAlwaysStood)
     (void)ShowCharacter(Shop, 1);
     Header().NoBack = true; // the piece is there twice all the same
     const QImage paper = Laid(PrintedPage::Character, 300);
-    const int lineHeight = FontMeasures({"Arial", 12}, 300).LineHeight();
-    const int top = 40 + 2 * lineHeight + 40 + 256 * 15;
-    const Ink outline = NextInk(paper, 2000, 40, 1);
-    EXPECT_EQ(outline.Top, top);
-    EXPECT_NEAR(InkIn(paper, {0, top + 1, paper.width(), 1}).right(), 40 + 950 - 1, 1);
+    const int top = 40 + 2 * FontMeasures({"Arial", 12}, 300).LineHeight() + 40 + 256 * 15;
+    const QRect ink = InkIn(paper, {0, 2000, paper.width(), paper.height() - 2000});
+    EXPECT_EQ(ink.topLeft(), QPoint(40, top));
+    EXPECT_NEAR(ink.right(), 40 + 950 - 1, 1);
 }
 
 TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
@@ -115,6 +87,24 @@ TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
     WritePdf(Shop, TheRun, PrintedPage::Card, Folder.Path("page.pdf"), 600);
     EXPECT_TRUE(Folder.Read("page.pdf").contains("/Width 304\n")) << "what cannot be shown is as it was";
     EXPECT_TRUE(User.Boxes.empty()) << "showing it has told";
+}
+
+TEST_F(PrintingTest, TheSymbolIsPrintedWhereItIsShown)
+{
+    Header().Symbol = Folder.WritePicture("s.bmp", PictureOf(PixelRows(9, "rrrrrrr")));
+    (void)ShowSet(Shop);
+    const auto printedAt = [&](int left, int top) {
+        Shop.Templates.Standard.picSymbol.Left = left;
+        Shop.Templates.Standard.picSymbol.Top = top;
+        WritePdf(Shop, TheRun, PrintedPage::Card, Folder.Path("page.pdf"), 600);
+        const QByteArray page = Folder.Read("page.pdf");
+        const qsizetype picture = page.indexOf("/Width 1216\n");
+        return page.mid(picture, page.indexOf("endstream", picture) - picture);
+    };
+    const QByteArray printed = printedAt(40, 100);
+    EXPECT_TRUE(printed == printedAt(40, 100));
+    EXPECT_FALSE(printed == printedAt(60, 100));
+    EXPECT_FALSE(printed == printedAt(40, 120));
 }
 
 TEST_F(PrintingTest, NothingIsDoneWithAPrinterThatTakesNoPage)

@@ -8,6 +8,8 @@
 #include "support/EveryKind.h"
 #include "support/WorkshopTest.h"
 
+#include <QDir>
+
 namespace deckforge {
 
 class RunReportTest : public WorkshopTest {
@@ -52,29 +54,42 @@ TEST_F(RunReportTest, EveryPictureThatIsMissingOrRejectedIsNamedOnceWithItsCard)
     set.NewCardBacks[1].UsePicture = true;
     FirstCard().CardBack = set.CardBacks.Count();
     ASSERT_EQ(ProblemsOfImages(), QStringList());
+    Card& card = FirstCard();
+    LargeCard& large = set.LargeCards[1];
+    Character& hero = set.Characters[1];
 
     const QString damaged = Folder.Write("damaged.bmp", "BM no picture");
     const QString missing = Folder.Path("missing.bmp");
-    const std::pair<QString*, const char*> fields[] = {
-        {&FirstCard().Picture, "card 1 \"CARD 1\""},
-        {&FirstCard().Background, "card 1 \"CARD 1\""},
-        {&set.CardBacks[set.CardBacks.Count()].Picture, "card 1 \"CARD 1\""},
-        {&set.LargeCards[1].Picture, "large card 1 \"LARGE CARD 1\""},
-        {&set.LargeCards[1].Background, "large card 1 \"LARGE CARD 1\""},
-        {&set.LargeCards[1].CardBack, "large card 1 \"LARGE CARD 1\""},
-        {&set.Characters[1].Picture, "character 1 \"CHARACTER 1\""},
-        {&set.Characters[1].Background, "character 1 \"CHARACTER 1\""},
-        {&set.Characters[1].CardBackPicture, "character 1 \"CHARACTER 1\""},
-        {&set.Characters[1].PlayingPiece, "character 1 \"CHARACTER 1\""},
-        {&set.NewCardBacks[1].Picture, "card back 1 \"Back 1\""},
-        {&set.Header.Symbol, "set \"New set\""}};
-    for (const auto& [field, element] : fields) {
-        *field = missing;
-        EXPECT_EQ(ProblemsOfImages(), QStringList(element + (": " + missing) + ": File not found"));
-        *field = damaged;
-        EXPECT_EQ(ProblemsOfImages(), QStringList(element + (": " + damaged) + ": Invalid picture"));
-        field->clear();
+    const std::pair<const char*, std::vector<QString*>> elements[] = {
+        {"card 1 \"CARD 1\"",
+         {&card.Picture, &card.Background, &set.CardBacks[set.CardBacks.Count()].Picture}},
+        {"large card 1 \"LARGE CARD 1\"", {&large.Picture, &large.Background, &large.CardBack}},
+        {"character 1 \"CHARACTER 1\"",
+         {&hero.Picture, &hero.Background, &hero.CardBackPicture, &hero.PlayingPiece}},
+        {"card back 1 \"Back 1\"", {&set.NewCardBacks[1].Picture}},
+        {"set \"New set\"", {&set.Header.Symbol}}};
+    for (const auto& [element, fields] : elements) {
+        for (QString* field : fields) {
+            *field = missing;
+            EXPECT_EQ(ProblemsOfImages(), QStringList(element + (": " + missing) + ": File not found"));
+            *field = damaged;
+            EXPECT_EQ(ProblemsOfImages(), QStringList(element + (": " + damaged) + ": Invalid picture"));
+            field->clear();
+        }
     }
+}
+
+TEST_F(RunReportTest, RunsLeaveNoFilesOpen)
+{
+    AddOneOfEachKind(Shop.Set);
+    FirstCard().Picture = Folder.Write("damaged.bmp", "BM");
+    Shop.Set.LargeCards[1].Picture = Folder.WritePicture("picture.bmp");
+    const auto openFiles = [] { return QDir("/proc/self/fd").entryList(QDir::System | QDir::AllEntries); };
+    ProblemsOfImages();
+    const qsizetype before = openFiles().size();
+    for (Header().SaveFormat = 0; Header().SaveFormat < 3; ++Header().SaveFormat)
+        ProblemsOfImages();
+    EXPECT_EQ(openFiles().size(), before);
 }
 
 TEST_F(RunReportTest, AFileWrittenTwiceInARunIsReportedWhateverItsName)
@@ -112,6 +127,7 @@ TEST_F(RunReportTest, SheetsThatAreReplacedOrLeftUnwrittenAreReported)
     EXPECT_EQ(ProblemsOfSheets({6, 8}), // 92 cells on sheets of 48
               QStringList("card 24 \"CARD 24\": " + Folder.Path("New set Sheet 2.bmp") +
                           ": Not written, since the last card has no copies"));
+    EXPECT_TRUE(Folder.Has("New set Sheet 1.bmp"));
     EXPECT_EQ(ProblemsOf([&](ShownRun& report) { CreateSheets(Shop, report, CardKind::Large, SheetGrid()); }),
               QStringList("set \"New set\": No sheet is written"));
 }

@@ -13,20 +13,19 @@ using ImageTest = WorkshopTest;
 
 TEST(ImageNames, FollowPrefixNumberAndKind)
 {
-    for (const auto& [prefix, fileNr, kind, index, count, expected] : {
-             std::tuple{"set", false, "", 7, 120, "set Sword.jpg"},
-             {"set", true, "", 7, 120, "set 007 Sword.jpg"},
-             {"", false, "", 7, 120, "Sword.jpg"},
-             {"", true, "", 7, 120, "007 Sword.jpg"},
-             {"set", true, "", 7, 9, "set 7 Sword.jpg"},
-             {"set", true, "", 12, 1500, "set 0012 Sword.jpg"},
-             {"set", true, "Large ", 7, 120, "Large set 007 Sword.jpg"},
-             {"", false, "Large ", 7, 120, "Large  Sword.jpg"},
-         }) {
-        SetHeader header;
+    const std::tuple<const char*, bool, const char*, int, int, const char*> rows[] = {
+        {"set", false, "", 7, 120, "set Sword.jpg"},
+        {"set", true, "", 7, 120, "set 007 Sword.jpg"},
+        {"", false, "", 7, 120, "Sword.jpg"},
+        {"", true, "", 7, 9, "7 Sword.jpg"},
+        {"set", true, "", 12, 1500, "set 0012 Sword.jpg"},
+        {"", false, "Large ", 7, 9, "Large  Sword.jpg"},
+        {"a", true, "Large ", 7, 99, "Large a 07 Sword.jpg"}};
+    SetHeader header;
+    header.SaveFormat = 1;
+    for (const auto& [prefix, fileNr, kind, index, count, expected] : rows) {
         header.FilenamePrefix = prefix;
         header.FileNr = fileNr;
-        header.SaveFormat = 1;
         EXPECT_EQ(ImageName(header, kind, "Sword", index, count), expected);
     }
 }
@@ -58,51 +57,56 @@ TEST_F(ImageTest, CardAndBackStandSideBySideInTheirOutlines)
     FirstCard().CardBack = 2;
     Shop.Set.LargeCards[1].CardBack = Folder.WritePicture("rear.bmp", PictureOfPlaces({302, 254}));
     Shop.Set.Characters[1].CardBack = 1;
-    const struct {
-        const char* Name;
-        CompositionFailure (*Show)(Workshop&, int16);
-        FinalImage Final;
-        PictureBox WorkSurfaces::*Front;
-        Picture Back; ///< empty for the front again
-    } rows[] = {
-        {"card", ShowCard, FinalImage::Card, &WorkSurfaces::picACard, Shop.Art.imgCB(1)},
-        {"large card", ShowLargeCard, FinalImage::LargeCard, &WorkSurfaces::picACard,
-         PictureOfPlaces({302, 254})},
-        {"character", ShowCharacter, FinalImage::Character, &WorkSurfaces::picACard, Shop.Art.imgChB(1)},
-        {"piece", ShowCharacter, FinalImage::PlayingPiece, &WorkSurfaces::picACardPP, {}}};
-    for (const auto& row : rows) {
+    const PictureBox& card = Shop.Surfaces.picACard;
+    const PictureBox& pieceSurface = Shop.Surfaces.picACardPP;
+    const std::tuple<const char*, CompositionFailure (*)(Workshop&, int16), FinalImage, const PictureBox&,
+                     Picture>
+        rows[] = {{"card", ShowCard, FinalImage::Card, card, Shop.Art.imgCB(1)},
+                  {"large card", ShowLargeCard, FinalImage::LargeCard, card, PictureOfPlaces({302, 254})},
+                  {"character", ShowCharacter, FinalImage::Character, card, Shop.Art.imgChB(1)},
+                  {"piece", ShowCharacter, FinalImage::PlayingPiece, pieceSurface, {}}}; // the front again
+    for (const auto& [name, show, image, surface, back] : rows) {
         for (const bool noBack : {false, true}) {
-            SCOPED_TRACE(testing::Message() << row.Name << (noBack ? " without back" : ""));
+            SCOPED_TRACE(testing::Message() << name << (noBack ? " without back" : ""));
             Header().NoBack = noBack;
-            ASSERT_FALSE(row.Show(Shop, 1));
-            const Picture front = (Shop.Surfaces.*row.Front).Image();
+            ASSERT_FALSE(show(Shop, 1));
+            const Picture front = surface.Image();
             const int w = front.Size().width();
-            const bool isDouble = !noBack || row.Back.IsEmpty();
+            const bool isDouble = !noBack || back.IsEmpty();
             PictureBox expected(QSize(isDouble ? 2 * w : w, 256));
             if (isDouble)
-                expected.PaintPicture(row.Back.IsEmpty() ? front : row.Back, w + 1, 1);
+                expected.PaintPicture(back.IsEmpty() ? front : back, w + 1, 1);
             expected.PaintPicture(front, 1, 1);
             expected.LineBox(0, 0, w - 1, 255);
             expected.LineBox(w, 0, 2 * w - 1, 255);
-            EXPECT_EQ(FinalPictureOf(Shop, row.Final).Pixels(), expected.Image().Pixels());
+            EXPECT_EQ(FinalPictureOf(Shop, image).Pixels(), expected.Image().Pixels());
         }
     }
     SaveImage(Shop, TheRun, CardKind::NewBack, 1);
     const QImage back = Folder.Image("Back 1.bmp");
     EXPECT_EQ(back.size(), QSize(152, 256));
     EXPECT_EQ(back.pixel(151, 255), qRgb(0, 0, 0)) << "an outline, and nothing beside it";
+    NewCardBack& missing = Shop.Set.NewCardBacks[1];
+    missing.Filename.clear();
+    missing.UsePicture = true;
+    SaveImage(Shop, TheRun, CardKind::NewBack, 1);
+    EXPECT_EQ(missing.Filename, "Back 1");
+    missing.Filename.clear();
+    missing.Picture = Folder.Path("none.bmp");
+    SaveImage(Shop, TheRun, CardKind::NewBack, 1);
+    EXPECT_TRUE(missing.Filename.isEmpty()) << "no image of what cannot be shown";
+    EXPECT_EQ(Folder.Image("Back 1.bmp").size(), back.size());
 }
 
 TEST_F(ImageTest, ABatchNamesCardsByTheirTitlesAndComesBackToTheCurrentOne)
 {
     AddElement<Card>(Shop.Set);
-    Shop.Set.Cards[1].Title = "Dr. Who";
+    FirstCard().Title = "Dr. Who";
     Shop.Set.Cards[2].Filename = "kept";
     Header().ReplaceSpace = true;
     CreateImages(Shop, TheRun, CardKind::Standard);
-    EXPECT_TRUE(Folder.Has("Dr._Who.bmp"));
-    EXPECT_TRUE(Folder.Has("kept.bmp"));
-    EXPECT_EQ(Shop.Set.Cards[1].Filename, "Dr. Who");
+    EXPECT_TRUE(Folder.Has("Dr._Who.bmp") && Folder.Has("kept.bmp"));
+    EXPECT_EQ(FirstCard().Filename, "Dr. Who");
     EXPECT_EQ(Shop.Set.Cards.Current, 2);
     EXPECT_EQ(User.BoxTexts(), QStringList{"Create cards|2 cards are created."});
     EXPECT_EQ(User.Pointers, (std::vector<Pointer>{Pointer::Hourglass, Pointer::Default}));
@@ -119,10 +123,9 @@ TEST_F(ImageTest, TheDialogGivesFolderAndNameAndTheBoxTellsThePathBeforeReplacem
     EXPECT_TRUE(Folder.Has("set_a.bmp"));
     EXPECT_EQ(User.LastTold(),
               "Save card|The card is saved to the filename:\r\n\r\n" + Folder.Path("set a.bmp"));
-    ASSERT_EQ(User.SaveDialogs.size(), 1U);
-    EXPECT_EQ(User.SaveDialogs[0].Title, "Save Card");
-    EXPECT_EQ(User.SaveDialogs[0].FileName, "CARD 1.bmp");
-    EXPECT_EQ(User.SaveDialogs[0].Filter, "All files(*.*)|*.*|Picture (*.bmp)|*.bmp");
+    const FileDialogRequest& dialog = User.SaveDialogs.at(0);
+    EXPECT_EQ(dialog.Title + '|' + dialog.FileName, "Save Card|CARD 1.bmp");
+    EXPECT_EQ(dialog.Filter, "All files(*.*)|*.*|Picture (*.bmp)|*.bmp");
     EXPECT_EQ(Header().SaveTo, Folder.WithSeparator());
 
     // A cancel changes nothing.
@@ -138,39 +141,19 @@ TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
 {
     AddElement<Card>(Shop.Set);
     FirstCard().Title = "../outside";
-    for (const int16 format : {int16{0}, int16{1}, int16{2}}) {
-        Header().SaveFormat = format;
+    for (const char* name : {"CARD 2.bmp", "CARD 2.jpg", "CARD 2.gif"}) {
         CreateImages(Shop, TheRun, CardKind::Standard);
         EXPECT_EQ(User.BoxTexts(), (QStringList{"Saving the card|Something went wrong.",
                                                 "Create cards|2 cards are created."}));
-        User.Boxes.clear();
-    }
-    for (const char* name : {"CARD 2.bmp", "CARD 2.jpg", "CARD 2.gif"})
         EXPECT_EQ(Folder.Image(name).size(), QSize(304, 256)) << name;
-    Header().SaveFormat = 9;
-    Shop.Set.Cards[1].Filename = "unknown";
-    SaveImage(Shop, TheRun, CardKind::Standard, 1);
-    EXPECT_FALSE(Folder.Has("unknown."));
-
+        User.Boxes.clear();
+        ++Header().SaveFormat;
+    }
     Header().SaveFormat = 2; // which goes by a temporary file
     EXPECT_TRUE(QFile::exists(ProgramFolder() + "qdwtemp.bmp"));
     WriteFinalPicture(Shop, TheRun, FinalImage::Card, {"/proc/none/", "card.gif"});
     EXPECT_EQ(User.LastBox().Text, "Something went wrong.\r\n\r\nPath not found");
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Critical);
-}
-
-TEST_F(ImageTest, ABackThatCannotBeShownKeepsItsNameAndItsOlderImage)
-{
-    AddElement<NewCardBack>(Shop.Set);
-    NewCardBack& back = Shop.Set.NewCardBacks[1];
-    SaveImage(Shop, TheRun, CardKind::NewBack, 1);
-    EXPECT_EQ(Folder.Image("Back 1.bmp").size(), QSize(152, 256));
-    back.Filename.clear();
-    back.UsePicture = true;
-    back.Picture = Folder.Path("none.bmp");
-    SaveImage(Shop, TheRun, CardKind::NewBack, 1);
-    EXPECT_TRUE(back.Filename.isEmpty());
-    EXPECT_TRUE(User.Boxes.empty());
 }
 
 } // namespace deckforge

@@ -43,10 +43,8 @@ TEST(Files, APipeTakesAllThatIsWrittenHoweverSlowItsReader)
     qsizetype got = 0;
     std::thread reading([&] {
         QByteArray piece(4096, Qt::Uninitialized);
-        while (got < text.size()) {
-            const ssize_t size = ::read(reader, piece.data(), static_cast<size_t>(piece.size()));
-            if (size == 0)
-                break;
+        for (ssize_t size = -1; size != 0 && got < text.size();) { // less than 0 where there is nothing yet
+            size = ::read(reader, piece.data(), static_cast<size_t>(piece.size()));
             got += std::max<ssize_t>(size, 0);
         }
     });

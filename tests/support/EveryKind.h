@@ -5,11 +5,12 @@
 namespace deckforge {
 
 /// A large card, a character and a card back beside the standard cards that every set has.
-inline void AddOneOfEachKind(CardSet& set)
+inline CardSet& AddOneOfEachKind(CardSet& set)
 {
     AddElement<LargeCard>(set);
     AddElement<Character>(set);
     AddElement<NewCardBack>(set);
+    return set;
 }
 
 } // namespace deckforge

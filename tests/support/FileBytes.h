@@ -1,8 +1,12 @@
 #pragma once
 
+#include "BuildPaths.h"
+
 #include <QByteArray>
+#include <QFile>
 #include <QtEndian>
 #include <algorithm>
+#include <gtest/gtest.h>
 
 namespace deckforge {
 
@@ -41,6 +45,24 @@ inline int CoarsestJpegStep(const QByteArray& jpeg, int table)
     constexpr int tableBytes = 65; // with its number
     const QByteArray steps = JpegSegments(jpeg, 0xDB).mid(table * tableBytes + 1, tableBytes - 1);
     return steps.isEmpty() ? 0 : Byte(steps, std::max_element(steps.begin(), steps.end()) - steps.begin());
+}
+
+/// Compares texts line by line.
+inline void ExpectLines(const QByteArray& text, const QByteArray& expectedText)
+{
+    const QStringList lines = QString::fromLatin1(text).split('\n');
+    const QStringList expected = QString::fromLatin1(expectedText).split('\n');
+    EXPECT_EQ(lines.size(), expected.size());
+    for (qsizetype i = 0; i < std::min(lines.size(), expected.size()); ++i)
+        EXPECT_EQ(lines[i], expected[i]) << "line " << i + 1;
+}
+
+/// A file of the tests, with the line ends of a set.
+inline QByteArray TestData(const QString& name)
+{
+    QFile file(DECKFORGE_SOURCE_DIR "/tests/data/" + name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+    return file.readAll().replace("\n", "\r\n");
 }
 
 } // namespace deckforge

@@ -13,18 +13,6 @@ char LetterOf(Colour colour)
     return its == std::end(PixelColours) ? '?' : PixelLetters[static_cast<std::size_t>(its - PixelColours)];
 }
 
-/// The least rectangle around the pixels of the area for which that holds.
-template <class Condition>
-QRect Where(QRect area, Condition&& holds)
-{
-    QRect found;
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x)
-            found |= holds(x, y) ? QRect(x, y, 1, 1) : QRect();
-    }
-    return found;
-}
-
 } // namespace
 
 PixelRows RowsOf(const PictureBox& surface)

@@ -24,6 +24,18 @@ struct Pixel {
 };
 void ExpectPixels(const PictureBox& surface, std::initializer_list<Pixel> pixels);
 
+/// The least rectangle around the pixels of the area for which that holds; null where there is none.
+template <class Condition>
+QRect Where(QRect area, Condition&& holds)
+{
+    QRect found;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x)
+            found |= holds(x, y) ? QRect(x, y, 1, 1) : QRect();
+    }
+    return found;
+}
+
 /// What of the area is not of the colour of its ground, as a rectangle; null where all of it is.
 QRect InkIn(const PictureBox& surface, QRect area, Colour ground);
 /// What of the area is dark.

@@ -1,72 +1,65 @@
 #include "support/ScriptedUser.h"
 
 #include <QPdfWriter>
-#include <array>
 #include <gtest/gtest.h>
 
 namespace deckforge {
 
 ScriptedUser::~ScriptedUser()
 {
-    const std::array leftOver = {m_answers.size(), m_paths.size(), m_colours.size(), m_fonts.size(),
-                                 m_texts.size()};
-    EXPECT_EQ(leftOver, decltype(leftOver){})
-        << "answers, paths, colours, fonts, texts that nobody asked for";
+    EXPECT_TRUE(m_answers.empty()) << m_answers.size() << " answers that nobody asked for";
 }
 
 template <class Value>
-std::optional<Value> ScriptedUser::Next(std::deque<std::optional<Value>>& queue, const QString& question)
+std::optional<Value> ScriptedUser::Next(const QString& question)
 {
-    if (queue.empty()) {
-        ADD_FAILURE() << "nobody scripted an answer to: " << question.toStdString();
-        return std::nullopt;
-    }
-    const std::optional<Value> value = queue.front();
-    queue.pop_front();
-    return value;
+    const Scripted next = m_answers.empty() ? Scripted() : m_answers.front();
+    if (m_answers.empty() || !(std::holds_alternative<Value>(next) || next == Scripted()))
+        ADD_FAILURE() << "no such answer was scripted: " << question.toStdString();
+    else
+        m_answers.pop_front();
+    const Value* value = std::get_if<Value>(&next);
+    return value ? std::optional(*value) : std::nullopt;
 }
 
 Answer ScriptedUser::ShowMessage(const MessageBoxRequest& request)
 {
     Boxes.push_back(request);
-    if (request.Buttons == BoxButtons::Ok)
-        return Answer::Ok;
-    return Next(m_answers, request.Text).value_or(Answer::No);
+    return request.Buttons == BoxButtons::Ok ? Answer::Ok : Next<Answer>(request.Text).value_or(Answer::No);
 }
 
 std::optional<QString> ScriptedUser::AskOpenFile(const FileDialogRequest& request)
 {
     OpenDialogs.push_back(request);
-    return Next(m_paths, request.Title);
+    return Next<QString>(request.Title);
 }
 
 std::optional<QString> ScriptedUser::AskSaveFile(const FileDialogRequest& request)
 {
     SaveDialogs.push_back(request);
-    return Next(m_paths, request.Title);
+    return Next<QString>(request.Title);
 }
 
 std::optional<QString> ScriptedUser::BrowseForFolder()
 {
-    return Next(m_paths, "a folder");
+    return Next<QString>("a folder");
 }
 
 std::optional<Colour> ScriptedUser::AskColour(const QString& title, Colour /*colour*/)
 {
     ColourTitles.append(title);
-    return Next(m_colours, title);
+    return Next<Colour>(title);
 }
 
-std::optional<FontSpec> ScriptedUser::AskFont(const QString& title, const FontSpec& font)
+std::optional<FontSpec> ScriptedUser::AskFont(const QString& title, const FontSpec& /*font*/)
 {
-    FontDialogs.push_back(font);
-    return Next(m_fonts, title);
+    return Next<FontSpec>(title);
 }
 
 std::optional<QString> ScriptedUser::AskText(const QString& prompt, const QString& title, const QString& text)
 {
     TextDialogs.append(title + '|' + prompt + '|' + text);
-    return Next(m_texts, title);
+    return Next<QString>(title);
 }
 
 std::unique_ptr<QPagedPaintDevice> ScriptedUser::OpenPrinter(const QString& document)
@@ -75,7 +68,7 @@ std::unique_ptr<QPagedPaintDevice> ScriptedUser::OpenPrinter(const QString& docu
         return nullptr;
     PrintedDocuments.append(document);
     auto printer = std::make_unique<QPdfWriter>(PrinterFile);
-    printer->setResolution(PrinterResolution);
+    printer->setResolution(600);
     printer->setPageMargins({});
     return printer;
 }

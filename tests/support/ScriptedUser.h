@@ -4,6 +4,7 @@
 
 #include <QStringList>
 #include <deque>
+#include <variant>
 #include <vector>
 
 namespace deckforge {
@@ -17,15 +18,12 @@ public:
     ScriptedUser() = default;
     ~ScriptedUser() override;
 
-    void WillAnswer(deckforge::Answer answer) { m_answers.push_back(answer); }
-    void WillChoose(const QString& path) { m_paths.push_back(path); }
-    void WillPick(Colour colour) { m_colours.push_back(colour); }
-    void WillPick(const FontSpec& font) { m_fonts.push_back(font); }
-    void WillType(const QString& text) { m_texts.push_back(text); }
-    void WillTypeNothing() { m_texts.push_back(std::nullopt); }
-    void WillPickNoColour() { m_colours.push_back(std::nullopt); }
-    void WillPickNoFont() { m_fonts.push_back(std::nullopt); }
-    void WillCancelDialog() { m_paths.push_back(std::nullopt); }
+    void WillAnswer(deckforge::Answer answer) { m_answers.emplace_back(answer); }
+    void WillChoose(const QString& path) { m_answers.emplace_back(path); }
+    void WillPick(Colour colour) { m_answers.emplace_back(colour); }
+    void WillPick(const FontSpec& font) { m_answers.emplace_back(font); }
+    void WillType(const QString& text) { m_answers.emplace_back(text); }
+    void WillCancelDialog() { m_answers.emplace_back(); }
 
     Answer ShowMessage(const MessageBoxRequest& request) override;
     void ReportProblems(const QStringList& problems) override { Problems += problems; }
@@ -44,11 +42,9 @@ public:
     std::vector<FileDialogRequest> OpenDialogs;
     std::vector<FileDialogRequest> SaveDialogs;
     std::vector<Pointer> Pointers;
-    std::vector<FontSpec> FontDialogs; ///< what each started from
     QStringList ColourTitles;
     QStringList TextDialogs; ///< "TITLE|prompt|text" of each
     QString PrinterFile;     ///< what stands for the printer: a PDF file; empty for no printer
-    int PrinterResolution = 600;
     QStringList PrintedDocuments;
     int ProgressSteps = 0;
 
@@ -61,14 +57,12 @@ public:
     }
 
 private:
-    template <class Value>
-    std::optional<Value> Next(std::deque<std::optional<Value>>& queue, const QString& question);
+    using Scripted = std::variant<std::monostate, deckforge::Answer, QString, Colour, FontSpec>;
 
-    std::deque<std::optional<deckforge::Answer>> m_answers;
-    std::deque<std::optional<QString>> m_paths;
-    std::deque<std::optional<Colour>> m_colours;
-    std::deque<std::optional<FontSpec>> m_fonts;
-    std::deque<std::optional<QString>> m_texts;
+    template <class Value>
+    std::optional<Value> Next(const QString& question);
+
+    std::deque<Scripted> m_answers;
 };
 
 } // namespace deckforge

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "files/SetFields.h"
+
+namespace deckforge {
+
+/// Goes over the fields of a set as a file does, and gives each text what the function makes.
+template <class Make>
+struct EveryText {
+    Make MakeText;
+
+    template <class... Older>
+    void Text(QString& field, const Older&... /*unused*/)
+    {
+        field = MakeText();
+    }
+    void Flattened(QString& field) { field = MakeText(); }
+    void Path(QString& field) { field = MakeText(); }
+    void Boolean(bool /*unused*/, setFile::Since /*unused*/ = {}) {}
+    template <class... Other>
+    void Integer(const Other&... /*unused*/)
+    {
+    }
+    void Real(double /*unused*/) {}
+    static bool Has(setFile::Since /*unused*/) { return true; }
+};
+
+/// The texts of the set, of its last own back and of the first element of each kind.
+template <class Make>
+void SetEveryText(CardSet& set, Make&& make)
+{
+    EveryText<Make&> texts = {make};
+    setFile::HeaderFields(texts, set.Header);
+    setFile::CardBackFields(texts, set.CardBacks[set.CardBacks.Count()]);
+    setFile::CardFields(texts, set.Cards[1]);
+    setFile::LargeCardFields(texts, set.LargeCards[1]);
+    setFile::CharacterFields(texts, set.Characters[1]);
+    setFile::NewCardBackFields(texts, set.NewCardBacks[1]);
+}
+
+} // namespace deckforge
