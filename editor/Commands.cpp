@@ -22,57 +22,41 @@ namespace deckforge {
 
 namespace {
 
-/// What the output commands do for each kind.
-struct OutputRow {
-    void (*Save)(Workshop&, RunReport&, int16, Ask, Tell, SheetNumber);
-    void (*CreateAll)(Workshop&, RunReport&);
-    void (*CreateSheets)(Workshop&, RunReport&, std::optional<SheetGrid>);
-    void (*CreateHtml)(const CardSet&, UserPort&, RunReport&);
+/// Runs over all cards of a kind. None works on card backs.
+struct RunRow {
+    decltype(&CreateCards) CreateAll;
+    decltype(&CreateCardSheets) CreateSheets;
+    decltype(&CreateHtmlCards) CreateHtml;
+};
+constexpr RunRow Runs[] = {{&CreateCards, &CreateCardSheets, &CreateHtmlCards},
+                           {&CreateLargeCards, &CreateLargeCardSheets, &CreateHtmlLargeCards},
+                           {&CreateCharacters, &CreateCharacterSheets, &CreateHtmlCharacters}};
+
+/// Commands on the current card of a kind. The tab of card backs prints the current character, without its
+/// playing piece.
+struct CardRow {
+    decltype(&SaveCard) Save;
     PrintedPage Page;
 };
+constexpr CardRow CardRows[] = {{&SaveCard, PrintedPage::Card},
+                                {&SaveLargeCard, PrintedPage::LargeCard},
+                                {&SaveCharacter, PrintedPage::Character},
+                                {&SaveNewCardBack, PrintedPage::CharacterAlone}};
 
-constexpr OutputRow OutputRows[] = {
-    {.Save = &SaveCard,
-     .CreateAll = &CreateCards,
-     .CreateSheets = &CreateCardSheets,
-     .CreateHtml = [](const CardSet& set, UserPort& user,
-                      RunReport& report) { CreateHtmlCards(set, user, report); },
-     .Page = PrintedPage::Card},
-    {.Save = &SaveLargeCard,
-     .CreateAll = &CreateLargeCards,
-     .CreateSheets = &CreateLargeCardSheets,
-     .CreateHtml = [](const CardSet& set, UserPort& user,
-                      RunReport& report) { CreateHtmlLargeCards(set, user, report); },
-     .Page = PrintedPage::LargeCard},
-    {.Save = &SaveCharacter,
-     .CreateAll = &CreateCharacters,
-     .CreateSheets = &CreateCharacterSheets,
-     .CreateHtml =
-         [](const CardSet& set, UserPort& user, RunReport& report) {
-             CreateHtmlCharacters(set, user, report);
-             CreateHtmlPieces(set, user, report);
-         },
-     .Page = PrintedPage::Character},
-    // The other columns are those of the characters: no command for whole cards works on card backs.
-    {.Save = &SaveNewCardBack,
-     .CreateAll = nullptr,
-     .CreateSheets = nullptr,
-     .CreateHtml = nullptr,
-     .Page = PrintedPage::CharacterAlone}};
-
-const OutputRow& RowOf(CardKind kind)
+template <class Row, std::size_t N>
+const Row& RowOf(const Row (&rows)[N], CardKind kind)
 {
-    return OutputRows[static_cast<std::size_t>(kind)];
+    return rows[static_cast<std::size_t>(kind)];
 }
 
-} // namespace
-
-struct Commands::Command {
+struct Command {
     const char* Key = nullptr; ///< also the name of its image; null for a separator
     const char* ToolTip = nullptr;
     std::function<void()> Work = {};
     QKeySequence Shortcut = {};
 };
+
+} // namespace
 
 Commands::Commands(EditorParts& parts, frmQDW& window) : QObject(&window), m_parts(parts), m_window(window)
 {
@@ -94,29 +78,29 @@ Commands::Commands(EditorParts& parts, frmQDW& window) : QObject(&window), m_par
 void Commands::Fill(QToolBar& bar)
 {
     const Command commands[] = {
-        {"exit", "Exit deck forge", std::bind_front(&frmQDW::Exit, &m_window)},
+        {"exit", "Exit deck forge", [this] { m_window.Exit(); }},
         {},
-        {"new", "New card set", std::bind_front(&frmQDW::NewSet, &m_window)},
-        {"open", "Open card set", std::bind_front(&frmQDW::OpenSet, &m_window), Qt::CTRL | Qt::Key_O},
-        {"save", "Save card set", std::bind_front(&frmQDW::SaveSet, &m_window), Qt::CTRL | Qt::Key_S},
-        {"changepicpath", "Change path for pictures in set", std::bind_front(&Commands::ChangePicPath, this)},
+        {"new", "New card set", [this] { m_window.NewSet(); }},
+        {"open", "Open card set", [this] { m_window.OpenSet(); }, Qt::CTRL | Qt::Key_O},
+        {"save", "Save card set", [this] { m_window.SaveSet(); }, Qt::CTRL | Qt::Key_S},
+        {"changepicpath", "Change path for pictures in set", [this] { ChangePicPath(); }},
         {},
-        {"copy", "Copy current card", std::bind_front(&Commands::Copy, this)},
-        {"paste", "Paste current card", std::bind_front(&Commands::Paste, this)},
+        {"copy", "Copy current card", [this] { PageForCards().Copy(); }},
+        {"paste", "Paste current card", [this] { PageForCards().Paste(); }},
         {},
-        {"setinfo", "Set card defaults", std::bind_front(&Commands::SetInfo, this)},
-        {"choosefont", "Set card fonts", std::bind_front(&Commands::ChangeFonts, this)},
+        {"setinfo", "Set card defaults", [this] { SetInfo(); }},
+        {"choosefont", "Set card fonts", [this] { ChangeFonts(); }},
         {},
-        {"exportback", "Export cardbacks to disk", std::bind_front(&Commands::ExportBacks, this)},
-        {"createone", "Create one card", std::bind_front(&Commands::CreateOne, this)},
-        {"createall", "Create all cards", std::bind_front(&Commands::CreateAll, this)},
-        {"createsheet", "Create card sheets", std::bind_front(&Commands::CreateSheets, this)},
-        {"html", "Generate HTML", std::bind_front(&Commands::CreateHtml, this)},
-        {"exporttext", "Export set to textfile", std::bind_front(&Commands::ExportListing, this)},
-        {"printcard", "Print the current card", std::bind_front(&Commands::PrintCurrent, this)},
+        {"exportback", "Export cardbacks to disk", [this] { ExportCardBacks(m_parts.Works); }},
+        {"createone", "Create one card", [this] { CreateOne(); }},
+        {"createall", "Create all cards", [this] { CreateAll(); }},
+        {"createsheet", "Create card sheets", [this] { CreateSheets(); }},
+        {"html", "Generate HTML", [this] { CreateHtml(); }},
+        {"exporttext", "Export set to textfile", [this] { ExportText(Set(), m_parts.User); }},
+        {"printcard", "Print the current card", [this] { PrintCurrent(); }},
         {},
-        {"statistics", "Show statistics", std::bind_front(&Commands::ShowStatistics, this)},
-        {"about", "About", std::bind_front(&Commands::About, this)},
+        {"statistics", "Show statistics", [this] { Statistics(Set(), m_parts.User); }},
+        {"about", "About", [this] { ShowAbout(&m_window); }},
     };
     for (const Command& command : commands) {
         if (!command.Key) {
@@ -148,19 +132,19 @@ CardKind Commands::KindForCards() const
     return kind == CardKind::NewBack ? CardKind::Character : kind;
 }
 
-/// A new set has only standard cards until the other tabs are looked at; until then error 9.
+/// Error 9 without a record: those of a new set are made when their tab is selected, but the standard card.
 int16 Commands::ExistingIndex(CardKind kind) const
 {
-    const int16 index = CurrentOf(m_parts.Document.Set(), kind);
+    const int16 index = CurrentOf(Set(), kind);
     if (index < 1)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     return index;
 }
 
-/// The run has laid the current card out again; other cards were on the preview before.
+/// The run showed other cards on the preview, and the current one last.
 void Commands::FillAfterRun()
 {
-    if (CurrentOf(m_parts.Document.Set(), m_window.SelectedKind()) > 0)
+    if (CurrentOf(Set(), m_window.SelectedKind()) > 0)
         m_window.SelectedPage().Fill();
 }
 
@@ -168,18 +152,8 @@ void Commands::ChangePicPath()
 {
     m_parts.Document.Edit(QStringLiteral("Change picture path"),
                           [this](CardSet&) { EditPicturePaths(m_parts.Works, &m_window); });
-    if (const int16 current = CurrentOf(m_parts.Document.Set(), m_window.SelectedKind()); current > 0)
+    if (const int16 current = CurrentOf(Set(), m_window.SelectedKind()); current > 0)
         m_window.SelectedPage().Show(current);
-}
-
-void Commands::Copy()
-{
-    PageForCards().Copy();
-}
-
-void Commands::Paste()
-{
-    PageForCards().Paste();
 }
 
 void Commands::SetInfo()
@@ -196,11 +170,6 @@ void Commands::ChangeFonts()
     m_window.ShowFonts();
 }
 
-void Commands::ExportBacks()
-{
-    ExportCardBacks(m_parts.Works);
-}
-
 void Commands::CreateOne()
 {
     const CardKind kind = m_window.SelectedKind();
@@ -208,7 +177,7 @@ void Commands::CreateOne()
     m_window.SelectedPage().Show(current);
     RunReport report(m_parts.User);
     m_parts.Document.Edit(QStringLiteral("Create one card"), [&](CardSet&) {
-        RowOf(kind).Save(m_parts.Works, report, current, Ask::Yes, Tell::Yes, {});
+        RowOf(CardRows, kind).Save(m_parts.Works, report, current, Ask::Yes, Tell::Yes, {});
     });
 }
 
@@ -216,16 +185,16 @@ void Commands::CreateAll()
 {
     RunReport report(m_parts.User);
     m_parts.Document.Edit(QStringLiteral("Create all cards"),
-                          [&](CardSet&) { RowOf(KindForCards()).CreateAll(m_parts.Works, report); });
+                          [&](CardSet&) { RowOf(Runs, KindForCards()).CreateAll(m_parts.Works, report); });
     FillAfterRun();
 }
 
 void Commands::CreateSheets()
 {
-    const std::optional<SheetGrid> grid = AskSheetGrid(m_parts.Document.Set().Header.NoBack, &m_window);
+    const std::optional<SheetGrid> grid = AskSheetGrid(Set().Header.NoBack, &m_window);
     RunReport report(m_parts.User);
     m_parts.Document.Edit(QStringLiteral("Create card sheets"), [&](CardSet&) {
-        RowOf(KindForCards()).CreateSheets(m_parts.Works, report, grid); // reports a cancel as well
+        RowOf(Runs, KindForCards()).CreateSheets(m_parts.Works, report, grid); // reports a cancel as well
     });
     if (grid)
         FillAfterRun();
@@ -234,31 +203,17 @@ void Commands::CreateSheets()
 void Commands::CreateHtml()
 {
     RunReport report(m_parts.User);
-    RowOf(KindForCards()).CreateHtml(m_parts.Document.Set(), m_parts.User, report);
+    RowOf(Runs, KindForCards()).CreateHtml(Set(), m_parts.User, report);
+    if (KindForCards() == CardKind::Character)
+        CreateHtmlPieces(Set(), m_parts.User, report);
 }
 
-void Commands::ExportListing()
-{
-    ExportText(m_parts.Document.Set(), m_parts.User);
-}
-
-/// The tab of card backs prints the current character, without its playing piece.
 void Commands::PrintCurrent()
 {
-    const PrintedPage page = RowOf(m_window.SelectedKind()).Page;
+    const PrintedPage page = RowOf(CardRows, m_window.SelectedKind()).Page;
     m_window.PageOf(KindOnPage(page)).Show(ExistingIndex(KindOnPage(page)));
     RunReport report(m_parts.User);
     PrintCard(m_parts.Works, report, page);
-}
-
-void Commands::ShowStatistics()
-{
-    Statistics(m_parts.Document.Set(), m_parts.User);
-}
-
-void Commands::About()
-{
-    ShowAbout(&m_window);
 }
 
 } // namespace deckforge
