@@ -85,7 +85,6 @@ private:
 
     // The set
     void OpenFile(const QString& path);
-    void OpenDropped(const QString& path);
     void ShowNewSet();
     void ShowOpened();
     void ShowRestored(const std::optional<CardKind>& kind);

@@ -7,6 +7,7 @@
 #include "platform/Paths.h"
 
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -25,21 +26,15 @@ QString DroppedFile(const QDropEvent& event)
     return urls.size() == 1 ? urls.front().toLocalFile() : QString();
 }
 
-bool HasExtension(const QString& path, std::initializer_list<const char*> extensions)
-{
-    return std::any_of(extensions.begin(), extensions.end(), [&](const char* extension) {
-        return path.endsWith(QLatin1String(extension), Qt::CaseInsensitive);
-    });
-}
-
 bool IsSetFile(const QString& path)
 {
-    return HasExtension(path, {".dkf"});
+    return path.endsWith(QLatin1String(".dkf"), Qt::CaseInsensitive);
 }
 
 bool IsPictureFile(const QString& path)
 {
-    return HasExtension(path, {".bmp", ".jpg", ".jpeg", ".gif", ".wmf"});
+    return QStringList{"bmp", "jpg", "jpeg", "gif", "wmf"}.contains(QFileInfo(path).suffix(),
+                                                                    Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -101,12 +96,6 @@ void frmQDW::ShowOpened()
     ShowOpenedSet(m_works);
     m_info->Fill();
     m_standard->Fill();
-}
-
-void frmQDW::OpenDropped(const QString& path)
-{
-    if (m_document.AskToSave(BoxButtons::YesNo) != Answer::Cancel)
-        OpenFile(path);
 }
 
 void frmQDW::SaveSet()
@@ -182,11 +171,16 @@ void frmQDW::dropEvent(QDropEvent* event)
     const QString path = DroppedFile(*event);
     if (IsSetFile(path)) {
         // The source of the drop waits for its end, which is not to wait for the question.
-        QTimer::singleShot(0, this, [this, path] { Guarded(m_parts.User, [&] { OpenDropped(path); }); });
+        QTimer::singleShot(0, this, [this, path] {
+            Guarded(m_parts.User, [&] {
+                if (m_document.AskToSave(BoxButtons::YesNo) != Answer::Cancel)
+                    OpenFile(path);
+            });
+        });
         return;
     }
-    Guarded(m_parts.User,
-            [&] { DropPicture(m_preview->BoxAt(m_preview->mapFrom(this, event->position())), path); });
+    const QPointF onPreview = m_preview->mapFrom(this, event->position());
+    Guarded(m_parts.User, [&] { DropPicture(m_preview->BoxAt(onPreview), path); });
 }
 
 /// A box that takes no picture leaves it to the box that it lies on: a label to its card, for one.
