@@ -14,12 +14,13 @@ public:
     void SetShown(bool isShown) override { m_boxes.picNewBack.Visible = isShown; }
     void TakeSet() override {} // Kept: the slider keeps its range
     void Show(int16 index) override;
-    void Fill() override;
-
-    [[nodiscard]] std::vector<QWidget*> BoxesToReplace() const { return {m_form.txtNewCardBackName}; }
+    [[nodiscard]] std::vector<QWidget*> BoxesToReplace() const override
+    {
+        return {m_form.txtNewCardBackName};
+    }
 
 private:
-    [[nodiscard]] FieldRows<NewCardBack> MakeRows();
+    void AddFields();
     void Changed();
     void ChooseTextFont();
 

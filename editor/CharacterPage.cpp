@@ -2,8 +2,6 @@
 
 #include "compose/CharacterCard.h"
 #include "core/Vocabulary.h"
-#include "dialogs/frmCardList.h"
-#include "editor/Lists.h"
 
 namespace deckforge {
 
@@ -17,27 +15,19 @@ CharacterPage::CharacterPage(EditorParts& parts, QWidget* parent)
     FillList(*m_form.cboCharacterCardback, CharacterBackNames());
     for (QComboBox* attribute : AttributeLists())
         FillList(*attribute, AttributeValues());
-    Bind({.Bar = m_form.hsbCharacter,
-          .Position = m_form.lblCurrentCardCharacter,
-          .Dragged = m_form.lblChar,
-          .DraggedText = [](const Character& character) { return character.Name; },
-          .Add = m_form.cmdCharacterAdd,
-          .Delete = m_form.cmdCharacterDelete,
-          .Name = m_form.txtCharName},
-         MakeRows());
-    On(m_form.cboStartArea, &QComboBox::activated, [this] { StartAreaChosen(); });
-    On(m_form.cboStartArea->lineEdit(), &QLineEdit::textEdited, [this] { StartAreaTyped(); });
-    On(m_form.cboStartArea->lineEdit(), &QLineEdit::returnPressed, [this] {
-        if (ShowsEntry(*m_form.cboStartArea))
-            StartAreaChosen();
-    });
+    AddSlider(m_form.hsbCharacter, m_form.lblCurrentCardCharacter, m_form.lblChar);
+    AddButtons(m_form.cmdCharacterAdd, m_form.cmdCharacterDelete, m_form.txtCharName,
+               m_form.cmdSortCharacter);
+    AddFields();
+    OnEntry(
+        m_form.cboStartArea, [this] { StartAreaChosen(); },
+        [this] { SetStartArea(m_form.cboStartArea->currentText()); });
     On(m_form.cboCharacterCardback, &QComboBox::activated, [this] { BackChosen(); });
     On(m_form.chkShowCharacterBack, &QCheckBox::clicked, [this] {
         if (m_widget->isVisibleTo(m_widget->parentWidget()))
             SwitchSide(); // the back stays hidden while the piece is shown
     });
     On(m_form.chkShowPlayingPiece, &QCheckBox::clicked, [this] { SwitchSide(); });
-    On(m_form.cmdSortCharacter, &QAbstractButton::clicked, [this] { ChooseFromList(); });
 }
 
 std::array<QComboBox*, 4> CharacterPage::AttributeLists() const
@@ -45,71 +35,39 @@ std::array<QComboBox*, 4> CharacterPage::AttributeLists() const
     return {m_form.cboCharAttr0, m_form.cboCharAttr1, m_form.cboCharAttr2, m_form.cboCharAttr3};
 }
 
-FieldRows<Character> CharacterPage::MakeRows()
+void CharacterPage::AddFields()
 {
-    FieldRows<Character> rows = {
-        .Texts = {{.Control = m_form.txtCharName,
-                   .Field = &Character::Name,
-                   .Preview = &m_boxes.lblCharacter,
-                   .Changed = [this] { m_piece.lblPlayingPieceName.Caption = Current().Name; }},
-                  {.Control = m_form.cboAlignment,
-                   .Field = &Character::Alignment,
-                   .Preview = &m_boxes.lblAlignment,
-                   .QuietOnFill = true},
-                  {.Control = m_form.txtSpecialAbilities,
-                   .Field = &Character::SpecialAbilities,
-                   .Preview = &m_boxes.lblSpecial}},
-        .Checks = {{.Control = m_form.chkShowPictureCharacter,
-                    .Field = &Character::ShowPicture,
-                    .Changed =
-                        [this] {
-                            ShowPictureFrame(m_boxes, Current().ShowPicture);
-                            m_parts.Preview.SettleFocus();
-                        }},
-                   {.Control = m_form.chkFrameCharacter,
-                    .Field = &Character::Frame,
-                    .Changed = [this] { m_boxes.picFrameCharacter.SetOutlined(Current().Frame); }}},
-        // Unlike the other pictures these do not take the keyboard when they are chosen.
-        .Pictures = {{.Choose = m_form.cmdGetCharPic,
-                      .Clear = m_form.cmdDelCharPic,
-                      .Title = "Choose characterpicture",
-                      .Field = &Character::Picture,
-                      .Target = &m_boxes.picImageCharacter,
-                      .IsFramed = true,
-                      .DropsAt = {&m_boxes.picFrameCharacter},
-                      .PathBox = m_form.txtPictureCharacter},
-                     {.Choose = m_form.cmdBackCharPic,
-                      .Clear = m_form.cmdDelBackCharPic,
-                      .Title = "Choose background picture",
-                      .Field = &Character::Background,
-                      .Target = &m_boxes.picBackgroundChar,
-                      .DropsAt = {&m_boxes.picCharacter},
-                      .PathBox = m_form.txtBackgroundCharacter},
-                     {.Choose = m_form.cmdGetPlayingPiecePic,
-                      .Clear = m_form.cmdDelPlayingPiecePic,
-                      .Title = "Choose playing piece picture",
-                      .Field = &Character::PlayingPiece,
-                      .Target = &m_piece.picPlayingPieceImage,
-                      .IsFramed = true,
-                      .StartsAtFrame = false,
-                      .DropsAt = {&m_piece.picPlayingPieceFrame, &m_piece.picPlayingPiece},
-                      .PathBox = m_form.txtPlayingPiece}},
-    };
+    AddText(m_form.txtCharName, &Character::Name, {.Preview = &m_boxes.lblCharacter, .Changed = [this] {
+                                                       m_piece.lblPlayingPieceName.Caption = Current().Name;
+                                                   }});
+    AddText(m_form.cboAlignment, &Character::Alignment,
+            {.Preview = &m_boxes.lblAlignment, .QuietOnFill = true});
+    AddText(m_form.txtSpecialAbilities, &Character::SpecialAbilities, {.Preview = &m_boxes.lblSpecial});
     const auto lists = AttributeLists();
     for (std::size_t i = 0; i < lists.size(); ++i) {
         const auto draw = [this, i] {
             DrawCharAttribute(m_parts.Works, static_cast<int>(i), Current().*CharacterAttributes[i]);
         };
-        rows.Texts.push_back({.Control = lists[i], .Field = CharacterAttributes[i], .Changed = draw});
+        AddText(lists[i], CharacterAttributes[i], {.Changed = draw});
     }
-    return rows;
-}
-
-void CharacterPage::Enter()
-{
-    if (MakeFirst())
-        m_steps.Bar->setRange(1, List().Count());
-    ShowCurrent();
+    AddFrame(m_form.chkShowPictureCharacter, m_form.chkFrameCharacter, m_boxes, m_boxes.picFrameCharacter);
+    // Unlike on the other tabs the picture does not get the focus when it is chosen.
+    AddPicture({m_form.cmdGetCharPic, m_form.cmdDelCharPic, m_form.txtPictureCharacter}, &Character::Picture,
+               {.Title = "Choose characterpicture",
+                .Target = &m_boxes.picImageCharacter,
+                .Frame = &m_boxes.picFrameCharacter});
+    AddPicture({m_form.cmdBackCharPic, m_form.cmdDelBackCharPic, m_form.txtBackgroundCharacter},
+               &Character::Background,
+               {.Title = "Choose background picture",
+                .Target = &m_boxes.picBackgroundChar,
+                .DropArea = &m_boxes.picCharacter});
+    AddPicture({m_form.cmdGetPlayingPiecePic, m_form.cmdDelPlayingPiecePic, m_form.txtPlayingPiece},
+               &Character::PlayingPiece,
+               {.Title = "Choose playing piece picture",
+                .Target = &m_piece.picPlayingPieceImage,
+                .Frame = &m_piece.picPlayingPieceFrame,
+                .DropArea = &m_piece.picPlayingPiece,
+                .StartsAtFrame = false});
 }
 
 void CharacterPage::SetShown(bool isShown)
@@ -123,23 +81,17 @@ void CharacterPage::SetShown(bool isShown)
 
 void CharacterPage::Show(int16 index)
 {
-    if (m_parts.Document.Set()
-            .Header.Symbol.isEmpty()) // Kept: a cleared symbol stays until a character is shown
+    // Kept: a cleared symbol stays until a character is shown.
+    if (m_parts.Document.Set().Header.Symbol.isEmpty())
         m_boxes.picSymbolCharacter.Visible = false;
     static_cast<void>(ShowCharacter(m_parts.Works, index));
     Fill();
 }
 
-void CharacterPage::Fill()
+void CharacterPage::FillOthers()
 {
-    FillFields();
-    const QScopedValueRollback filling(m_isFilling, true);
-    const Character& character = Current();
-    ShowEntry(*m_form.cboStartArea, character.StartArea);
-    m_form.cboCharacterCardback->setCurrentIndex(character.CardBack);
-    ShowFrameSize();
-    FillPosition();
-    m_parts.Preview.update();
+    ShowEntry(*m_form.cboStartArea, Current().StartArea);
+    m_form.cboCharacterCardback->setCurrentIndex(Current().CardBack);
 }
 
 void CharacterPage::ShowFrameSize()
@@ -177,8 +129,7 @@ void CharacterPage::SwitchSide()
 void CharacterPage::BackChosen()
 {
     const auto back = static_cast<int16>(m_form.cboCharacterCardback->currentIndex());
-    const QString name = m_form.cboCharacterCardback->accessibleName();
-    m_parts.Document.Edit<Character>(name, [&](Character& character) {
+    Edit(m_form.cboCharacterCardback, [&](Character& character) {
         character.CardBack = back;
         if (back != UserDefinedCharacterBack)
             character.CardBackPicture.clear();
@@ -194,11 +145,10 @@ void CharacterPage::BackChosen()
 
 void CharacterPage::SetBackPicture(const QString& path)
 {
-    m_parts.Document.Edit<Character>(m_form.cboCharacterCardback->accessibleName(),
-                                     [&](Character& character) {
-                                         character.CardBack = UserDefinedCharacterBack;
-                                         character.CardBackPicture = path;
-                                     });
+    Edit(m_form.cboCharacterCardback, [&](Character& character) {
+        character.CardBack = UserDefinedCharacterBack;
+        character.CardBackPicture = path;
+    });
     m_form.cboCharacterCardback->setCurrentIndex(UserDefinedCharacterBack);
     if (const auto picture = LoadedPicture(m_parts, path))
         m_boxes.picCharacterBack.Surface->SetPicture(*picture);
@@ -212,23 +162,11 @@ void CharacterPage::StartAreaChosen()
     SetStartArea(entry.section(QLatin1Char('-'), entry.contains(QLatin1Char('-')) ? 1 : 0));
 }
 
-void CharacterPage::StartAreaTyped()
-{
-    SelectTyped(*m_form.cboStartArea);
-    SetStartArea(m_form.cboStartArea->currentText());
-}
-
 void CharacterPage::SetStartArea(const QString& area)
 {
-    m_parts.Document.Edit<Character>(m_form.cboStartArea->accessibleName(), &Character::StartArea, area);
+    Edit(m_form.cboStartArea, &Character::StartArea, area);
     m_boxes.lblStart.Caption = area;
     m_parts.Preview.update();
-}
-
-void CharacterPage::ChooseFromList()
-{
-    if (const auto chosen = ChooseFromCardList(m_parts.Document.Set(), Kind(), m_widget->window()))
-        GoTo(*chosen);
 }
 
 } // namespace deckforge

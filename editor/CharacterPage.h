@@ -10,26 +10,21 @@ class CharacterPage final : public RecordPage<Character> {
 public:
     CharacterPage(EditorParts& parts, QWidget* parent);
 
-    void Enter() override;
     void SetShown(bool isShown) override;
-    void TakeSet() override { SetMaximumQuietly(); }
     void Show(int16 index) override;
-    void Fill() override;
     void ShowFrameSize() override;
     bool TakeDrop(const Box& box, const QString& path) override;
-
-    [[nodiscard]] std::vector<QWidget*> BoxesToReplace() const;
+    [[nodiscard]] std::vector<QWidget*> BoxesToReplace() const override;
 
 private:
     [[nodiscard]] std::array<QComboBox*, 4> AttributeLists() const;
-    [[nodiscard]] FieldRows<Character> MakeRows();
+    void AddFields();
+    void FillOthers() override;
     void SwitchSide();
     void BackChosen();
     void SetBackPicture(const QString& path);
     void StartAreaChosen();
-    void StartAreaTyped();
     void SetStartArea(const QString& area);
-    void ChooseFromList();
 
     CharacterTemplate& m_boxes;
     PlayingPieceTemplate& m_piece;

@@ -12,17 +12,14 @@ public:
 
     void Enter() override;
     void SetShown(bool isShown) override;
-    void TakeSet() override { SetMaximumQuietly(); }
     void Show(int16 index) override;
-    void Fill() override;
     void ShowFrameSize() override;
-
-    [[nodiscard]] std::vector<QWidget*> BoxesToReplace() const { return {m_form.txtTitleLarge}; }
+    [[nodiscard]] std::vector<QWidget*> BoxesToReplace() const override { return {m_form.txtTitleLarge}; }
 
 private:
-    [[nodiscard]] FieldRows<LargeCard> MakeRows();
+    void AddFields();
+    [[nodiscard]] QString DraggedText(const LargeCard&) const override { return {}; }
     void SwitchSide();
-    void ChooseFromList();
 
     LargeCardTemplate& m_boxes;
     Ui::fraLargeCard m_form;

@@ -52,14 +52,11 @@ PreviewController::PreviewController(EditorParts& parts, std::function<void(Card
         m_parts.Document.EndVisit(); // a gesture is a step of its own
         m_dragStart = point;
     });
-    on(&CardPreview::Dragged,
-       [this](const Box* box, QPoint point, QPoint moved) { Dragged(box, point, moved); });
+    on(&CardPreview::Dragged, std::bind_front(&PreviewController::Dragged, this));
     on(&CardPreview::Clicked, [this](const Box* box) { LabelClicked(box, FontClicks::One); });
     on(&CardPreview::DoubleClicked, [this](const Box* box) { LabelClicked(box, FontClicks::Two); });
-    on(&CardPreview::KeyPressed, [this](const Box* picture, Qt::Key key, Qt::KeyboardModifiers held) {
-        KeyPressed(picture, key, held);
-    });
-    on(&CardPreview::TipWanted, [this](const Box* box, QPoint point) { ShowTip(box, point); });
+    on(&CardPreview::KeyPressed, std::bind_front(&PreviewController::KeyPressed, this));
+    on(&CardPreview::TipWanted, std::bind_front(&PreviewController::ShowTip, this));
 }
 
 void PreviewController::MakeZoomButtons(QWidget* window)
@@ -118,22 +115,9 @@ std::array<PreviewController::PlacementRow, 4> PreviewController::Placements() c
     }};
 }
 
-template <class Work>
-void PreviewController::Place(const PlacementRow& row, const char* step, Work&& work)
+void PreviewController::Place(const PlacementRow& row, const char* step, const std::function<void()>& work)
 {
-    const QString name = QString::fromLatin1(step);
-    const auto change = [&](auto& /*record*/) { work(); };
-    switch (row.Kind) {
-    case CardKind::Standard:
-        m_parts.Document.Edit<Card>(name, change);
-        break;
-    case CardKind::Large:
-        m_parts.Document.Edit<LargeCard>(name, change);
-        break;
-    default:
-        m_parts.Document.Edit<Character>(name, change);
-        break;
-    }
+    m_parts.Document.Edit(QString::fromLatin1(step), ScopeOf(row.Kind), [&](CardSet&) { work(); });
     m_frameSized(row.Kind);
     m_parts.Preview.update();
 }
@@ -146,7 +130,8 @@ void PreviewController::LabelClicked(const Box* box, FontClicks clicks)
         const SetHeader& header = m_parts.Document.Set().Header;
         FontSpec font = header.*row.Font;
         ChooseFont(m_parts.User, font);
-        m_parts.Document.Edit<SetHeader>(QStringLiteral("Font"), row.Font, font);
+        m_parts.Document.Edit(QStringLiteral("Font"), EditScope::Settings,
+                              [&](CardSet& set) { set.Header.*row.Font = font; });
         SetFont(m_parts.Works.Templates, header);
         m_parts.Preview.update();
     }

@@ -40,8 +40,8 @@ private:
     void MakeZoomButtons(QWidget* window);
     void BindZoom(QWidget* window);
     [[nodiscard]] std::array<PlacementRow, 4> Placements() const;
-    template <class Work>
-    void Place(const PlacementRow& row, const char* step, Work&& work);
+    /// Edits the record, as a step of that name, and shows what has changed.
+    void Place(const PlacementRow& row, const char* step, const std::function<void()>& work);
     void LabelClicked(const Box* box, FontClicks clicks);
     void Dragged(const Box* box, QPoint point, QPoint moved);
     void KeyPressed(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held);

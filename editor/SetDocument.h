@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/modInfo.h"
 #include "editor/SetSteps.h"
 #include "files/Rescue.h"
 #include "files/modFile.h"
@@ -26,55 +25,23 @@ public:
 
     [[nodiscard]] const CardSet& Set() const { return m_set; }
 
-    // Every change of the set goes through one of these and becomes a step with that name, also if the change
-    // throws halfway. What changes nothing makes no step.
+    // Every change of the set goes through Edit and becomes an undo step with that name, even if the change
+    // throws halfway. An edit that changes nothing makes no step.
 
-    /// Sets a field of the current record. While a control is visited, its changes are one step.
-    template <class Record, class Value>
-    void Edit(const QString& name, Value Record::*field, const Value& value)
-    {
-        Edit<Record>(name, [&](Record& record) { record.*field = value; });
-    }
+    /// Changes only what the scope says. Edits of the same name merge until EndVisit(), except for those of
+    /// anything.
+    void Edit(const QString& name, EditScope scope, const std::function<void(CardSet&)>& change);
 
-    /// Changes the current record: change(Record&).
-    template <class Record, class Change>
-    void Edit(const QString& name, Change&& change)
+    /// Changes anything.
+    void Edit(const QString& name, const std::function<void(CardSet&)>& change)
     {
-        Record before = CurrentRecordOf<Record>(m_set);
-        Changing([&] { change(CurrentRecordOf<Record>(m_set)); },
-                 [&] {
-                     const Record& after = CurrentRecordOf<Record>(m_set);
-                     if (before == after)
-                         return;
-                     Push(new RecordStep<Record>(name, m_set, std::move(before), m_visit));
-                     CheckSavable([&] { deckforge::CheckSavable(after); });
-                 });
-    }
-
-    /// Changes anything: a command, a run or a dialog. change(CardSet&).
-    template <class Change>
-    void Edit(const QString& name, Change&& change)
-    {
-        const CardSet before = m_set;
-        Changing([&] { change(m_set); }, [&] { PushDifference(name, before); });
+        Edit(name, EditScope::Anything, change);
     }
 
     /// Makes another record the current one; no step.
-    template <class Record>
-    void GoTo(int16 index)
-    {
-        EndVisit();
-        ListOf<Record>(m_set).Current = index;
-    }
+    void GoTo(CardKind kind, int16 index);
 
-    /// Copies the current record and reports it; no step.
-    template <class Record>
-    void Copy()
-    {
-        CopyElement<Record>(m_set, m_user);
-    }
-
-    /// The next change begins a step of its own: another control has the keyboard, or another gesture begins.
+    /// The next edit starts a new step: another control got the focus, or another gesture begins.
     void EndVisit() { ++m_visit; }
 
     void Undo();
@@ -109,23 +76,10 @@ Q_SIGNALS:
     void UnsavableBecause(const QString& reason);
 
 private:
-    template <class Change, class Record>
-    void Changing(Change&& change, Record&& record)
-    {
-        try {
-            change();
-        } catch (...) {
-            record();
-            throw;
-        }
-        record();
-    }
-    void Push(SetStep* step);
-    void PushDifference(const QString& name, const CardSet& before);
+    void Push(const QString& name, EditScope scope, SetPart before);
     void Restore(void (QUndoStack::*step)(), int index);
-    /// Checks what has changed, and the whole set only where it was found unsavable before.
-    void CheckSavable(const std::function<void()>& checkChanged);
-    void CheckSet() const;
+    [[nodiscard]] QString WhyUnsavable() const;
+    void ShowUnsavable(const QString& reason);
     void AfterChange();
     [[nodiscard]] bool Leave(std::optional<QString>& rescued, const QString& toOpen = {});
 

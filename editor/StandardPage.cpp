@@ -4,103 +4,49 @@
 #include "compose/StandardCard.h"
 #include "core/CardVocabulary.h"
 #include "core/Vocabulary.h"
-#include "dialogs/frmCardList.h"
-#include "editor/Lists.h"
+
+#include <QScopeGuard>
 
 namespace deckforge {
-
-namespace {
-
-/// "Sword (OBJECT- Magic)".
-QString TitleAndType(const Card& card)
-{
-    const QString type = (card.Type + QLatin1Char(' ') + card.SubType).trimmed();
-    return QStringLiteral("%1 (%2)").arg(card.Title, type);
-}
-
-} // namespace
 
 StandardPage::StandardPage(EditorParts& parts, QWidget* parent)
     : RecordPage(parts, parent), m_boxes(parts.Works.Templates.Standard)
 {
     m_form.setupUi(m_widget);
     FillList(*m_form.cboNumber, CardNumbers());
-    // Before the rows, which store the completed text.
+    AddSlider(m_form.hsbCard, m_form.lblCurrentCard, m_form.lblCardTitle);
+    AddButtons(m_form.cmdCardAdd, m_form.cmdCardDelete, m_form.txtTitle, m_form.cmdSort);
+    // Before the fields, which take the completed text.
     On(m_form.txtBold, &QLineEdit::textChanged, [this] { CompleteBoldText(); });
-    Bind({.Bar = m_form.hsbCard,
-          .Position = m_form.lblCurrentCard,
-          .Dragged = m_form.lblCardTitle,
-          .DraggedText = &TitleAndType,
-          .Add = m_form.cmdCardAdd,
-          .Delete = m_form.cmdCardDelete,
-          .Name = m_form.txtTitle},
-         MakeRows());
-    On(m_form.cboType, &QComboBox::activated, [this] { TypeChosen(); });
-    On(m_form.cboType->lineEdit(), &QLineEdit::textEdited, [this] { TypeTyped(); });
+    AddFields();
+    OnEntry(
+        m_form.cboType, [this] { TypeChosen(); }, [this] { TypeTyped(); });
     On(m_form.cboType->lineEdit(), &QLineEdit::editingFinished, [this] { m_numberBeforeType.reset(); });
-    On(m_form.cboType->lineEdit(), &QLineEdit::returnPressed, [this] {
-        if (ShowsEntry(*m_form.cboType))
-            TypeChosen();
-    });
     On(m_form.cboCardBack, &QComboBox::activated, [this] { BackChosen(); });
-    On(m_form.cmdSort, &QAbstractButton::clicked, [this] { ChooseFromList(); });
 }
 
-FieldRows<Card> StandardPage::MakeRows()
+void StandardPage::AddFields()
 {
-    return {
-        .Texts = {{.Control = m_form.txtTitle, .Field = &Card::Title, .Preview = &m_boxes.lblTitle},
-                  {.Control = m_form.cboNumber, .Field = &Card::Number, .Preview = &m_boxes.lblNumber},
-                  {.Control = m_form.txtBold,
-                   .Field = &Card::BoldText,
-                   .Preview = &m_boxes.lblBold,
-                   .Changed = [this] { PlaceBoldText(m_boxes); }},
-                  {.Control = m_form.txtInfo, .Field = &Card::Info, .Preview = &m_boxes.lblInformation},
-                  {.Control = m_form.txtArtist,
-                   .Field = &Card::Artist,
-                   .Changed = [this] { ShowArtist(); },
-                   .QuietOnFill = true}},
-        .Checks =
-            {{.Control = m_form.chkOneLine, .Field = &Card::OneLine, .Changed = [this] { OneLineClicked(); }},
-             {.Control = m_form.chkShowPicture,
-              .Field = &Card::ShowPicture,
-              .Changed =
-                  [this] {
-                      ShowPictureFrame(m_boxes, Current().ShowPicture);
-                      m_parts.Preview.SettleFocus();
-                  }},
-             {.Control = m_form.chkFrame,
-              .Field = &Card::Frame,
-              .Changed = [this] { m_boxes.picFrame.SetOutlined(Current().Frame); }},
-             {.Control = m_form.chkResize, .Field = &Card::Resize, .Changed = [this] { ResizeClicked(); }}},
-        .Counts = {{.Control = m_form.udCopy, .Field = &Card::Copies}},
-        .Pictures = {{.Choose = m_form.cmdGetPic,
-                      .Clear = m_form.cmdDelPic,
-                      .Field = &Card::Picture,
-                      .Target = &m_boxes.picImage,
-                      .IsFramed = true,
-                      .DropsAt = {&m_boxes.picFrame},
-                      .PathBox = m_form.txtPicture,
-                      .Changed = [this] { m_parts.Preview.FocusOn(m_boxes.picImage); }},
-                     {.Choose = m_form.cmdBackPic,
-                      .Clear = m_form.cmdDelBackPic,
-                      .Field = &Card::Background,
-                      .Target = &m_boxes.picCard,
-                      .PathBox = m_form.txtBackground,
-                      .Changed = [this] { ShowArtist(); },
-                      .Cleared = [this] { ShowArtist(); }}},
-        .Colours = {{.Choose = m_form.cmdColour,
-                     .Swatch = m_form.picColour,
-                     .Title = "Choose card background colour",
-                     .Field = [](Card& card) -> Colour& { return card.Color; },
-                     .Preview = &m_boxes.picCard,
-                     .Changed = [this] { ShowArtist(); }}},
-    };
-}
-
-void StandardPage::Enter()
-{
-    ShowCurrent();
+    const auto showArtist = [this] { ShowArtist(); };
+    AddText(m_form.txtTitle, &Card::Title, {.Preview = &m_boxes.lblTitle});
+    AddText(m_form.cboNumber, &Card::Number, {.Preview = &m_boxes.lblNumber});
+    AddText(m_form.txtBold, &Card::BoldText,
+            {.Preview = &m_boxes.lblBold, .Changed = [this] { PlaceBoldText(m_boxes); }});
+    AddText(m_form.txtInfo, &Card::Info, {.Preview = &m_boxes.lblInformation});
+    AddText(m_form.txtArtist, &Card::Artist, {.Changed = showArtist, .QuietOnFill = true});
+    AddCheck(m_form.chkOneLine, &Card::OneLine, [this] { ShowCurrent(); });
+    AddFrame(m_form.chkShowPicture, m_form.chkFrame, m_boxes, m_boxes.picFrame);
+    AddCheck(m_form.chkResize, &Card::Resize, [this] { ResizeClicked(); });
+    AddCount(m_form.udCopy, &Card::Copies);
+    AddPicture({m_form.cmdGetPic, m_form.cmdDelPic, m_form.txtPicture}, &Card::Picture,
+               {.Target = &m_boxes.picImage, .Frame = &m_boxes.picFrame, .Changed = [this] {
+                    m_parts.Preview.FocusOn(m_boxes.picImage);
+                }});
+    AddPicture({m_form.cmdBackPic, m_form.cmdDelBackPic, m_form.txtBackground}, &Card::Background,
+               {.Target = &m_boxes.picCard, .Changed = showArtist, .Cleared = showArtist});
+    AddColour({m_form.cmdColour, m_form.picColour, "Choose card background colour"},
+              [](Card& card) -> Colour& { return card.Color; },
+              {.Preview = &m_boxes.picCard, .Changed = showArtist});
 }
 
 void StandardPage::SetShown(bool isShown)
@@ -111,9 +57,8 @@ void StandardPage::SetShown(bool isShown)
 
 void StandardPage::TakeSet()
 {
-    SetMaximumQuietly();
-    FillBackList();
-    FillTypeList();
+    RecordPage::TakeSet();
+    FillLists();
 }
 
 void StandardPage::Show(int16 index)
@@ -124,17 +69,19 @@ void StandardPage::Show(int16 index)
     Fill();
 }
 
-void StandardPage::Fill()
+void StandardPage::FillOthers()
 {
-    FillFields();
-    const QScopedValueRollback filling(m_isFilling, true);
     m_numberBeforeType.reset();
     const Card& card = Current();
     ShowEntry(*m_form.cboType, card.Type + card.SubType);
     m_form.cboCardBack->setCurrentIndex(card.CardBack - 1);
-    ShowFrameSize();
-    FillPosition();
-    m_parts.Preview.update();
+}
+
+/// "Sword (OBJECT- Magic)".
+QString StandardPage::DraggedText(const Card& card) const
+{
+    const QString type = (card.Type + QLatin1Char(' ') + card.SubType).trimmed();
+    return QStringLiteral("%1 (%2)").arg(card.Title, type);
 }
 
 void StandardPage::ShowFrameSize()
@@ -150,9 +97,9 @@ bool StandardPage::TakeDrop(const Box& box, const QString& path)
     return true;
 }
 
-void StandardPage::FillTypeList()
+void StandardPage::FillLists()
 {
-    const QScopedValueRollback filling(m_isFilling, true);
+    FillBackList();
     const CardSet& set = m_parts.Document.Set();
     QStringList entries;
     for (int row = 1; row <= set.CardTypes.Count(); ++row)
@@ -163,7 +110,6 @@ void StandardPage::FillTypeList()
 
 void StandardPage::FillBackList()
 {
-    const QScopedValueRollback filling(m_isFilling, true);
     const CardSet& set = m_parts.Document.Set();
     QStringList entries;
     for (int row = 1; row <= set.CardBacks.Count(); ++row)
@@ -208,16 +154,14 @@ void StandardPage::CompleteBoldText()
 void StandardPage::ResizeClicked()
 {
     if (Current().Resize)
-        m_parts.Document.Edit<Card>(m_form.chkResize->accessibleName(),
-                                    [this](Card&) { CentrePicture(m_parts.Works); });
+        Edit(m_form.chkResize, [this](Card&) { CentrePicture(m_parts.Works); });
     ShowCurrent();
 }
 
 void StandardPage::TypeChosen()
 {
     const auto row = static_cast<int16>(m_form.cboType->currentIndex() + 1);
-    m_parts.Document.Edit<Card>(m_form.cboType->accessibleName(),
-                                [&](Card& card) { ChooseCardType(m_parts.Document.Set(), card, row); });
+    Edit(m_form.cboType, [&](Card& card) { ChooseCardType(m_parts.Document.Set(), card, row); });
     ShowType();
 }
 
@@ -227,8 +171,7 @@ void StandardPage::TypeTyped()
 {
     if (!m_numberBeforeType)
         m_numberBeforeType = Current().Number;
-    SelectTyped(*m_form.cboType);
-    m_parts.Document.Edit<Card>(m_form.cboType->accessibleName(), [this](Card& card) {
+    Edit(m_form.cboType, [this](Card& card) {
         if (!TypeCardType(m_parts.Document.Set(), card, m_form.cboType->currentText()))
             card.Number = *m_numberBeforeType;
     });
@@ -255,32 +198,22 @@ void StandardPage::BackChosen()
         return;
     }
     const auto row = static_cast<int16>(list.currentIndex() + 1);
-    m_parts.Document.Edit<Card>(list.accessibleName(), &Card::CardBack, row);
-    if (const auto picture = Attempted([&] { return PictureOfBack(m_parts.Works, row); }))
+    Edit(&list, &Card::CardBack, row);
+    if (const auto picture = PictureIfAny([&] { return PictureOfBack(m_parts.Works, row); }))
         m_boxes.picBack.Surface->SetPicture(*picture);
     m_parts.Preview.update();
 }
 
-/// The new row goes to the table of the set, where all cards can take it. It is chosen at once.
+/// The new row is in the table of the set, where all cards can use it, and is chosen at once.
 void StandardPage::AddUserBack(const QString& path)
 {
     QComboBox& list = *m_form.cboCardBack;
-    try {
+    {
+        const auto fill = qScopeGuard([this] { FillBackList(); }); // a failure leaves a row without a name
         m_parts.Document.Edit(list.accessibleName(), [&](CardSet& set) { AddCardBack(set, path); });
-        const CardSet& set = m_parts.Document.Set();
-        list.insertItem(list.count() - 1, set.CardBacks[set.CardBacks.Count()].Name);
-    } catch (const RunTimeError&) {
-        FillBackList(); // with the row that has no name, so that entries and rows stay in step
-        throw;
     }
     list.setCurrentIndex(list.count() - 2);
     BackChosen();
-}
-
-void StandardPage::ChooseFromList()
-{
-    if (const auto chosen = ChooseFromCardList(m_parts.Document.Set(), Kind(), m_widget->window()))
-        GoTo(*chosen);
 }
 
 } // namespace deckforge

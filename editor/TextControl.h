@@ -1,27 +1,37 @@
 #pragma once
 
+#include <QComboBox>
+#include <QLineEdit>
 #include <QString>
-
-class QComboBox;
-class QLineEdit;
-class QWidget;
 
 namespace deckforge {
 
-// A text box of one line or of several, or a list that takes any text, as a record keeps its text: lines are
-// parted by CR LF, and no other character is touched. A control that shows the text already is left alone,
-// with its cursor.
+// Text boxes of one or several lines, and editable lists, whose entries only suggest: what is typed stays as
+// typed. In a record lines are separated by CR LF.
 
 [[nodiscard]] QString TextOf(const QWidget& control);
+
+/// A control that shows the text already is left alone, so that its cursor stays.
 void SetTextOf(QWidget& control, const QString& text);
 
-/// Shows the text in a list that takes any; the entry that reads so is the selected one.
-void ShowEntry(QComboBox& list, const QString& text);
+/// The line edit of a text box or of an editable list; null for others.
+[[nodiscard]] QLineEdit* LineEditOf(QObject* control);
 
 /// Shows a text that may be too long for its box: from its start, and with a tool tip.
 void ShowText(QLineEdit& box, const QString& text, const QString& toolTip);
 
 /// A path box shows the name; the whole path is its tool tip.
 void ShowPath(QLineEdit& box, const QString& path);
+
+void FillList(QComboBox& list, const QStringList& entries);
+
+/// Shows the text in an editable list, and selects the entry with that text if there is one.
+void ShowEntry(QComboBox& list, const QString& text);
+
+/// Selects the entry that was typed; else the list would do so when it loses the focus.
+void SelectTyped(QComboBox& list);
+
+/// Whether the typed text is that of the current entry, which Enter then chooses.
+[[nodiscard]] bool ShowsEntry(const QComboBox& list);
 
 } // namespace deckforge

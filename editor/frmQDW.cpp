@@ -144,18 +144,15 @@ void frmQDW::BindDocument()
     connect(qApp, &QApplication::focusChanged, &m_document, &SetDocument::EndVisit);
 }
 
-/// These boxes are ready for new text when they get the keyboard.
 void frmQDW::BindFocus()
 {
-    const auto bind = [this](const auto& form) {
-        for (QWidget* box : form.BoxesToReplace())
+    const auto bind = [this](const std::vector<QWidget*>& boxes) {
+        for (QWidget* box : boxes)
             box->installEventFilter(this);
     };
-    bind(*m_standard);
-    bind(static_cast<const LargePage&>(PageOf(CardKind::Large)));
-    bind(static_cast<const CharacterPage&>(PageOf(CardKind::Character)));
-    bind(static_cast<const BackPage&>(PageOf(CardKind::NewBack)));
-    bind(*m_info);
+    for (const auto& page : m_pages)
+        bind(page->BoxesToReplace());
+    bind(m_info->BoxesToReplace());
     m_info->NameLabel()->installEventFilter(this);
     GuardFromWheel(*this);
 }
@@ -225,8 +222,7 @@ void frmQDW::ShowProgress(int done, int total)
 
 void frmQDW::ShowTables()
 {
-    m_standard->FillBackList();
-    m_standard->FillTypeList();
+    m_standard->FillLists();
     m_standard->Show(m_document.Set().Cards.Current);
 }
 

@@ -2,6 +2,7 @@
 #include "editor/Page.h"
 #include "editor/PreviewController.h"
 #include "editor/SetInfoPanel.h"
+#include "editor/TextControl.h"
 #include "editor/frmQDW.h"
 #include "platform/Twips.h"
 #include "platform/Version.h"
@@ -27,12 +28,6 @@ constexpr char HelpText[] = "This is a very small help.\r\n"
                             "\r\n"
                             "Click on a picture and nudge it with arrow keys.\r\n"
                             "Change frame size with shift+arrow keys.";
-
-QLineEdit* LineOf(QObject* box)
-{
-    auto* const list = qobject_cast<QComboBox*>(box);
-    return list ? list->lineEdit() : qobject_cast<QLineEdit*>(box);
-}
 
 } // namespace
 
@@ -101,7 +96,7 @@ bool frmQDW::IsBackground(QPoint point) const
 bool frmQDW::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn) {
-        if (QLineEdit* const line = LineOf(watched))
+        if (QLineEdit* const line = LineEditOf(watched))
             SelectAllOnFocus(*line, static_cast<QFocusEvent*>(event)->reason());
     } else if (event->type() == QEvent::MouseButtonRelease && watched == m_info->NameLabel()) {
         Guarded(m_parts.User, [this] { ShowOffsets(); });
