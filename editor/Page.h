@@ -40,6 +40,9 @@ public:
     /// The frame on the preview has another size.
     virtual void ShowFrameSize() {}
 
+    /// Moves the focus to the name of the record and selects it.
+    virtual void StartTyping() = 0;
+
     // Commands on the current record.
     virtual void Add() = 0;
     virtual void Delete() = 0;

@@ -37,14 +37,12 @@ public:
 
 } // namespace
 
-PreviewController::PreviewController(EditorParts& parts, std::function<void(CardKind)> frameSized,
-                                     std::function<void()> zoomed, QWidget* window)
-    : QObject(window), m_parts(parts), m_frameSized(std::move(frameSized)), m_zoomed(std::move(zoomed)),
-      m_area(new PreviewArea(&parts.Preview, window)), m_zooms(new QButtonGroup(this))
+PreviewController::PreviewController(EditorParts& parts, QWidget* window)
+    : QObject(window), m_parts(parts), m_area(new PreviewArea(&parts.Preview, window)),
+      m_zooms(new QButtonGroup(this))
 {
     parts.Preview.SetZoom(DefaultZoom);
-    MakeZoomButtons(window);
-    BindZoom(window);
+    BuildZoom(window);
     const auto on = [this](auto signal, auto handler) {
         OnSignal(m_parts.User, &m_parts.Preview, signal, this, handler);
     };
@@ -59,7 +57,7 @@ PreviewController::PreviewController(EditorParts& parts, std::function<void(Card
     on(&CardPreview::TipWanted, std::bind_front(&PreviewController::ShowTip, this));
 }
 
-void PreviewController::MakeZoomButtons(QWidget* window)
+void PreviewController::BuildZoom(QWidget* window)
 {
     for (int zoom = 1; zoom <= CardPreview::MostZoom; ++zoom) {
         auto* const button = new QToolButton(window);
@@ -74,10 +72,6 @@ void PreviewController::MakeZoomButtons(QWidget* window)
         button->setFocusPolicy(Qt::TabFocus);
         m_zooms->addButton(button, zoom);
     }
-}
-
-void PreviewController::BindZoom(QWidget* window)
-{
     OnSignal(m_parts.User, m_zooms, &QButtonGroup::idClicked, this, [this](int zoom) { SetZoom(zoom); });
     const auto onKey = [&](const QKeySequence& key, int step) {
         OnSignal(m_parts.User, new QShortcut(key, window), &QShortcut::activated, this,
@@ -100,7 +94,7 @@ void PreviewController::SetZoom(int zoom)
     m_zooms->button(preview.Zoom())->setChecked(true);
     preview.resize(preview.sizeHint());
     m_area->updateGeometry();
-    m_zoomed();
+    Q_EMIT Zoomed();
 }
 
 std::array<PreviewController::PlacementRow, 4> PreviewController::Placements() const
@@ -118,7 +112,7 @@ std::array<PreviewController::PlacementRow, 4> PreviewController::Placements() c
 void PreviewController::Place(const PlacementRow& row, const char* step, const std::function<void()>& work)
 {
     m_parts.Document.Edit(QString::fromLatin1(step), ScopeOf(row.Kind), [&](CardSet&) { work(); });
-    m_frameSized(row.Kind);
+    Q_EMIT FrameSized(row.Kind);
     m_parts.Preview.update();
 }
 

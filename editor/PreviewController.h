@@ -15,11 +15,10 @@ enum class FontClicks;
 
 /// What the user does with the preview: places pictures, sizes frames, changes fonts, zooms.
 class PreviewController final : public QObject {
+    Q_OBJECT
+
 public:
-    /// Calls frameSized after a gesture that may have changed the frame of the kind, and zoomed after the
-    /// zoom.
-    PreviewController(EditorParts& parts, std::function<void(CardKind)> frameSized,
-                      std::function<void()> zoomed, QWidget* window);
+    PreviewController(EditorParts& parts, QWidget* window);
 
     /// Scrolls the preview where the screen is small.
     [[nodiscard]] QScrollArea* Area() const { return m_area; }
@@ -27,6 +26,11 @@ public:
     [[nodiscard]] QList<QAbstractButton*> ZoomButtons() const;
 
     void SetZoom(int zoom);
+
+Q_SIGNALS:
+    /// A gesture may have changed the frame of the current record.
+    void FrameSized(deckforge::CardKind kind);
+    void Zoomed();
 
 private:
     /// A picture that the user places.
@@ -37,8 +41,7 @@ private:
         CardKind Kind;
     };
 
-    void MakeZoomButtons(QWidget* window);
-    void BindZoom(QWidget* window);
+    void BuildZoom(QWidget* window);
     [[nodiscard]] std::array<PlacementRow, 4> Placements() const;
     /// Edits the record, as a step of that name, and shows what has changed.
     void Place(const PlacementRow& row, const char* step, const std::function<void()>& work);
@@ -48,8 +51,6 @@ private:
     void ShowTip(const Box* box, QPoint globalPoint);
 
     EditorParts& m_parts;
-    std::function<void(CardKind)> m_frameSized;
-    std::function<void()> m_zoomed;
     QScrollArea* m_area;
     QButtonGroup* m_zooms;
     QPoint m_dragStart; ///< on the handle that is dragged

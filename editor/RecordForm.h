@@ -26,8 +26,7 @@ inline void DoNothing() {}
 struct TextOptions {
     Box* Preview = nullptr; ///< its caption shows the text
     Handler Changed = DoNothing;
-    bool QuietOnFill =
-        false; ///< filling the control neither shows the text on the preview nor runs the handler
+    bool QuietOnFill = false; ///< neither of them when the control is filled
 };
 
 struct PictureControls {
@@ -74,14 +73,32 @@ protected:
     // Each connects a control with a field of the record. Called by the constructor of the form.
     void AddText(QWidget* control, QString Record::*field, TextOptions options = {});
     void AddCheck(QCheckBox* control, bool Record::*field, Handler changed = DoNothing);
-    void AddCount(QSpinBox* control, int16 Record::*field);
+    void AddCount(QSpinBox* control, int16 Record::*field)
+    {
+        m_counts.emplace_back(control, field);
+        On(control, &QSpinBox::valueChanged, [this, control, field](int value) {
+            if (!m_isFilling)
+                Edit(control, field, static_cast<int16>(value));
+        });
+    }
     void AddPicture(PictureControls controls, QString Record::*field, PictureOptions options);
     void AddColour(ColourControls controls, ColourField field, ColourOptions options);
 
     /// Connects an editable list whose entries are no texts of a record: `chosen` runs for an entry, `typed`
     /// for text.
     template <class Chosen, class Typed>
-    void OnEntry(QComboBox* list, Chosen chosen, Typed typed);
+    void OnEntry(QComboBox* list, Chosen chosen, Typed typed)
+    {
+        On(list, &QComboBox::activated, chosen);
+        On(list->lineEdit(), &QLineEdit::textEdited, [list, typed] {
+            SelectTyped(*list);
+            typed();
+        });
+        On(list->lineEdit(), &QLineEdit::returnPressed, [list, chosen] {
+            if (ShowsEntry(*list))
+                chosen();
+        });
+    }
 
     /// Shows the current record in the controls. The record does not change, even where a control truncates
     /// its value.
@@ -102,9 +119,25 @@ protected:
     }
 
     /// Asks for a picture file. With a button the dialog starts in the folder of the button's last file.
-    [[nodiscard]] std::optional<QString> AskPicture(const char* title, const QAbstractButton* button);
+    [[nodiscard]] std::optional<QString> AskPicture(const char* title, const QAbstractButton* button)
+    {
+        FileDialogRequest request = PictureDialog(title);
+        if (button)
+            request.Folder = m_folders.value(button);
+        return m_parts.User.AskOpenFile(request);
+    }
     /// Takes a picture dropped on a box; false if the box belongs to no picture of the form.
-    bool TakePictureOn(const Box& box, const QString& path);
+    bool TakePictureOn(const Box& box, const QString& path)
+    {
+        for (const PictureRow& row : m_pictures) {
+            const PictureOptions& options = row.Options;
+            if (&box == options.Target || &box == options.Frame || &box == options.DropArea) {
+                TakePicture(row, path);
+                return true;
+            }
+        }
+        return false;
+    }
 
     template <class Sender, class Signal, class Work>
     void On(Sender* sender, Signal signal, Work work)
@@ -139,7 +172,15 @@ private:
     };
 
     void TakePicture(const PictureRow& row, const QString& path);
-    void ClearPicture(const PictureRow& row);
+    void ClearPicture(const PictureRow& row)
+    {
+        Edit(row.Controls.PathBox, row.Field, QString());
+        if (row.Options.Target || row.Options.Show)
+            ShowOnTarget(row.Options, Picture());
+        row.Controls.PathBox->clear(); // the tool tip stays
+        row.Options.Cleared();
+        m_parts.Preview.update();
+    }
     void ShowOnTarget(const PictureOptions& options, const std::optional<Picture>& picture);
 
     Fields<QWidget, QString> m_texts;
@@ -184,16 +225,6 @@ void RecordForm<Record>::AddCheck(QCheckBox* control, bool Record::*field, Handl
 }
 
 template <class Record>
-void RecordForm<Record>::AddCount(QSpinBox* control, int16 Record::*field)
-{
-    m_counts.emplace_back(control, field);
-    On(control, &QSpinBox::valueChanged, [this, control, field](int value) {
-        if (!m_isFilling)
-            Edit(control, field, static_cast<int16>(value));
-    });
-}
-
-template <class Record>
 void RecordForm<Record>::AddPicture(PictureControls controls, QString Record::*field, PictureOptions options)
 {
     const PictureRow& row = m_pictures.emplace_back(PictureRow{controls, field, std::move(options)});
@@ -224,21 +255,6 @@ void RecordForm<Record>::AddColour(ColourControls controls, ColourField field, C
 }
 
 template <class Record>
-template <class Chosen, class Typed>
-void RecordForm<Record>::OnEntry(QComboBox* list, Chosen chosen, Typed typed)
-{
-    On(list, &QComboBox::activated, chosen);
-    On(list->lineEdit(), &QLineEdit::textEdited, [list, typed] {
-        SelectTyped(*list);
-        typed();
-    });
-    On(list->lineEdit(), &QLineEdit::returnPressed, [list, chosen] {
-        if (ShowsEntry(*list))
-            chosen();
-    });
-}
-
-template <class Record>
 void RecordForm<Record>::FillFields()
 {
     const QScopedValueRollback filling(m_isFilling, true);
@@ -256,28 +272,6 @@ void RecordForm<Record>::FillFields()
 }
 
 template <class Record>
-std::optional<QString> RecordForm<Record>::AskPicture(const char* title, const QAbstractButton* button)
-{
-    FileDialogRequest request = PictureDialog(title);
-    if (button)
-        request.Folder = m_folders.value(button);
-    return m_parts.User.AskOpenFile(request);
-}
-
-template <class Record>
-bool RecordForm<Record>::TakePictureOn(const Box& box, const QString& path)
-{
-    for (const PictureRow& row : m_pictures) {
-        const PictureOptions& options = row.Options;
-        if (&box == options.Target || &box == options.Frame || &box == options.DropArea) {
-            TakePicture(row, path);
-            return true;
-        }
-    }
-    return false;
-}
-
-template <class Record>
 void RecordForm<Record>::TakePicture(const PictureRow& row, const QString& path)
 {
     Edit(row.Controls.PathBox, row.Field, path);
@@ -290,17 +284,6 @@ void RecordForm<Record>::TakePicture(const PictureRow& row, const QString& path)
     }
     ShowPath(*row.Controls.PathBox, path);
     row.Options.Changed();
-}
-
-template <class Record>
-void RecordForm<Record>::ClearPicture(const PictureRow& row)
-{
-    Edit(row.Controls.PathBox, row.Field, QString());
-    if (row.Options.Target || row.Options.Show)
-        ShowOnTarget(row.Options, Picture());
-    row.Controls.PathBox->clear(); // the tool tip stays
-    row.Options.Cleared();
-    m_parts.Preview.update();
 }
 
 /// Without a picture, one that could not be loaded, the old one stays. The offsets stay in the record and are

@@ -1,219 +1,222 @@
-#include "editor/StandardPage.h"
+#include "editor/Pages.h"
 
 #include "compose/PicturePlacement.h"
 #include "compose/StandardCard.h"
 #include "core/CardVocabulary.h"
 #include "core/Vocabulary.h"
+#include "editor/RecordPage.h"
+#include "ui_fraCard.h"
 
 #include <QScopeGuard>
 
 namespace deckforge {
 
-StandardPage::StandardPage(EditorParts& parts, QWidget* parent)
-    : RecordPage(parts, parent), m_boxes(parts.Works.Templates.Standard)
-{
-    m_form.setupUi(m_widget);
-    FillList(*m_form.cboNumber, CardNumbers());
-    AddSlider(m_form.hsbCard, m_form.lblCurrentCard, m_form.lblCardTitle);
-    AddButtons(m_form.cmdCardAdd, m_form.cmdCardDelete, m_form.txtTitle, m_form.cmdSort);
-    // Before the fields, which take the completed text.
-    On(m_form.txtBold, &QLineEdit::textChanged, [this] { CompleteBoldText(); });
-    AddFields();
-    OnEntry(
-        m_form.cboType, [this] { TypeChosen(); }, [this] { TypeTyped(); });
-    On(m_form.cboType->lineEdit(), &QLineEdit::editingFinished, [this] { m_numberBeforeType.reset(); });
-    On(m_form.cboCardBack, &QComboBox::activated, [this] { BackChosen(); });
-}
+namespace {
 
-void StandardPage::AddFields()
-{
-    const auto showArtist = [this] { ShowArtist(); };
-    AddText(m_form.txtTitle, &Card::Title, {.Preview = &m_boxes.lblTitle});
-    AddText(m_form.cboNumber, &Card::Number, {.Preview = &m_boxes.lblNumber});
-    AddText(m_form.txtBold, &Card::BoldText,
-            {.Preview = &m_boxes.lblBold, .Changed = [this] { PlaceBoldText(m_boxes); }});
-    AddText(m_form.txtInfo, &Card::Info, {.Preview = &m_boxes.lblInformation});
-    AddText(m_form.txtArtist, &Card::Artist, {.Changed = showArtist, .QuietOnFill = true});
-    AddCheck(m_form.chkOneLine, &Card::OneLine, [this] { ShowCurrent(); });
-    AddFrame(m_form.chkShowPicture, m_form.chkFrame, m_boxes, m_boxes.picFrame);
-    AddCheck(m_form.chkResize, &Card::Resize, [this] { ResizeClicked(); });
-    AddCount(m_form.udCopy, &Card::Copies);
-    AddPicture({m_form.cmdGetPic, m_form.cmdDelPic, m_form.txtPicture}, &Card::Picture,
-               {.Target = &m_boxes.picImage, .Frame = &m_boxes.picFrame, .Changed = [this] {
-                    m_parts.Preview.FocusOn(m_boxes.picImage);
-                }});
-    AddPicture({m_form.cmdBackPic, m_form.cmdDelBackPic, m_form.txtBackground}, &Card::Background,
-               {.Target = &m_boxes.picCard, .Changed = showArtist, .Cleared = showArtist});
-    AddColour({m_form.cmdColour, m_form.picColour, "Choose card background colour"},
-              [](Card& card) -> Colour& { return card.Color; },
-              {.Preview = &m_boxes.picCard, .Changed = showArtist});
-}
-
-void StandardPage::SetShown(bool isShown)
-{
-    m_boxes.picCard.Visible = isShown;
-    m_boxes.picBack.Visible = isShown; // also where the set goes without backs, until it is shown
-}
-
-void StandardPage::TakeSet()
-{
-    RecordPage::TakeSet();
-    FillLists();
-}
-
-void StandardPage::Show(int16 index)
-{
-    // A failure was reported in a box. The controls are filled all the same: what is typed into them goes to
-    // this record.
-    static_cast<void>(ShowCard(m_parts.Works, index));
-    Fill();
-}
-
-void StandardPage::FillOthers()
-{
-    m_numberBeforeType.reset();
-    const Card& card = Current();
-    ShowEntry(*m_form.cboType, card.Type + card.SubType);
-    m_form.cboCardBack->setCurrentIndex(card.CardBack - 1);
-}
-
-/// "Sword (OBJECT- Magic)".
-QString StandardPage::DraggedText(const Card& card) const
-{
-    const QString type = (card.Type + QLatin1Char(' ') + card.SubType).trimmed();
-    return QStringLiteral("%1 (%2)").arg(card.Title, type);
-}
-
-void StandardPage::ShowFrameSize()
-{
-    m_form.lblPicDim->setText(FrameSizeText(m_boxes.picFrame));
-}
-
-bool StandardPage::TakeDrop(const Box& box, const QString& path)
-{
-    if (&box != &m_boxes.picBack)
-        return RecordPage::TakeDrop(box, path);
-    AddUserBack(path);
-    return true;
-}
-
-void StandardPage::FillLists()
-{
-    FillBackList();
-    const CardSet& set = m_parts.Document.Set();
-    QStringList entries;
-    for (int row = 1; row <= set.CardTypes.Count(); ++row)
-        entries += TypeListEntry(set.CardTypes[row]);
-    FillList(*m_form.cboType, entries);
-    m_form.cboType->setCurrentIndex(1);
-}
-
-void StandardPage::FillBackList()
-{
-    const CardSet& set = m_parts.Document.Set();
-    QStringList entries;
-    for (int row = 1; row <= set.CardBacks.Count(); ++row)
-        entries += set.CardBacks[row].Name;
-    FillList(*m_form.cboCardBack, entries << UserDefinedBack());
-    m_form.cboCardBack->setCurrentIndex(set.LastCardBack - 1);
-}
-
-void StandardPage::ShowArtist()
-{
-    DrawArtistCredit(m_parts.Works, Current().Artist);
-}
-
-std::vector<QWidget*> StandardPage::BoxesToReplace() const
-{
-    return {m_form.txtTitle, m_form.cboType, m_form.cboNumber, m_form.txtBold};
-}
-
-void StandardPage::StartTyping()
-{
-    m_form.txtTitle->setFocus();
-    m_form.txtTitle->selectAll();
-}
-
-/// The first letter of an attribute stands for its name; typing on replaces the rest of it.
-void StandardPage::CompleteBoldText()
-{
-    if (m_isFilling) // a card that has the letter alone keeps it
-        return;
-    QLineEdit& txtBold = *m_form.txtBold;
-    const auto complete = [&](const QString& word, int selected) {
-        txtBold.setText(word);
-        txtBold.setSelection(1, selected);
-    };
-    const QString text = txtBold.text();
-    if (text == QLatin1String("S"))
-        complete(QStringLiteral("STRENGTH "), 8);
-    else if (text == QLatin1String("C"))
-        complete(QStringLiteral("CRAFT "), 5);
-}
-
-void StandardPage::ResizeClicked()
-{
-    if (Current().Resize)
-        Edit(m_form.chkResize, [this](Card&) { CentrePicture(m_parts.Works); });
-    ShowCurrent();
-}
-
-void StandardPage::TypeChosen()
-{
-    const auto row = static_cast<int16>(m_form.cboType->currentIndex() + 1);
-    Edit(m_form.cboType, [&](Card& card) { ChooseCardType(m_parts.Document.Set(), card, row); });
-    ShowType();
-}
-
-/// A type of the card's own leaves the number alone, also where the name of another type was typed on the
-/// way.
-void StandardPage::TypeTyped()
-{
-    if (!m_numberBeforeType)
-        m_numberBeforeType = Current().Number;
-    Edit(m_form.cboType, [this](Card& card) {
-        if (!TypeCardType(m_parts.Document.Set(), card, m_form.cboType->currentText()))
-            card.Number = *m_numberBeforeType;
-    });
-    ShowType();
-}
-
-/// The parts of the type as they are, also on a card that has its type on one line; it joins them when it is
-/// shown again.
-void StandardPage::ShowType()
-{
-    const Card& card = Current();
-    ShowTypeNames(m_boxes, card);
-    m_boxes.lblNumber.Caption = card.Number;
-    SetTextOf(*m_form.cboNumber, card.Number);
-    m_parts.Preview.update();
-}
-
-void StandardPage::BackChosen()
-{
-    const QComboBox& list = *m_form.cboCardBack;
-    if (list.currentText() == UserDefinedBack()) {
-        if (const auto path = AskPicture("Choose picture", nullptr))
-            AddUserBack(*path);
-        return;
-    }
-    const auto row = static_cast<int16>(list.currentIndex() + 1);
-    Edit(&list, &Card::CardBack, row);
-    if (const auto picture = PictureIfAny([&] { return PictureOfBack(m_parts.Works, row); }))
-        m_boxes.picBack.Surface->SetPicture(*picture);
-    m_parts.Preview.update();
-}
-
-/// The new row is in the table of the set, where all cards can use it, and is chosen at once.
-void StandardPage::AddUserBack(const QString& path)
-{
-    QComboBox& list = *m_form.cboCardBack;
+/// The tab of the standard cards.
+class StandardPage final : public RecordPage<Card> {
+public:
+    StandardPage(EditorParts& parts, QWidget* parent)
+        : RecordPage(parts, parent), m_boxes(parts.Works.Templates.Standard)
     {
-        const auto fill = qScopeGuard([this] { FillBackList(); }); // a failure leaves a row without a name
-        m_parts.Document.Edit(list.accessibleName(), [&](CardSet& set) { AddCardBack(set, path); });
+        m_form.setupUi(m_widget);
+        FillList(*m_form.cboNumber, CardNumbers());
+        AddSlider(m_form.hsbCard, m_form.lblCurrentCard, m_form.lblCardTitle);
+        AddButtons(m_form.cmdCardAdd, m_form.cmdCardDelete, m_form.txtTitle, m_form.cmdSort);
+        // Before the fields, which take the completed text.
+        On(m_form.txtBold, &QLineEdit::textChanged, [this] { CompleteBoldText(); });
+        AddFields();
+        OnEntry(
+            m_form.cboType, [this] { TypeChosen(); }, [this] { TypeTyped(); });
+        On(m_form.cboType->lineEdit(), &QLineEdit::editingFinished, [this] { m_numberBeforeType.reset(); });
+        On(m_form.cboCardBack, &QComboBox::activated, [this] { BackChosen(); });
     }
-    list.setCurrentIndex(list.count() - 2);
-    BackChosen();
+
+    void SetShown(bool isShown) override
+    {
+        m_boxes.picCard.Visible = isShown;
+        m_boxes.picBack.Visible = isShown; // also where the set goes without backs, until it is shown
+    }
+
+    void TakeSet() override
+    {
+        RecordPage::TakeSet();
+        FillBackList();
+        const CardSet& set = m_parts.Document.Set();
+        QStringList entries;
+        for (int row = 1; row <= set.CardTypes.Count(); ++row)
+            entries += TypeListEntry(set.CardTypes[row]);
+        FillList(*m_form.cboType, entries);
+        m_form.cboType->setCurrentIndex(1);
+    }
+
+    void Show(int16 index) override
+    {
+        // A failure was reported in a box. The controls are filled all the same: what is typed into them goes
+        // to this record.
+        static_cast<void>(ShowCard(m_parts.Works, index));
+        Fill();
+    }
+
+    void ShowFrameSize() override { m_form.lblPicDim->setText(FrameSizeText(m_boxes.picFrame)); }
+
+    bool TakeDrop(const Box& box, const QString& path) override
+    {
+        if (&box != &m_boxes.picBack)
+            return RecordPage::TakeDrop(box, path);
+        AddUserBack(path);
+        return true;
+    }
+
+    [[nodiscard]] std::vector<QWidget*> BoxesToReplace() const override
+    {
+        return {m_form.txtTitle, m_form.cboType, m_form.cboNumber, m_form.txtBold};
+    }
+
+private:
+    void AddFields()
+    {
+        // The credit is drawn on the background.
+        const auto showArtist = [this] { DrawArtistCredit(m_parts.Works, Current().Artist); };
+        AddText(m_form.txtTitle, &Card::Title, {.Preview = &m_boxes.lblTitle});
+        AddText(m_form.cboNumber, &Card::Number, {.Preview = &m_boxes.lblNumber});
+        AddText(m_form.txtBold, &Card::BoldText,
+                {.Preview = &m_boxes.lblBold, .Changed = [this] { PlaceBoldText(m_boxes); }});
+        AddText(m_form.txtInfo, &Card::Info, {.Preview = &m_boxes.lblInformation});
+        AddText(m_form.txtArtist, &Card::Artist, {.Changed = showArtist, .QuietOnFill = true});
+        AddCheck(m_form.chkOneLine, &Card::OneLine, [this] { ShowCurrent(); });
+        AddFrame(m_form.chkShowPicture, m_form.chkFrame, m_boxes, m_boxes.picFrame);
+        AddCheck(m_form.chkResize, &Card::Resize, [this] { ResizeClicked(); });
+        AddCount(m_form.udCopy, &Card::Copies);
+        AddPicture({m_form.cmdGetPic, m_form.cmdDelPic, m_form.txtPicture}, &Card::Picture,
+                   {.Target = &m_boxes.picImage, .Frame = &m_boxes.picFrame, .Changed = [this] {
+                        m_parts.Preview.FocusOn(m_boxes.picImage);
+                    }});
+        AddPicture({m_form.cmdBackPic, m_form.cmdDelBackPic, m_form.txtBackground}, &Card::Background,
+                   {.Target = &m_boxes.picCard, .Changed = showArtist, .Cleared = showArtist});
+        AddColour({m_form.cmdColour, m_form.picColour, "Choose card background colour"},
+                  [](Card& card) -> Colour& { return card.Color; },
+                  {.Preview = &m_boxes.picCard, .Changed = showArtist});
+    }
+
+    void FillOthers() override
+    {
+        m_numberBeforeType.reset();
+        const Card& card = Current();
+        ShowEntry(*m_form.cboType, card.Type + card.SubType);
+        m_form.cboCardBack->setCurrentIndex(card.CardBack - 1);
+    }
+
+    /// "Sword (OBJECT- Magic)".
+    [[nodiscard]] QString DraggedText(const Card& card) const override
+    {
+        const QString type = (card.Type + QLatin1Char(' ') + card.SubType).trimmed();
+        return QStringLiteral("%1 (%2)").arg(card.Title, type);
+    }
+
+    void FillBackList()
+    {
+        const CardSet& set = m_parts.Document.Set();
+        QStringList entries;
+        for (int row = 1; row <= set.CardBacks.Count(); ++row)
+            entries += set.CardBacks[row].Name;
+        FillList(*m_form.cboCardBack, entries << UserDefinedBack());
+        m_form.cboCardBack->setCurrentIndex(set.LastCardBack - 1);
+    }
+
+    /// The first letter of an attribute stands for its name; typing on replaces the rest of it.
+    void CompleteBoldText()
+    {
+        if (m_isFilling) // a card that has the letter alone keeps it
+            return;
+        QLineEdit& txtBold = *m_form.txtBold;
+        const auto complete = [&](const QString& word, int selected) {
+            txtBold.setText(word);
+            txtBold.setSelection(1, selected);
+        };
+        const QString text = txtBold.text();
+        if (text == QLatin1String("S"))
+            complete(QStringLiteral("STRENGTH "), 8);
+        else if (text == QLatin1String("C"))
+            complete(QStringLiteral("CRAFT "), 5);
+    }
+
+    void ResizeClicked()
+    {
+        if (Current().Resize)
+            Edit(m_form.chkResize, [this](Card&) { CentrePicture(m_parts.Works); });
+        ShowCurrent();
+    }
+
+    void TypeChosen()
+    {
+        const auto row = static_cast<int16>(m_form.cboType->currentIndex() + 1);
+        Edit(m_form.cboType, [&](Card& card) { ChooseCardType(m_parts.Document.Set(), card, row); });
+        ShowType();
+    }
+
+    /// A type of the card's own leaves the number alone, also where the name of another type was typed on the
+    /// way.
+    void TypeTyped()
+    {
+        if (!m_numberBeforeType)
+            m_numberBeforeType = Current().Number;
+        Edit(m_form.cboType, [this](Card& card) {
+            if (!TypeCardType(m_parts.Document.Set(), card, m_form.cboType->currentText()))
+                card.Number = *m_numberBeforeType;
+        });
+        ShowType();
+    }
+
+    /// The parts of the type as they are, also on a card that has its type on one line; it joins them when it
+    /// is shown again.
+    void ShowType()
+    {
+        const Card& card = Current();
+        ShowTypeNames(m_boxes, card);
+        m_boxes.lblNumber.Caption = card.Number;
+        SetTextOf(*m_form.cboNumber, card.Number);
+        m_parts.Preview.update();
+    }
+
+    void BackChosen()
+    {
+        const QComboBox& list = *m_form.cboCardBack;
+        if (list.currentText() == UserDefinedBack()) {
+            if (const auto path = AskPicture("Choose picture", nullptr))
+                AddUserBack(*path);
+            return;
+        }
+        const auto row = static_cast<int16>(list.currentIndex() + 1);
+        Edit(&list, &Card::CardBack, row);
+        if (const auto picture = PictureIfAny([&] { return PictureOfBack(m_parts.Works, row); }))
+            m_boxes.picBack.Surface->SetPicture(*picture);
+        m_parts.Preview.update();
+    }
+
+    /// The new row is in the table of the set, where all cards can use it, and is chosen at once.
+    void AddUserBack(const QString& path)
+    {
+        QComboBox& list = *m_form.cboCardBack;
+        {
+            // Also on a failure, which leaves a row without a name.
+            const auto fill = qScopeGuard([this] { FillBackList(); });
+            m_parts.Document.Edit(list.accessibleName(), [&](CardSet& set) { AddCardBack(set, path); });
+        }
+        list.setCurrentIndex(list.count() - 2);
+        BackChosen();
+    }
+
+    CardTemplate& m_boxes;
+    Ui::fraCard m_form;
+    std::optional<QString> m_numberBeforeType; ///< of the card whose type is being typed
+};
+
+} // namespace
+
+std::unique_ptr<Page> MakeStandardPage(EditorParts& parts, QWidget* parent)
+{
+    return std::make_unique<StandardPage>(parts, parent);
 }
 
 } // namespace deckforge

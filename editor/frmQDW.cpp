@@ -2,17 +2,15 @@
 
 #include "compose/FontScheme.h"
 #include "compose/SetView.h"
+#include "compose/StandardCard.h"
 #include "dialogs/FocusSelection.h"
 #include "dialogs/PlainTexts.h"
 #include "dialogs/TabKeys.h"
 #include "dialogs/WheelGuard.h"
-#include "editor/BackPage.h"
-#include "editor/CharacterPage.h"
 #include "editor/Commands.h"
-#include "editor/LargePage.h"
+#include "editor/Pages.h"
 #include "editor/PreviewController.h"
 #include "editor/SetInfoPanel.h"
-#include "editor/StandardPage.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -51,7 +49,7 @@ frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
         ShowNewSet();
     });
     m_document.Keep();
-    m_standard->StartTyping();
+    PageOf(CardKind::Standard).StartTyping();
     m_controller->SetZoom(m_preview->Zoom());
     if (sizeHint().width() > LargestSize().width())
         m_controller->SetZoom(1);
@@ -70,17 +68,14 @@ void frmQDW::MakeParts()
     tbCard->setDrawBase(false); // the pane below has a frame
     for (const char* caption : {"Card", "Large Card", "Character", "Card Back"})
         tbCard->addTab(QString::fromLatin1(caption));
-    auto standard = std::make_unique<StandardPage>(m_parts, this);
-    m_standard = standard.get();
-    m_pages = {std::move(standard), std::make_unique<LargePage>(m_parts, this),
-               std::make_unique<CharacterPage>(m_parts, this), std::make_unique<BackPage>(m_parts, this)};
+    m_pages = {MakeStandardPage(m_parts, this), MakeLargePage(m_parts, this),
+               MakeCharacterPage(m_parts, this), MakeBackPage(m_parts, this)};
     m_info = std::make_unique<SetInfoPanel>(m_parts, this);
     for (const auto& page : m_pages)
         m_forms->addWidget(page->Form());
     m_preview->setObjectName(QStringLiteral("preview"));
-    m_controller = new PreviewController(
-        m_parts, [this](CardKind kind) { PageOf(kind).ShowFrameSize(); }, [this] { SizeToFit(); }, this);
-    new Commands(m_parts, *this);
+    m_controller = new PreviewController(m_parts, this);
+    AddCommands(m_parts, *this);
     setTabOrder(tbCard, m_preview); // and on to the forms, as they lie from left to right
     setTabOrder(m_preview, m_forms);
 }
@@ -141,6 +136,9 @@ void frmQDW::BindDocument()
     connect(&m_document, &SetDocument::UnsavableBecause, this, &frmQDW::ShowHint);
     OnSignal(m_parts.User, &m_document, &SetDocument::Restored, this,
              [this](const std::optional<CardKind>& kind) { ShowRestored(kind); });
+    connect(m_controller, &PreviewController::FrameSized, this,
+            [this](CardKind kind) { PageOf(kind).ShowFrameSize(); });
+    connect(m_controller, &PreviewController::Zoomed, this, &frmQDW::SizeToFit);
     connect(qApp, &QApplication::focusChanged, &m_document, &SetDocument::EndVisit);
 }
 
@@ -222,14 +220,16 @@ void frmQDW::ShowProgress(int done, int total)
 
 void frmQDW::ShowTables()
 {
-    m_standard->FillLists();
-    m_standard->Show(m_document.Set().Cards.Current);
+    Page& standard = PageOf(CardKind::Standard);
+    standard.TakeSet();
+    standard.Show(m_document.Set().Cards.Current);
 }
 
 void frmQDW::ShowFonts()
 {
-    SetFont(m_works.Templates, m_document.Set().Header);
-    m_standard->ShowArtist();
+    const CardSet& set = m_document.Set();
+    SetFont(m_works.Templates, set.Header);
+    DrawArtistCredit(m_works, set.Cards[set.Cards.Current].Artist);
     m_preview->update();
 }
 

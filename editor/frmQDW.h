@@ -18,7 +18,6 @@ namespace deckforge {
 class Page;
 class PreviewController;
 class SetInfoPanel;
-class StandardPage;
 
 /// The window of the program: a shell around the document, the preview, a page for each tab, the settings of
 /// the set, and the commands. A control has the name of what it stands for, as an object name too.
@@ -107,7 +106,6 @@ private:
     SetDocument m_document;
     CardPreview* m_preview;
     EditorParts m_parts;
-    StandardPage* m_standard = nullptr;
     std::array<std::unique_ptr<Page>, 4> m_pages; ///< in the order of CardKind
     std::unique_ptr<SetInfoPanel> m_info;
     PreviewController* m_controller = nullptr;

@@ -2,7 +2,6 @@
 #include "compose/SetView.h"
 #include "editor/Page.h"
 #include "editor/SetInfoPanel.h"
-#include "editor/StandardPage.h"
 #include "editor/frmQDW.h"
 #include "platform/Paths.h"
 
@@ -64,10 +63,11 @@ void frmQDW::NewSet()
 
 void frmQDW::ShowNewSet()
 {
-    m_standard->TakeSet();
+    Page& standard = PageOf(CardKind::Standard); // the selected tab may be another
+    standard.TakeSet();
     m_info->Fill();
     ShowKind(CardKind::Standard);
-    m_standard->Fill();
+    standard.Fill();
 }
 
 void frmQDW::OpenSet()
@@ -95,7 +95,7 @@ void frmQDW::ShowOpened()
         page->TakeSet();
     ShowOpenedSet(m_works);
     m_info->Fill();
-    m_standard->Fill();
+    SelectedPage().Fill();
 }
 
 void frmQDW::SaveSet()
