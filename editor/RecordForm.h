@@ -70,9 +70,39 @@ public:
 protected:
     using ColourField = Colour& (*)(Record&);
 
-    // Each connects a control with a field of the record. Called by the constructor of the form.
-    void AddText(QWidget* control, QString Record::*field, TextOptions options = {});
-    void AddCheck(QCheckBox* control, bool Record::*field, Handler changed = DoNothing);
+    // Each connects controls with a field of the record. Called by the constructor of the form.
+
+    void AddText(QWidget* control, QString Record::*field, TextOptions options = {})
+    {
+        m_texts.emplace_back(control, field);
+        const auto changed = [this, control, field, options = std::move(options)] {
+            if (m_isFilling && options.QuietOnFill)
+                return;
+            if (!m_isFilling)
+                Edit(control, field, TextOf(*control));
+            if (options.Preview)
+                options.Preview->Caption = Current().*field;
+            options.Changed();
+            m_parts.Preview.update();
+        };
+        if (QLineEdit* const line = LineEditOf(control)) {
+            line->setMaxLength(std::numeric_limits<int>::max()); // the field has no limit either
+            On(line, &QLineEdit::textChanged, changed);
+        } else {
+            On(static_cast<QPlainTextEdit*>(control), &QPlainTextEdit::textChanged, changed);
+        }
+    }
+
+    void AddCheck(QCheckBox* control, bool Record::*field, Handler changed = DoNothing)
+    {
+        m_checks.emplace_back(control, field);
+        On(control, &QCheckBox::clicked, [this, control, field, changed = std::move(changed)] {
+            Edit(control, field, control->isChecked());
+            changed();
+            m_parts.Preview.update();
+        });
+    }
+
     void AddCount(QSpinBox* control, int16 Record::*field)
     {
         m_counts.emplace_back(control, field);
@@ -81,8 +111,35 @@ protected:
                 Edit(control, field, static_cast<int16>(value));
         });
     }
-    void AddPicture(PictureControls controls, QString Record::*field, PictureOptions options);
-    void AddColour(ColourControls controls, ColourField field, ColourOptions options);
+
+    void AddPicture(PictureControls controls, QString Record::*field, PictureOptions options)
+    {
+        const PictureRow& row = m_pictures.emplace_back(PictureRow{controls, field, std::move(options)});
+        On(controls.Choose, &QAbstractButton::clicked, [this, &row] {
+            if (const auto path = AskPicture(row.Options.Title, row.Controls.Choose))
+                TakePicture(row, *path);
+        });
+        On(controls.Clear, &QAbstractButton::clicked, [this, &row] { ClearPicture(row); });
+    }
+
+    void AddColour(ColourControls controls, ColourField field, ColourOptions options)
+    {
+        m_colours.emplace_back(controls.Swatch, field);
+        const auto choose = [this, controls, field, options = std::move(options)] {
+            Record record = Current();
+            if (const auto colour =
+                    m_parts.User.AskColour(QString::fromLatin1(controls.Title), field(record))) {
+                Edit(controls.Swatch, [&](Record& changed) { field(changed) = *colour; });
+                controls.Swatch->SetColour(QColor(ToRgb(*colour)));
+                if (options.Preview)
+                    options.Preview->Surface->SetBackColor(*colour);
+            }
+            options.Changed();
+            m_parts.Preview.update();
+        };
+        On(controls.Choose, &QAbstractButton::clicked, choose);
+        On(controls.Swatch, &QAbstractButton::clicked, choose);
+    }
 
     /// Connects an editable list whose entries are no texts of a record: `chosen` runs for an entry, `typed`
     /// for text.
@@ -102,7 +159,21 @@ protected:
 
     /// Shows the current record in the controls. The record does not change, even where a control truncates
     /// its value.
-    void FillFields();
+    void FillFields()
+    {
+        const QScopedValueRollback filling(m_isFilling, true);
+        Record record = Current(); // a copy, since ColourField takes no const record
+        for (const auto& [control, field] : m_texts)
+            SetTextOf(*control, record.*field);
+        for (const auto& [control, field] : m_checks)
+            control->setChecked(record.*field);
+        for (const auto& [control, field] : m_counts)
+            control->setValue(record.*field);
+        for (const PictureRow& row : m_pictures)
+            ShowPath(*row.Controls.PathBox, record.*row.Field);
+        for (const auto& [swatch, field] : m_colours)
+            swatch->SetColour(QColor(ToRgb(field(record))));
+    }
 
     [[nodiscard]] const Record& Current() const { return RecordIn(m_parts.Document.Set()); }
 
@@ -112,6 +183,7 @@ protected:
     {
         m_parts.Document.Edit(control->accessibleName(), Scope, [&](CardSet& set) { change(RecordIn(set)); });
     }
+
     template <class Value>
     void Edit(const QWidget* control, Value Record::*field, const Value& value)
     {
@@ -126,6 +198,7 @@ protected:
             request.Folder = m_folders.value(button);
         return m_parts.User.AskOpenFile(request);
     }
+
     /// Takes a picture dropped on a box; false if the box belongs to no picture of the form.
     bool TakePictureOn(const Box& box, const QString& path)
     {
@@ -171,7 +244,20 @@ private:
         PictureOptions Options;
     };
 
-    void TakePicture(const PictureRow& row, const QString& path);
+    void TakePicture(const PictureRow& row, const QString& path)
+    {
+        Edit(row.Controls.PathBox, row.Field, path);
+        m_folders.insert(row.Controls.Choose, FolderPart(path));
+        if (row.Options.Target || row.Options.Show) {
+            const auto picture = LoadedPicture(m_parts, path);
+            ShowOnTarget(row.Options, picture);
+            if (!picture)
+                return;
+        }
+        ShowPath(*row.Controls.PathBox, path);
+        row.Options.Changed();
+    }
+
     void ClearPicture(const PictureRow& row)
     {
         Edit(row.Controls.PathBox, row.Field, QString());
@@ -181,7 +267,23 @@ private:
         row.Options.Cleared();
         m_parts.Preview.update();
     }
-    void ShowOnTarget(const PictureOptions& options, const std::optional<Picture>& picture);
+
+    /// Without a picture, one that could not be loaded, the old one stays. The offsets stay in the record and
+    /// are used again when the picture is placed.
+    void ShowOnTarget(const PictureOptions& options, const std::optional<Picture>& picture)
+    {
+        if (options.Frame && options.StartsAtFrame) {
+            options.Target->Left = 0;
+            options.Target->Top = 0;
+        }
+        if (picture && options.Show)
+            options.Show(*picture);
+        else if (picture && options.Frame)
+            options.Target->ShowAtNaturalSize(*picture);
+        else if (picture)
+            options.Target->Surface->SetPicture(*picture);
+        m_parts.Preview.update();
+    }
 
     Fields<QWidget, QString> m_texts;
     Fields<QCheckBox, bool> m_checks;
@@ -190,118 +292,5 @@ private:
     std::vector<std::pair<ColourSwatch*, ColourField>> m_colours;
     QMap<const QAbstractButton*, QString> m_folders; ///< where each button's file was chosen last
 };
-
-template <class Record>
-void RecordForm<Record>::AddText(QWidget* control, QString Record::*field, TextOptions options)
-{
-    m_texts.emplace_back(control, field);
-    const auto changed = [this, control, field, options = std::move(options)] {
-        if (m_isFilling && options.QuietOnFill)
-            return;
-        if (!m_isFilling)
-            Edit(control, field, TextOf(*control));
-        if (options.Preview)
-            options.Preview->Caption = Current().*field;
-        options.Changed();
-        m_parts.Preview.update();
-    };
-    if (QLineEdit* const line = LineEditOf(control)) {
-        line->setMaxLength(std::numeric_limits<int>::max()); // the field has no limit either
-        On(line, &QLineEdit::textChanged, changed);
-    } else {
-        On(static_cast<QPlainTextEdit*>(control), &QPlainTextEdit::textChanged, changed);
-    }
-}
-
-template <class Record>
-void RecordForm<Record>::AddCheck(QCheckBox* control, bool Record::*field, Handler changed)
-{
-    m_checks.emplace_back(control, field);
-    On(control, &QCheckBox::clicked, [this, control, field, changed = std::move(changed)] {
-        Edit(control, field, control->isChecked());
-        changed();
-        m_parts.Preview.update();
-    });
-}
-
-template <class Record>
-void RecordForm<Record>::AddPicture(PictureControls controls, QString Record::*field, PictureOptions options)
-{
-    const PictureRow& row = m_pictures.emplace_back(PictureRow{controls, field, std::move(options)});
-    On(controls.Choose, &QAbstractButton::clicked, [this, &row] {
-        if (const auto path = AskPicture(row.Options.Title, row.Controls.Choose))
-            TakePicture(row, *path);
-    });
-    On(controls.Clear, &QAbstractButton::clicked, [this, &row] { ClearPicture(row); });
-}
-
-template <class Record>
-void RecordForm<Record>::AddColour(ColourControls controls, ColourField field, ColourOptions options)
-{
-    m_colours.emplace_back(controls.Swatch, field);
-    const auto choose = [this, controls, field, options = std::move(options)] {
-        Record record = Current();
-        if (const auto colour = m_parts.User.AskColour(QString::fromLatin1(controls.Title), field(record))) {
-            Edit(controls.Swatch, [&](Record& changed) { field(changed) = *colour; });
-            controls.Swatch->SetColour(QColor(ToRgb(*colour)));
-            if (options.Preview)
-                options.Preview->Surface->SetBackColor(*colour);
-        }
-        options.Changed();
-        m_parts.Preview.update();
-    };
-    On(controls.Choose, &QAbstractButton::clicked, choose);
-    On(controls.Swatch, &QAbstractButton::clicked, choose);
-}
-
-template <class Record>
-void RecordForm<Record>::FillFields()
-{
-    const QScopedValueRollback filling(m_isFilling, true);
-    Record record = Current(); // a copy, since ColourField takes no const record
-    for (const auto& [control, field] : m_texts)
-        SetTextOf(*control, record.*field);
-    for (const auto& [control, field] : m_checks)
-        control->setChecked(record.*field);
-    for (const auto& [control, field] : m_counts)
-        control->setValue(record.*field);
-    for (const PictureRow& row : m_pictures)
-        ShowPath(*row.Controls.PathBox, record.*row.Field);
-    for (const auto& [swatch, field] : m_colours)
-        swatch->SetColour(QColor(ToRgb(field(record))));
-}
-
-template <class Record>
-void RecordForm<Record>::TakePicture(const PictureRow& row, const QString& path)
-{
-    Edit(row.Controls.PathBox, row.Field, path);
-    m_folders.insert(row.Controls.Choose, FolderPart(path));
-    if (row.Options.Target || row.Options.Show) {
-        const auto picture = LoadedPicture(m_parts, path);
-        ShowOnTarget(row.Options, picture);
-        if (!picture)
-            return;
-    }
-    ShowPath(*row.Controls.PathBox, path);
-    row.Options.Changed();
-}
-
-/// Without a picture, one that could not be loaded, the old one stays. The offsets stay in the record and are
-/// used again when the picture is placed.
-template <class Record>
-void RecordForm<Record>::ShowOnTarget(const PictureOptions& options, const std::optional<Picture>& picture)
-{
-    if (options.Frame && options.StartsAtFrame) {
-        options.Target->Left = 0;
-        options.Target->Top = 0;
-    }
-    if (picture && options.Show)
-        options.Show(*picture);
-    else if (picture && options.Frame)
-        options.Target->ShowAtNaturalSize(*picture);
-    else if (picture)
-        options.Target->Surface->SetPicture(*picture);
-    m_parts.Preview.update();
-}
 
 } // namespace deckforge

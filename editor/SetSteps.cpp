@@ -29,6 +29,7 @@ template <class Element>
 std::vector<Element> Elements(const OneBasedArray<Element>& list, int first, int end)
 {
     std::vector<Element> elements;
+    elements.reserve(static_cast<std::size_t>(end - first));
     for (int i = first; i < end; ++i)
         elements.push_back(list[i]);
     return elements;
