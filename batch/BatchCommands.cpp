@@ -25,9 +25,9 @@ namespace deckforge {
 
 namespace {
 
-constexpr int MostScale = 16;
+constexpr int MaxScale = 16;
 
-/// A command line that is no command; the text says why.
+/// A wrong command line; the text says why.
 struct WrongUse {
     QString Text;
 };
@@ -93,7 +93,7 @@ int16 FormatNamed(const QString& name)
     return static_cast<int16>(row);
 }
 
-/// What stands for settings of the set in this run.
+/// Options that override settings of the set in this run.
 struct RunSettings {
     std::optional<QString> SaveTo;
     std::optional<int16> SaveFormat;
@@ -109,7 +109,7 @@ RunSettings SettingsFrom(const QCommandLineParser& parser)
     return settings;
 }
 
-/// The kinds that the option names, among those of the command; all of them where it is not given.
+/// The kinds named by the option, out of those of the command; all if it is not given.
 template <class Row, std::size_t size>
 std::vector<const Row*> KindsFrom(const QCommandLineParser& parser, const Row (&rows)[size])
 {
@@ -126,7 +126,7 @@ std::vector<const Row*> KindsFrom(const QCommandLineParser& parser, const Row (&
 
 // Running
 
-/// Carries out a task on a new set. A failure that the task does not tell itself is told here.
+/// Runs a task on a new set, and shows failures that the task does not show itself.
 template <class Task>
 ExitStatus RunOnNewSet(int scale, Task&& task)
 {
@@ -139,14 +139,14 @@ ExitStatus RunOnNewSet(int scale, Task&& task)
             done = task(workshop);
         });
     } catch (const RunTimeError& error) {
-        TellUntrapped(user, error);
+        ShowUnhandledError(user, error);
         if (!error.Place().isEmpty())
             user.ReportProblems({error.PlaceAndDescription()});
     }
-    return done && !user.WasToldOfFailure() ? ExitStatus::Done : ExitStatus::FailureReported;
+    return done && !user.HasReportedFailure() ? ExitStatus::Done : ExitStatus::FailureReported;
 }
 
-/// Carries out a task on the set of a file. None of its pictures is loaded.
+/// Runs a task on the set of a file. Does not load its pictures.
 template <class Task>
 ExitStatus RunOnTexts(const QString& path, Task&& task)
 {
@@ -154,7 +154,7 @@ ExitStatus RunOnTexts(const QString& path, Task&& task)
         1, [&](Workshop& workshop) { return ReadDKF(workshop.Set, path, workshop.User) && task(workshop); });
 }
 
-/// Carries out a task that composes cards on the set of a file.
+/// Runs a task that composes cards on the set of a file.
 template <class Task>
 ExitStatus RunOnSet(const QString& path, int scale, Task&& task)
 {
@@ -166,7 +166,7 @@ ExitStatus RunOnSet(const QString& path, int scale, Task&& task)
     });
 }
 
-/// The settings hold for the time of the task, and are not stored.
+/// The settings apply during the task and are not saved.
 template <class Task>
 void WithSettings(SetHeader& header, const RunSettings& settings, Task&& task)
 {
@@ -179,7 +179,7 @@ void WithSettings(SetHeader& header, const RunSettings& settings, Task&& task)
     header.SaveFormat = saveFormat;
 }
 
-/// Nobody is there to be asked: a set is replaced only by the commands that save it.
+/// Nobody can confirm: only commands that save a set replace it.
 void RejectExisting(const QString& path)
 {
     if (IsRegularFile(path))
@@ -194,7 +194,7 @@ void RejectWritingOverSet(const QString& set, const QString& output)
             QStringLiteral("\"%1\" is the card set itself. Choose another file to write to.").arg(output)};
 }
 
-/// Writes the set as its save command does, once the path is chosen.
+/// Writes the set as the save command does after its file dialog.
 bool WriteSetTo(Workshop& workshop, const QString& path)
 {
     SetHeader& header = workshop.Set.Header;
@@ -202,8 +202,8 @@ bool WriteSetTo(Workshop& workshop, const QString& path)
     return WriteDKF(workshop.Set, header.FileName, workshop.User, Report::Tell);
 }
 
-/// The images of the user-designed backs, one after the other; the window makes them one by one. A back that
-/// cannot be shown is told; saving it has no box for that.
+/// Creates the images of all user-designed backs, which the window creates one by one. Reports backs that
+/// cannot be shown.
 void CreateNewCardBacks(Workshop& workshop, RunReport& report)
 {
     CardSet& set = workshop.Set;
@@ -212,7 +212,7 @@ void CreateNewCardBacks(Workshop& workshop, RunReport& report)
         try {
             ShowNewCardBack(workshop, set.NewCardBacks.Current);
         } catch (const RunTimeError& error) {
-            TellUntrapped(workshop.User, error);
+            ShowUnhandledError(workshop.User, error);
         }
         SaveNewCardBack(workshop, report, set.NewCardBacks.Current, Ask::No, Tell::No);
     }
@@ -269,7 +269,7 @@ ExitStatus RunConvert(const QStringList& paths, const QCommandLineParser& /*pars
 ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
 {
     const auto kinds = KindsFrom(parser, ImageKinds);
-    const int scale = NumberOption(parser, "scale", MostScale);
+    const int scale = NumberOption(parser, "scale", MaxScale);
     const RunSettings settings = SettingsFrom(parser);
     return RunOnSet(paths[0], scale, [&](Workshop& workshop) {
         WithSettings(workshop.Set.Header, settings, [&] {
@@ -284,7 +284,7 @@ ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
 ExitStatus RunSheets(const QStringList& paths, const QCommandLineParser& parser)
 {
     const auto kinds = KindsFrom(parser, SheetKinds);
-    if (kinds.size() > 1) // after a run over one kind the flag of the last card stays set
+    if (kinds.size() > 1) // the flag of the last card stays set after a run over one kind
         throw WrongUse{QStringLiteral("\"sheets\" takes one kind.")};
     SheetGrid grid;
     grid.Cols = static_cast<int16>(NumberOption(parser, "columns", SheetGrid::MostCols));
@@ -326,7 +326,7 @@ ExitStatus RunStatistics(const QStringList& paths, const QCommandLineParser& /*p
     return RunOnTexts(paths[0], [](Workshop& workshop) {
         CardSet& set = workshop.Set;
         if (set.Cards.Count() > 0)
-            ReplaceUnknownBack(set, set.Cards[1]); // the window shows this card before it counts
+            ReplaceUnknownBack(set, set.Cards[1]); // As the window does before counting.
         const QString text = StatisticsText(set).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
         if (std::printf("%s\n", qUtf8Printable(text)) < 0 || std::fflush(stdout) != 0)
             throw RunTimeError(ErrorNumber::DeviceIo);
@@ -363,11 +363,11 @@ ExitStatus RunBacks(const QStringList& paths, const QCommandLineParser& /*parser
     });
 }
 
-/// A command and what it takes.
+/// A command with its options.
 struct Command {
     const char* Name;
     int PathCount;
-    const char* Options; ///< their names, a blank between them
+    const char* Options; ///< option names separated by blanks
     ExitStatus (*Run)(const QStringList& paths, const QCommandLineParser& parser);
 };
 
@@ -395,9 +395,9 @@ const Command& CommandNamed(const QString& name)
 
 void AddOptions(QCommandLineParser& parser)
 {
-    const auto option = [&](const char* name, const char* value, const char* usual) {
+    const auto option = [&](const char* name, const char* value, const char* defaultValue) {
         parser.addOption(QCommandLineOption(QString::fromLatin1(name), {}, QString::fromLatin1(value),
-                                            QString::fromLatin1(usual)));
+                                            QString::fromLatin1(defaultValue)));
     };
     option("help", "", "");
     option("version", "", "");

@@ -41,7 +41,7 @@ Picture LoadSymbol(Workshop& workshop)
     try {
         return workshop.Pictures.LoadPicture(workshop.Set.Header.Symbol);
     } catch (const RunTimeError& error) {
-        TellUntrapped(workshop.User, error);
+        ShowUnhandledError(workshop.User, error);
         return {};
     }
 }

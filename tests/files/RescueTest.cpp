@@ -1,6 +1,6 @@
 #include "files/Rescue.h"
 #include "files/modFile.h"
-#include "platform/LastAct.h"
+#include "platform/TerminationGuard.h"
 #include "support/DefaultSignals.h"
 #include "support/SetTest.h"
 
@@ -194,32 +194,32 @@ TEST_F(RescueTest, ASetDiffersByWhatItsFileHolds)
     EXPECT_TRUE(kept.Differs(Set)) << "what cannot be written has never been";
 }
 
-TEST(LastActDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
+TEST(TerminationGuardDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
 {
     testing::FLAGS_gtest_death_test_style = "fast";
     const DefaultSignals defaults;
     const auto say = [] { std::fputs("last act. ", stderr); };
     const auto fail = [] { throw RunTimeError(ErrorNumber::DeviceIo); };
     const auto failUnhandled = [&]() noexcept {
-        const LastAct act(say);
+        const TerminationGuard act(say);
         fail();
     };
     EXPECT_DEATH(failUnhandled(), "^last act. terminate called.*\n.*57, Device I/O error");
     EXPECT_EXIT(
         {
-            const LastAct act(say);
+            const TerminationGuard act(say);
             std::exit(3);
         },
         testing::ExitedWithCode(3), "^last act. $");
     EXPECT_EXIT(
         {
-            const LastAct act(say);
+            const TerminationGuard act(say);
             std::raise(SIGALRM); // the session has waited long enough for a program that is busy
         },
         testing::KilledBySignal(SIGALRM), "^last act. $");
     EXPECT_EXIT(
         {
-            const LastAct act(say);
+            const TerminationGuard act(say);
             qWarning("The Wayland connection broke. Did the Wayland compositor die?");
             ::_exit(1); // the drawing library goes so
         },
@@ -227,7 +227,7 @@ TEST(LastActDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
     EXPECT_EXIT(
         {
             {
-                const LastAct act(say);
+                const TerminationGuard act(say);
             }
             std::raise(SIGTERM);
         },
