@@ -6,9 +6,8 @@ namespace deckforge {
 
 struct Workshop;
 
-/// Lets the user change the font scheme of the set and the colour of the artist's line in a dialog over the
-/// window that shows them on sample cards. What is changed is in the set at once; the caller dresses its own
-/// previews again.
+/// Lets the user change the font scheme of the set and the colour of the artist's credit, with sample cards.
+/// Changes are written to the set at once; the caller updates its own previews.
 void EditFonts(Workshop& workshop, QWidget* window);
 
 } // namespace deckforge

@@ -10,7 +10,7 @@ namespace deckforge {
 
 namespace {
 
-/// The tab of the card backs that the user designs.
+/// The tab of the user-designed card backs.
 class BackPage final : public RecordPage<NewCardBack> {
 public:
     BackPage(EditorParts& parts, QWidget* parent)
@@ -23,8 +23,7 @@ public:
         On(m_form.cmdBackTextFont, &QAbstractButton::clicked, [this] { ChooseTextFont(); });
     }
 
-    /// Kept: the slider keeps its range and, unless it is out of range, the current index, also in an opened
-    /// set.
+    /// Kept: after a set is opened the slider keeps its range, and the current index is kept if it exists.
     void Enter() override
     {
         if (const int16 current = List().Current;

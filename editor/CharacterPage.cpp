@@ -32,7 +32,7 @@ public:
         On(m_form.cboCharacterCardback, &QComboBox::activated, [this] { BackChosen(); });
         On(m_form.chkShowCharacterBack, &QCheckBox::clicked, [this] {
             if (m_widget->isVisibleTo(m_widget->parentWidget()))
-                SwitchSide(); // the back stays hidden while the piece is shown
+                SwitchSide(); // the back stays hidden while the playing piece is shown
         });
         On(m_form.chkShowPlayingPiece, &QCheckBox::clicked, [this] { SwitchSide(); });
     }
@@ -100,7 +100,7 @@ private:
         }
         AddFrame(m_form.chkShowPictureCharacter, m_form.chkFrameCharacter, m_boxes,
                  m_boxes.picFrameCharacter);
-        // Unlike on the other tabs the picture does not get the focus when it is chosen.
+        // Unlike on the other tabs the picture does not get the focus.
         AddPicture({m_form.cmdGetCharPic, m_form.cmdDelCharPic, m_form.txtPictureCharacter},
                    &Character::Picture,
                    {.Title = "Choose characterpicture",
@@ -165,7 +165,7 @@ private:
         m_parts.Preview.update();
     }
 
-    /// An entry is a region and a place, and the card has the place alone.
+    /// Entries are "region-place"; the card keeps only the place.
     void StartAreaChosen()
     {
         const QString entry = m_form.cboStartArea->currentText();

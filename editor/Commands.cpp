@@ -22,7 +22,7 @@ namespace deckforge {
 
 namespace {
 
-/// Runs over all cards of a kind. None works on card backs.
+/// Runs over all cards of a kind; there are none for card backs.
 struct RunRow {
     decltype(&CreateCards) CreateAll;
     decltype(&CreateCardSheets) CreateSheets;
@@ -32,8 +32,8 @@ constexpr RunRow Runs[] = {{&CreateCards, &CreateCardSheets, &CreateHtmlCards},
                            {&CreateLargeCards, &CreateLargeCardSheets, &CreateHtmlLargeCards},
                            {&CreateCharacters, &CreateCharacterSheets, &CreateHtmlCharacters}};
 
-/// Commands on the current card of a kind. The tab of card backs prints the current character, without its
-/// playing piece.
+/// Commands on the current card of a kind. On the tab of card backs the current character is printed, without
+/// its playing piece.
 struct CardRow {
     decltype(&SaveCard) Save;
     PrintedPage Page;
@@ -50,7 +50,7 @@ const Row& RowOf(const Row (&rows)[N], CardKind kind)
 }
 
 struct Command {
-    const char* Key = nullptr; ///< also the name of its image; null for a separator
+    const char* Key = nullptr; ///< also the name of its icon; null for a separator
     const char* ToolTip = nullptr;
     std::function<void()> Work = {};
     QKeySequence Shortcut = {};
@@ -67,7 +67,7 @@ public:
         Fill(*bar);
         const auto onKey = [this](const QKeySequence& key, void (Page::*work)()) {
             OnSignal(m_parts.User, new QShortcut(key, &m_window), &QShortcut::activated, this, [this, work] {
-                if (m_window.SelectedKind() != CardKind::NewBack) // whose tab has no such keys
+                if (m_window.SelectedKind() != CardKind::NewBack) // that tab has no such keys
                     (m_window.SelectedPage().*work)();
             });
         };
@@ -134,8 +134,7 @@ private:
         return kind == CardKind::NewBack ? CardKind::Character : kind;
     }
 
-    /// Error 9 without a record: those of a new set are made when their tab is selected, but the standard
-    /// card.
+    /// Error 9 if there is no record: a new set has only a standard card, until the other tabs are selected.
     [[nodiscard]] int16 ExistingIndex(CardKind kind) const
     {
         const int16 index = CurrentOf(Set(), kind);
@@ -144,7 +143,7 @@ private:
         return index;
     }
 
-    /// The run showed other cards on the preview, and the current one last.
+    /// The run has shown each card on the preview, the current one last.
     void FillAfterRun()
     {
         if (CurrentOf(Set(), m_window.SelectedKind()) > 0)
@@ -198,7 +197,8 @@ private:
         const std::optional<SheetGrid> grid = AskSheetGrid(Set().Header.NoBack, &m_window);
         RunReport report(m_parts.User);
         m_parts.Document.Edit(QStringLiteral("Create card sheets"), [&](CardSet&) {
-            RowOf(Runs, KindForCards()).CreateSheets(m_parts.Works, report, grid); // reports a cancel as well
+            RowOf(Runs, KindForCards())
+                .CreateSheets(m_parts.Works, report, grid); // reports a cancelled dialog as well
         });
         if (grid)
             FillAfterRun();
@@ -222,7 +222,7 @@ private:
 
     EditorParts& m_parts;
     frmQDW& m_window;
-    QString m_lastBackFile; ///< the file chosen last in Customize Set
+    QString m_lastBackFile; ///< last file chosen in Customize Set
 };
 
 } // namespace

@@ -5,7 +5,7 @@ namespace deckforge {
 struct EditorParts;
 class frmQDW;
 
-/// Adds the commands to the window: the tool bar and the keys. They end with the window.
+/// Adds the commands to the window: tool bar and shortcuts. They are owned by the window.
 void AddCommands(EditorParts& parts, frmQDW& window);
 
 } // namespace deckforge

@@ -15,7 +15,7 @@ struct EditorParts {
     UserPort& User;
 };
 
-/// The picture that `load` returns; nothing if it fails.
+/// The result of `load`; nothing if it fails.
 template <class Load>
 [[nodiscard]] std::optional<Picture> PictureIfAny(Load&& load)
 {

@@ -11,7 +11,7 @@ namespace deckforge {
 
 struct Box;
 
-/// One tab, as the window and its commands know it.
+/// Interface of one tab to the window and its commands.
 class Page {
 public:
     Page() = default;
@@ -37,7 +37,7 @@ public:
     virtual void Show(int16 index) = 0;
     /// Updates only the controls, with the current record.
     virtual void Fill() = 0;
-    /// The frame on the preview has another size.
+    /// The size of the frame on the preview has changed.
     virtual void ShowFrameSize() {}
 
     /// Moves the focus to the name of the record and selects it.

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int DefaultZoom = 2;
 
-/// Wants room for all of the preview, and takes less where the screen is small.
+/// Prefers the size of the whole preview, and scrolls on small screens.
 class PreviewArea final : public QScrollArea {
 public:
     explicit PreviewArea(CardPreview* preview, QWidget* parent) : QScrollArea(parent)
@@ -31,7 +31,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
     [[nodiscard]] QSize minimumSizeHint() const override
     {
-        return DoubleCardSize; // at its smallest zoom
+        return DoubleCardSize; // at zoom 1
     }
 };
 
@@ -47,7 +47,7 @@ PreviewController::PreviewController(EditorParts& parts, QWidget* window)
         OnSignal(m_parts.User, &m_parts.Preview, signal, this, handler);
     };
     on(&CardPreview::Pressed, [this](const Box*, QPoint point) {
-        m_parts.Document.EndVisit(); // a gesture is a step of its own
+        m_parts.Document.EndVisit(); // each gesture is a separate step
         m_dragStart = point;
     });
     on(&CardPreview::Dragged, std::bind_front(&PreviewController::Dragged, this));
@@ -59,7 +59,7 @@ PreviewController::PreviewController(EditorParts& parts, QWidget* window)
 
 void PreviewController::BuildZoom(QWidget* window)
 {
-    for (int zoom = 1; zoom <= CardPreview::MostZoom; ++zoom) {
+    for (int zoom = 1; zoom <= CardPreview::MaxZoom; ++zoom) {
         auto* const button = new QToolButton(window);
         const QString text = QStringLiteral("%1x").arg(zoom);
         button->setObjectName(QStringLiteral("cmdZoom%1").arg(zoom));
@@ -78,7 +78,7 @@ void PreviewController::BuildZoom(QWidget* window)
                  [this, step] { SetZoom(m_parts.Preview.Zoom() + step); });
     };
     onKey(QKeySequence::ZoomIn, 1);
-    onKey(Qt::CTRL | Qt::Key_Equal, 1); // the same key without Shift
+    onKey(Qt::CTRL | Qt::Key_Equal, 1); // "+" without Shift
     onKey(QKeySequence::ZoomOut, -1);
 }
 
@@ -131,18 +131,20 @@ void PreviewController::LabelClicked(const Box* box, FontClicks clicks)
     }
 }
 
-/// A picture goes as far as the pointer. A handle stops at its bounds: it goes to where the pointer holds it.
+/// A picture follows the pointer. A handle stops at its limits, so it is moved by its distance to the
+/// pointer.
 void PreviewController::Dragged(const Box* box, QPoint point, QPoint moved)
 {
     const QPoint toPointer = point - m_dragStart;
     for (const PlacementRow& row : Placements()) {
         if (box == &row.Image) {
             Place(row, "Move picture", [&] {
-                MovePicture(m_parts.Works, row.Which, moved.x() * TwipsPerPixelX, moved.y() * TwipsPerPixelY);
+                MovePicture(m_parts.Works, row.Picture, moved.x() * TwipsPerPixelX,
+                            moved.y() * TwipsPerPixelY);
             });
         } else if (box == row.Handle) {
-            const int pixels = row.Which == PlacedPicture::Standard ? toPointer.y() : toPointer.x();
-            Place(row, "Size frame", [&] { MoveHandle(m_parts.Works, row.Which, pixels); });
+            const int pixels = row.Picture == PlacedPicture::Standard ? toPointer.y() : toPointer.x();
+            Place(row, "Size frame", [&] { MoveHandle(m_parts.Works, row.Picture, pixels); });
         }
     }
 }
@@ -154,8 +156,8 @@ void PreviewController::KeyPressed(const Box* picture, Qt::Key key, Qt::Keyboard
         if (picture != &row.Image)
             continue;
         if (held == Qt::NoModifier)
-            Place(row, "Move picture", [&] { MovePictureByKey(m_parts.Works, row.Which, key); });
-        else if (held == Qt::ShiftModifier && row.Which == PlacedPicture::Standard)
+            Place(row, "Move picture", [&] { MovePictureByKey(m_parts.Works, row.Picture, key); });
+        else if (held == Qt::ShiftModifier && row.Picture == PlacedPicture::Standard)
             Place(row, "Size frame", [&] { MoveHandleByKey(m_parts.Works, key); });
     }
 }

@@ -13,16 +13,16 @@ namespace deckforge {
 
 enum class FontClicks;
 
-/// What the user does with the preview: places pictures, sizes frames, changes fonts, zooms.
+/// Handles gestures on the preview: moves pictures, sizes frames, changes fonts, zooms.
 class PreviewController final : public QObject {
     Q_OBJECT
 
 public:
     PreviewController(EditorParts& parts, QWidget* window);
 
-    /// Scrolls the preview where the screen is small.
+    /// The scroll area that contains the preview.
     [[nodiscard]] QScrollArea* Area() const { return m_area; }
-    /// One for each zoom, for the status bar.
+    /// One button per zoom, for the status bar.
     [[nodiscard]] QList<QAbstractButton*> ZoomButtons() const;
 
     void SetZoom(int zoom);
@@ -33,17 +33,17 @@ Q_SIGNALS:
     void Zoomed();
 
 private:
-    /// A picture that the user places.
+    /// A picture that can be moved.
     struct PlacementRow {
         const Box& Image;
-        const Box* Handle; ///< null for none
-        PlacedPicture Which;
+        const Box* Handle; ///< null if there is none
+        PlacedPicture Picture;
         CardKind Kind;
     };
 
     void BuildZoom(QWidget* window);
     [[nodiscard]] std::array<PlacementRow, 4> Placements() const;
-    /// Edits the record, as a step of that name, and shows what has changed.
+    /// Edits the record as an undo step with that name, and updates preview and frame size.
     void Place(const PlacementRow& row, const char* step, const std::function<void()>& work);
     void LabelClicked(const Box* box, FontClicks clicks);
     void Dragged(const Box* box, QPoint point, QPoint moved);
@@ -53,7 +53,7 @@ private:
     EditorParts& m_parts;
     QScrollArea* m_area;
     QButtonGroup* m_zooms;
-    QPoint m_dragStart; ///< on the handle that is dragged
+    QPoint m_dragStart; ///< position inside the pressed box
 };
 
 } // namespace deckforge

@@ -26,7 +26,7 @@ inline void DoNothing() {}
 struct TextOptions {
     Box* Preview = nullptr; ///< its caption shows the text
     Handler Changed = DoNothing;
-    bool QuietOnFill = false; ///< neither of them when the control is filled
+    bool QuietOnFill = false; ///< not applied when the control is filled
 };
 
 struct PictureControls {
@@ -39,9 +39,9 @@ struct PictureOptions {
     const char* Title = "Choose picture";          ///< of the file dialog
     Box* Target = nullptr;                         ///< shows the picture
     std::function<void(const Picture&)> Show = {}; ///< shows it in another way
-    const Box* Frame = nullptr;    ///< around the target, which then takes the natural size of the picture
-    const Box* DropArea = nullptr; ///< takes dropped pictures, as target and frame do
-    bool StartsAtFrame = true;     ///< a new picture is shown at the corner of its frame until it is placed
+    const Box* Frame = nullptr;    ///< contains Target, which then takes the picture's natural size
+    const Box* DropArea = nullptr; ///< accepts dropped pictures, as Target and Frame do
+    bool StartsAtFrame = true;     ///< a new picture starts at the top left of its frame
     Handler Changed = DoNothing;
     Handler Cleared = DoNothing;
 };
@@ -54,7 +54,7 @@ struct ColourControls {
 
 struct ColourOptions {
     Box* Preview = nullptr;      ///< its background has the colour
-    Handler Changed = DoNothing; ///< runs after a cancel as well
+    Handler Changed = DoNothing; ///< also runs if the dialog was cancelled
 };
 
 /// A form whose controls edit the current record of one type. A change is written to the record through
@@ -86,7 +86,7 @@ protected:
             m_parts.Preview.update();
         };
         if (QLineEdit* const line = LineEditOf(control)) {
-            line->setMaxLength(std::numeric_limits<int>::max()); // the field has no limit either
+            line->setMaxLength(std::numeric_limits<int>::max()); // the field has no limit
             On(line, &QLineEdit::textChanged, changed);
         } else {
             On(static_cast<QPlainTextEdit*>(control), &QPlainTextEdit::textChanged, changed);
@@ -141,8 +141,8 @@ protected:
         On(controls.Swatch, &QAbstractButton::clicked, choose);
     }
 
-    /// Connects an editable list whose entries are no texts of a record: `chosen` runs for an entry, `typed`
-    /// for text.
+    /// Connects an editable list whose entries differ from the text of the record: `chosen` runs when an
+    /// entry is chosen, `typed` when text is typed.
     template <class Chosen, class Typed>
     void OnEntry(QComboBox* list, Chosen chosen, Typed typed)
     {
@@ -162,7 +162,7 @@ protected:
     void FillFields()
     {
         const QScopedValueRollback filling(m_isFilling, true);
-        Record record = Current(); // a copy, since ColourField takes no const record
+        Record record = Current(); // a copy, since ColourField takes a non-const record
         for (const auto& [control, field] : m_texts)
             SetTextOf(*control, record.*field);
         for (const auto& [control, field] : m_checks)
@@ -220,7 +220,7 @@ protected:
 
     EditorParts& m_parts;
     QWidget* const m_widget;
-    bool m_isFilling = false; ///< the controls show a record; nobody types
+    bool m_isFilling = false; ///< true while the controls are filled: changes are not the user's
 
 private:
     static constexpr bool IsSettings = std::is_same_v<Record, SetHeader>;
@@ -263,13 +263,13 @@ private:
         Edit(row.Controls.PathBox, row.Field, QString());
         if (row.Options.Target || row.Options.Show)
             ShowOnTarget(row.Options, Picture());
-        row.Controls.PathBox->clear(); // the tool tip stays
+        row.Controls.PathBox->clear(); // Kept: the tool tip stays.
         row.Options.Cleared();
         m_parts.Preview.update();
     }
 
-    /// Without a picture, one that could not be loaded, the old one stays. The offsets stay in the record and
-    /// are used again when the picture is placed.
+    /// A picture that could not be loaded leaves the previous one. The record keeps its offsets, which apply
+    /// when the card is laid out again.
     void ShowOnTarget(const PictureOptions& options, const std::optional<Picture>& picture)
     {
         if (options.Frame && options.StartsAtFrame) {
@@ -288,9 +288,9 @@ private:
     Fields<QWidget, QString> m_texts;
     Fields<QCheckBox, bool> m_checks;
     Fields<QSpinBox, int16> m_counts;
-    std::deque<PictureRow> m_pictures; // handlers refer to the rows, which a deque does not move
+    std::deque<PictureRow> m_pictures; // a deque, since handlers refer to its elements
     std::vector<std::pair<ColourSwatch*, ColourField>> m_colours;
-    QMap<const QAbstractButton*, QString> m_folders; ///< where each button's file was chosen last
+    QMap<const QAbstractButton*, QString> m_folders; ///< last folder of each button
 };
 
 } // namespace deckforge

@@ -11,7 +11,7 @@
 
 namespace deckforge {
 
-/// One tab: edits the current record of its kind, steps through the records, adds and deletes them.
+/// One tab: edits the current record of its kind, and adds, deletes and steps through records.
 template <class Record>
 class RecordPage : public Page, protected RecordForm<Record> {
 public:
@@ -27,7 +27,7 @@ public:
         ShowCurrent();
     }
 
-    /// A slider past its new end moves there without showing that record.
+    /// Does not show another record if the slider has to move.
     void TakeSet() override
     {
         const QSignalBlocker quiet(m_slider);
@@ -53,7 +53,7 @@ public:
     void StartTyping() override
     {
         m_name->selectAll();
-        if (m_name->isVisibleTo(Form()->window())) // after New the form may not be that of the tab
+        if (m_name->isVisibleTo(Form()->window())) // after New another tab may be shown
             m_name->setFocus();
     }
 
@@ -83,7 +83,10 @@ public:
 
     void Previous() override { m_slider->setValue(m_slider->value() - 1); }
     void Next() override { m_slider->setValue(m_slider->value() + 1); }
-    void Copy() override { CopyElement<Record>(m_parts.Works.Set, m_parts.User); } // changes no card: no step
+    void Copy() override
+    {
+        CopyElement<Record>(m_parts.Works.Set, m_parts.User);
+    } // not part of the undo steps
     void Paste() override
     {
         m_parts.Document.Edit(QStringLiteral("Paste"), PasteElement<Record>);
@@ -100,8 +103,8 @@ protected:
 
     // Each connects controls. Called by the constructor of the page.
 
-    /// The slider steps through the records and shows its place. While it is dragged, `dragged` shows a text
-    /// for the record under it.
+    /// Connects the slider and the label that shows the position. While the slider is dragged, `dragged`
+    /// shows DraggedText().
     void AddSlider(QScrollBar* slider, QLabel* position, QLabel* dragged = nullptr)
     {
         m_slider = slider;
@@ -112,7 +115,7 @@ protected:
         On(slider, &QScrollBar::sliderReleased, [this] { Dropped(); });
     }
 
-    /// `name` gets the focus for a new record; `list` chooses a record from Card List.
+    /// `name` gets the focus for a new record; `list` opens Card List.
     void AddButtons(QAbstractButton* add, QAbstractButton* remove, QLineEdit* name,
                     QAbstractButton* list = nullptr)
     {
@@ -134,9 +137,9 @@ protected:
         this->AddCheck(outline, &Record::Frame, [this, &frame] { frame.SetOutlined(this->Current().Frame); });
     }
 
-    /// Fills the controls that no Add function connects.
+    /// Fills the controls that no Add function has connected.
     virtual void FillOthers() {}
-    /// What is shown for the record under the dragged slider.
+    /// Describes the record under the dragged slider.
     [[nodiscard]] virtual QString DraggedText(const Record& record) const
     {
         return record.*NameField<Record>;
@@ -146,10 +149,10 @@ protected:
     void ShowCurrent() { Show(List().Current); }
 
     QScrollBar* m_slider = nullptr;
-    bool m_positionFollows = true; ///< the slider while it is dragged
+    bool m_positionFollows = true; ///< whether the position follows the dragged slider
 
 private:
-    /// The slider of card backs may reach past the last one, since opening a set does not change its range.
+    /// The slider of card backs may exceed their count, since opening a set does not change its range.
     void Changed()
     {
         m_parts.Document.GoTo(Kind(), std::min(static_cast<int16>(m_slider->value()), List().Count()));
@@ -166,7 +169,7 @@ private:
             m_dragged->setText(DraggedText(List()[slider]));
     }
 
-    /// Also called when the slider is released where it was, which does not change the record.
+    /// Also called if the slider is released at its old position, without valueChanged().
     void Dropped()
     {
         if (m_dragged)
@@ -181,7 +184,7 @@ private:
             return;
         m_parts.Document.GoTo(Kind(), *index);
         {
-            const QSignalBlocker quiet(m_slider); // which may not reach so far
+            const QSignalBlocker quiet(m_slider); // the record may be past the slider's end
             m_slider->setValue(*index);
         }
         FillPosition();

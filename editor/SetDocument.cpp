@@ -8,7 +8,7 @@ namespace {
 
 constexpr int MaxSteps = 1000;
 
-/// Why the check fails; empty if it does not.
+/// The reason why the check fails; empty if it does not.
 QString ReasonOf(const std::function<void()>& check)
 {
     try {
@@ -42,7 +42,7 @@ void SetDocument::Edit(const QString& name, EditScope scope, const std::function
 void SetDocument::Push(const QString& name, EditScope scope, SetPart before)
 {
     if (scope == EditScope::Anything)
-        EndVisit(); // does not merge with the step before
+        EndVisit(); // do not merge with the previous step
     auto step = std::make_unique<SetStep>(name, m_set, std::move(before), SetPart(m_set, scope), m_visit);
     if (step->IsEmpty())
         return;
@@ -52,7 +52,7 @@ void SetDocument::Push(const QString& name, EditScope scope, SetPart before)
     ShowUnsavable(reason);
     m_steps.push(step.release());
     if (scope == EditScope::Anything)
-        EndVisit(); // nor with the next one
+        EndVisit(); // do not merge with the next step
     AfterChange();
 }
 
@@ -127,13 +127,13 @@ Answer SetDocument::AskToSave(BoxButtons buttons)
     return answer;
 }
 
-bool SetDocument::Replace(const QString& name, const QString& path, const Bring& bring)
+bool SetDocument::Replace(const QString& name, const QString& path, const Loader& load)
 {
     std::optional<QString> rescued;
     if (!Leave(rescued, path))
         return false;
     bool isThere = false;
-    Edit(name, [&](CardSet& set) { isThere = bring(set); });
+    Edit(name, [&](CardSet& set) { isThere = load(set); });
     if (rescued && (isThere || !m_work.ReturnTo(m_set)))
         Q_EMIT Noted(QStringLiteral("The unsaved changes of the set before are in “%1”.").arg(*rescued));
     if (isThere)
@@ -147,7 +147,7 @@ bool SetDocument::Leave()
     return Leave(rescued);
 }
 
-/// Where the rescue fails the set stays; the way out is to save it, or Exit without.
+/// If the rescue fails the set stays: the user can save it, or exit without saving.
 bool SetDocument::Leave(std::optional<QString>& rescued, const QString& toOpen)
 {
     try {

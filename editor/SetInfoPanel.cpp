@@ -35,14 +35,15 @@ void SetInfoPanel::Fill()
 void SetInfoPanel::NameChanged()
 {
     QString name = Current().SetName;
-    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]")); // a mark of Qt's that would not be shown
+    name.replace(QLatin1String("[*]"),
+                 QLatin1String("[*][*]")); // Qt would replace "[*]" by its modified mark
     m_widget->window()->setWindowTitle(name + QStringLiteral(" - Varnhelm Deck Forge"));
 }
 
 void SetInfoPanel::NoBackClicked()
 {
     CardTemplate& t = m_parts.Works.Templates.Standard;
-    t.picBack.Visible = t.picCard.Visible && !Current().NoBack; // not beside the other kinds
+    t.picBack.Visible = t.picCard.Visible && !Current().NoBack; // other tabs do not show the back
 }
 
 void SetInfoPanel::ShowSymbol(const Picture& symbol)

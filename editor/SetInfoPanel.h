@@ -17,7 +17,7 @@ public:
         return {m_form.txtSetname, m_form.txtFilenamePrefix};
     }
 
-    /// Brings the controls up to date with the set.
+    /// Updates the controls with the set.
     void Fill();
 
 private:

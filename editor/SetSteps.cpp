@@ -18,7 +18,7 @@ void ForEachRun(Part& part, Function&& function)
     std::apply([&](auto&... run) { (function(run), ...); }, part.Lists);
 }
 
-/// Calls the function with the runs of the same list of both parts.
+/// Calls the function with both parts' runs of each list.
 template <class Part, class Function>
 void ForEachPair(Part& a, Part& b, Function&& function)
 {
@@ -35,7 +35,7 @@ std::vector<Element> Elements(const OneBasedArray<Element>& list, int first, int
     return elements;
 }
 
-/// Drops the elements that are the same at both ends.
+/// Removes equal elements from both ends.
 template <class Element>
 void Trim(ElementRun<Element>& before, ElementRun<Element>& after)
 {
@@ -128,7 +128,7 @@ void SetStep::CheckSavable() const
 
 void SetStep::Apply(const SetPart& from, const SetPart& to)
 {
-    // The path and the file change where the edit brought another set. Saving is not undone.
+    // Undo restores path and file only if the edit replaced the set: saving is not undone.
     const QString fileName = m_set.Header.FileName;
     if (!(to.Header == from.Header))
         m_set.Header = to.Header;

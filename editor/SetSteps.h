@@ -17,17 +17,17 @@ enum class EditScope { Card, LargeCard, Character, NewCardBack, Settings, Anythi
     return static_cast<EditScope>(kind);
 }
 
-/// Neighbouring elements of one list.
+/// Consecutive elements of one list.
 template <class Element>
 struct ElementRun {
-    int First = 0; ///< index of the first element; 0 if the edit does not touch the list
+    int First = 0; ///< index of the first element; 0 if the edit cannot change the list
     std::vector<Element> Elements;
-    int16 Current = 0; ///< of a list of records
+    int16 Current = 0; ///< current index, for lists of records
 
     friend bool operator==(const ElementRun& a, const ElementRun& b) { return a.Elements == b.Elements; }
 };
 
-/// What an edit can change, as it was before or after it.
+/// Snapshot of what an edit can change.
 struct SetPart {
     SetPart(const CardSet& set, EditScope scope);
 
@@ -57,11 +57,11 @@ public:
     [[nodiscard]] int id() const override { return 1; } // all steps may merge
     bool mergeWith(const QUndoCommand* next) override;
 
-    /// Whether nothing has changed.
+    /// Whether the edit changed nothing.
     [[nodiscard]] bool IsEmpty() const { return m_before == m_after; }
-    /// The kind whose records changed: the tab to show; none if no kind or several did.
+    /// The kind whose records changed, whose tab is to be shown; none if no kind or several did.
     [[nodiscard]] std::optional<CardKind> Kind() const;
-    /// Fails as writing the set would fail at what has changed.
+    /// Throws if the changed elements cannot be written to a set file.
     void CheckSavable() const;
 
 private:
@@ -71,7 +71,7 @@ private:
     SetPart m_before;
     SetPart m_after;
     int m_visit;
-    bool m_isNew = true; ///< the edit is done, but QUndoStack::push() asks for a redo
+    bool m_isNew = true; ///< the edit is done already when QUndoStack::push() calls redo()
 };
 
 } // namespace deckforge

@@ -23,7 +23,7 @@ public:
         FillList(*m_form.cboNumber, CardNumbers());
         AddSlider(m_form.hsbCard, m_form.lblCurrentCard, m_form.lblCardTitle);
         AddButtons(m_form.cmdCardAdd, m_form.cmdCardDelete, m_form.txtTitle, m_form.cmdSort);
-        // Before the fields, which take the completed text.
+        // Must run before the field takes the text.
         On(m_form.txtBold, &QLineEdit::textChanged, [this] { CompleteBoldText(); });
         AddFields();
         OnEntry(
@@ -35,7 +35,7 @@ public:
     void SetShown(bool isShown) override
     {
         m_boxes.picCard.Visible = isShown;
-        m_boxes.picBack.Visible = isShown; // also where the set goes without backs, until it is shown
+        m_boxes.picBack.Visible = isShown; // ShowCard hides it for sets without backs
     }
 
     void TakeSet() override
@@ -52,8 +52,7 @@ public:
 
     void Show(int16 index) override
     {
-        // A failure was reported in a box. The controls are filled all the same: what is typed into them goes
-        // to this record.
+        // A failure was reported. The controls are filled nevertheless, since they edit this record.
         static_cast<void>(ShowCard(m_parts.Works, index));
         Fill();
     }
@@ -124,10 +123,10 @@ private:
         m_form.cboCardBack->setCurrentIndex(set.LastCardBack - 1);
     }
 
-    /// The first letter of an attribute stands for its name; typing on replaces the rest of it.
+    /// Completes the first letter of an attribute; typing replaces the selected rest.
     void CompleteBoldText()
     {
-        if (m_isFilling) // a card that has the letter alone keeps it
+        if (m_isFilling) // keep a card's single letter
             return;
         QLineEdit& txtBold = *m_form.txtBold;
         const auto complete = [&](const QString& word, int selected) {
@@ -155,8 +154,7 @@ private:
         ShowType();
     }
 
-    /// A type of the card's own leaves the number alone, also where the name of another type was typed on the
-    /// way.
+    /// A free type does not change the number, even if the name of a known type was typed on the way.
     void TypeTyped()
     {
         if (!m_numberBeforeType)
@@ -168,8 +166,8 @@ private:
         ShowType();
     }
 
-    /// The parts of the type as they are, also on a card that has its type on one line; it joins them when it
-    /// is shown again.
+    /// Shows the parts of the type separately, even on cards with OneLine; they are joined when the card is
+    /// shown again.
     void ShowType()
     {
         const Card& card = Current();
@@ -194,12 +192,12 @@ private:
         m_parts.Preview.update();
     }
 
-    /// The new row is in the table of the set, where all cards can use it, and is chosen at once.
+    /// Adds a row to the set's table of backs, and chooses it for the card.
     void AddUserBack(const QString& path)
     {
         QComboBox& list = *m_form.cboCardBack;
         {
-            // Also on a failure, which leaves a row without a name.
+            // Also on failure, which leaves a row without a name.
             const auto fill = qScopeGuard([this] { FillBackList(); });
             m_parts.Document.Edit(list.accessibleName(), [&](CardSet& set) { AddCardBack(set, path); });
         }
@@ -209,7 +207,7 @@ private:
 
     CardTemplate& m_boxes;
     Ui::fraCard m_form;
-    std::optional<QString> m_numberBeforeType; ///< of the card whose type is being typed
+    std::optional<QString> m_numberBeforeType; ///< number before the user started to type a type
 };
 
 } // namespace

@@ -10,7 +10,7 @@ namespace deckforge {
 
 namespace {
 
-/// Pasted text can contain line breaks, which a single-line field cannot be saved with.
+/// Pasted text can contain line breaks, which single-line fields must not have.
 QString OnOneLine(QString text)
 {
     for (const char* lineBreak : {"\r\n", "\n", "\r"})

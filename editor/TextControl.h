@@ -6,32 +6,32 @@
 
 namespace deckforge {
 
-// Text boxes of one or several lines, and editable lists, whose entries only suggest: what is typed stays as
-// typed. In a record lines are separated by CR LF.
+// Text boxes and editable lists as records keep their texts: lines end with CR LF. The entries of an editable
+// list are only suggestions.
 
 [[nodiscard]] QString TextOf(const QWidget& control);
 
-/// A control that shows the text already is left alone, so that its cursor stays.
+/// Does nothing if the control shows the text already, to keep its cursor.
 void SetTextOf(QWidget& control, const QString& text);
 
-/// The line edit of a text box or of an editable list; null for others.
+/// The line edit of a text box or editable list; null for other controls.
 [[nodiscard]] QLineEdit* LineEditOf(QObject* control);
 
-/// Shows a text that may be too long for its box: from its start, and with a tool tip.
+/// Shows the beginning of a text that may be too long for its box.
 void ShowText(QLineEdit& box, const QString& text, const QString& toolTip);
 
-/// A path box shows the name; the whole path is its tool tip.
+/// Shows the file name, with the whole path as tool tip.
 void ShowPath(QLineEdit& box, const QString& path);
 
 void FillList(QComboBox& list, const QStringList& entries);
 
-/// Shows the text in an editable list, and selects the entry with that text if there is one.
+/// Selects the entry with that text, or shows the text without one.
 void ShowEntry(QComboBox& list, const QString& text);
 
-/// Selects the entry that was typed; else the list would do so when it loses the focus.
+/// Selects the entry that matches the typed text, as the list would do on losing the focus.
 void SelectTyped(QComboBox& list);
 
-/// Whether the typed text is that of the current entry, which Enter then chooses.
+/// Whether the current entry has the shown text; Enter then chooses it.
 [[nodiscard]] bool ShowsEntry(const QComboBox& list);
 
 } // namespace deckforge

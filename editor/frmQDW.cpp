@@ -57,7 +57,7 @@ frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
 
 frmQDW::~frmQDW()
 {
-    delete takeCentralWidget(); // its controls still send signals, and the parts that take them go next
+    delete takeCentralWidget(); // before the parts that its signals call
 }
 
 void frmQDW::MakeParts()
@@ -76,7 +76,7 @@ void frmQDW::MakeParts()
     m_preview->setObjectName(QStringLiteral("preview"));
     m_controller = new PreviewController(m_parts, this);
     AddCommands(m_parts, *this);
-    setTabOrder(tbCard, m_preview); // and on to the forms, as they lie from left to right
+    setTabOrder(tbCard, m_preview); // then the forms, from left to right
     setTabOrder(m_preview, m_forms);
 }
 
@@ -109,10 +109,10 @@ void frmQDW::BuildStatusBar()
     m_progress->setObjectName(QStringLiteral("progress"));
     m_progress->setAccessibleName(QStringLiteral("Progress"));
     m_progress->hide();
-    statusBar()->addPermanentWidget(m_progress, 1); // others make way for a message
+    statusBar()->addPermanentWidget(m_progress, 1); // messages hide non-permanent widgets
 
     m_hint->setObjectName(QStringLiteral("hint"));
-    m_hint->setMinimumWidth(1); // a long text is cut, and does not widen the window
+    m_hint->setMinimumWidth(1); // elide a long text instead of widening the window
     m_hint->hide();
     statusBar()->addPermanentWidget(m_hint);
     connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QWidget::setToolTip);
@@ -124,7 +124,7 @@ void frmQDW::BindTabs()
 {
     OnSignal(m_parts.User, tbCard, &QTabBar::currentChanged, this, [this] { TabClicked(); });
     OnSignal(m_parts.User, tbCard, &QTabBar::tabBarClicked, this, [this](int index) {
-        if (index == tbCard->currentIndex()) // another one changes it
+        if (index == tbCard->currentIndex()) // otherwise currentChanged follows
             TabClicked();
     });
     BindTabKeys(*tbCard);
@@ -155,17 +155,17 @@ void frmQDW::BindFocus()
     GuardFromWheel(*this);
 }
 
-/// What the screen has room for beside a frame.
+/// The available screen, less the window frame.
 QSize frmQDW::LargestSize() const
 {
     constexpr QSize windowFrame = {32, 64};
     return screen()->availableSize() - windowFrame;
 }
 
-/// Gives the window what its contents want, as far as the screen has it. What the user made larger stays so.
+/// Resizes the window to its contents, within the screen. A size that the user has enlarged is kept.
 void frmQDW::SizeToFit()
 {
-    // Up to the window, or else it would want what the zoom before did.
+    // Otherwise the layouts would still have the size hints of the previous zoom.
     for (QWidget* parent = m_controller->Area()->parentWidget(); parent; parent = parent->parentWidget()) {
         if (QLayout* const layout = parent->layout())
             layout->activate();
@@ -185,12 +185,12 @@ CardKind frmQDW::SelectedKind() const
 
 void frmQDW::TabClicked()
 {
-    tbCard->setFocus(); // it would wander off the fields that go
+    tbCard->setFocus(); // Otherwise it would move to the next field when the form is hidden.
     ShowKind(SelectedKind());
     SelectedPage().Enter();
 }
 
-/// Shows what the tab of a kind edits, the front of the card first. The tab itself stays as it is.
+/// Shows the form of a kind and the front of its card. Does not select the tab.
 void frmQDW::ShowKind(CardKind kind)
 {
     m_forms->setCurrentIndex(static_cast<int>(kind));
@@ -239,7 +239,7 @@ void frmQDW::AddNote(const QString& note)
     statusBar()->showMessage(before.isEmpty() ? note : before + QStringLiteral("  ") + note);
 }
 
-/// Says why the next save would fail, until it would not.
+/// Shows why saving would fail, as long as it would.
 void frmQDW::ShowHint(const QString& reason)
 {
     m_hint->setText(reason);

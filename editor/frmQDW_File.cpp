@@ -18,7 +18,7 @@ namespace deckforge {
 
 namespace {
 
-/// The one file that is dropped; empty for anything else.
+/// The dropped file; empty unless there is exactly one.
 QString DroppedFile(const QDropEvent& event)
 {
     const QList<QUrl> urls = event.mimeData()->urls();
@@ -47,7 +47,7 @@ void frmQDW::Exit()
     close();
 }
 
-/// A question that is cancelled makes no new set.
+/// Cancelling the question cancels the command.
 void frmQDW::NewSet()
 {
     statusBar()->clearMessage();
@@ -63,7 +63,7 @@ void frmQDW::NewSet()
 
 void frmQDW::ShowNewSet()
 {
-    Page& standard = PageOf(CardKind::Standard); // the selected tab may be another
+    Page& standard = PageOf(CardKind::Standard); // not necessarily the selected tab
     standard.TakeSet();
     m_info->Fill();
     ShowKind(CardKind::Standard);
@@ -87,7 +87,7 @@ void frmQDW::OpenFile(const QString& path)
 void frmQDW::ShowOpened()
 {
     {
-        const QSignalBlocker quiet(tbCard); // the cards of the set before are gone
+        const QSignalBlocker quiet(tbCard); // the cards of the previous set are gone
         tbCard->setCurrentIndex(0);
     }
     ShowKind(CardKind::Standard);
@@ -111,7 +111,7 @@ void frmQDW::Start(const QString& commandLine)
     m_document.NoteEarlierRescue();
 }
 
-/// Shows the set as a step left it, at the tab where the step was.
+/// Shows the set after undo or redo, at the tab of the step.
 void frmQDW::ShowRestored(const std::optional<CardKind>& kind)
 {
     const CardSet& set = m_document.Set();
@@ -133,7 +133,7 @@ void frmQDW::ShowRestored(const std::optional<CardKind>& kind)
     SelectedPage().Show(CurrentOf(set, shown));
 }
 
-/// A run goes on to its end: it would come back to a window that is gone.
+/// A run must finish first: it would return to a destroyed window.
 void frmQDW::closeEvent(QCloseEvent* event)
 {
     statusBar()->clearMessage();
@@ -144,7 +144,7 @@ void frmQDW::closeEvent(QCloseEvent* event)
 
 bool frmQDW::TakesDrop(const QDropEvent& event) const
 {
-    if (m_isBusy) // a run has the set
+    if (m_isBusy) // the run uses the set
         return false;
     const QString path = DroppedFile(event);
     const QPointF onPreview = m_preview->mapFrom(this, event.position());
@@ -170,7 +170,7 @@ void frmQDW::dropEvent(QDropEvent* event)
     event->acceptProposedAction();
     const QString path = DroppedFile(*event);
     if (IsSetFile(path)) {
-        // The source of the drop waits for its end, which is not to wait for the question.
+        // Otherwise the drag source would wait for the answer to the question.
         QTimer::singleShot(0, this, [this, path] {
             Guarded(m_parts.User, [&] {
                 if (m_document.AskToSave(BoxButtons::YesNo) != Answer::Cancel)
@@ -183,7 +183,7 @@ void frmQDW::dropEvent(QDropEvent* event)
     Guarded(m_parts.User, [&] { DropPicture(m_preview->BoxAt(onPreview), path); });
 }
 
-/// A box that takes no picture leaves it to the box that it lies on: a label to its card, for one.
+/// A box that takes no picture passes it to its parent, a label to its card for example.
 void frmQDW::DropPicture(const Box* box, const QString& path)
 {
     for (; box; box = m_preview->ParentOf(*box)) {

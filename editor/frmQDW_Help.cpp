@@ -31,7 +31,7 @@ constexpr char HelpText[] = "This is a very small help.\r\n"
 
 } // namespace
 
-/// Help answers to its key whatever else is held, which no shortcut does.
+/// F1 works with any modifier, which a QShortcut does not.
 void frmQDW::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_F1)
@@ -63,7 +63,7 @@ void frmQDW::ShowVersion()
                               .Style = BoxStyle::Information});
 }
 
-/// Tells where the window and the card stand, in twips and pixels.
+/// Shows size of the window and position of the card, in twips and pixels.
 void frmQDW::ShowOffsets()
 {
     const QSize window = frameGeometry().size();
@@ -81,7 +81,7 @@ void frmQDW::ShowOffsets()
                               .Style = BoxStyle::Plain});
 }
 
-/// Labels, bars and the card let a click through to the window; they are no background.
+/// Labels, bars and the card ignore clicks, which then reach the window; they are not background.
 bool frmQDW::IsBackground(QPoint point) const
 {
     const QWidget* const under = childAt(point);
