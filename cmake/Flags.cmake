@@ -1,4 +1,4 @@
-# How our own code is compiled and linked. Every target of ours links deckforge_flags.
+# Compiler and linker flags. Every target of the project links deckforge_flags.
 add_library(deckforge_flags INTERFACE)
 
 target_compile_options(deckforge_flags INTERFACE
