@@ -7,9 +7,9 @@
 int main(int argc, char* argv[])
 {
     deckforge::TakeSizeLimitAsFullDisk();
-    // Text and pictures need the drawing library, but there is no window and need be no display.
+    // Text and pictures need QtGui, but neither a window nor a display.
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Standard error is for what the program itself tells, not for the remarks of its libraries.
+    // Keep messages of the libraries off standard error.
     QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false\n*.info=false"));
     const QGuiApplication application(argc, argv);
     return static_cast<int>(deckforge::RunBatch(QGuiApplication::arguments().sliced(1)));

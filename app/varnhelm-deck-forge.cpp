@@ -1,7 +1,7 @@
 #include "dialogs/QtUser.h"
 #include "editor/frmQDW.h"
 #include "platform/Files.h"
-#include "platform/LastAct.h"
+#include "platform/TerminationGuard.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The program's icon: below 32 pixels a drawing of fewer shapes.
+/// Below 32 pixels a simpler drawing is used.
 QIcon ProgramIcon()
 {
     const QIcon drawing(QStringLiteral(":/deckforge/icon/varnhelm-deck-forge.svg"));
@@ -23,14 +23,14 @@ QIcon ProgramIcon()
     return icon;
 }
 
-/// Until the desktop has placed the window; one that it keeps hidden is not waited for long.
+/// Waits until the desktop shows the window, for a second at most.
 void WaitForPlace(const QWindow& window)
 {
     constexpr int milliseconds = 1000;
-    QTimer patience;
-    patience.setSingleShot(true);
-    patience.start(milliseconds);
-    while (!window.isExposed() && patience.isActive())
+    QTimer timeout;
+    timeout.setSingleShot(true);
+    timeout.start(milliseconds);
+    while (!window.isExposed() && timeout.isActive())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
 }
 
@@ -45,8 +45,8 @@ int main(int argc, char* argv[])
     deckforge::frmQDW window(user);
     user.Serve(&window, [&](int done, int total) { window.ShowProgress(done, total); });
     window.show();
-    const deckforge::LastAct lastAct([&window] { window.RescueAtTheEnd(); });
-    // In the event loop, so that what the reader tells stands over the window.
+    const deckforge::TerminationGuard terminationGuard([&window] { window.RescueAtTheEnd(); });
+    // In the event loop, so that message boxes appear over the window.
     const QString commandLine = QApplication::arguments().sliced(1).join(QLatin1Char(' '));
     QTimer::singleShot(0, &window, [&] {
         WaitForPlace(*window.windowHandle());

@@ -22,7 +22,7 @@ namespace deckforge {
 
 namespace {
 
-constexpr int MostScale = 16;
+constexpr int MaxScale = 16;
 
 // Running
 
@@ -40,11 +40,11 @@ ExitStatus RunOnNewSet(int scale, Task&& task)
             done = task(workshop, user);
         });
     } catch (const RunTimeError& error) {
-        TellUntrapped(user, error);
+        ShowUnhandledError(user, error);
         if (!error.Place().isEmpty())
             user.ReportProblems({error.PlaceAndDescription()});
     }
-    return done && !user.WasToldOfFailure() ? ExitStatus::Done : ExitStatus::FailureReported;
+    return done && !user.HasReportedFailure() ? ExitStatus::Done : ExitStatus::FailureReported;
 }
 
 /// Carries out a task on the set of a file. None of its pictures is loaded.
@@ -113,7 +113,7 @@ void CreateNewCardBacks(Workshop& workshop, ShownRun& run)
         try {
             ShowNewCardBack(workshop, set.NewCardBacks.Current);
         } catch (const RunTimeError& error) {
-            TellUntrapped(run.User, error);
+            ShowUnhandledError(run.User, error);
         }
         SaveImage(workshop, run, CardKind::NewBack, set.NewCardBacks.Current);
     }
@@ -149,7 +149,7 @@ ExitStatus RunConvert(const QStringList& paths, const QCommandLineParser& /*pars
 ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
 {
     const auto kinds = KindsFrom(parser, ImageKinds);
-    const int scale = NumberOption(parser, "scale", MostScale);
+    const int scale = NumberOption(parser, "scale", MaxScale);
     const RunSettings settings = SettingsFrom(parser);
     return RunOnSet(paths[0], scale, [&](Workshop& workshop, UserPort& user) {
         WithSettings(workshop.Set.Header, settings, [&] {

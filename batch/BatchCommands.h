@@ -5,10 +5,10 @@
 
 namespace deckforge {
 
-/// What a run of the batch program comes to, as its exit status.
+/// Exit status of the batch program.
 enum class ExitStatus { Done = 0, FailureReported = 1, WrongUse = 2 };
 
-/// Carries out a command line, the program's name not among it.
+/// Runs a command line, without the program's name.
 [[nodiscard]] ExitStatus RunBatch(const QStringList& arguments);
 
 } // namespace deckforge

@@ -8,7 +8,7 @@ namespace deckforge {
 Answer ConsoleUser::ShowMessage(const MessageBoxRequest& request)
 {
     if (request.Style == BoxStyle::Critical)
-        m_toldOfFailure = true;
+        m_hasReportedFailure = true;
     QString text = request.Text;
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     std::fprintf(stderr, "%s: %s\n", qUtf8Printable(request.Title), qUtf8Printable(text));
@@ -18,7 +18,7 @@ Answer ConsoleUser::ShowMessage(const MessageBoxRequest& request)
 void ConsoleUser::ReportProblems(const QStringList& problems)
 {
     for (const QString& problem : problems) {
-        m_toldOfFailure = true;
+        m_hasReportedFailure = true;
         std::fprintf(stderr, "%s\n", qUtf8Printable(problem));
     }
 }

@@ -4,20 +4,20 @@
 
 namespace deckforge {
 
-/// The user of a run without a window: boxes go to standard error as "TITLE: text", questions are answered
-/// with No, dialogs with a cancel. Problems go there, too, a line each. On a terminal a long run shows how
-/// far it is.
+/// The user of a run without a window: message boxes are written to standard error as "TITLE: text",
+/// questions are answered with No, and dialogs are cancelled. Problems are written there as well, one per
+/// line. On a terminal long runs show their progress.
 class ConsoleUser final : public SilentUser {
 public:
     Answer ShowMessage(const MessageBoxRequest& request) override;
     void ReportProblems(const QStringList& problems) override;
     void ShowProgress(int done, int total) override;
 
-    /// Whether a critical box was shown or a problem reported.
-    [[nodiscard]] bool WasToldOfFailure() const { return m_toldOfFailure; }
+    /// Whether a critical message or a problem was reported.
+    [[nodiscard]] bool HasReportedFailure() const { return m_hasReportedFailure; }
 
 private:
-    bool m_toldOfFailure = false;
+    bool m_hasReportedFailure = false;
 };
 
 } // namespace deckforge

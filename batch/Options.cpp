@@ -82,9 +82,9 @@ RunSettings SettingsFrom(const QCommandLineParser& parser)
 
 void AddOptions(QCommandLineParser& parser)
 {
-    const auto option = [&](const char* name, const char* value, const char* usual) {
+    const auto option = [&](const char* name, const char* value, const char* defaultValue) {
         parser.addOption(QCommandLineOption(QString::fromLatin1(name), {}, QString::fromLatin1(value),
-                                            QString::fromLatin1(usual)));
+                                            QString::fromLatin1(defaultValue)));
     };
     option("help", "", "");
     option("version", "", "");

@@ -13,7 +13,7 @@ namespace deckforge {
 
 extern const char Usage[];
 
-/// A command line that is no command; the text says why.
+/// A wrong command line; the text says why.
 struct WrongUse {
     QString Text;
 };
@@ -26,7 +26,7 @@ void AddOptions(QCommandLineParser& parser);
 /// The number that the option gives; one outside the limits is wrong use.
 [[nodiscard]] int NumberOption(const QCommandLineParser& parser, const char* name, int most, int least = 1);
 
-/// What replaces settings of the set in this run.
+/// Options that override settings of the set in this run.
 struct RunSettings {
     std::optional<QString> SaveTo;
     std::optional<int16> SaveFormat;
@@ -41,7 +41,7 @@ struct KindOption {
     Value What;
 };
 
-/// What the option names, among those of the command; all of them where it is not given.
+/// The kinds named by the option, out of those of the command; all if it is not given.
 template <class Value, std::size_t size>
 std::vector<Value> KindsFrom(const QCommandLineParser& parser, const KindOption<Value> (&options)[size])
 {

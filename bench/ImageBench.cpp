@@ -15,8 +15,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-// Composing a card and writing its image beside the limit: the encoder alone on the bitmap of the same card,
-// with its file.
+// Composing a card and writing its image, compared with encoding and writing the bitmap of the same card.
 
 namespace deckforge {
 
@@ -26,7 +25,7 @@ constexpr int16 Bmp = 0;
 constexpr int16 Jpeg = 1;
 constexpr int16 Gif = 2;
 
-/// A picture with soft colours and grain, as photographs and scans have.
+/// A picture with smooth colours and grain, like photographs and scans.
 QImage Scene(QSize size, double phase)
 {
     QImage image(size, QImage::Format_RGB32);
@@ -42,7 +41,7 @@ QImage Scene(QSize size, double phase)
     return image;
 }
 
-/// A set of one card with a picture, a background, a credit and a text, in a folder of its own.
+/// A set of one card with a picture, a background, a credit and a text, in a temporary folder.
 struct OneCard {
     explicit OneCard(int16 format)
     {
@@ -72,7 +71,7 @@ struct OneCard {
         SaveImage(Shop, TheRun, CardKind::Standard, 1);
     }
 
-    /// The bitmap that the encoder has to take.
+    /// The bitmap that the encoder gets.
     [[nodiscard]] Picture Bitmap()
     {
         Shop.Set.Header.SaveFormat = Bmp;
@@ -117,7 +116,7 @@ void CardGif(benchmark::State& state)
         state, [&] { card.Write(); }, [&] { benchmark::DoNotOptimize(ConvertBmpToGif(source, target)); });
 }
 
-/// A card that is only shown. Its pictures are decoded already, or have just changed on the disk.
+/// Shows a card whose pictures are cached or have just changed on the disk.
 void CardWarm(benchmark::State& state)
 {
     OneCard card(Bmp);
@@ -136,7 +135,7 @@ void CardCold(benchmark::State& state)
         state, [&] { (void)ShowCard(card.Shop, 1); }, touch);
 }
 
-/// The same beside the decoding of its pictures alone.
+/// The same, compared with decoding its pictures.
 void CardColdBesideDecoders(benchmark::State& state)
 {
     OneCard card(Bmp);
@@ -151,7 +150,7 @@ void CardColdBesideDecoders(benchmark::State& state)
         });
 }
 
-/// A card back shown and composed, its template coloured anew.
+/// Shows and composes a card back, whose template is filled with colours.
 void NewBack(benchmark::State& state)
 {
     OneCard card(Bmp);
@@ -163,8 +162,8 @@ void NewBack(benchmark::State& state)
     });
 }
 
-/// A sheet of 6 x 8 beside its 48 cards shown one by one and the encoder alone on its bitmap. The flag of the
-/// last card stays set after a run, so each is made in a shop of its own.
+/// A sheet of 6 x 8, compared with showing its 48 cards and encoding its bitmap. Each run needs a new
+/// workshop, since the flag of the last card stays set.
 void Sheet(benchmark::State& state)
 {
     constexpr SheetGrid grid = {SheetGrid::MostCols, SheetGrid::MostRows};

@@ -7,7 +7,7 @@
 
 namespace deckforge {
 
-/// Seconds of each run of one step; what counts is the median, which a busy machine moves least.
+/// Durations in seconds. The median is least affected by other load.
 class Timings {
 public:
     template <class Step>
@@ -32,8 +32,8 @@ private:
     std::vector<double> m_seconds;
 };
 
-/// Measures the step with its limit in turns, and prints how many times as long as the limit it takes. The
-/// benchmark needs UseManualTime().
+/// Measures the step and the reference alternately, and prints the ratio of their durations. The benchmark
+/// needs UseManualTime().
 template <class Step, class Limit>
 void MeasureBeside(benchmark::State& state, Step&& step, Limit&& limit)
 {
@@ -46,7 +46,7 @@ void MeasureBeside(benchmark::State& state, Step&& step, Limit&& limit)
     state.counters["times the limit"] = steps.Median() / limits.Median();
 }
 
-/// Measures the step beside the 16 ms that a screen takes from one picture to the next.
+/// Measures the step relative to a screen frame of 16 ms.
 template <class Step, class Before>
 void MeasureBesideFrame(benchmark::State& state, Step&& step, Before&& before)
 {

@@ -8,8 +8,8 @@
 #include <unistd.h>
 #include <vector>
 
-// Reading and writing a set beside the limit: the same bytes as bare lines, through the standard library and
-// with the same wait for the disk.
+// Reading and writing a set, compared with the same bytes as plain lines through the standard library, synced
+// to the disk.
 
 namespace deckforge {
 
@@ -33,7 +33,7 @@ CardSet SetOf(int count)
     return set;
 }
 
-/// A set file in a folder of its own.
+/// A set file in a temporary folder.
 struct Stored {
     explicit Stored(int count) : Set(SetOf(count)), Path(Folder.filePath(QStringLiteral("set.dkf")))
     {

@@ -13,15 +13,14 @@
 #include <QTabBar>
 #include <QTemporaryDir>
 
-// What the user waits for in the window on a set of 2,000 cards, repainting included, beside the 16 ms that a
-// screen takes from one picture to the next.
+// Response times of the window with a set of 2,000 cards, including repaints, relative to a screen frame of
+// 16 ms.
 
 namespace deckforge {
 
 namespace {
 
-/// The window over 2,000 cards, of which each has one of a hundred pictures, and one element of each other
-/// kind.
+/// The window with 2,000 cards, each with one of a hundred pictures, and one record of each other kind.
 struct OpenWindow {
     OpenWindow()
     {
@@ -92,7 +91,7 @@ void KeyPress(benchmark::State& state, const char* name, int tab)
     });
 }
 
-/// To the next card, whose picture has been shown before.
+/// Goes to the next card, whose picture is cached.
 void NextCard(benchmark::State& state)
 {
     OpenWindow open;

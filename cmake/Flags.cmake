@@ -1,4 +1,4 @@
-# How our own code is compiled and linked. Every target of ours links deckforge_flags.
+# Compiler and linker flags. Every target of the project links deckforge_flags.
 add_library(deckforge_flags INTERFACE)
 
 target_compile_options(deckforge_flags INTERFACE
@@ -14,7 +14,7 @@ if(DECKFORGE_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(deckforge_flags INTERFACE -fsanitize=address,undefined)
 elseif(NOT DECKFORGE_COVERAGE)
-    # Files and pictures come from strangers: what a fault in reading them can do is limited.
+    # Files and pictures are untrusted input: limit what a bug in reading them can do.
     target_compile_options(deckforge_flags INTERFACE
         -fstack-protector-strong -fstack-clash-protection
         $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)

@@ -1,6 +1,6 @@
 # deckforge_layer(NAME USES layers... [LIBRARIES libraries...] [PRIVATE libraries...])
 #
-# One static library from all sources of the current folder. Headers are included as "folder/Header.h". USES lists
+# Builds a static library from all sources of the current folder. Headers are included as "folder/Header.h". USES lists
 # every other layer whose headers the folder may include; a test reads these lists and checks all includes.
 function(deckforge_layer name)
     cmake_parse_arguments(layer "" "" "USES;LIBRARIES;PRIVATE" ${ARGN})

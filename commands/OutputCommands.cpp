@@ -123,7 +123,7 @@ void ShowComposed(UserPort& user, const CompositionFailure& failure)
 void ShowViewed(UserPort& user, const ViewFailures& failures)
 {
     if (failures.Symbol)
-        TellUntrapped(user, *failures.Symbol);
+        ShowUnhandledError(user, *failures.Symbol);
     ShowComposed(user, failures.FirstCard);
 }
 

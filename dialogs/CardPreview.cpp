@@ -17,10 +17,10 @@ namespace {
 
 constexpr QRgb WindowGrey = qRgb(240, 240, 240);
 
-/// What a parent means for its children, in pixels of the card.
+/// What a parent contributes to its children, in pixels of the card.
 struct Inside {
     QPoint Origin;
-    QRect Clip; ///< empty where the parent is hidden
+    QRect Clip; ///< empty if the parent is hidden
 };
 
 int TextFlags(Alignment align)
@@ -93,8 +93,8 @@ void PaintBox(QPainter& painter, const PreviewBox& row, const QRect& place)
     }
 }
 
-/// A picture answers to arrows and their like with any modifier, and to what types a character; the rest,
-/// help among it, is for the window.
+/// The focused picture handles arrow and character keys with any modifier; all other keys, F1 among them, go
+/// to the window.
 bool IsForWindow(const QKeyEvent& event)
 {
     constexpr std::array arrows = {Qt::Key_Home,  Qt::Key_End,  Qt::Key_Left,   Qt::Key_Up,
@@ -130,7 +130,7 @@ CardPreview::CardPreview(std::vector<PreviewBox> boxes, QWidget* parent)
 
 void CardPreview::SetZoom(int zoom)
 {
-    m_zoom = std::clamp(zoom, 1, MostZoom);
+    m_zoom = std::clamp(zoom, 1, MaxZoom);
     updateGeometry();
     update();
 }
@@ -246,12 +246,12 @@ void CardPreview::mouseReleaseEvent(QMouseEvent* event)
         Q_EMIT Clicked(pressed);
 }
 
-/// On what can be moved the second press begins a drag, like the first.
+/// The second press begins a drag on boxes that can be moved, as the first does.
 void CardPreview::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const PreviewBox* const row = RowAt(event->position());
     if (!row || event->button() != Qt::LeftButton)
-        event->ignore(); // the window tells its version
+        event->ignore(); // the window shows its version
     else if (row->Moves != Grip::None)
         Press(*row, event->position());
     else
@@ -294,7 +294,7 @@ const PreviewBox* CardPreview::RowAt(QPointF point) const
     return foremost;
 }
 
-/// Also of a box that is not seen, as one is that was dragged out of its frame.
+/// Works for hidden boxes as well, such as one dragged out of its frame.
 QPoint CardPreview::CornerOf(const Box& box) const
 {
     const QPoint corner = box.Place().topLeft();
@@ -337,7 +337,7 @@ QRect CardPreview::Bounds() const
     return bounds;
 }
 
-/// A dashed line round what the frame shows of the picture, dark and light, so that it is seen on both.
+/// A dashed line around the visible part of the picture, dark and light so that it shows on any colour.
 void CardPreview::PaintFocus(QPainter& painter, const std::vector<SeenBox>& boxes) const
 {
     for (const SeenBox& seen : boxes) {

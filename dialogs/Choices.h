@@ -4,8 +4,8 @@
 
 namespace deckforge {
 
-/// The dialog in which a picture file is chosen, wherever the program asks for one. It starts where the last
-/// dialog was, unless a folder or a file is put in.
+/// The file dialog for pictures. It starts in the folder of the last file dialog unless Folder or FileName is
+/// set.
 [[nodiscard]] inline FileDialogRequest PictureDialog(const char* title)
 {
     return {.Title = QString::fromLatin1(title),
@@ -17,7 +17,7 @@ namespace deckforge {
             .Folder = {}};
 }
 
-/// Lets the user change a font of the set; a cancel leaves it.
+/// Lets the user change a font; cancelling leaves it unchanged.
 inline void ChooseFont(UserPort& user, FontSpec& font)
 {
     if (const auto chosen = user.AskFont(QStringLiteral("Choose font"), font))

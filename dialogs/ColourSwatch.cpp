@@ -6,7 +6,7 @@ namespace deckforge {
 
 namespace {
 
-/// A colour on the way from one to the other, with share of the second.
+/// Mixes two colours; share is that of the second one.
 QColor Blended(QColor first, QColor second, float share)
 {
     const auto between = [share](float a, float b) { return a + share * (b - a); };
@@ -18,7 +18,7 @@ QColor Blended(QColor first, QColor second, float share)
 
 ColourSwatch::ColourSwatch(QWidget* parent) : QAbstractButton(parent)
 {
-    setAttribute(Qt::WA_Hover); // paints when the pointer comes and goes
+    setAttribute(Qt::WA_Hover); // repaint on hover
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
 }
@@ -39,7 +39,7 @@ QSize ColourSwatch::sizeHint() const
 void ColourSwatch::paintEvent(QPaintEvent* /*event*/)
 {
     const int border = hasFocus() || isDown() ? 2 : 1;
-    const int gap = hasFocus() ? 1 : 0; // parts the border from a colour like its own
+    const int gap = hasFocus() ? 1 : 0; // separates the border from a fill of the same colour
     QPainter painter(this);
     const auto fill = [&](int inset, QColor colour) {
         painter.fillRect(rect().adjusted(inset, inset, -inset, -inset), colour);
@@ -49,7 +49,7 @@ void ColourSwatch::paintEvent(QPaintEvent* /*event*/)
     fill(border + gap, isEnabled() ? m_colour : Blended(m_colour, palette().color(QPalette::Window), 0.5F));
 }
 
-/// Seen on the window whatever its palette, and more so under the pointer.
+/// Contrasts with the window in every palette, and more on hover.
 QColor ColourSwatch::BorderColour() const
 {
     if (hasFocus() && !isDown())

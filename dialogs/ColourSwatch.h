@@ -4,7 +4,7 @@
 
 namespace deckforge {
 
-/// A colour that can be chosen: shows it as a flat rectangle, and a click asks for another one.
+/// A button that shows a colour; a click asks for another one.
 class ColourSwatch final : public QAbstractButton {
 public:
     explicit ColourSwatch(QWidget* parent = nullptr);

@@ -9,7 +9,7 @@ void SelectAllOnFocus(QLineEdit& box, Qt::FocusReason reason)
 {
     if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
         return;
-    // Once the click that gave the keyboard has placed its cursor.
+    // After the click that gave the focus has placed the cursor.
     QTimer::singleShot(0, &box, [&box] {
         if (box.hasFocus())
             box.selectAll();

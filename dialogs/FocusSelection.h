@@ -6,8 +6,8 @@ class QLineEdit;
 
 namespace deckforge {
 
-/// Selects the whole text of a box that has just got the keyboard, so that it is ready for new text. Coming
-/// back to the window, or from a menu of the box, leaves its selection as it was.
+/// Selects the text of a box that has just got the focus, so that typing replaces it. The selection stays
+/// when the focus returns from another window or from the context menu.
 void SelectAllOnFocus(QLineEdit& box, Qt::FocusReason reason);
 
 } // namespace deckforge

@@ -7,19 +7,18 @@
 
 namespace deckforge {
 
-/// Runs a handler of the window or of a dialog. A failure that leaves it is reported and the program goes on:
-/// Qt, which calls the handlers, cannot be left by an exception.
+/// Runs a handler of the window or of a dialog, and reports its failure: exceptions must not pass through Qt.
 template <class Work>
 void Guarded(UserPort& user, Work&& work)
 {
     try {
         WithMemoryAsFailure(work);
     } catch (const RunTimeError& error) {
-        TellUntrapped(user, error);
+        ShowUnhandledError(user, error);
     }
 }
 
-/// Connects a signal to a guarded handler, which gets what the signal carries if it takes that.
+/// Connects a signal to a guarded handler, which takes either all arguments of the signal or none.
 template <class Sender, class Signal, class Handler>
 void OnSignal(UserPort& user, Sender* sender, Signal signal, QObject* receiver, Handler handler)
 {
@@ -33,7 +32,7 @@ void OnSignal(UserPort& user, Sender* sender, Signal signal, QObject* receiver, 
     });
 }
 
-/// The same for the click on a button.
+/// The same for a click on a button.
 template <class Handler>
 void OnClick(UserPort& user, QAbstractButton* button, QObject* receiver, Handler handler)
 {

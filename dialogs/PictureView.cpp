@@ -18,7 +18,7 @@ void PictureView::ShowPicture(const Picture& picture, const QString& words)
     update();
 }
 
-/// With the line round it.
+/// Includes the border.
 QSize PictureView::sizeHint() const
 {
     return CardSize + QSize(2, 2);

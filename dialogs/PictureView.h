@@ -6,12 +6,12 @@
 
 namespace deckforge {
 
-/// Shows a picture as large as a card, or smaller where it would not fit; the shape stays.
+/// Shows a picture at the size of a card, or scaled down to fit, with its aspect ratio.
 class PictureView final : public QWidget {
 public:
     explicit PictureView(QWidget* parent = nullptr);
 
-    /// The empty picture shows the words instead.
+    /// For an empty picture the words are shown instead.
     void ShowPicture(const Picture& picture, const QString& words = {});
 
     [[nodiscard]] QSize sizeHint() const override;

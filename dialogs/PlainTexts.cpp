@@ -8,7 +8,7 @@ namespace deckforge {
 
 namespace {
 
-/// A label is polished before it lays its text out for the first time. Tool tips are labels, too.
+/// Labels, tool tips included, are polished before their first layout.
 class PlainTextFilter final : public QObject {
 public:
     using QObject::QObject;

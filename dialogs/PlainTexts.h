@@ -4,10 +4,9 @@ class QObject;
 
 namespace deckforge {
 
-/// From now on every label of the program shows its text letter by letter, unless rich text was chosen for
-/// it: those of windows, dialogs, message boxes, status bars and tool tips. A label that guesses would take a
-/// title such as
-/// `<img src="/dev/zero">` for rich text and read the file. Ends with the owner.
+/// Makes every label of the program show plain text unless rich text was set explicitly: in windows, dialogs,
+/// message boxes, status bars and tool tips. With Qt::AutoText a title such as `<img src="/dev/zero">` would
+/// be parsed as rich text and the file read. Active until the owner is destroyed.
 void ShowTextsAsPlain(QObject& owner);
 
 } // namespace deckforge

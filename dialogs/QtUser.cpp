@@ -76,7 +76,7 @@ Answer AnswerOf(int button)
     }
 }
 
-/// A box of Yes and No that Esc puts aside. The usual one would take that for a No.
+/// A Yes/No message box that Esc cancels. QMessageBox would return No.
 class AnswerBox final : public QMessageBox {
 public:
     using QMessageBox::QMessageBox;
@@ -93,14 +93,13 @@ protected:
     void closeEvent(QCloseEvent* /*event*/) override { done(QMessageBox::NoButton); }
 };
 
-/// A size for dialogs with lists, in letters of their font.
+/// A size in characters of the dialog's font.
 QSize Letters(const QWidget& dialog, int across, int down)
 {
     return {across * dialog.fontMetrics().averageCharWidth(), down * dialog.fontMetrics().height()};
 }
 
-/// The library's own file dialog cuts the names of places, sizes and types. A desktop's dialog has none of
-/// its widgets.
+/// Qt's own file dialog elides places, sizes and types. A native dialog has none of these widgets.
 void WidenColumns(QFileDialog& dialog)
 {
     if (auto* const splitter = dialog.findChild<QSplitter*>(QStringLiteral("splitter"))) {
@@ -113,17 +112,17 @@ void WidenColumns(QFileDialog& dialog)
     }
 }
 
-/// A short text would leave the title no room.
+/// A message box is only as wide as its text, which may be too narrow for the title.
 void MakeRoomForTitle(QMessageBox& box)
 {
-    constexpr int lettersOfButtons = 16; // beside the title
+    constexpr int lettersOfButtons = 16; // width of the window's buttons beside the title
     const int title = box.fontMetrics().boundingRect(box.windowTitle()).width();
     const int width = title + Letters(box, lettersOfButtons, 0).width();
     if (auto* const rows = qobject_cast<QGridLayout*>(box.layout()))
         rows->addItem(new QSpacerItem(width, 0), rows->rowCount(), 0, 1, rows->columnCount());
 }
 
-/// The statistics of a large set have more lines than a screen.
+/// Statistics of a large set are taller than a screen.
 void LetLongTextScroll(QMessageBox& box)
 {
     auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
@@ -139,14 +138,14 @@ void LetLongTextScroll(QMessageBox& box)
     area->setMinimumSize(whole.boundedTo(room));
 }
 
-/// With NoButton the box chooses the button that Enter stands for.
-int RunBox(const MessageBoxRequest& request, QMessageBox::StandardButton usual, QWidget* window)
+/// With NoButton, QMessageBox chooses the default button.
+int RunBox(const MessageBoxRequest& request, QMessageBox::StandardButton defaultButton, QWidget* window)
 {
     AnswerBox box(IconOf(request.Style), request.Title, {}, ButtonsOf(request.Buttons), window);
     QString text = request.Text;
     box.setTextFormat(Qt::PlainText);
     box.setText(text.replace(QLatin1String("\r\n"), QLatin1String("\n")));
-    box.setDefaultButton(usual);
+    box.setDefaultButton(defaultButton);
     MakeRoomForTitle(box);
     LetLongTextScroll(box);
     return box.exec();
@@ -223,7 +222,7 @@ std::optional<QString> QtUser::AskSaveFile(const FileDialogRequest& request)
     QFileDialog dialog(TopWindow(), request.Title);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    // Asked below: a dialog of the desktop does so for the name before the extension is appended.
+    // Asked below: a native dialog would check the name before the extension is appended.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setDefaultSuffix(request.DefaultExtension);
     Prepare(dialog, request);
@@ -272,11 +271,11 @@ std::optional<QString> QtUser::AskText(const QString& prompt, const QString& tit
 
 std::unique_ptr<QPagedPaintDevice> QtUser::OpenPrinter(const QString& document)
 {
-    const QPrinterInfo usual = QPrinterInfo::defaultPrinter();
-    if (usual.isNull())
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (info.isNull())
         return nullptr;
-    auto printer = std::make_unique<QPrinter>(usual, QPrinter::HighResolution);
-    printer->setResolution(PrinterResolution(usual.printerName()));
+    auto printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+    printer->setResolution(PrinterResolution(info.printerName()));
     printer->setDocName(document);
     printer->setCreator(QStringLiteral("Varnhelm Deck Forge"));
     const QPageLayout layout = printer->pageLayout();
@@ -321,7 +320,7 @@ void QtUser::Prepare(QFileDialog& dialog, const FileDialogRequest& request) cons
     dialog.setDirectory(folder.isEmpty() ? QDir::homePath() : PathToOpen(folder));
     if (request.FileName.isEmpty())
         return;
-    // A name may hold a separator, as titles of cards do, or the folders of another machine.
+    // The name may contain separators: titles of cards do, and so do paths of other systems.
     const QString path = PathToOpen(request.FileName);
     const bool isPath = QDir::isAbsolutePath(path) && QFileInfo(FolderPart(path)).isDir();
     dialog.selectFile(isPath ? path : NamePart(path));

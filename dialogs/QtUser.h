@@ -9,22 +9,22 @@ class QWidget;
 
 namespace deckforge {
 
-/// Qt's widgets as the user's side of the program. Everything is asked over the window it serves.
+/// UserPort implemented with Qt Widgets. Dialogs are shown over the served window.
 ///
-/// Texts are shown letter by letter, whatever marks they hold. File dialogs start in the folder of the file
-/// chosen last in this run.
+/// Texts are shown as plain text. File dialogs start in the folder of the last file chosen in this run.
 class QtUser final : public UserPort {
 public:
     ~QtUser() override;
 
-    /// The window under all boxes, and what shows it how far a long run is. Until then boxes stand alone.
+    /// Sets the parent of all dialogs and the function that shows progress. Without it dialogs have no
+    /// parent.
     void Serve(QWidget* window, std::function<void(int done, int total)> showProgress);
 
     Answer ShowMessage(const MessageBoxRequest& request) override;
-    /// In the status bar of the window: the last one and how many more there are.
+    /// Shows the last problem and the number of the others in the window's status bar.
     void ReportProblems(const QStringList& problems) override;
     std::optional<QString> AskOpenFile(const FileDialogRequest& request) override;
-    /// The file's folder exists, and the user has agreed to replace a file that is there.
+    /// The folder exists, and the user has confirmed replacing an existing file.
     std::optional<QString> AskSaveFile(const FileDialogRequest& request) override;
     std::optional<QString> BrowseForFolder() override;
     std::optional<Colour> AskColour(const QString& title, Colour colour) override;
@@ -46,11 +46,11 @@ private:
     bool m_isHourglass = false;
 };
 
-/// What is asked before a save dialog lets the existing file at the path be replaced.
+/// The question before a save dialog replaces the existing file at the path.
 [[nodiscard]] QString ReplaceQuestion(const QString& path, const FileDialogRequest& request);
 
-/// "All files(*.*)|*.*|Pictures (*.bmp;*.jpg)|*.bmp;*.jpg" as the name filters of Qt's file dialog. The
-/// pattern for every file also takes those without an extension.
+/// Converts "All files(*.*)|*.*|Pictures (*.bmp;*.jpg)|*.bmp;*.jpg" to the name filters of QFileDialog. "*.*"
+/// becomes "*", which also matches files without an extension.
 [[nodiscard]] QStringList NameFilters(const QString& filter);
 
 } // namespace deckforge

@@ -4,8 +4,8 @@
 
 namespace deckforge {
 
-/// Gives the rows of a list room above and below their text, and draws boxes to check so that they are seen
-/// in every palette.
+/// Adds vertical space to the rows of a list, and outlines check boxes so that they are visible in every
+/// palette.
 class RowDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -17,7 +17,7 @@ public:
     }
 
 protected:
-    /// The outline of a box comes from the colour of the window, and would be lost on a dark list.
+    /// The check box's outline is derived from the window colour, which is invisible on a dark list.
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& cell) const override
     {
         QStyledItemDelegate::initStyleOption(option, cell);

@@ -4,8 +4,8 @@ class QTabBar;
 
 namespace deckforge {
 
-/// Ctrl-Tab goes to the next tab from everywhere in the window, with Shift to the one before, round and
-/// round.
+/// Ctrl+Tab selects the next tab from anywhere in the window, Ctrl+Shift+Tab the previous one, both wrapping
+/// around.
 void BindTabKeys(QTabBar& tabs);
 
 } // namespace deckforge

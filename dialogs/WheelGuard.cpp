@@ -32,7 +32,7 @@ void GuardFromWheel(QWidget& window)
     auto* const guard = new WheelGuard(&window);
     for (QWidget* control : window.findChildren<QWidget*>()) {
         const bool isBox = qobject_cast<QComboBox*>(control) || qobject_cast<QAbstractSpinBox*>(control);
-        if (isBox) // or else the wheel itself would give it the keyboard
+        if (isBox) // or the wheel itself would give it the focus
             control->setFocusPolicy(Qt::StrongFocus);
         if (isBox || qobject_cast<QTabBar*>(control))
             control->installEventFilter(guard);

@@ -30,12 +30,12 @@ public:
                                        .arg(VersionMinor)
                                        .arg(VersionRevision));
         m_form.lblContact->setText(ContactAddress());
-        // Whether there is a browser to open it is not this dialog's affair.
+        // Nothing to report if there is no browser.
         connect(m_form.lblURL, &QLabel::linkActivated, this,
                 [](const QString& link) { QDesktopServices::openUrl(QUrl(link)); });
         connect(m_form.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
         layout()->setSizeConstraint(QLayout::SetFixedSize);
-        m_form.cmdClose->setFocus(); // Enter closes, and does not go to the web
+        m_form.cmdClose->setFocus(); // so that Enter closes and does not open the link
     }
 
 private:

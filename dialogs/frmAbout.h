@@ -6,10 +6,10 @@ class QWidget;
 
 namespace deckforge {
 
-/// Tells of the program and its makers in a dialog over the window. Its link opens in the web browser.
+/// Shows the program, its version and its authors. The link opens in the web browser.
 void ShowAbout(QWidget* window);
 
-/// Where the makers are written to: a box of the host of their web site.
+/// The authors' e-mail address, at the host of their web site.
 [[nodiscard]] QString ContactAddress();
 
 } // namespace deckforge

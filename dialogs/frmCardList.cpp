@@ -48,7 +48,7 @@ private:
     CardKind m_kind;
 };
 
-/// Rows go in the order of the set until a header is clicked; that sorts what is seen, never the set.
+/// Rows are in the order of the set until a header is clicked. Sorting never changes the set.
 class CardListDialog final : public QDialog {
 public:
     CardListDialog(const CardSet& set, CardKind kind, QWidget* window) : QDialog(window), m_model(set, kind)
@@ -61,13 +61,13 @@ public:
         list.setItemDelegate(new RowDelegate(this));
         list.header()->setStretchLastSection(false);
         list.header()->setSortIndicator(-1, Qt::AscendingOrder);
-        list.header()->setSortIndicatorClearable(true); // the third click brings the set's order back
+        list.header()->setSortIndicatorClearable(true); // the third click restores the order of the set
         list.setSortingEnabled(true);
         list.installEventFilter(this);
         connect(list.header(), &QHeaderView::sectionResized, this,
                 [this](int column, int /*before*/, int width) { TakeShare(column, width); });
         connect(&list, &QTreeView::doubleClicked, this, [this](const QModelIndex& cell) { Pick(cell); });
-        // Letters look for a title, wherever in its row the last click was.
+        // Typing searches the titles, whatever column was clicked last.
         connect(list.selectionModel(), &QItemSelectionModel::currentChanged, this,
                 [&list](const QModelIndex& cell) {
                     if (cell.column() > 0)
@@ -117,7 +117,7 @@ private:
         }
     }
 
-    /// A column that the user drags keeps its share when the list is sized.
+    /// A column that the user resized keeps its share of the list's width.
     void TakeShare(int column, int width)
     {
         if (m_isSizing)
@@ -132,13 +132,14 @@ private:
         accept();
     }
 
-    static constexpr int Gap = 10; ///< what a column leaves of its share
+    static constexpr int Gap = 10; ///< width left free in each column
 
     Ui::frmCardList m_form;
     CardListModel m_model;
     QSortFilterProxyModel m_sorted;
     std::optional<int16> m_chosen;
-    std::array<double, CardListColumnCount> m_shares = {2 / 7.0, 2 / 7.0, 2 / 7.0, 1 / 7.0}; ///< of the list
+    std::array<double, CardListColumnCount> m_shares = {2 / 7.0, 2 / 7.0, 2 / 7.0,
+                                                        1 / 7.0}; ///< of the list's width
     bool m_isSizing = false;
 };
 

@@ -8,8 +8,7 @@ class QWidget;
 
 namespace deckforge {
 
-/// Shows the records of a list in a dialog over the window and gives the index of the one that the user
-/// picks; nothing when the list is closed without.
+/// Shows the records of a list and returns the index of the chosen one; nothing if the dialog is closed.
 [[nodiscard]] std::optional<int16> ChooseFromCardList(const CardSet& set, CardKind kind, QWidget* window);
 
 } // namespace deckforge

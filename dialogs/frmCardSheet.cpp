@@ -10,8 +10,8 @@ namespace deckforge {
 
 namespace {
 
-constexpr QSize SmallCard = {16, 27}; ///< of a card of the preview, about as wide and high as a card is
-constexpr int Step = 3;               ///< from card to card, beside its size
+constexpr QSize SmallCard = {16, 27}; ///< of a card in the picture of the grid, roughly to scale
+constexpr int Step = 3;               ///< between cards
 constexpr QRgb Paper = qRgb(247, 241, 222);
 constexpr QRgb Ink = qRgb(90, 74, 51);
 constexpr QRgb Sky = qRgb(106, 160, 216);
@@ -21,7 +21,7 @@ QRect CellPlace(int col, int row)
     return {QPoint(col * (SmallCard.width() + Step), row * (SmallCard.height() + Step)), SmallCard};
 }
 
-/// As many small cards as the sheet has cells; room for the largest sheet, so that nothing moves.
+/// One small card per cell. The picture has the size of the largest sheet, so that the layout does not move.
 QPixmap GridPicture(SheetGrid grid, double ratio)
 {
     const QRect last = CellPlace(SheetGrid::MostCols - 1, SheetGrid::MostRows - 1);
@@ -40,15 +40,15 @@ QPixmap GridPicture(SheetGrid grid, double ratio)
     return picture;
 }
 
-/// Fills a frame with the numbers from 1, as option buttons named after what they choose; shows the preset.
-QButtonGroup* AddOptions(QGroupBox* frame, const char* name, int most, int preset)
+/// Adds option buttons 1 to `count` to a frame, named after their numbers; checks the preset.
+QButtonGroup* AddOptions(QGroupBox* frame, const char* name, int count, int preset)
 {
     auto* const group = new QButtonGroup(frame);
-    for (int i = 1; i <= most; ++i) {
+    for (int i = 1; i <= count; ++i) {
         auto* const option = new QRadioButton(QString::number(i), frame);
         option->setObjectName(QLatin1String(name) + QString::number(i));
         option->setChecked(i == preset);
-        // Tab stops at the checked button alone. The group sees to that, but not before it had the focus.
+        // Tab stops at the checked button only. QButtonGroup would do so only after it has had the focus.
         option->setFocusPolicy(i == preset ? Qt::StrongFocus : Qt::ClickFocus);
         frame->layout()->addWidget(option);
         group->addButton(option, i);
@@ -56,7 +56,7 @@ QButtonGroup* AddOptions(QGroupBox* frame, const char* name, int most, int prese
     return group;
 }
 
-/// The numbers stand on their buttons; what is chosen is what is checked.
+/// The result is read from the checked buttons, whose texts are the numbers.
 class SheetDialog final : public QDialog {
 public:
     SheetDialog(bool noBack, QWidget* window) : QDialog(window), m_noBack(noBack)
@@ -103,7 +103,7 @@ std::optional<SheetGrid> AskSheetGrid(bool noBack, QWidget* window)
 
 QString SheetSizeText(SheetGrid grid, bool noBack)
 {
-    constexpr int widthWithBack = 254; // less than the sheet has, but what has always been told
+    constexpr int widthWithBack = 254; // Kept: less than the sheet's real width.
     return QStringLiteral("%1 x %2")
         .arg(grid.Rows * CardSize.height())
         .arg(grid.Cols * (noBack ? CardSize.width() : widthWithBack));

@@ -6,10 +6,10 @@ class QWidget;
 
 namespace deckforge {
 
-/// Asks for the grid of a card sheet in a dialog over the window; nothing on a cancel.
+/// Asks for the grid of a card sheet; nothing if cancelled.
 [[nodiscard]] std::optional<SheetGrid> AskSheetGrid(bool noBack, QWidget* window);
 
-/// "768 x 508": the height of a sheet, then its width. A card with its back is told narrower than it is.
+/// "768 x 508": height and width of a sheet. Kept: with backs the width is too small.
 [[nodiscard]] QString SheetSizeText(SheetGrid grid, bool noBack);
 
 } // namespace deckforge

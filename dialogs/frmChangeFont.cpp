@@ -37,7 +37,7 @@ constexpr char SpecialAbilities[] =
     "\r\n"
     "3) You need a life.";
 
-/// A set of one sample of each kind.
+/// Adds one sample of each kind.
 void FillSampleSet(CardSet& set)
 {
     Card& card = set.Cards[1];
@@ -54,7 +54,7 @@ void FillSampleSet(CardSet& set)
     set.Header.Autonumber = true;
 }
 
-/// The sample of a standard card stands where the middle of the others is.
+/// Centres the standard card and the playing piece on the larger samples.
 void CentreSmallCards(CardTemplates& t)
 {
     const int wide = t.Large.picCardLarge.Left + t.Large.picCardLarge.Width / 2;
@@ -62,7 +62,7 @@ void CentreSmallCards(CardTemplates& t)
         small->Left = wide - small->Width / 2;
 }
 
-/// The boxes of the sample cards: what stands on their fronts, and no back.
+/// The boxes of the fronts of the sample cards.
 std::vector<PreviewBox> SampleBoxes(const CardTemplates& t)
 {
     const Box* const backs[] = {&t.Standard.picBack, &t.Large.picBackLarge, &t.Character.picCharacterBack};
@@ -108,13 +108,14 @@ protected:
         if (event->type() == QEvent::MouseButtonDblClick &&
             static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
             m_form.cmdChangeFont->click();
-            return true; // the option would wait for a release that went to the font dialog
+            return true; // otherwise the option waits for a mouse release, which the font dialog took
         }
         return QDialog::eventFilter(watched, event);
     }
 
 private:
-    /// The samples are laid out as any card is, and shown by the preview of the window, deaf to the mouse.
+    /// The samples are laid out by the Show functions and shown by the same preview as in the window, without
+    /// mouse events.
     void BuildSamples()
     {
         static_cast<void>(InitForm(m_samples));
@@ -135,7 +136,7 @@ private:
         m_form.cardLayout->addWidget(m_preview);
     }
 
-    /// Dresses the sample cards in the fonts of the set.
+    /// Applies the fonts of the set to the sample cards.
     void SetDemoFont()
     {
         SetFont(m_samples.Templates, m_header);
@@ -145,7 +146,7 @@ private:
         m_preview->update();
     }
 
-    /// The option that is on stays so, also where the sample has no such option.
+    /// The checked option stays checked, even if the sample does not have it.
     void ShowSample()
     {
         const int sample = m_form.tbCard->currentIndex();

@@ -7,9 +7,8 @@ namespace deckforge {
 struct SetHeader;
 class UserPort;
 
-/// Lets the user change the font scheme of the set and the colour of the artist's line in a dialog over the
-/// window that shows them on sample cards. What is changed is in the set at once; the caller dresses its own
-/// previews again.
+/// Lets the user change the font scheme of the set and the colour of the artist's credit, with sample cards.
+/// Changes are written to the set at once; the caller updates its own previews.
 void EditFonts(SetHeader& header, UserPort& user, QWidget* window);
 
 } // namespace deckforge

@@ -12,10 +12,10 @@ namespace deckforge {
 
 namespace {
 
-constexpr int SampleZoom = 2; ///< as the preview of a card usually is
+constexpr int SampleZoom = 2; ///< the default zoom of the window's preview
 constexpr QSize SampleSize = {190, 42};
 
-/// The families of this machine behind the names that cards begin with, and the one chosen so far.
+/// The chosen name, the names of new cards, and the installed families.
 QStringList FontNames(const QString& chosen)
 {
     QStringList names = {QStringLiteral("Small Fonts"), QStringLiteral("Arial")};
@@ -26,7 +26,7 @@ QStringList FontNames(const QString& chosen)
     return names;
 }
 
-/// Side by side on white and on black, so that every colour is seen.
+/// On white and on black, so that every colour is visible.
 QPixmap SamplePicture(const FontSpec& font, double ratio)
 {
     const QSize size = SampleSize * SampleZoom;
@@ -60,7 +60,7 @@ public:
         m_form.chkItalic->setChecked(font.Italic);
         connect(m_form.cboFont, &QComboBox::currentTextChanged, this, [this] { Refresh(); });
         connect(m_form.udSize, &QDoubleSpinBox::valueChanged, this, [this](double size) {
-            m_font.Size = size; // until then a size that the box cannot show stays
+            m_font.Size = size; // until the user changes it, a size that the box cannot show is kept
             Refresh();
         });
         connect(m_form.chkBold, &QCheckBox::toggled, this, [this] { Refresh(); });
@@ -98,7 +98,7 @@ private:
 
     Ui::frmFont m_form;
     UserPort& m_user;
-    FontSpec m_font; ///< size and colour as chosen so far
+    FontSpec m_font; ///< size and colour chosen so far
 };
 
 } // namespace

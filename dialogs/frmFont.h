@@ -6,8 +6,8 @@ class QWidget;
 
 namespace deckforge {
 
-/// Lets the user choose a font with its size, style and colour in a dialog over the window; nothing on a
-/// cancel. A font that this machine lacks stays in the list under its name. The user is asked for the colour.
+/// Lets the user choose a font with its size, style and colour; nothing if cancelled. A font that is not
+/// installed stays selectable by its name. `user` asks for the colour.
 [[nodiscard]] std::optional<FontSpec> ChooseFontInDialog(const QString& title, const FontSpec& font,
                                                          UserPort& user, QWidget* window);
 

@@ -12,12 +12,12 @@ namespace deckforge {
 
 namespace {
 
-/// The pictures of one field, each with a box to check.
+/// The pictures of one field, each with a check box.
 class PathModel final : public QAbstractTableModel {
 public:
     PathModel(CardSet& set, QObject* parent) : QAbstractTableModel(parent), m_set(set) {}
 
-    /// Shows the field, or what has become of it; nothing is checked then.
+    /// Shows the current paths of the field, all unchecked.
     void Show(const PathField& field)
     {
         beginResetModel();
@@ -63,8 +63,8 @@ public:
 
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& cell) const override
     {
-        const Qt::ItemFlags usual = QAbstractTableModel::flags(cell);
-        return cell.column() == CardColumn ? usual | Qt::ItemIsUserCheckable : usual;
+        const Qt::ItemFlags flags = QAbstractTableModel::flags(cell);
+        return cell.column() == CardColumn ? flags | Qt::ItemIsUserCheckable : flags;
     }
 
     [[nodiscard]] QVariant data(const QModelIndex& cell, int role) const override
@@ -95,7 +95,7 @@ private:
     CardSet& m_set;
     const PathField* m_field = &PathFields().front();
     std::vector<int16> m_rows;
-    std::vector<bool> m_isChecked; ///< of each of them
+    std::vector<bool> m_isChecked; ///< of each row
 };
 
 class PathDialog final : public QDialog {
@@ -118,7 +118,7 @@ public:
         OnClick(user, m_form.cmdBrowse, this, [this] { Browse(); });
         OnClick(user, m_form.cmdSelectAll, this, [this] { m_model.CheckAll(); });
         OnClick(user, m_form.cmdChange, this, [this] { Change(); });
-        // Once there is a folder, Enter takes it and does not close the dialog.
+        // Once a folder is entered, Enter applies it instead of closing the dialog.
         OnSignal(user, m_form.txtNewPath, &QLineEdit::textChanged, this,
                  [this] { m_form.cmdChange->setDefault(true); });
         connect(m_form.cmdDone, &QPushButton::clicked, this, &QDialog::accept);

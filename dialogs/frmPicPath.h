@@ -7,8 +7,8 @@ namespace deckforge {
 struct CardSet;
 class UserPort;
 
-/// Lets the user change the folders of the set's pictures in a dialog over the window. What is changed is in
-/// the records at once; the caller shows them again.
+/// Lets the user change the folders of the set's pictures. Changes are written to the records at once; the
+/// caller shows them again.
 void EditPicturePaths(CardSet& set, UserPort& user, QWidget* window);
 
 } // namespace deckforge

@@ -35,7 +35,7 @@ public:
         m_form.backLayout->setAlignment(m_form.picCB, Qt::AlignTop);
         for (QListView* list : {m_form.lstCB, m_form.lstCT}) {
             list->setItemDelegate(new RowDelegate(this));
-            list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // a long name is elided
+            list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // long names are elided
         }
         m_form.lstCB->setModel(&m_ownBacks);
         m_form.lstCT->setModel(&m_ownTypes);
@@ -129,7 +129,7 @@ private:
             box.setText(from.text());
     }
 
-    /// Most types read the same on both sides.
+    /// Most types have the same text on both sides, so the reversed name is filled in.
     void LeaveBox(const QObject* box)
     {
         if (box == m_form.txtCTName)
@@ -138,10 +138,10 @@ private:
             FillEmpty(*m_form.txtCTNameRev2, *m_form.txtCTName2);
     }
 
-    /// Enter adds what is typed; then it closes the dialog again.
+    /// Enter adds the typed row; afterwards it closes the dialog again.
     void EnterCloses() { m_form.cmdClose->setDefault(true); }
 
-    void TellMissing(const char* text)
+    void ShowMissing(const char* text)
     {
         m_user.ShowMessage({.Text = QString::fromLatin1(text),
                             .Title = QStringLiteral("Missing information"),
@@ -154,7 +154,7 @@ private:
         box.setToolTip(path);
     }
 
-    /// A picture that cannot be loaded leaves words in its place.
+    /// Shows a message in place of a picture that cannot be loaded.
     template <class Load>
     void Show(PictureView& view, Load&& load)
     {
@@ -188,7 +188,7 @@ private:
 
     // Card backs
 
-    /// The default back may be a row that was deleted; then there is nothing to show.
+    /// Nothing is shown if the default back was deleted.
     void ShowDefaultBack()
     {
         const int16 row = m_set.LastCardBack;
@@ -222,7 +222,7 @@ private:
             return;
         back.Name = name;
         Initialize();
-        m_form.lstCB->setCurrentIndex(m_ownBacks.index(ownRow)); // its boxes show the name that it now has
+        m_form.lstCB->setCurrentIndex(m_ownBacks.index(ownRow)); // shows the new name in its text boxes
     }
 
     void ChooseBackPicture()
@@ -242,7 +242,7 @@ private:
         const QString name = m_form.txtCBName->text();
         const QString picture = m_form.txtCBPicture->text();
         if (name.isEmpty() || picture.isEmpty()) {
-            TellMissing("You must give both a name and choose a file.");
+            ShowMissing("You must give both a name and choose a file.");
             return;
         }
         AddOwnBack(m_set, name, picture);
@@ -260,11 +260,11 @@ private:
     void AddType()
     {
         if (m_form.txtCTName->text().isEmpty()) {
-            TellMissing("You must give the type a name.");
+            ShowMissing("You must give the type a name.");
             return;
         }
         if (m_form.txtCTNameRev->text().isEmpty()) {
-            TellMissing("You must give the type a reversed name.");
+            ShowMissing("You must give the type a reversed name.");
             return;
         }
         AddOwnType(m_set, {.Name = m_form.txtCTName->text(),
@@ -295,7 +295,7 @@ private:
     Workshop& m_workshop;
     UserPort& m_user;
     CardSet& m_set;
-    QString& m_lastBackFile; ///< where the next choice starts
+    QString& m_lastBackFile; ///< where the next file dialog starts
     Ui::frmSetInfo m_form;
     QStringListModel m_ownBacks;
     QStringListModel m_ownTypes;

@@ -8,10 +8,10 @@ namespace deckforge {
 struct Workshop;
 class UserPort;
 
-/// Lets the user add card backs and card types to the set, and choose what a new card takes, in a dialog over
-/// the window. What is changed is in the set at once; the caller fills its lists again.
+/// Lets the user add card backs and card types to the set, and choose the values of new cards. Changes are
+/// written to the set at once; the caller fills its lists again.
 ///
-/// The file that was chosen last for a back is where the next choice starts.
+/// lastBackFile is the last file chosen for a back: the next file dialog starts there.
 void EditSetInfo(Workshop& workshop, UserPort& user, QString& lastBackFile, QWidget* window);
 
 } // namespace deckforge

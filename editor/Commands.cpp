@@ -1,6 +1,7 @@
 #include "editor/Commands.h"
 
 #include "commands/OutputCommands.h"
+#include "commands/SetCommands.h"
 #include "compose/FontScheme.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmCardSheet.h"
@@ -17,202 +18,187 @@
 
 namespace deckforge {
 
-struct Commands::Command {
-    const char* Key = nullptr; ///< also the name of its image; null for a separator
+namespace {
+
+struct Command {
+    const char* Key = nullptr; ///< also the name of its icon; null for a separator
     const char* ToolTip = nullptr;
     std::function<void()> Work = {};
     QKeySequence Shortcut = {};
 };
 
-Commands::Commands(EditorParts& parts, frmQDW& window) : QObject(&window), m_parts(parts), m_window(window)
-{
-    QToolBar* const bar = window.addToolBar(QStringLiteral("Commands"));
-    bar->setObjectName(QStringLiteral("tbCardCreator"));
-    bar->setMovable(false);
-    Fill(*bar);
-    const auto onKey = [this](const QKeySequence& key, void (Page::*work)()) {
-        OnSignal(m_parts.User, new QShortcut(key, &m_window), &QShortcut::activated, this, [this, work] {
-            if (m_window.SelectedKind() != CardKind::NewBack) // whose tab has no such keys
-                (m_window.SelectedPage().*work)();
-        });
-    };
-    onKey(Qt::CTRL | Qt::Key_N, &Page::Add);
-    onKey(Qt::CTRL | Qt::Key_Comma, &Page::Previous);
-    onKey(Qt::CTRL | Qt::Key_Period, &Page::Next);
-}
-
-void Commands::Fill(QToolBar& bar)
-{
-    const Command commands[] = {
-        {"exit", "Exit deck forge", std::bind_front(&frmQDW::Exit, &m_window)},
-        {},
-        {"new", "New card set", std::bind_front(&frmQDW::NewSet, &m_window)},
-        {"open", "Open card set", std::bind_front(&frmQDW::OpenSet, &m_window), Qt::CTRL | Qt::Key_O},
-        {"save", "Save card set", std::bind_front(&frmQDW::SaveSet, &m_window), Qt::CTRL | Qt::Key_S},
-        {"changepicpath", "Change path for pictures in set", std::bind_front(&Commands::ChangePicPath, this)},
-        {},
-        {"copy", "Copy current card", std::bind_front(&Commands::Copy, this)},
-        {"paste", "Paste current card", std::bind_front(&Commands::Paste, this)},
-        {},
-        {"setinfo", "Set card defaults", std::bind_front(&Commands::SetInfo, this)},
-        {"choosefont", "Set card fonts", std::bind_front(&Commands::ChangeFonts, this)},
-        {},
-        {"exportback", "Export cardbacks to disk", std::bind_front(&Commands::ExportBacks, this)},
-        {"createone", "Create one card", std::bind_front(&Commands::CreateOne, this)},
-        {"createall", "Create all cards", std::bind_front(&Commands::CreateAll, this)},
-        {"createsheet", "Create card sheets", std::bind_front(&Commands::CreateSheets, this)},
-        {"html", "Generate HTML", std::bind_front(&Commands::CreateHtml, this)},
-        {"exporttext", "Export set to textfile", std::bind_front(&Commands::ExportListing, this)},
-        {"printcard", "Print the current card", std::bind_front(&Commands::PrintCurrent, this)},
-        {},
-        {"statistics", "Show statistics", std::bind_front(&Commands::ShowStatistics, this)},
-        {"about", "About", std::bind_front(&Commands::About, this)},
-    };
-    for (const Command& command : commands) {
-        if (!command.Key) {
-            bar.addSeparator();
-            continue;
-        }
-        const QString key = QString::fromLatin1(command.Key);
-        auto* const action = new QAction(QIcon(QStringLiteral(":/deckforge/toolbar/%1.svg").arg(key)),
-                                         QString::fromLatin1(command.ToolTip), &m_window);
-        action->setObjectName(key);
-        action->setShortcut(command.Shortcut);
-        OnSignal(m_parts.User, action, &QAction::triggered, this, [this, work = command.Work] {
-            m_parts.Document.EndVisit();
-            m_window.RunCommand(work);
-        });
-        bar.addAction(action);
-        bar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+/// The commands of the tool bar with their shortcuts, and what each does on the selected tab.
+class Commands final : public QObject {
+public:
+    Commands(EditorParts& parts, frmQDW& window) : QObject(&window), m_parts(parts), m_window(window)
+    {
+        QToolBar* const bar = window.addToolBar(QStringLiteral("Commands"));
+        bar->setObjectName(QStringLiteral("tbCardCreator"));
+        bar->setMovable(false);
+        Fill(*bar);
+        const auto onKey = [this](const QKeySequence& key, void (Page::*work)()) {
+            OnSignal(m_parts.User, new QShortcut(key, &m_window), &QShortcut::activated, this, [this, work] {
+                if (m_window.SelectedKind() != CardKind::NewBack) // that tab has no such keys
+                    (m_window.SelectedPage().*work)();
+            });
+        };
+        onKey(Qt::CTRL | Qt::Key_N, &Page::Add);
+        onKey(Qt::CTRL | Qt::Key_Comma, &Page::Previous);
+        onKey(Qt::CTRL | Qt::Key_Period, &Page::Next);
     }
-}
 
-Page& Commands::PageForCards() const
-{
-    return m_window.PageOf(KindForCards());
-}
+private:
+    [[nodiscard]] const CardSet& Set() const { return m_parts.Document.Set(); }
 
-CardKind Commands::KindForCards() const
-{
-    const CardKind kind = m_window.SelectedKind();
-    return kind == CardKind::NewBack ? CardKind::Character : kind;
-}
+    void Fill(QToolBar& bar)
+    {
+        const Command commands[] = {
+            {"exit", "Exit deck forge", [this] { m_window.Exit(); }},
+            {},
+            {"new", "New card set", [this] { m_window.NewSet(); }},
+            {"open", "Open card set", [this] { m_window.OpenSet(); }, Qt::CTRL | Qt::Key_O},
+            {"save", "Save card set", [this] { m_window.SaveSet(); }, Qt::CTRL | Qt::Key_S},
+            {"changepicpath", "Change path for pictures in set", [this] { ChangePicPath(); }},
+            {},
+            {"copy", "Copy current card", [this] { PageForCards().Copy(); }},
+            {"paste", "Paste current card", [this] { PageForCards().Paste(); }},
+            {},
+            {"setinfo", "Set card defaults", [this] { SetInfo(); }},
+            {"choosefont", "Set card fonts", [this] { ChangeFonts(); }},
+            {},
+            {"exportback", "Export cardbacks to disk", [this] { ExportCardBacks(m_parts.Works, m_parts.User); }},
+            {"createone", "Create one card", [this] { CreateOne(); }},
+            {"createall", "Create all cards", [this] { CreateAll(); }},
+            {"createsheet", "Create card sheets", [this] { CreateSheets(); }},
+            {"html", "Generate HTML", [this] { CreateHtml(); }},
+            {"exporttext", "Export set to textfile", [this] { ExportText(Set(), m_parts.User); }},
+            {"printcard", "Print the current card", [this] { PrintCurrent(); }},
+            {},
+            {"statistics", "Show statistics", [this] { ShowStatistics(Set(), m_parts.User); }},
+            {"about", "About", [this] { ShowAbout(&m_window); }},
+        };
+        for (const Command& command : commands) {
+            if (!command.Key) {
+                bar.addSeparator();
+                continue;
+            }
+            const QString key = QString::fromLatin1(command.Key);
+            auto* const action = new QAction(QIcon(QStringLiteral(":/deckforge/toolbar/%1.svg").arg(key)),
+                                             QString::fromLatin1(command.ToolTip), &m_window);
+            action->setObjectName(key);
+            action->setShortcut(command.Shortcut);
+            OnSignal(m_parts.User, action, &QAction::triggered, this, [this, work = command.Work] {
+                m_parts.Document.EndVisit();
+                m_window.RunCommand(work);
+            });
+            bar.addAction(action);
+            bar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+        }
+    }
 
-/// A new set has only standard cards until the other tabs are looked at; until then error 9.
-int16 Commands::ExistingIndex(CardKind kind) const
-{
-    const int16 index = CurrentOf(m_parts.Document.Set(), kind);
-    if (index < 1)
-        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-    return index;
-}
+    /// On the tab of card backs, commands for whole cards work on the characters.
+    [[nodiscard]] Page& PageForCards() const { return m_window.PageOf(KindForCards()); }
 
-/// The run has laid the current card out again; other cards were on the preview before.
-void Commands::FillAfterRun()
-{
-    if (CurrentOf(m_parts.Document.Set(), m_window.SelectedKind()) > 0)
-        m_window.SelectedPage().Fill();
-}
+    [[nodiscard]] CardKind KindForCards() const
+    {
+        const CardKind kind = m_window.SelectedKind();
+        return kind == CardKind::NewBack ? CardKind::Character : kind;
+    }
 
-void Commands::ChangePicPath()
-{
-    m_parts.Document.Edit(QStringLiteral("Change picture path"),
-                          [this](CardSet& set) { EditPicturePaths(set, m_parts.User, &m_window); });
-    if (const int16 current = CurrentOf(m_parts.Document.Set(), m_window.SelectedKind()); current > 0)
+    /// Error 9 if there is no record: a new set has only a standard card, until the other tabs are selected.
+    [[nodiscard]] int16 ExistingIndex(CardKind kind) const
+    {
+        const int16 index = CurrentOf(Set(), kind);
+        if (index < 1)
+            throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+        return index;
+    }
+
+    /// The run has shown each card on the preview, the current one last.
+    void FillAfterRun()
+    {
+        if (CurrentOf(Set(), m_window.SelectedKind()) > 0)
+            m_window.SelectedPage().Fill();
+    }
+
+    void ChangePicPath()
+    {
+        m_parts.Document.Edit(QStringLiteral("Change picture path"),
+                              [this](CardSet& set) { EditPicturePaths(set, m_parts.User, &m_window); });
+        if (const int16 current = CurrentOf(Set(), m_window.SelectedKind()); current > 0)
+            m_window.SelectedPage().Show(current);
+    }
+
+    void SetInfo()
+    {
+        m_parts.Document.Edit(QStringLiteral("Customize Set"),
+                              [this](CardSet&) { EditSetInfo(m_parts.Works, m_parts.User, m_lastBackFile, &m_window); });
+        m_window.ShowTables();
+    }
+
+    void ChangeFonts()
+    {
+        m_parts.Document.Edit(QStringLiteral("Change Fonts"),
+                              [this](CardSet& set) { EditFonts(set.Header, m_parts.User, &m_window); });
+        m_window.ShowFonts();
+    }
+
+    void CreateOne()
+    {
+        const CardKind kind = m_window.SelectedKind();
+        const int16 current = ExistingIndex(kind);
         m_window.SelectedPage().Show(current);
-}
+        ShownRun run(m_parts.User);
+        m_parts.Document.Edit(QStringLiteral("Create one card"),
+                              [&](CardSet&) { SaveImageAs(m_parts.Works, run, kind, current); });
+    }
 
-void Commands::Copy()
-{
-    PageForCards().Copy();
-}
-
-void Commands::Paste()
-{
-    PageForCards().Paste();
-}
-
-void Commands::SetInfo()
-{
-    m_parts.Document.Edit(QStringLiteral("Customize Set"), [this](CardSet&) {
-        EditSetInfo(m_parts.Works, m_parts.User, m_lastBackFile, &m_window);
-    });
-    m_window.ShowTables();
-}
-
-void Commands::ChangeFonts()
-{
-    m_parts.Document.Edit(QStringLiteral("Change Fonts"),
-                          [this](CardSet& set) { EditFonts(set.Header, m_parts.User, &m_window); });
-    m_window.ShowFonts();
-}
-
-void Commands::ExportBacks()
-{
-    ExportCardBacks(m_parts.Works, m_parts.User);
-}
-
-void Commands::CreateOne()
-{
-    const CardKind kind = m_window.SelectedKind();
-    const int16 current = ExistingIndex(kind);
-    m_window.SelectedPage().Show(current);
-    ShownRun run(m_parts.User);
-    m_parts.Document.Edit(QStringLiteral("Create one card"),
-                          [&](CardSet&) { SaveImageAs(m_parts.Works, run, kind, current); });
-}
-
-void Commands::CreateAll()
-{
-    ShownRun run(m_parts.User);
-    m_parts.Document.Edit(QStringLiteral("Create all cards"),
-                          [&](CardSet&) { CreateImages(m_parts.Works, run, KindForCards()); });
-    FillAfterRun();
-}
-
-void Commands::CreateSheets()
-{
-    const std::optional<SheetGrid> grid = AskSheetGrid(m_parts.Document.Set().Header.NoBack, &m_window);
-    ShownRun run(m_parts.User);
-    m_parts.Document.Edit(QStringLiteral("Create card sheets"), [&](CardSet&) {
-        deckforge::CreateSheets(m_parts.Works, run, KindForCards(), grid); // reports a cancel as well
-    });
-    if (grid)
+    void CreateAll()
+    {
+        ShownRun run(m_parts.User);
+        m_parts.Document.Edit(QStringLiteral("Create all cards"),
+                              [&](CardSet&) { CreateImages(m_parts.Works, run, KindForCards()); });
         FillAfterRun();
-}
+    }
 
-void Commands::CreateHtml()
-{
-    const CardSet& set = m_parts.Document.Set();
-    const CardKind kind = KindForCards();
-    ShownRun run(m_parts.User);
-    deckforge::CreateHtml(set, run, static_cast<HtmlPages>(kind));
-    if (kind == CardKind::Character)
-        deckforge::CreateHtml(set, run, HtmlPages::Pieces);
-}
+    void CreateSheets()
+    {
+        const std::optional<SheetGrid> grid = AskSheetGrid(Set().Header.NoBack, &m_window);
+        ShownRun run(m_parts.User);
+        m_parts.Document.Edit(QStringLiteral("Create card sheets"), [&](CardSet&) {
+            deckforge::CreateSheets(m_parts.Works, run, KindForCards(), grid); // reports a cancel as well
+        });
+        if (grid)
+            FillAfterRun();
+    }
 
-void Commands::ExportListing()
-{
-    ExportText(m_parts.Document.Set(), m_parts.User);
-}
+    void CreateHtml()
+    {
+        ShownRun run(m_parts.User);
+        const CardKind kind = KindForCards();
+        deckforge::CreateHtml(Set(), run, static_cast<HtmlPages>(kind));
+        if (kind == CardKind::Character)
+            deckforge::CreateHtml(Set(), run, HtmlPages::Pieces);
+    }
 
-/// The tab of card backs prints the current character, without its playing piece.
-void Commands::PrintCurrent()
-{
-    const auto page = static_cast<PrintedPage>(m_window.SelectedKind());
-    m_window.PageOf(KindOnPage(page)).Show(ExistingIndex(KindOnPage(page)));
-    ShownRun run(m_parts.User);
-    PrintCard(m_parts.Works, run, page);
-}
+    void PrintCurrent()
+    {
+        const auto page = static_cast<PrintedPage>(m_window.SelectedKind());
+        m_window.PageOf(KindOnPage(page)).Show(ExistingIndex(KindOnPage(page)));
+        ShownRun run(m_parts.User);
+        PrintCard(m_parts.Works, run, page);
+    }
 
-void Commands::ShowStatistics()
-{
-    deckforge::ShowStatistics(m_parts.Document.Set(), m_parts.User);
-}
+    EditorParts& m_parts;
+    frmQDW& m_window;
+    QString m_lastBackFile; ///< last file chosen in Customize Set
+};
 
-void Commands::About()
+} // namespace
+
+void AddCommands(EditorParts& parts, frmQDW& window)
 {
-    ShowAbout(&m_window);
+    new Commands(parts, window);
 }
 
 } // namespace deckforge

@@ -7,7 +7,7 @@
 
 namespace deckforge {
 
-/// What the parts of the window work on together. The window owns it.
+/// What the parts of the window share. Owned by the window.
 struct EditorParts {
     Workshop& Works;
     SetDocument& Document;
@@ -15,9 +15,9 @@ struct EditorParts {
     UserPort& User;
 };
 
-/// What a picture that cannot be loaded is: nothing, and the preview stays as it was.
+/// The result of `load`; nothing if it fails.
 template <class Load>
-[[nodiscard]] std::optional<Picture> Attempted(Load&& load)
+[[nodiscard]] std::optional<Picture> PictureIfAny(Load&& load)
 {
     try {
         return load();
@@ -28,7 +28,7 @@ template <class Load>
 
 [[nodiscard]] inline std::optional<Picture> LoadedPicture(EditorParts& parts, const QString& path)
 {
-    return Attempted([&] { return parts.Works.Pictures.LoadPicture(path); });
+    return PictureIfAny([&] { return parts.Works.Pictures.LoadPicture(path); });
 }
 
 } // namespace deckforge

@@ -2,6 +2,8 @@
 
 #include "core/CardKind.h"
 
+#include <vector>
+
 class QString;
 class QWidget;
 
@@ -9,7 +11,7 @@ namespace deckforge {
 
 struct Box;
 
-/// One tab, as the window and its commands know it.
+/// Interface of one tab to the window and its commands.
 class Page {
 public:
     Page() = default;
@@ -19,23 +21,27 @@ public:
 
     [[nodiscard]] virtual CardKind Kind() const = 0;
     [[nodiscard]] virtual QWidget* Form() const = 0;
+    /// The controls that select their text when they get the focus.
+    [[nodiscard]] virtual std::vector<QWidget*> BoxesToReplace() const = 0;
 
-    /// Makes the first record of the kind if there is none. Its tab was clicked.
+    /// The tab was clicked: makes the first record if there is none, and shows the current one.
     virtual void Enter() = 0;
-    /// Shows or hides the boxes of the kind on the preview, from the front side.
+    /// Shows the front side on the preview, or hides the page's boxes.
     virtual void SetShown(bool isShown) = 0;
-    /// A set was opened, made anew or restored: what depends on its tables and counts is renewed.
+    /// A set was opened, created or restored: updates what depends on its tables and counts.
     virtual void TakeSet() = 0;
-
-    /// A step was undone or redone: the slider goes to the current record.
+    /// A step was undone or redone: moves the slider to the current record.
     virtual void SyncSlider() = 0;
 
-    /// Brings preview and controls up to date with a record.
+    /// Updates preview and controls with a record.
     virtual void Show(int16 index) = 0;
-    /// Brings the controls alone up to date with the current record.
+    /// Updates only the controls, with the current record.
     virtual void Fill() = 0;
-    /// The frame on the preview has another size.
+    /// The size of the frame on the preview has changed.
     virtual void ShowFrameSize() {}
+
+    /// Moves the focus to the name of the record and selects it.
+    virtual void StartTyping() = 0;
 
     // Commands on the current record.
     virtual void Add() = 0;
@@ -45,7 +51,7 @@ public:
     virtual void Copy() = 0;
     virtual void Paste() = 0;
 
-    /// Takes a picture that was dropped on a box of the preview; false if the box is none of the page's.
+    /// Takes a picture dropped on a box of the preview; false if the box does not belong to the page.
     virtual bool TakeDrop(const Box& box, const QString& path) = 0;
 };
 

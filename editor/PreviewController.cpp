@@ -16,7 +16,7 @@ namespace {
 
 constexpr int DefaultZoom = 2;
 
-/// Wants room for all of the preview, and takes less where the screen is small.
+/// Prefers the size of the whole preview, and scrolls on small screens.
 class PreviewArea final : public QScrollArea {
 public:
     explicit PreviewArea(CardPreview* preview, QWidget* parent) : QScrollArea(parent)
@@ -31,40 +31,35 @@ public:
     [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
     [[nodiscard]] QSize minimumSizeHint() const override
     {
-        return DoubleCardSize; // at its smallest zoom
+        return DoubleCardSize; // at zoom 1
     }
 };
 
 } // namespace
 
-PreviewController::PreviewController(EditorParts& parts, std::function<void(CardKind)> frameSized,
-                                     std::function<void()> zoomed, QWidget* window)
-    : QObject(window), m_parts(parts), m_frameSized(std::move(frameSized)), m_zoomed(std::move(zoomed)),
-      m_area(new PreviewArea(&parts.Preview, window)), m_zooms(new QButtonGroup(this))
+PreviewController::PreviewController(EditorParts& parts, QWidget* window)
+    : QObject(window), m_parts(parts), m_area(new PreviewArea(&parts.Preview, window)),
+      m_zooms(new QButtonGroup(this))
 {
     parts.Preview.SetZoom(DefaultZoom);
-    MakeZoomButtons(window);
-    BindZoom(window);
+    BuildZoom(window);
     const auto on = [this](auto signal, auto handler) {
         OnSignal(m_parts.User, &m_parts.Preview, signal, this, handler);
     };
     on(&CardPreview::Pressed, [this](const Box*, QPoint point) {
-        m_parts.Document.EndVisit(); // a gesture is a step of its own
+        m_parts.Document.EndVisit(); // each gesture is a separate step
         m_dragStart = point;
     });
-    on(&CardPreview::Dragged,
-       [this](const Box* box, QPoint point, QPoint moved) { Dragged(box, point, moved); });
+    on(&CardPreview::Dragged, std::bind_front(&PreviewController::Dragged, this));
     on(&CardPreview::Clicked, [this](const Box* box) { LabelClicked(box, FontClicks::One); });
     on(&CardPreview::DoubleClicked, [this](const Box* box) { LabelClicked(box, FontClicks::Two); });
-    on(&CardPreview::KeyPressed, [this](const Box* picture, Qt::Key key, Qt::KeyboardModifiers held) {
-        KeyPressed(picture, key, held);
-    });
-    on(&CardPreview::TipWanted, [this](const Box* box, QPoint point) { ShowTip(box, point); });
+    on(&CardPreview::KeyPressed, std::bind_front(&PreviewController::KeyPressed, this));
+    on(&CardPreview::TipWanted, std::bind_front(&PreviewController::ShowTip, this));
 }
 
-void PreviewController::MakeZoomButtons(QWidget* window)
+void PreviewController::BuildZoom(QWidget* window)
 {
-    for (int zoom = 1; zoom <= CardPreview::MostZoom; ++zoom) {
+    for (int zoom = 1; zoom <= CardPreview::MaxZoom; ++zoom) {
         auto* const button = new QToolButton(window);
         const QString text = QStringLiteral("%1x").arg(zoom);
         button->setObjectName(QStringLiteral("cmdZoom%1").arg(zoom));
@@ -77,17 +72,13 @@ void PreviewController::MakeZoomButtons(QWidget* window)
         button->setFocusPolicy(Qt::TabFocus);
         m_zooms->addButton(button, zoom);
     }
-}
-
-void PreviewController::BindZoom(QWidget* window)
-{
     OnSignal(m_parts.User, m_zooms, &QButtonGroup::idClicked, this, [this](int zoom) { SetZoom(zoom); });
     const auto onKey = [&](const QKeySequence& key, int step) {
         OnSignal(m_parts.User, new QShortcut(key, window), &QShortcut::activated, this,
                  [this, step] { SetZoom(m_parts.Preview.Zoom() + step); });
     };
     onKey(QKeySequence::ZoomIn, 1);
-    onKey(Qt::CTRL | Qt::Key_Equal, 1); // the same key without Shift
+    onKey(Qt::CTRL | Qt::Key_Equal, 1); // "+" without Shift
     onKey(QKeySequence::ZoomOut, -1);
 }
 
@@ -103,7 +94,7 @@ void PreviewController::SetZoom(int zoom)
     m_zooms->button(preview.Zoom())->setChecked(true);
     preview.resize(preview.sizeHint());
     m_area->updateGeometry();
-    m_zoomed();
+    Q_EMIT Zoomed();
 }
 
 std::array<PreviewController::PlacementRow, 4> PreviewController::Placements() const
@@ -118,23 +109,10 @@ std::array<PreviewController::PlacementRow, 4> PreviewController::Placements() c
     }};
 }
 
-template <class Work>
-void PreviewController::Place(const PlacementRow& row, const char* step, Work&& work)
+void PreviewController::Place(const PlacementRow& row, const char* step, const std::function<void()>& work)
 {
-    const QString name = QString::fromLatin1(step);
-    const auto change = [&](auto& /*record*/) { work(); };
-    switch (row.Kind) {
-    case CardKind::Standard:
-        m_parts.Document.Edit<Card>(name, change);
-        break;
-    case CardKind::Large:
-        m_parts.Document.Edit<LargeCard>(name, change);
-        break;
-    default:
-        m_parts.Document.Edit<Character>(name, change);
-        break;
-    }
-    m_frameSized(row.Kind);
+    m_parts.Document.Edit(QString::fromLatin1(step), ScopeOf(row.Kind), [&](CardSet&) { work(); });
+    Q_EMIT FrameSized(row.Kind);
     m_parts.Preview.update();
 }
 
@@ -146,24 +124,27 @@ void PreviewController::LabelClicked(const Box* box, FontClicks clicks)
         const SetHeader& header = m_parts.Document.Set().Header;
         FontSpec font = header.*row.Font;
         ChooseFont(m_parts.User, font);
-        m_parts.Document.Edit<SetHeader>(QStringLiteral("Font"), row.Font, font);
+        m_parts.Document.Edit(QStringLiteral("Font"), EditScope::Settings,
+                              [&](CardSet& set) { set.Header.*row.Font = font; });
         SetFont(m_parts.Works.Templates, header);
         m_parts.Preview.update();
     }
 }
 
-/// A picture goes as far as the pointer. A handle stops at its bounds: it goes to where the pointer holds it.
+/// A picture follows the pointer. A handle stops at its limits, so it is moved by its distance to the
+/// pointer.
 void PreviewController::Dragged(const Box* box, QPoint point, QPoint moved)
 {
     const QPoint toPointer = point - m_dragStart;
     for (const PlacementRow& row : Placements()) {
         if (box == &row.Image) {
             Place(row, "Move picture", [&] {
-                MovePicture(m_parts.Works, row.Which, moved.x() * TwipsPerPixelX, moved.y() * TwipsPerPixelY);
+                MovePicture(m_parts.Works, row.Picture, moved.x() * TwipsPerPixelX,
+                            moved.y() * TwipsPerPixelY);
             });
         } else if (box == row.Handle) {
-            const int pixels = row.Which == PlacedPicture::Standard ? toPointer.y() : toPointer.x();
-            Place(row, "Size frame", [&] { MoveHandle(m_parts.Works, row.Which, pixels); });
+            const int pixels = row.Picture == PlacedPicture::Standard ? toPointer.y() : toPointer.x();
+            Place(row, "Size frame", [&] { MoveHandle(m_parts.Works, row.Picture, pixels); });
         }
     }
 }
@@ -175,8 +156,8 @@ void PreviewController::KeyPressed(const Box* picture, Qt::Key key, Qt::Keyboard
         if (picture != &row.Image)
             continue;
         if (held == Qt::NoModifier)
-            Place(row, "Move picture", [&] { MovePictureByKey(m_parts.Works, row.Which, key); });
-        else if (held == Qt::ShiftModifier && row.Which == PlacedPicture::Standard)
+            Place(row, "Move picture", [&] { MovePictureByKey(m_parts.Works, row.Picture, key); });
+        else if (held == Qt::ShiftModifier && row.Picture == PlacedPicture::Standard)
             Place(row, "Size frame", [&] { MoveHandleByKey(m_parts.Works, key); });
     }
 }

@@ -13,46 +13,47 @@ namespace deckforge {
 
 enum class FontClicks;
 
-/// What the user does with the preview: places pictures, sizes frames, changes fonts, zooms.
+/// Handles gestures on the preview: moves pictures, sizes frames, changes fonts, zooms.
 class PreviewController final : public QObject {
-public:
-    /// Calls frameSized after a gesture that may have changed the frame of the kind, and zoomed after the
-    /// zoom.
-    PreviewController(EditorParts& parts, std::function<void(CardKind)> frameSized,
-                      std::function<void()> zoomed, QWidget* window);
+    Q_OBJECT
 
-    /// Scrolls the preview where the screen is small.
+public:
+    PreviewController(EditorParts& parts, QWidget* window);
+
+    /// The scroll area that contains the preview.
     [[nodiscard]] QScrollArea* Area() const { return m_area; }
-    /// One for each zoom, for the status bar.
+    /// One button per zoom, for the status bar.
     [[nodiscard]] QList<QAbstractButton*> ZoomButtons() const;
 
     void SetZoom(int zoom);
 
+Q_SIGNALS:
+    /// A gesture may have changed the frame of the current record.
+    void FrameSized(deckforge::CardKind kind);
+    void Zoomed();
+
 private:
-    /// A picture that the user places.
+    /// A picture that can be moved.
     struct PlacementRow {
         const Box& Image;
-        const Box* Handle; ///< null for none
-        PlacedPicture Which;
+        const Box* Handle; ///< null if there is none
+        PlacedPicture Picture;
         CardKind Kind;
     };
 
-    void MakeZoomButtons(QWidget* window);
-    void BindZoom(QWidget* window);
+    void BuildZoom(QWidget* window);
     [[nodiscard]] std::array<PlacementRow, 4> Placements() const;
-    template <class Work>
-    void Place(const PlacementRow& row, const char* step, Work&& work);
+    /// Edits the record as an undo step with that name, and updates preview and frame size.
+    void Place(const PlacementRow& row, const char* step, const std::function<void()>& work);
     void LabelClicked(const Box* box, FontClicks clicks);
     void Dragged(const Box* box, QPoint point, QPoint moved);
     void KeyPressed(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held);
     void ShowTip(const Box* box, QPoint globalPoint);
 
     EditorParts& m_parts;
-    std::function<void(CardKind)> m_frameSized;
-    std::function<void()> m_zoomed;
     QScrollArea* m_area;
     QButtonGroup* m_zooms;
-    QPoint m_dragStart; ///< on the handle that is dragged
+    QPoint m_dragStart; ///< position inside the pressed box
 };
 
 } // namespace deckforge

@@ -7,108 +7,58 @@
 #include "platform/Paths.h"
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QMap>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QSpinBox>
-#include <array>
+#include <deque>
 #include <functional>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace deckforge {
 
-// The rows by which a form knows its controls. An undo step has the accessible name of its control.
+using Handler = std::function<void()>;
 
-/// What follows a change of a control; nothing by default.
-class Handler {
-public:
-    // Not defaulted: the compiler fails on defaulted ones where a row leaves its handler out.
-    Handler() noexcept {}  // NOLINT(modernize-use-equals-default)
-    ~Handler() noexcept {} // NOLINT(modernize-use-equals-default)
-    Handler(const Handler&) = default;
-    Handler& operator=(const Handler&) = default;
-    template <class Work>
-    requires std::is_invocable_v<const Work&> Handler(Work work)
-        : m_work(std::move(work)) // converts, so that rows take lambdas
-    {
-    }
+inline void DoNothing() {}
 
-    void operator()() const
-    {
-        if (m_work)
-            m_work();
-    }
-
-private:
-    std::function<void()> m_work;
+struct TextOptions {
+    Box* Preview = nullptr; ///< its caption shows the text
+    Handler Changed = DoNothing;
+    bool QuietOnFill = false; ///< not applied when the control is filled
 };
 
-/// A text box, or a list that takes any text, for a field of the record.
-template <class Record>
-struct TextField {
-    QWidget* Control;
-    QString Record::*Field;
-    Box* Preview = nullptr;   ///< whose caption follows
-    Handler Changed = {};     ///< what else follows, also when the control is filled
-    bool QuietOnFill = false; ///< nothing follows when the control is filled
-};
-
-/// A check box for a field of the record.
-template <class Record>
-struct CheckField {
-    QCheckBox* Control;
-    bool Record::*Field;
-    Handler Changed = {};
-};
-
-/// A spin box for a field of the record.
-template <class Record>
-struct CountField {
-    QSpinBox* Control;
-    int16 Record::*Field;
-};
-
-/// The buttons that choose and clear a picture from disk, and the box that shows its name.
-template <class Record>
-struct PictureField {
+struct PictureControls {
     QAbstractButton* Choose;
     QAbstractButton* Clear;
-    const char* Title = "Choose picture"; ///< of the file dialog
-    QString Record::*Field;
-    Box* Target = nullptr;     ///< shows the picture
-    bool IsFramed = false;     ///< the target has the size of its picture; any other shows it from its corner
-    bool StartsAtFrame = true; ///< a new picture is shown at the corner of its frame until it is placed again
-    std::array<const Box*, 2> DropsAt = {}; ///< take dropped pictures for the target
     QLineEdit* PathBox;
-    Handler Changed = {};
-    Handler Cleared = {};
 };
 
-/// The button and the swatch that choose a colour.
-template <class Record>
-struct ColourField {
+struct PictureOptions {
+    const char* Title = "Choose picture";          ///< of the file dialog
+    Box* Target = nullptr;                         ///< shows the picture
+    std::function<void(const Picture&)> Show = {}; ///< shows it in another way
+    const Box* Frame = nullptr;    ///< contains Target, which then takes the picture's natural size
+    const Box* DropArea = nullptr; ///< accepts dropped pictures, as Target and Frame do
+    bool StartsAtFrame = true;     ///< a new picture starts at the top left of its frame
+    Handler Changed = DoNothing;
+    Handler Cleared = DoNothing;
+};
+
+struct ColourControls {
     QAbstractButton* Choose;
     ColourSwatch* Swatch;
-    const char* Title;
-    Colour& (*Field)(Record&);
-    Box* Preview = nullptr; ///< whose background follows
-    Handler Changed = {};   ///< runs after a cancel as well
+    const char* Title; ///< of the colour dialog
 };
 
-template <class Record>
-struct FieldRows {
-    std::vector<TextField<Record>> Texts = {};
-    std::vector<CheckField<Record>> Checks = {};
-    std::vector<CountField<Record>> Counts = {};
-    std::vector<PictureField<Record>> Pictures = {};
-    std::vector<ColourField<Record>> Colours = {};
+struct ColourOptions {
+    Box* Preview = nullptr;      ///< its background has the colour
+    Handler Changed = DoNothing; ///< also runs if the dialog was cancelled
 };
 
-/// A form whose controls edit the current record of one type: what is typed or clicked goes into the record
-/// as a step of the document, and to the one box of the preview that shows it.
+/// A form whose controls edit the current record of one type. A change is written to the record through
+/// SetDocument::Edit, as an undo step named after the control, and shown by the control's box of the preview.
 template <class Record>
 class RecordForm {
 public:
@@ -118,23 +68,149 @@ public:
     RecordForm& operator=(const RecordForm&) = delete;
 
 protected:
-    /// Connects the controls. Called once, by the constructor of the form.
-    void Bind(FieldRows<Record> rows);
+    using ColourField = Colour& (*)(Record&);
 
-    /// Shows the current record in the controls. The record stays as it is, even where a control cannot show
-    /// all of it.
-    void FillFields();
+    // Each connects controls with a field of the record. Called by the constructor of the form.
 
-    [[nodiscard]] const Record& Current() const { return CurrentRecordOf<Record>(m_parts.Document.Set()); }
-    [[nodiscard]] const FieldRows<Record>& Rows() const { return m_rows; }
-
-    /// The dialog starts where the button's last file was; without a button it has no such memory.
-    [[nodiscard]] std::optional<QString> AskPicture(const char* title, const QAbstractButton* button);
-    void RememberFolder(const QAbstractButton* button, const QString& path)
+    void AddText(QWidget* control, QString Record::*field, TextOptions options = {})
     {
-        m_folders.insert(button, FolderPart(path));
+        m_texts.emplace_back(control, field);
+        const auto changed = [this, control, field, options = std::move(options)] {
+            if (m_isFilling && options.QuietOnFill)
+                return;
+            if (!m_isFilling)
+                Edit(control, field, TextOf(*control));
+            if (options.Preview)
+                options.Preview->Caption = Current().*field;
+            options.Changed();
+            m_parts.Preview.update();
+        };
+        if (QLineEdit* const line = LineEditOf(control)) {
+            line->setMaxLength(std::numeric_limits<int>::max()); // the field has no limit
+            On(line, &QLineEdit::textChanged, changed);
+        } else {
+            On(static_cast<QPlainTextEdit*>(control), &QPlainTextEdit::textChanged, changed);
+        }
     }
-    void TakePicture(const PictureField<Record>& row, const QString& path);
+
+    void AddCheck(QCheckBox* control, bool Record::*field, Handler changed = DoNothing)
+    {
+        m_checks.emplace_back(control, field);
+        On(control, &QCheckBox::clicked, [this, control, field, changed = std::move(changed)] {
+            Edit(control, field, control->isChecked());
+            changed();
+            m_parts.Preview.update();
+        });
+    }
+
+    void AddCount(QSpinBox* control, int16 Record::*field)
+    {
+        m_counts.emplace_back(control, field);
+        On(control, &QSpinBox::valueChanged, [this, control, field](int value) {
+            if (!m_isFilling)
+                Edit(control, field, static_cast<int16>(value));
+        });
+    }
+
+    void AddPicture(PictureControls controls, QString Record::*field, PictureOptions options)
+    {
+        const PictureRow& row = m_pictures.emplace_back(PictureRow{controls, field, std::move(options)});
+        On(controls.Choose, &QAbstractButton::clicked, [this, &row] {
+            if (const auto path = AskPicture(row.Options.Title, row.Controls.Choose))
+                TakePicture(row, *path);
+        });
+        On(controls.Clear, &QAbstractButton::clicked, [this, &row] { ClearPicture(row); });
+    }
+
+    void AddColour(ColourControls controls, ColourField field, ColourOptions options)
+    {
+        m_colours.emplace_back(controls.Swatch, field);
+        const auto choose = [this, controls, field, options = std::move(options)] {
+            Record record = Current();
+            if (const auto colour =
+                    m_parts.User.AskColour(QString::fromLatin1(controls.Title), field(record))) {
+                Edit(controls.Swatch, [&](Record& changed) { field(changed) = *colour; });
+                controls.Swatch->SetColour(QColor(ToRgb(*colour)));
+                if (options.Preview)
+                    options.Preview->Surface->SetBackColor(*colour);
+            }
+            options.Changed();
+            m_parts.Preview.update();
+        };
+        On(controls.Choose, &QAbstractButton::clicked, choose);
+        On(controls.Swatch, &QAbstractButton::clicked, choose);
+    }
+
+    /// Connects an editable list whose entries differ from the text of the record: `chosen` runs when an
+    /// entry is chosen, `typed` when text is typed.
+    template <class Chosen, class Typed>
+    void OnEntry(QComboBox* list, Chosen chosen, Typed typed)
+    {
+        On(list, &QComboBox::activated, chosen);
+        On(list->lineEdit(), &QLineEdit::textEdited, [list, typed] {
+            SelectTyped(*list);
+            typed();
+        });
+        On(list->lineEdit(), &QLineEdit::returnPressed, [list, chosen] {
+            if (ShowsEntry(*list))
+                chosen();
+        });
+    }
+
+    /// Shows the current record in the controls. The record does not change, even where a control truncates
+    /// its value.
+    void FillFields()
+    {
+        const QScopedValueRollback filling(m_isFilling, true);
+        Record record = Current(); // a copy, since ColourField takes a non-const record
+        for (const auto& [control, field] : m_texts)
+            SetTextOf(*control, record.*field);
+        for (const auto& [control, field] : m_checks)
+            control->setChecked(record.*field);
+        for (const auto& [control, field] : m_counts)
+            control->setValue(record.*field);
+        for (const PictureRow& row : m_pictures)
+            ShowPath(*row.Controls.PathBox, record.*row.Field);
+        for (const auto& [swatch, field] : m_colours)
+            swatch->SetColour(QColor(ToRgb(field(record))));
+    }
+
+    [[nodiscard]] const Record& Current() const { return RecordIn(m_parts.Document.Set()); }
+
+    /// Changes the record: change(Record&), as an undo step named after the control.
+    template <class Change>
+    void Edit(const QWidget* control, Change&& change)
+    {
+        m_parts.Document.Edit(control->accessibleName(), Scope, [&](CardSet& set) { change(RecordIn(set)); });
+    }
+
+    template <class Value>
+    void Edit(const QWidget* control, Value Record::*field, const Value& value)
+    {
+        Edit(control, [&](Record& record) { record.*field = value; });
+    }
+
+    /// Asks for a picture file. With a button the dialog starts in the folder of the button's last file.
+    [[nodiscard]] std::optional<QString> AskPicture(const char* title, const QAbstractButton* button)
+    {
+        FileDialogRequest request = PictureDialog(title);
+        if (button)
+            request.Folder = m_folders.value(button);
+        return m_parts.User.AskOpenFile(request);
+    }
+
+    /// Takes a picture dropped on a box; false if the box belongs to no picture of the form.
+    bool TakePictureOn(const Box& box, const QString& path)
+    {
+        for (const PictureRow& row : m_pictures) {
+            const PictureOptions& options = row.Options;
+            if (&box == options.Target || &box == options.Frame || &box == options.DropArea) {
+                TakePicture(row, path);
+                return true;
+            }
+        }
+        return false;
+    }
 
     template <class Sender, class Signal, class Work>
     void On(Sender* sender, Signal signal, Work work)
@@ -144,192 +220,77 @@ protected:
 
     EditorParts& m_parts;
     QWidget* const m_widget;
-    bool m_isFilling = false; ///< the controls show a record and nobody types
+    bool m_isFilling = false; ///< true while the controls are filled: changes are not the user's
 
 private:
-    void Bind(const TextField<Record>& row);
-    void Bind(const CheckField<Record>& row);
-    void Bind(const CountField<Record>& row);
-    void Bind(const PictureField<Record>& row);
-    void Bind(const ColourField<Record>& row);
-    void TextChanged(const TextField<Record>& row);
-    void ShowOn(const PictureField<Record>& row, const Picture& picture);
-    void LayAtFrame(const PictureField<Record>& row);
-    void ClearPicture(const PictureField<Record>& row);
-    void ChooseColour(const ColourField<Record>& row);
+    static constexpr bool IsSettings = std::is_same_v<Record, SetHeader>;
+    static constexpr EditScope Scope = IsSettings ? EditScope::Settings : ScopeOf(KindOf<Record>);
 
-    FieldRows<Record> m_rows;
-    QMap<const QAbstractButton*, QString> m_folders; ///< where each button's file was chosen last
-};
+    template <class Set>
+    static auto& RecordIn(Set& set)
+    {
+        if constexpr (IsSettings)
+            return (set.Header);
+        else
+            return ListOf<Record>(set)[ListOf<Record>(set).Current];
+    }
 
-template <class Record>
-void RecordForm<Record>::Bind(FieldRows<Record> rows)
-{
-    m_rows = std::move(rows);
-    const auto bindAll = [this](const auto& fields) {
-        for (const auto& row : fields)
-            Bind(row);
+    template <class Control, class Value>
+    using Fields = std::vector<std::pair<Control*, Value Record::*>>;
+
+    struct PictureRow {
+        PictureControls Controls;
+        QString Record::*Field;
+        PictureOptions Options;
     };
-    bindAll(m_rows.Texts);
-    bindAll(m_rows.Checks);
-    bindAll(m_rows.Counts);
-    bindAll(m_rows.Pictures);
-    bindAll(m_rows.Colours);
-}
 
-template <class Record>
-void RecordForm<Record>::Bind(const TextField<Record>& row)
-{
-    const auto changed = [this, &row] { TextChanged(row); };
-    if (auto* const line = qobject_cast<QLineEdit*>(row.Control)) {
-        line->setMaxLength(std::numeric_limits<int>::max()); // the field has no limit either
-        On(line, &QLineEdit::textChanged, changed);
-    } else if (auto* const list = qobject_cast<QComboBox*>(row.Control)) {
-        list->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
-        On(list, &QComboBox::editTextChanged, changed);
-    } else {
-        On(static_cast<QPlainTextEdit*>(row.Control), &QPlainTextEdit::textChanged, changed);
+    void TakePicture(const PictureRow& row, const QString& path)
+    {
+        Edit(row.Controls.PathBox, row.Field, path);
+        m_folders.insert(row.Controls.Choose, FolderPart(path));
+        if (row.Options.Target || row.Options.Show) {
+            const auto picture = LoadedPicture(m_parts, path);
+            ShowOnTarget(row.Options, picture);
+            if (!picture)
+                return;
+        }
+        ShowPath(*row.Controls.PathBox, path);
+        row.Options.Changed();
     }
-}
 
-template <class Record>
-void RecordForm<Record>::Bind(const CheckField<Record>& row)
-{
-    On(row.Control, &QCheckBox::clicked, [this, &row] {
-        m_parts.Document.Edit<Record>(row.Control->accessibleName(), row.Field, row.Control->isChecked());
-        row.Changed();
+    void ClearPicture(const PictureRow& row)
+    {
+        Edit(row.Controls.PathBox, row.Field, QString());
+        if (row.Options.Target || row.Options.Show)
+            ShowOnTarget(row.Options, Picture());
+        row.Controls.PathBox->clear(); // Kept: the tool tip stays.
+        row.Options.Cleared();
         m_parts.Preview.update();
-    });
-}
+    }
 
-template <class Record>
-void RecordForm<Record>::Bind(const CountField<Record>& row)
-{
-    On(row.Control, &QSpinBox::valueChanged, [this, &row] {
-        if (!m_isFilling)
-            m_parts.Document.Edit<Record>(row.Control->accessibleName(), row.Field,
-                                          static_cast<int16>(row.Control->value()));
-    });
-}
-
-template <class Record>
-void RecordForm<Record>::Bind(const PictureField<Record>& row)
-{
-    On(row.Choose, &QAbstractButton::clicked, [this, &row] {
-        if (const auto path = AskPicture(row.Title, row.Choose))
-            TakePicture(row, *path);
-    });
-    On(row.Clear, &QAbstractButton::clicked, [this, &row] { ClearPicture(row); });
-}
-
-template <class Record>
-void RecordForm<Record>::Bind(const ColourField<Record>& row)
-{
-    for (QAbstractButton* button : {row.Choose, static_cast<QAbstractButton*>(row.Swatch)})
-        On(button, &QAbstractButton::clicked, [this, &row] { ChooseColour(row); });
-}
-
-template <class Record>
-void RecordForm<Record>::TextChanged(const TextField<Record>& row)
-{
-    if (m_isFilling && row.QuietOnFill)
-        return;
-    if (!m_isFilling)
-        m_parts.Document.Edit<Record>(row.Control->accessibleName(), row.Field, TextOf(*row.Control));
-    if (row.Preview)
-        row.Preview->Caption = Current().*row.Field;
-    row.Changed();
-    m_parts.Preview.update();
-}
-
-template <class Record>
-void RecordForm<Record>::FillFields()
-{
-    const QScopedValueRollback filling(m_isFilling, true);
-    Record record = Current(); // a copy: colours are read by the function that changes them
-    for (const auto& row : m_rows.Texts)
-        SetTextOf(*row.Control, record.*row.Field);
-    for (const auto& row : m_rows.Checks)
-        row.Control->setChecked(record.*row.Field);
-    for (const auto& row : m_rows.Counts)
-        row.Control->setValue(record.*row.Field);
-    for (const auto& row : m_rows.Pictures)
-        ShowPath(*row.PathBox, record.*row.Field);
-    for (const auto& row : m_rows.Colours)
-        row.Swatch->SetColour(QColor(ToRgb(row.Field(record))));
-}
-
-template <class Record>
-std::optional<QString> RecordForm<Record>::AskPicture(const char* title, const QAbstractButton* button)
-{
-    FileDialogRequest request = PictureDialog(title);
-    if (button)
-        request.Folder = m_folders.value(button);
-    return m_parts.User.AskOpenFile(request);
-}
-
-template <class Record>
-void RecordForm<Record>::ShowOn(const PictureField<Record>& row, const Picture& picture)
-{
-    if (row.IsFramed)
-        row.Target->ShowAtNaturalSize(picture);
-    else
-        row.Target->Surface->SetPicture(picture);
-}
-
-/// The offsets of the picture before stay in the record, and come back when it is placed again.
-template <class Record>
-void RecordForm<Record>::LayAtFrame(const PictureField<Record>& row)
-{
-    if (!row.IsFramed || !row.StartsAtFrame)
-        return;
-    row.Target->Left = 0;
-    row.Target->Top = 0;
-}
-
-template <class Record>
-void RecordForm<Record>::TakePicture(const PictureField<Record>& row, const QString& path)
-{
-    m_parts.Document.Edit<Record>(row.PathBox->accessibleName(), row.Field, path);
-    RememberFolder(row.Choose, path);
-    if (row.Target) {
-        LayAtFrame(row);
-        const auto picture = LoadedPicture(m_parts, path);
+    /// A picture that could not be loaded leaves the previous one. The record keeps its offsets, which apply
+    /// when the card is laid out again.
+    void ShowOnTarget(const PictureOptions& options, const std::optional<Picture>& picture)
+    {
+        if (options.Frame && options.StartsAtFrame) {
+            options.Target->Left = 0;
+            options.Target->Top = 0;
+        }
+        if (picture && options.Show)
+            options.Show(*picture);
+        else if (picture && options.Frame)
+            options.Target->ShowAtNaturalSize(*picture);
+        else if (picture)
+            options.Target->Surface->SetPicture(*picture);
         m_parts.Preview.update();
-        if (!picture)
-            return;
-        ShowOn(row, *picture);
     }
-    ShowPath(*row.PathBox, path);
-    row.Changed();
-}
 
-template <class Record>
-void RecordForm<Record>::ClearPicture(const PictureField<Record>& row)
-{
-    m_parts.Document.Edit<Record>(row.PathBox->accessibleName(), row.Field, QString());
-    if (row.Target) {
-        LayAtFrame(row);
-        ShowOn(row, {});
-    }
-    row.PathBox->clear(); // the tool tip stays
-    row.Cleared();
-    m_parts.Preview.update();
-}
-
-template <class Record>
-void RecordForm<Record>::ChooseColour(const ColourField<Record>& row)
-{
-    Record record = Current();
-    if (const auto colour = m_parts.User.AskColour(QString::fromLatin1(row.Title), row.Field(record))) {
-        m_parts.Document.Edit<Record>(row.Swatch->accessibleName(),
-                                      [&](Record& changed) { row.Field(changed) = *colour; });
-        row.Swatch->SetColour(QColor(ToRgb(*colour)));
-        if (row.Preview)
-            row.Preview->Surface->SetBackColor(*colour);
-    }
-    row.Changed();
-    m_parts.Preview.update();
-}
+    Fields<QWidget, QString> m_texts;
+    Fields<QCheckBox, bool> m_checks;
+    Fields<QSpinBox, int16> m_counts;
+    std::deque<PictureRow> m_pictures; // a deque, since handlers refer to its elements
+    std::vector<std::pair<ColourSwatch*, ColourField>> m_colours;
+    QMap<const QAbstractButton*, QString> m_folders; ///< last folder of each button
+};
 
 } // namespace deckforge

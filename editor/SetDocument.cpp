@@ -8,7 +8,7 @@ namespace {
 
 constexpr int MaxSteps = 1000;
 
-/// Why the check fails; empty if it does not.
+/// The reason why the check fails; empty if it does not.
 QString ReasonOf(const std::function<void()>& check)
 {
     try {
@@ -27,20 +27,39 @@ SetDocument::SetDocument(CardSet& set, UserPort& user, std::chrono::milliseconds
     m_steps.setUndoLimit(MaxSteps);
 }
 
-void SetDocument::Push(SetStep* step)
+void SetDocument::Edit(const QString& name, EditScope scope, const std::function<void(CardSet&)>& change)
 {
-    m_steps.push(step);
+    SetPart before(m_set, scope);
+    try {
+        change(m_set);
+    } catch (...) {
+        Push(name, scope, std::move(before));
+        throw;
+    }
+    Push(name, scope, std::move(before));
+}
+
+void SetDocument::Push(const QString& name, EditScope scope, SetPart before)
+{
+    if (scope == EditScope::Anything)
+        EndVisit(); // do not merge with the previous step
+    auto step = std::make_unique<SetStep>(name, m_set, std::move(before), SetPart(m_set, scope), m_visit);
+    if (step->IsEmpty())
+        return;
+    QString reason = ReasonOf([&] { step->CheckSavable(); });
+    if (reason.isEmpty() && m_isUnsavable)
+        reason = WhyUnsavable();
+    ShowUnsavable(reason);
+    m_steps.push(step.release());
+    if (scope == EditScope::Anything)
+        EndVisit(); // do not merge with the next step
     AfterChange();
 }
 
-void SetDocument::PushDifference(const QString& name, const CardSet& before)
+void SetDocument::GoTo(CardKind kind, int16 index)
 {
-    const SetDifference difference(before, m_set);
-    if (difference.IsEmpty())
-        return;
     EndVisit();
-    Push(new DifferenceStep(name, m_set, difference));
-    CheckSavable([&] { difference.CheckSavable(); });
+    CurrentOf(m_set, kind) = index;
 }
 
 void SetDocument::Undo()
@@ -59,27 +78,24 @@ void SetDocument::Restore(void (QUndoStack::*step)(), int index)
     if (!restored)
         return;
     EndVisit();
-    const ChangedKind kind = restored->Kind;
+    const std::optional<CardKind> kind = restored->Kind();
     (m_steps.*step)();
-    CheckSavable([this] { CheckSet(); });
+    ShowUnsavable(WhyUnsavable());
     AfterChange();
     Q_EMIT Restored(kind);
 }
 
-void SetDocument::CheckSet() const
+QString SetDocument::WhyUnsavable() const
 {
-    static_cast<void>(SetFileBytes(m_set, Unwritable::Fail));
+    return ReasonOf([this] { static_cast<void>(SetFileBytes(m_set, Unwritable::Fail)); });
 }
 
-void SetDocument::CheckSavable(const std::function<void()>& checkChanged)
+void SetDocument::ShowUnsavable(const QString& reason)
 {
-    QString reason = ReasonOf(checkChanged);
-    if (reason.isEmpty() && !m_isUnsavable)
-        return;
-    if (reason.isEmpty())
-        reason = ReasonOf([this] { CheckSet(); });
-    m_isUnsavable = !reason.isEmpty();
-    Q_EMIT UnsavableBecause(reason);
+    const bool isUnsavable = !reason.isEmpty();
+    if (isUnsavable || m_isUnsavable)
+        Q_EMIT UnsavableBecause(reason);
+    m_isUnsavable = isUnsavable;
 }
 
 void SetDocument::AfterChange()
@@ -111,13 +127,13 @@ Answer SetDocument::AskToSave(BoxButtons buttons)
     return answer;
 }
 
-bool SetDocument::Replace(const QString& name, const QString& path, const Bring& bring)
+bool SetDocument::Replace(const QString& name, const QString& path, const Loader& load)
 {
     std::optional<QString> rescued;
     if (!Leave(rescued, path))
         return false;
     bool isThere = false;
-    Edit(name, [&](CardSet& set) { isThere = bring(set); });
+    Edit(name, [&](CardSet& set) { isThere = load(set); });
     if (rescued && (isThere || !m_work.ReturnTo(m_set)))
         Q_EMIT Noted(QStringLiteral("The unsaved changes of the set before are in “%1”.").arg(*rescued));
     if (isThere)
@@ -131,7 +147,7 @@ bool SetDocument::Leave()
     return Leave(rescued);
 }
 
-/// Where the rescue fails the set stays; the way out is to save it, or Exit without.
+/// If the rescue fails the set stays: the user can save it, or exit without saving.
 bool SetDocument::Leave(std::optional<QString>& rescued, const QString& toOpen)
 {
     try {

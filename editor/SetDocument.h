@@ -11,122 +11,77 @@
 
 namespace deckforge {
 
-/// The set that the window edits: the only way to change it, the undo steps, the file, and the rescue file.
+/// The set that the window edits, with its undo steps, its file and its rescue file.
 ///
-/// What a change is shown by is up to the caller; after Undo and Redo the signal Restored says so.
+/// Does not update the display; after undo and redo it emits Restored().
 class SetDocument final : public QObject {
     Q_OBJECT
 
 public:
-    /// Brings a changed set into memory: a new one, or the one read from a file. Returns whether it is there.
-    using Bring = std::function<bool(CardSet&)>;
+    /// Fills the set anew, for example from a file. Returns whether it did.
+    using Loader = std::function<bool(CardSet&)>;
 
-    /// The rescue file is never older than renewRescueAfter when the set is changed.
+    /// After a change the rescue file is at most `renewRescueAfter` old.
     SetDocument(CardSet& set, UserPort& user, std::chrono::milliseconds renewRescueAfter);
 
     [[nodiscard]] const CardSet& Set() const { return m_set; }
 
-    // Every change of the set goes through one of these and becomes a step with that name, also if the change
-    // throws halfway. What changes nothing makes no step.
+    // Every change of the set goes through Edit and becomes an undo step with that name, even if the change
+    // throws halfway. An edit that changes nothing makes no step.
 
-    /// Sets a field of the current record. While a control is visited, its changes are one step.
-    template <class Record, class Value>
-    void Edit(const QString& name, Value Record::*field, const Value& value)
+    /// Changes only what `scope` says. Edits with the same name and scope merge until EndVisit(), except
+    /// those with EditScope::Anything.
+    void Edit(const QString& name, EditScope scope, const std::function<void(CardSet&)>& change);
+
+    /// Changes anything.
+    void Edit(const QString& name, const std::function<void(CardSet&)>& change)
     {
-        Edit<Record>(name, [&](Record& record) { record.*field = value; });
+        Edit(name, EditScope::Anything, change);
     }
 
-    /// Changes the current record: change(Record&).
-    template <class Record, class Change>
-    void Edit(const QString& name, Change&& change)
-    {
-        Record before = CurrentRecordOf<Record>(m_set);
-        Changing([&] { change(CurrentRecordOf<Record>(m_set)); },
-                 [&] {
-                     const Record& after = CurrentRecordOf<Record>(m_set);
-                     if (before == after)
-                         return;
-                     Push(new RecordStep<Record>(name, m_set, std::move(before), m_visit));
-                     CheckSavable([&] { deckforge::CheckSavable(after); });
-                 });
-    }
+    /// Makes another record the current one. Not an undo step.
+    void GoTo(CardKind kind, int16 index);
 
-    /// Changes anything: a command, a run or a dialog. change(CardSet&).
-    template <class Change>
-    void Edit(const QString& name, Change&& change)
-    {
-        const CardSet before = m_set;
-        Changing([&] { change(m_set); }, [&] { PushDifference(name, before); });
-    }
-
-    /// Makes another record the current one; no step.
-    template <class Record>
-    void GoTo(int16 index)
-    {
-        EndVisit();
-        ListOf<Record>(m_set).Current = index;
-    }
-
-    /// Copies the current record and reports it; no step.
-    template <class Record>
-    void Copy()
-    {
-        CopyElement<Record>(m_set);
-        ShowCopied(m_user, KindOf<Record>);
-    }
-
-    /// The next change begins a step of its own: another control has the keyboard, or another gesture begins.
+    /// The next edit starts a new step: another control got the focus, or a new gesture begins.
     void EndVisit() { ++m_visit; }
 
     void Undo();
     void Redo();
-    /// For the names of steps and whether there are any.
+    /// For tests and the names of the steps.
     [[nodiscard]] const QUndoStack& Steps() const { return m_steps; }
 
-    // Files. The questions and boxes are those of the commands.
+    // Files. These functions show the questions and messages of the commands.
 
-    /// Asks where to save, always.
+    /// Always asks for the file.
     SaveResult Save();
-    /// "Save current set?"; a save that failed counts as Cancel, one that was cancelled does not.
+    /// Asks "Save current set?" A failed save returns Cancel; a cancelled file dialog does not.
     [[nodiscard]] Answer AskToSave(BoxButtons buttons);
-    /// Replaces the set after rescuing unsaved changes. Without the rescue the set stays. Returns whether the
-    /// new one is there; `path` is its file, empty if it is new.
-    bool Replace(const QString& name, const QString& path, const Bring& bring);
-    /// Whether the program may end: unsaved changes are rescued. Why they could not be is shown in a box.
+    /// Replaces the set after unsaved changes were rescued; if that fails, the set stays. `path` is the file
+    /// of the new set, empty if there is none. Returns whether the set was replaced.
+    bool Replace(const QString& name, const QString& path, const Loader& load);
+    /// Whether the program may exit: there are no unsaved changes, or they are rescued. If they cannot be, an
+    /// error box says why.
     [[nodiscard]] bool Leave();
-    /// The set is in the file it was read from or is new.
+    /// Marks the set as unchanged: it was saved, read or created.
     void Keep(const QString& folder = {});
 
     void RescueAtTheEnd() noexcept { m_work.RescueAtTheEnd(m_set); }
-    /// Notes a set that an earlier run rescued.
+    /// Reports a set rescued by an earlier run.
     void NoteEarlierRescue();
 
 Q_SIGNALS:
-    /// A step was undone or redone: all that shows the set is renewed, at the tab of the kind.
+    /// A step was undone or redone. Update everything that shows the set, and select the tab of the kind.
     void Restored(const std::optional<deckforge::CardKind>& kind);
-    /// A line for the status bar, behind the one that is there.
+    /// Text to append to the status bar.
     void Noted(const QString& note);
-    /// Why no file can hold the set; empty if one can.
+    /// Why the set cannot be saved; empty if it can.
     void UnsavableBecause(const QString& reason);
 
 private:
-    template <class Change, class Record>
-    void Changing(Change&& change, Record&& record)
-    {
-        try {
-            change();
-        } catch (...) {
-            record();
-            throw;
-        }
-        record();
-    }
-    void Push(SetStep* step);
-    void PushDifference(const QString& name, const CardSet& before);
+    void Push(const QString& name, EditScope scope, SetPart before);
     void Restore(void (QUndoStack::*step)(), int index);
-    /// Checks what has changed, and the whole set only where it was found unsavable before.
-    void CheckSavable(const std::function<void()>& checkChanged);
-    void CheckSet() const;
+    [[nodiscard]] QString WhyUnsavable() const;
+    void ShowUnsavable(const QString& reason);
     void AfterChange();
     [[nodiscard]] bool Leave(std::optional<QString>& rescued, const QString& toOpen = {});
 
@@ -135,7 +90,7 @@ private:
     UnsavedWork m_work;
     QUndoStack m_steps;
     int m_visit = 0;
-    bool m_isUnsavable = false; ///< as far as it was checked
+    bool m_isUnsavable = false; ///< by the last check
 };
 
 } // namespace deckforge

@@ -2,7 +2,6 @@
 
 #include "compose/SetView.h"
 #include "core/Vocabulary.h"
-#include "editor/Lists.h"
 
 #include <QGroupBox>
 
@@ -12,39 +11,23 @@ SetInfoPanel::SetInfoPanel(EditorParts& parts, QWidget* parent) : RecordForm(par
 {
     m_form.setupUi(static_cast<QGroupBox*>(m_widget));
     FillList(*m_form.cboSaveFormat, SaveFormats());
-    Bind(MakeRows());
-    On(m_form.cmdSymbol, &QAbstractButton::clicked, [this] {
-        if (const auto path = AskPicture("Choose picture", m_form.cmdSymbol))
-            TakeSymbol(*path);
-    });
-    On(m_form.cmdDelSymbol, &QAbstractButton::clicked, [this] { ClearSymbol(); });
+    AddText(m_form.txtSetname, &SetHeader::SetName, {.Changed = [this] { NameChanged(); }});
+    AddText(m_form.txtFilenamePrefix, &SetHeader::FilenamePrefix);
+    AddCheck(m_form.chkAutonumber, &SetHeader::Autonumber, [this] { ShowNumbers(m_parts.Works); });
+    AddCheck(m_form.chkFileNr, &SetHeader::FileNr);
+    AddCheck(m_form.chkNoBack, &SetHeader::NoBack, [this] { NoBackClicked(); });
+    AddCheck(m_form.chkReplaceSpace, &SetHeader::ReplaceSpace);
+    AddPicture({m_form.cmdSymbol, m_form.cmdDelSymbol, m_form.txtSymbol}, &SetHeader::Symbol,
+               {.Show = [this](const Picture& symbol) { ShowSymbol(symbol); }});
     On(m_form.cmdSaveTo, &QAbstractButton::clicked, [this] { ChooseSaveTo(); });
-    On(m_form.cboSaveFormat, &QComboBox::activated, [this] { FormatChosen(); });
-}
-
-FieldRows<SetHeader> SetInfoPanel::MakeRows()
-{
-    return {
-        .Texts = {{.Control = m_form.txtSetname,
-                   .Field = &SetHeader::SetName,
-                   .Changed = [this] { NameChanged(); }},
-                  {.Control = m_form.txtFilenamePrefix, .Field = &SetHeader::FilenamePrefix}},
-        .Checks = {{.Control = m_form.chkAutonumber,
-                    .Field = &SetHeader::Autonumber,
-                    .Changed = [this] { ShowNumbers(m_parts.Works); }},
-                   {.Control = m_form.chkFileNr, .Field = &SetHeader::FileNr},
-                   {.Control = m_form.chkNoBack,
-                    .Field = &SetHeader::NoBack,
-                    .Changed = [this] { NoBackClicked(); }},
-                   {.Control = m_form.chkReplaceSpace, .Field = &SetHeader::ReplaceSpace}},
-    };
+    On(m_form.cboSaveFormat, &QComboBox::activated,
+       [this](int row) { Edit(m_form.cboSaveFormat, &SetHeader::SaveFormat, static_cast<int16>(row)); });
 }
 
 void SetInfoPanel::Fill()
 {
     FillFields();
     const SetHeader& header = Current();
-    ShowPath(*m_form.txtSymbol, header.Symbol);
     ShowText(*m_form.txtSaveTo, header.SaveTo, header.SaveTo);
     m_form.cboSaveFormat->setCurrentIndex(header.SaveFormat);
 }
@@ -52,48 +35,31 @@ void SetInfoPanel::Fill()
 void SetInfoPanel::NameChanged()
 {
     QString name = Current().SetName;
-    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]")); // a mark of Qt's that would not be shown
+    name.replace(QLatin1String("[*]"),
+                 QLatin1String("[*][*]")); // Qt would replace "[*]" by its modified mark
     m_widget->window()->setWindowTitle(name + QStringLiteral(" - Varnhelm Deck Forge"));
 }
 
 void SetInfoPanel::NoBackClicked()
 {
     CardTemplate& t = m_parts.Works.Templates.Standard;
-    t.picBack.Visible = t.picCard.Visible && !Current().NoBack; // not beside the other kinds
+    t.picBack.Visible = t.picCard.Visible && !Current().NoBack; // other tabs do not show the back
 }
 
-void SetInfoPanel::TakeSymbol(const QString& path)
+void SetInfoPanel::ShowSymbol(const Picture& symbol)
 {
-    m_parts.Document.Edit<SetHeader>(m_form.txtSymbol->accessibleName(), &SetHeader::Symbol, path);
-    RememberFolder(m_form.cmdSymbol, path);
-    const auto symbol = LoadedPicture(m_parts, path);
-    if (!symbol)
-        return;
-    ShowChosenSymbol(m_parts.Works.Templates, *symbol);
-    ShowPath(*m_form.txtSymbol, path);
-    m_parts.Preview.update();
+    if (symbol.IsEmpty())
+        HideSymbol(m_parts.Works.Templates);
+    else
+        ShowChosenSymbol(m_parts.Works.Templates, symbol);
 }
 
-void SetInfoPanel::ClearSymbol()
-{
-    m_parts.Document.Edit<SetHeader>(m_form.txtSymbol->accessibleName(), &SetHeader::Symbol, QString());
-    m_form.txtSymbol->clear();
-    HideSymbol(m_parts.Works.Templates);
-    m_parts.Preview.update();
-}
-
-/// Kept: a cancel empties the folder, too.
+/// Kept: cancelling the dialog clears the folder.
 void SetInfoPanel::ChooseSaveTo()
 {
     const QString folder = m_parts.User.BrowseForFolder().value_or(QString());
-    m_parts.Document.Edit<SetHeader>(m_form.txtSaveTo->accessibleName(), &SetHeader::SaveTo, folder);
+    Edit(m_form.txtSaveTo, &SetHeader::SaveTo, folder);
     ShowText(*m_form.txtSaveTo, folder, folder);
-}
-
-void SetInfoPanel::FormatChosen()
-{
-    m_parts.Document.Edit<SetHeader>(m_form.cboSaveFormat->accessibleName(), &SetHeader::SaveFormat,
-                                     static_cast<int16>(m_form.cboSaveFormat->currentIndex()));
 }
 
 } // namespace deckforge

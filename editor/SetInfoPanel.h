@@ -5,7 +5,7 @@
 
 namespace deckforge {
 
-/// The settings that hold for the whole set, beside the tabs.
+/// The settings of the set, beside the tabs.
 class SetInfoPanel final : public RecordForm<SetHeader> {
 public:
     SetInfoPanel(EditorParts& parts, QWidget* parent);
@@ -17,17 +17,14 @@ public:
         return {m_form.txtSetname, m_form.txtFilenamePrefix};
     }
 
-    /// Brings the controls up to date with the set.
+    /// Updates the controls with the set.
     void Fill();
 
 private:
-    [[nodiscard]] FieldRows<SetHeader> MakeRows();
     void NameChanged();
     void NoBackClicked();
-    void TakeSymbol(const QString& path);
-    void ClearSymbol();
+    void ShowSymbol(const Picture& symbol);
     void ChooseSaveTo();
-    void FormatChosen();
 
     Ui::fraSet m_form;
 };

@@ -3,161 +3,148 @@
 #include "files/modFile.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace deckforge {
 
 namespace {
 
 template <class Element>
-std::vector<Element> Part(const OneBasedArray<Element>& array, int first, int end)
+constexpr bool IsRecord = !std::is_same_v<Element, CardType> && !std::is_same_v<Element, CardBack>;
+
+template <class Part, class Function>
+void ForEachRun(Part& part, Function&& function)
 {
-    std::vector<Element> part;
+    std::apply([&](auto&... run) { (function(run), ...); }, part.Lists);
+}
+
+/// Calls the function with both parts' runs of each list.
+template <class Part, class Function>
+void ForEachPair(Part& a, Part& b, Function&& function)
+{
+    ForEachRun(a, [&](auto& run) { function(run, std::get<std::decay_t<decltype(run)>>(b.Lists)); });
+}
+
+template <class Element>
+std::vector<Element> Elements(const OneBasedArray<Element>& list, int first, int end)
+{
+    std::vector<Element> elements;
+    elements.reserve(static_cast<std::size_t>(end - first));
     for (int i = first; i < end; ++i)
-        part.push_back(array[i]);
-    return part;
+        elements.push_back(list[i]);
+    return elements;
 }
 
-/// Of lists of the same length: each run of elements that differ.
+/// Removes equal elements from both ends.
 template <class Element>
-std::vector<Splice<Element>> DifferingRuns(const OneBasedArray<Element>& before,
-                                           const OneBasedArray<Element>& after)
+void Trim(ElementRun<Element>& before, ElementRun<Element>& after)
 {
-    std::vector<Splice<Element>> splices;
-    const int end = before.Count() + 1;
-    for (int first = 1; first < end; ++first) {
-        int last = first;
-        while (last < end && !(before[last] == after[last]))
-            ++last;
-        if (last > first)
-            splices.push_back({first, Part(before, first, last), Part(after, first, last)});
-        first = last;
+    auto& a = before.Elements;
+    auto& b = after.Elements;
+    const auto [aTail, bTail] = std::mismatch(a.rbegin(), a.rend(), b.rbegin(), b.rend());
+    a.erase(aTail.base(), a.end());
+    b.erase(bTail.base(), b.end());
+    const auto [aHead, bHead] = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
+    before.First += static_cast<int>(aHead - a.begin());
+    after.First = before.First;
+    a.erase(a.begin(), aHead);
+    b.erase(b.begin(), bHead);
+}
+
+template <class Element>
+void Replace(OneBasedArray<Element>& list, int first, std::size_t count, const std::vector<Element>& with)
+{
+    const std::vector<Element> rest = Elements(list, first + static_cast<int>(count), list.Count() + 1);
+    list.Resize(static_cast<int16>(static_cast<std::size_t>(first) - 1 + with.size() + rest.size()));
+    for (const auto* elements : {&with, &rest}) {
+        for (const Element& element : *elements)
+            list[first++] = element;
     }
-    return splices;
-}
-
-/// Of lists of different length: all between the elements that are the same at both ends.
-template <class Element>
-Splice<Element> DifferingMiddle(const OneBasedArray<Element>& before, const OneBasedArray<Element>& after)
-{
-    const int shorter = std::min(before.Count(), after.Count());
-    int first = 1;
-    while (first <= shorter && before[first] == after[first])
-        ++first;
-    int same = 0;
-    while (first + same <= shorter && before[before.Count() - same] == after[after.Count() - same])
-        ++same;
-    return {first, Part(before, first, before.Count() + 1 - same),
-            Part(after, first, after.Count() + 1 - same)};
-}
-
-template <class Element>
-void Replace(OneBasedArray<Element>& array, int first, std::size_t count, const std::vector<Element>& with)
-{
-    std::vector<Element> rest;
-    if (with.size() != count) {
-        rest = Part(array, first + static_cast<int>(count), array.Count() + 1);
-        array.Resize(static_cast<int16>(static_cast<std::size_t>(first) - 1 + with.size() + rest.size()));
-    }
-    for (const Element& element : with)
-        array[first++] = element;
-    for (Element& element : rest)
-        array[first++] = std::move(element);
 }
 
 } // namespace
 
-template <class Element>
-SetDifference::ListDifference<Element> SetDifference::Compare(const CardSet& before, const CardSet& after)
+SetPart::SetPart(const CardSet& set, EditScope scope) : Header(set.Header), NewCards(set), File(set.File)
 {
-    const auto& was = ListOf<Element>(before);
-    const auto& is = ListOf<Element>(after);
-    ListDifference<Element> difference;
-    if (was.Count() == is.Count())
-        difference.Splices = DifferingRuns<Element>(was, is);
-    else
-        difference.Splices.push_back(DifferingMiddle<Element>(was, is));
-    if constexpr (requires { was.Current; }) {
-        difference.CurrentBefore = was.Current;
-        difference.CurrentAfter = is.Current;
-    }
-    return difference;
+    ForEachRun(*this, [&]<class Element>(ElementRun<Element>& run) {
+        const auto& list = ListOf<Element>(set);
+        if (scope == EditScope::Anything) {
+            run.First = 1;
+            run.Elements = Elements(list, 1, list.Count() + 1);
+        }
+        if constexpr (IsRecord<Element>) {
+            run.Current = list.Current;
+            if (scope == ScopeOf(KindOf<Element>)) {
+                run.First = list.Current;
+                run.Elements = {list[list.Current]};
+            }
+        }
+    });
 }
 
-SetDifference::SetDifference(const CardSet& before, const CardSet& after)
-    : m_before(before), m_after(after),
-      m_lists(Compare<CardType>(before, after), Compare<CardBack>(before, after),
-              Compare<Card>(before, after), Compare<LargeCard>(before, after),
-              Compare<Character>(before, after), Compare<NewCardBack>(before, after))
+SetStep::SetStep(const QString& name, CardSet& set, SetPart before, SetPart after, int visit)
+    : QUndoCommand(name), m_set(set), m_before(std::move(before)), m_after(std::move(after)), m_visit(visit)
 {
+    ForEachPair(m_before, m_after, [](auto& was, auto& is) { Trim(was, is); });
 }
 
-template <class Function>
-void SetDifference::ForEachList(Function&& function) const
+void SetStep::redo()
 {
-    std::apply([&](const auto&... difference) { (function(difference), ...); }, m_lists);
+    if (!std::exchange(m_isNew, false))
+        Apply(m_before, m_after);
 }
 
-bool SetDifference::IsEmpty() const
+bool SetStep::mergeWith(const QUndoCommand* next)
 {
-    bool isEmpty = m_before.IsSame(m_after);
-    ForEachList([&](const auto& difference) { isEmpty = isEmpty && difference.Splices.empty(); });
-    return isEmpty;
+    const auto& other = *static_cast<const SetStep*>(next); // the stack has no others
+    if (other.m_visit != m_visit || other.text() != text() || other.Kind() != Kind())
+        return false;
+    m_after = other.m_after;
+    setObsolete(IsEmpty());
+    return true;
 }
 
-ChangedKind SetDifference::Kind() const
+std::optional<CardKind> SetStep::Kind() const
 {
     std::vector<CardKind> changed;
-    ForEachList([&](const auto& difference) {
-        using Element = typename std::decay_t<decltype(difference)>::Element;
-        constexpr bool isCard = requires(CardSet & set)
-        {
-            ListOf<Element>(set).Current;
-        };
-        if constexpr (isCard) {
-            if (!difference.Splices.empty())
-                changed.push_back(KindOf<Element>);
-        }
-    });
-    return changed.size() == 1 ? ChangedKind(changed.front()) : std::nullopt;
+    ForEachPair(m_before, m_after,
+                [&]<class Element>(const ElementRun<Element>& was, const ElementRun<Element>& is) {
+                    if (IsRecord<Element> && !(was == is))
+                        changed.push_back(KindOf<Element>);
+                });
+    return changed.size() == 1 ? std::optional(changed.front()) : std::nullopt;
 }
 
-void SetDifference::CheckSavable() const
+void SetStep::CheckSavable() const
 {
-    deckforge::CheckSavable(m_after.Header);
+    if (!(m_before.Header == m_after.Header))
+        deckforge::CheckSavable(m_after.Header);
     deckforge::CheckSavable(m_after.NewCards);
-    ForEachList([](const auto& difference) {
-        for (const auto& splice : difference.Splices) {
-            for (const auto& element : splice.After)
-                deckforge::CheckSavable(element);
-        }
+    ForEachRun(m_after, [](const auto& run) {
+        for (const auto& element : run.Elements)
+            deckforge::CheckSavable(element);
     });
 }
 
-void SetDifference::Apply(CardSet& set, const Values& to, const Values& from)
+void SetStep::Apply(const SetPart& from, const SetPart& to)
 {
-    const QString fileName = set.Header.FileName;
-    set.Header = to.Header;
+    // Undo restores path and file only if the edit replaced the set: saving is not undone.
+    const QString fileName = m_set.Header.FileName;
+    if (!(to.Header == from.Header))
+        m_set.Header = to.Header;
     if (to.Header.FileName == from.Header.FileName)
-        set.Header.FileName = fileName; // of a save since
-    static_cast<NewCardValues&>(set) = to.NewCards;
-    const auto pathOf = [](const Values& values) { return values.File ? values.File->Path : QString(); };
+        m_set.Header.FileName = fileName;
+    const auto pathOf = [](const SetPart& part) { return part.File ? part.File->Path : QString(); };
     if (pathOf(to) != pathOf(from))
-        set.File = to.File;
-}
-
-void SetDifference::Apply(CardSet& set, Direction direction) const
-{
-    const bool isBack = direction == Direction::Back;
-    Apply(set, isBack ? m_before : m_after, isBack ? m_after : m_before);
-    ForEachList([&](const auto& difference) {
-        auto& list = ListOf<typename std::decay_t<decltype(difference)>::Element>(set);
-        for (const auto& splice : difference.Splices) {
-            const auto& from = isBack ? splice.After : splice.Before;
-            const auto& to = isBack ? splice.Before : splice.After;
-            Replace(list, splice.First, from.size(), to);
-        }
-        if constexpr (requires { list.Current; })
-            list.Current = isBack ? difference.CurrentBefore : difference.CurrentAfter;
+        m_set.File = to.File;
+    static_cast<NewCardValues&>(m_set) = to.NewCards;
+    ForEachPair(from, to, [&]<class Element>(const ElementRun<Element>& old, const ElementRun<Element>& run) {
+        if (run.First == 0)
+            return;
+        auto& list = ListOf<Element>(m_set);
+        Replace(list, run.First, old.Elements.size(), run.Elements);
+        if constexpr (IsRecord<Element>)
+            list.Current = run.Current;
     });
 }
 

@@ -2,21 +2,25 @@
 
 #include "platform/Paths.h"
 
-#include <QComboBox>
-#include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
 #include <QTextDocument>
 
 namespace deckforge {
 
 namespace {
 
-/// A text pasted from elsewhere can bring line breaks, which a field of one line cannot be saved with.
+/// Pasted text can contain line breaks, which single-line fields must not have.
 QString OnOneLine(QString text)
 {
     for (const char* lineBreak : {"\r\n", "\n", "\r"})
         text.replace(QLatin1String(lineBreak), QLatin1String(" "));
     return text;
+}
+
+int EntryWith(const QComboBox& list, const QString& text)
+{
+    return list.findText(text, Qt::MatchFixedString | Qt::MatchCaseSensitive);
 }
 
 } // namespace
@@ -27,7 +31,7 @@ QString TextOf(const QWidget& control)
         return OnOneLine(line->text());
     if (const auto* list = qobject_cast<const QComboBox*>(&control))
         return OnOneLine(list->currentText());
-    // The raw text: the plain one has ordinary blanks for those that do not break.
+    // toPlainText() would replace no-break spaces.
     QString text = static_cast<const QPlainTextEdit&>(control).document()->toRawText();
     for (const QChar::SpecialCharacter lineEnd : {QChar::ParagraphSeparator, QChar::LineSeparator})
         text.replace(lineEnd, QLatin1String("\r\n"));
@@ -37,7 +41,7 @@ QString TextOf(const QWidget& control)
 void SetTextOf(QWidget& control, const QString& text)
 {
     if (TextOf(control) == text)
-        return; // with its cursor
+        return;
     if (auto* line = qobject_cast<QLineEdit*>(&control))
         line->setText(text);
     else if (auto* list = qobject_cast<QComboBox*>(&control))
@@ -46,10 +50,10 @@ void SetTextOf(QWidget& control, const QString& text)
         static_cast<QPlainTextEdit&>(control).setPlainText(text);
 }
 
-void ShowEntry(QComboBox& list, const QString& text)
+QLineEdit* LineEditOf(QObject* control)
 {
-    list.setCurrentIndex(list.findText(text, Qt::MatchFixedString | Qt::MatchCaseSensitive));
-    list.setEditText(text);
+    auto* const list = qobject_cast<QComboBox*>(control);
+    return list ? list->lineEdit() : qobject_cast<QLineEdit*>(control);
 }
 
 void ShowText(QLineEdit& box, const QString& text, const QString& toolTip)
@@ -62,6 +66,32 @@ void ShowText(QLineEdit& box, const QString& text, const QString& toolTip)
 void ShowPath(QLineEdit& box, const QString& path)
 {
     ShowText(box, NamePart(path), path);
+}
+
+void FillList(QComboBox& list, const QStringList& entries)
+{
+    list.clear();
+    list.addItems(entries);
+    if (list.isEditable())
+        list.setCompleter(nullptr);
+}
+
+void ShowEntry(QComboBox& list, const QString& text)
+{
+    list.setCurrentIndex(EntryWith(list, text));
+    list.setEditText(text);
+}
+
+void SelectTyped(QComboBox& list)
+{
+    const QSignalBlocker quiet(list);
+    if (const int entry = EntryWith(list, list.currentText()); entry >= 0)
+        list.setCurrentIndex(entry);
+}
+
+bool ShowsEntry(const QComboBox& list)
+{
+    return list.currentIndex() >= 0 && list.itemText(list.currentIndex()) == list.currentText();
 }
 
 } // namespace deckforge

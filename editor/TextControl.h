@@ -1,27 +1,37 @@
 #pragma once
 
+#include <QComboBox>
+#include <QLineEdit>
 #include <QString>
-
-class QComboBox;
-class QLineEdit;
-class QWidget;
 
 namespace deckforge {
 
-// A text box of one line or of several, or a list that takes any text, as a record keeps its text: lines are
-// parted by CR LF, and no other character is touched. A control that shows the text already is left alone,
-// with its cursor.
+// Text boxes and editable lists as records keep their texts: lines end with CR LF. The entries of an editable
+// list are only suggestions.
 
 [[nodiscard]] QString TextOf(const QWidget& control);
+
+/// Does nothing if the control shows the text already, to keep its cursor.
 void SetTextOf(QWidget& control, const QString& text);
 
-/// Shows the text in a list that takes any; the entry that reads so is the selected one.
-void ShowEntry(QComboBox& list, const QString& text);
+/// The line edit of a text box or editable list; null for other controls.
+[[nodiscard]] QLineEdit* LineEditOf(QObject* control);
 
-/// Shows a text that may be too long for its box: from its start, and with a tool tip.
+/// Shows the beginning of a text that may be too long for its box.
 void ShowText(QLineEdit& box, const QString& text, const QString& toolTip);
 
-/// A path box shows the name; the whole path is its tool tip.
+/// Shows the file name, with the whole path as tool tip.
 void ShowPath(QLineEdit& box, const QString& path);
+
+void FillList(QComboBox& list, const QStringList& entries);
+
+/// Selects the entry with that text, or shows the text without one.
+void ShowEntry(QComboBox& list, const QString& text);
+
+/// Selects the entry that matches the typed text, as the list would do on losing the focus.
+void SelectTyped(QComboBox& list);
+
+/// Whether the current entry has the shown text; Enter then chooses it.
+[[nodiscard]] bool ShowsEntry(const QComboBox& list);
 
 } // namespace deckforge

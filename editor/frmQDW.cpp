@@ -2,17 +2,15 @@
 
 #include "commands/OutputCommands.h"
 #include "compose/FontScheme.h"
+#include "compose/StandardCard.h"
 #include "dialogs/FocusSelection.h"
 #include "dialogs/PlainTexts.h"
 #include "dialogs/TabKeys.h"
 #include "dialogs/WheelGuard.h"
-#include "editor/BackPage.h"
-#include "editor/CharacterPage.h"
 #include "editor/Commands.h"
-#include "editor/LargePage.h"
+#include "editor/Pages.h"
 #include "editor/PreviewController.h"
 #include "editor/SetInfoPanel.h"
-#include "editor/StandardPage.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -51,7 +49,7 @@ frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
         ShowNewSet();
     });
     m_document.Keep();
-    m_standard->StartTyping();
+    PageOf(CardKind::Standard).StartTyping();
     m_controller->SetZoom(m_preview->Zoom());
     if (sizeHint().width() > LargestSize().width())
         m_controller->SetZoom(1);
@@ -59,7 +57,7 @@ frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
 
 frmQDW::~frmQDW()
 {
-    delete takeCentralWidget(); // its controls still send signals, and the parts that take them go next
+    delete takeCentralWidget(); // before the parts that its signals call
 }
 
 void frmQDW::MakeParts()
@@ -70,18 +68,15 @@ void frmQDW::MakeParts()
     tbCard->setDrawBase(false); // the pane below has a frame
     for (const char* caption : {"Card", "Large Card", "Character", "Card Back"})
         tbCard->addTab(QString::fromLatin1(caption));
-    auto standard = std::make_unique<StandardPage>(m_parts, this);
-    m_standard = standard.get();
-    m_pages = {std::move(standard), std::make_unique<LargePage>(m_parts, this),
-               std::make_unique<CharacterPage>(m_parts, this), std::make_unique<BackPage>(m_parts, this)};
+    m_pages = {MakeStandardPage(m_parts, this), MakeLargePage(m_parts, this),
+               MakeCharacterPage(m_parts, this), MakeBackPage(m_parts, this)};
     m_info = std::make_unique<SetInfoPanel>(m_parts, this);
     for (const auto& page : m_pages)
         m_forms->addWidget(page->Form());
     m_preview->setObjectName(QStringLiteral("preview"));
-    m_controller = new PreviewController(
-        m_parts, [this](CardKind kind) { PageOf(kind).ShowFrameSize(); }, [this] { SizeToFit(); }, this);
-    new Commands(m_parts, *this);
-    setTabOrder(tbCard, m_preview); // and on to the forms, as they lie from left to right
+    m_controller = new PreviewController(m_parts, this);
+    AddCommands(m_parts, *this);
+    setTabOrder(tbCard, m_preview); // then the forms, from left to right
     setTabOrder(m_preview, m_forms);
 }
 
@@ -114,10 +109,10 @@ void frmQDW::BuildStatusBar()
     m_progress->setObjectName(QStringLiteral("progress"));
     m_progress->setAccessibleName(QStringLiteral("Progress"));
     m_progress->hide();
-    statusBar()->addPermanentWidget(m_progress, 1); // others make way for a message
+    statusBar()->addPermanentWidget(m_progress, 1); // messages hide non-permanent widgets
 
     m_hint->setObjectName(QStringLiteral("hint"));
-    m_hint->setMinimumWidth(1); // a long text is cut, and does not widen the window
+    m_hint->setMinimumWidth(1); // elide a long text instead of widening the window
     m_hint->hide();
     statusBar()->addPermanentWidget(m_hint);
     connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QWidget::setToolTip);
@@ -129,7 +124,7 @@ void frmQDW::BindTabs()
 {
     OnSignal(m_parts.User, tbCard, &QTabBar::currentChanged, this, [this] { TabClicked(); });
     OnSignal(m_parts.User, tbCard, &QTabBar::tabBarClicked, this, [this](int index) {
-        if (index == tbCard->currentIndex()) // another one changes it
+        if (index == tbCard->currentIndex()) // otherwise currentChanged follows
             TabClicked();
     });
     BindTabKeys(*tbCard);
@@ -141,36 +136,36 @@ void frmQDW::BindDocument()
     connect(&m_document, &SetDocument::UnsavableBecause, this, &frmQDW::ShowHint);
     OnSignal(m_parts.User, &m_document, &SetDocument::Restored, this,
              [this](const std::optional<CardKind>& kind) { ShowRestored(kind); });
+    connect(m_controller, &PreviewController::FrameSized, this,
+            [this](CardKind kind) { PageOf(kind).ShowFrameSize(); });
+    connect(m_controller, &PreviewController::Zoomed, this, &frmQDW::SizeToFit);
     connect(qApp, &QApplication::focusChanged, &m_document, &SetDocument::EndVisit);
 }
 
-/// These boxes are ready for new text when they get the keyboard.
 void frmQDW::BindFocus()
 {
-    const auto bind = [this](const auto& form) {
-        for (QWidget* box : form.BoxesToReplace())
+    const auto bind = [this](const std::vector<QWidget*>& boxes) {
+        for (QWidget* box : boxes)
             box->installEventFilter(this);
     };
-    bind(*m_standard);
-    bind(static_cast<const LargePage&>(PageOf(CardKind::Large)));
-    bind(static_cast<const CharacterPage&>(PageOf(CardKind::Character)));
-    bind(static_cast<const BackPage&>(PageOf(CardKind::NewBack)));
-    bind(*m_info);
+    for (const auto& page : m_pages)
+        bind(page->BoxesToReplace());
+    bind(m_info->BoxesToReplace());
     m_info->NameLabel()->installEventFilter(this);
     GuardFromWheel(*this);
 }
 
-/// What the screen has room for beside a frame.
+/// The available screen, less the window frame.
 QSize frmQDW::LargestSize() const
 {
     constexpr QSize windowFrame = {32, 64};
     return screen()->availableSize() - windowFrame;
 }
 
-/// Gives the window what its contents want, as far as the screen has it. What the user made larger stays so.
+/// Resizes the window to its contents, within the screen. A size that the user has enlarged is kept.
 void frmQDW::SizeToFit()
 {
-    // Up to the window, or else it would want what the zoom before did.
+    // Otherwise the layouts would still have the size hints of the previous zoom.
     for (QWidget* parent = m_controller->Area()->parentWidget(); parent; parent = parent->parentWidget()) {
         if (QLayout* const layout = parent->layout())
             layout->activate();
@@ -190,12 +185,12 @@ CardKind frmQDW::SelectedKind() const
 
 void frmQDW::TabClicked()
 {
-    tbCard->setFocus(); // it would wander off the fields that go
+    tbCard->setFocus(); // Otherwise it would move to the next field when the form is hidden.
     ShowKind(SelectedKind());
     SelectedPage().Enter();
 }
 
-/// Shows what the tab of a kind edits, the front of the card first. The tab itself stays as it is.
+/// Shows the form of a kind and the front of its card. Does not select the tab.
 void frmQDW::ShowKind(CardKind kind)
 {
     m_forms->setCurrentIndex(static_cast<int>(kind));
@@ -225,15 +220,16 @@ void frmQDW::ShowProgress(int done, int total)
 
 void frmQDW::ShowTables()
 {
-    m_standard->FillBackList();
-    m_standard->FillTypeList();
-    m_standard->Show(m_document.Set().Cards.Current);
+    Page& standard = PageOf(CardKind::Standard);
+    standard.TakeSet();
+    standard.Show(m_document.Set().Cards.Current);
 }
 
 void frmQDW::ShowFonts()
 {
-    SetFont(m_works.Templates, m_document.Set().Header);
-    m_standard->ShowArtist();
+    const CardSet& set = m_document.Set();
+    SetFont(m_works.Templates, set.Header);
+    DrawArtistCredit(m_works, m_document.Set().Cards.Current);
     m_preview->update();
 }
 
@@ -243,7 +239,7 @@ void frmQDW::AddNote(const QString& note)
     statusBar()->showMessage(before.isEmpty() ? note : before + QStringLiteral("  ") + note);
 }
 
-/// Says why the next save would fail, until it would not.
+/// Shows why saving would fail, as long as it would.
 void frmQDW::ShowHint(const QString& reason)
 {
     m_hint->setText(reason);

@@ -18,25 +18,23 @@ namespace deckforge {
 class Page;
 class PreviewController;
 class SetInfoPanel;
-class StandardPage;
 
-/// The window of the program: a shell around the document, the preview, a page for each tab, the settings of
-/// the set, and the commands. A control has the name of what it stands for, as an object name too.
+/// The main window: owns the document, the preview, the tabs, the settings of the set, and the commands.
+/// Controls have the names that the documentation uses, also as object names.
 class frmQDW final : public QMainWindow {
 public:
-    /// With a new set, whose rescue file is at most as old as given.
+    /// Starts with a new set. After a change the rescue file is at most `renewRescueAfter` old.
     explicit frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter = std::chrono::minutes(1));
     ~frmQDW() override;
 
-    /// What the program does once its window is visible: the command line, unless empty, is the path of a set
-    /// to open.
+    /// Call once the window is visible. The command line is the path of a set to open, or empty.
     void Start(const QString& commandLine);
 
-    /// Shows in the status bar how far a long run is, until done is total. Input waits meanwhile; drops are
-    /// rejected, and the window does not close.
+    /// Shows the progress of a long run in the status bar, until done equals total. Meanwhile input and drops
+    /// are ignored, and the window cannot be closed.
     void ShowProgress(int done, int total);
 
-    /// For an end of the program that asks nobody.
+    /// Writes the rescue file when the process is terminated involuntarily.
     void RescueAtTheEnd() noexcept { m_document.RescueAtTheEnd(); }
 
     [[nodiscard]] const Workshop& Works() const { return m_works; }
@@ -50,11 +48,11 @@ public:
     [[nodiscard]] CardKind SelectedKind() const;
     [[nodiscard]] Page& SelectedPage() const { return PageOf(SelectedKind()); }
     [[nodiscard]] Page& PageOf(CardKind kind) const { return *m_pages.at(static_cast<std::size_t>(kind)); }
-    /// Runs a command, which may be long, and ends its progress whatever happens.
+    /// Runs a command and hides its progress afterwards, even if it fails.
     void RunCommand(const std::function<void()>& work);
-    /// The tables of types and backs have changed.
+    /// Call when the tables of types or backs have changed.
     void ShowTables();
-    /// The fonts of the set have changed.
+    /// Call when the fonts of the set have changed.
     void ShowFonts();
 
 protected:
@@ -85,7 +83,6 @@ private:
 
     // The set
     void OpenFile(const QString& path);
-    void OpenDropped(const QString& path);
     void ShowNewSet();
     void ShowOpened();
     void ShowRestored(const std::optional<CardKind>& kind);
@@ -108,18 +105,17 @@ private:
     SetDocument m_document;
     CardPreview* m_preview;
     EditorParts m_parts;
-    StandardPage* m_standard = nullptr;
     std::array<std::unique_ptr<Page>, 4> m_pages; ///< in the order of CardKind
     std::unique_ptr<SetInfoPanel> m_info;
     PreviewController* m_controller = nullptr;
     QTabBar* tbCard;
     QStackedWidget* m_forms;
     QProgressBar* m_progress;
-    QLabel* m_hint;         ///< why the set cannot be saved as it is
-    bool m_isBusy = false;  ///< with a long run, from its first step to its last
-    bool m_mayLose = false; ///< the user has said so
-    QSize m_fittedSize;     ///< which the window gave itself
-    QSize m_chosenSize;     ///< which the user gave it
+    QLabel* m_hint;         ///< why the set cannot be saved
+    bool m_isBusy = false;  ///< during a long run
+    bool m_mayLose = false; ///< the user chose to exit without saving
+    QSize m_fittedSize;     ///< last size set by SizeToFit()
+    QSize m_chosenSize;     ///< last size set by the user
 };
 
 } // namespace deckforge

@@ -2,11 +2,11 @@
 #include "compose/FontScheme.h"
 #include "editor/Page.h"
 #include "editor/SetInfoPanel.h"
-#include "editor/StandardPage.h"
 #include "editor/frmQDW.h"
 #include "platform/Paths.h"
 
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -18,28 +18,22 @@ namespace deckforge {
 
 namespace {
 
-/// The one file that is dropped; empty for anything else.
+/// The dropped file; empty unless there is exactly one.
 QString DroppedFile(const QDropEvent& event)
 {
     const QList<QUrl> urls = event.mimeData()->urls();
     return urls.size() == 1 ? urls.front().toLocalFile() : QString();
 }
 
-bool HasExtension(const QString& path, std::initializer_list<const char*> extensions)
-{
-    return std::any_of(extensions.begin(), extensions.end(), [&](const char* extension) {
-        return path.endsWith(QLatin1String(extension), Qt::CaseInsensitive);
-    });
-}
-
 bool IsSetFile(const QString& path)
 {
-    return HasExtension(path, {".dkf"});
+    return path.endsWith(QLatin1String(".dkf"), Qt::CaseInsensitive);
 }
 
 bool IsPictureFile(const QString& path)
 {
-    return HasExtension(path, {".bmp", ".jpg", ".jpeg", ".gif", ".wmf"});
+    return QStringList{"bmp", "jpg", "jpeg", "gif", "wmf"}.contains(QFileInfo(path).suffix(),
+                                                                    Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -53,7 +47,7 @@ void frmQDW::Exit()
     close();
 }
 
-/// A question that is cancelled makes no new set.
+/// Cancelling the question cancels the command.
 void frmQDW::NewSet()
 {
     statusBar()->clearMessage();
@@ -69,10 +63,11 @@ void frmQDW::NewSet()
 
 void frmQDW::ShowNewSet()
 {
-    m_standard->TakeSet();
+    Page& standard = PageOf(CardKind::Standard); // not necessarily the selected tab
+    standard.TakeSet();
     m_info->Fill();
     ShowKind(CardKind::Standard);
-    m_standard->Fill();
+    standard.Fill();
 }
 
 void frmQDW::OpenSet()
@@ -92,7 +87,7 @@ void frmQDW::OpenFile(const QString& path)
 void frmQDW::ShowOpened()
 {
     {
-        const QSignalBlocker quiet(tbCard); // the cards of the set before are gone
+        const QSignalBlocker quiet(tbCard); // the cards of the previous set are gone
         tbCard->setCurrentIndex(0);
     }
     ShowKind(CardKind::Standard);
@@ -100,13 +95,7 @@ void frmQDW::ShowOpened()
         page->TakeSet();
     ShowViewed(m_parts.User, ShowOpenedSet(m_works));
     m_info->Fill();
-    m_standard->Fill();
-}
-
-void frmQDW::OpenDropped(const QString& path)
-{
-    if (m_document.AskToSave(BoxButtons::YesNo) != Answer::Cancel)
-        OpenFile(path);
+    SelectedPage().Fill();
 }
 
 void frmQDW::SaveSet()
@@ -122,7 +111,7 @@ void frmQDW::Start(const QString& commandLine)
     m_document.NoteEarlierRescue();
 }
 
-/// Shows the set as a step left it, at the tab where the step was.
+/// Shows the set after undo or redo, at the tab of the step.
 void frmQDW::ShowRestored(const std::optional<CardKind>& kind)
 {
     const CardSet& set = m_document.Set();
@@ -138,14 +127,14 @@ void frmQDW::ShowRestored(const std::optional<CardKind>& kind)
         page->SyncSlider();
     }
     if (const auto failure = ShowSet(m_works))
-        TellUntrapped(m_parts.User, *failure);
+        ShowUnhandledError(m_parts.User, *failure);
     SetFont(m_works.Templates, set.Header);
     m_info->Fill();
     ShowKind(shown);
     SelectedPage().Show(CurrentOf(set, shown));
 }
 
-/// A run goes on to its end: it would come back to a window that is gone.
+/// A run must finish first: it would return to a destroyed window.
 void frmQDW::closeEvent(QCloseEvent* event)
 {
     statusBar()->clearMessage();
@@ -156,7 +145,7 @@ void frmQDW::closeEvent(QCloseEvent* event)
 
 bool frmQDW::TakesDrop(const QDropEvent& event) const
 {
-    if (m_isBusy) // a run has the set
+    if (m_isBusy) // the run uses the set
         return false;
     const QString path = DroppedFile(event);
     const QPointF onPreview = m_preview->mapFrom(this, event.position());
@@ -182,15 +171,20 @@ void frmQDW::dropEvent(QDropEvent* event)
     event->acceptProposedAction();
     const QString path = DroppedFile(*event);
     if (IsSetFile(path)) {
-        // The source of the drop waits for its end, which is not to wait for the question.
-        QTimer::singleShot(0, this, [this, path] { Guarded(m_parts.User, [&] { OpenDropped(path); }); });
+        // Otherwise the drag source would wait for the answer to the question.
+        QTimer::singleShot(0, this, [this, path] {
+            Guarded(m_parts.User, [&] {
+                if (m_document.AskToSave(BoxButtons::YesNo) != Answer::Cancel)
+                    OpenFile(path);
+            });
+        });
         return;
     }
-    Guarded(m_parts.User,
-            [&] { DropPicture(m_preview->BoxAt(m_preview->mapFrom(this, event->position())), path); });
+    const QPointF onPreview = m_preview->mapFrom(this, event->position());
+    Guarded(m_parts.User, [&] { DropPicture(m_preview->BoxAt(onPreview), path); });
 }
 
-/// A box that takes no picture leaves it to the box that it lies on: a label to its card, for one.
+/// A box that takes no picture passes it to its parent, a label to its card for example.
 void frmQDW::DropPicture(const Box* box, const QString& path)
 {
     for (; box; box = m_preview->ParentOf(*box)) {

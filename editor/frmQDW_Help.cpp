@@ -2,6 +2,7 @@
 #include "editor/Page.h"
 #include "editor/PreviewController.h"
 #include "editor/SetInfoPanel.h"
+#include "editor/TextControl.h"
 #include "editor/frmQDW.h"
 #include "platform/Twips.h"
 #include "platform/Version.h"
@@ -28,15 +29,9 @@ constexpr char HelpText[] = "This is a very small help.\r\n"
                             "Click on a picture and nudge it with arrow keys.\r\n"
                             "Change frame size with shift+arrow keys.";
 
-QLineEdit* LineOf(QObject* box)
-{
-    auto* const list = qobject_cast<QComboBox*>(box);
-    return list ? list->lineEdit() : qobject_cast<QLineEdit*>(box);
-}
-
 } // namespace
 
-/// Help answers to its key whatever else is held, which no shortcut does.
+/// F1 works with any modifier, which a QShortcut does not.
 void frmQDW::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_F1)
@@ -68,7 +63,7 @@ void frmQDW::ShowVersion()
                               .Style = BoxStyle::Information});
 }
 
-/// Tells where the window and the card stand, in twips and pixels.
+/// Shows size of the window and position of the card, in twips and pixels.
 void frmQDW::ShowOffsets()
 {
     const QSize window = frameGeometry().size();
@@ -86,7 +81,7 @@ void frmQDW::ShowOffsets()
                               .Style = BoxStyle::Plain});
 }
 
-/// Labels, bars and the card let a click through to the window; they are no background.
+/// Labels, bars and the card ignore clicks, which then reach the window; they are not background.
 bool frmQDW::IsBackground(QPoint point) const
 {
     const QWidget* const under = childAt(point);
@@ -101,7 +96,7 @@ bool frmQDW::IsBackground(QPoint point) const
 bool frmQDW::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn) {
-        if (QLineEdit* const line = LineOf(watched))
+        if (QLineEdit* const line = LineEditOf(watched))
             SelectAllOnFocus(*line, static_cast<QFocusEvent*>(event)->reason());
     } else if (event->type() == QEvent::MouseButtonRelease && watched == m_info->NameLabel()) {
         Guarded(m_parts.User, [this] { ShowOffsets(); });

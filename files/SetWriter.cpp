@@ -44,7 +44,7 @@ qsizetype SetWriter::AppendText(const QString& text)
 {
     const qsizetype start = m_bytes.size();
     AppendInCodePage(m_bytes, text,
-                     m_unwritable == Unwritable::Mend ? Lacking::QuestionMark : Lacking::Refuse);
+                     m_unwritable == Unwritable::Mend ? Unencodable::QuestionMark : Unencodable::Reject);
     return start;
 }
 

@@ -4,7 +4,7 @@
 
 namespace deckforge {
 
-/// What text and pictures need, once for all inputs of a fuzzer.
+/// Starts QtGui once for all inputs of a fuzzer.
 inline void StartDrawing()
 {
     static int argc = 1;

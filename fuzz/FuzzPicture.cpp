@@ -5,7 +5,7 @@
 
 #include <QLoggingCategory>
 
-// A picture from a stranger in any of the four formats: it is refused, or has a size.
+// Decodes untrusted pictures of all four formats: they are rejected or have a size.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {

@@ -8,14 +8,13 @@
 #include "fuzz/Drawing.h"
 #include "fuzz/FuzzedFile.h"
 
-// A set from a stranger: reading it, showing it and writing it again. What was read is written as it can be
-// read again.
+// Reads, shows and writes untrusted sets. A set that was read can be written so that it can be read again.
 
 using namespace deckforge;
 
 namespace {
 
-/// Pictures are named by strangers too, and are for another target.
+/// Pictures are fuzzed by another target.
 void ForgetPictures(CardSet& set)
 {
     set.Header.Symbol.clear();

@@ -10,8 +10,7 @@ namespace deckforge {
 
 namespace {
 
-/// From 1, the best palette, to 10; at 7 a card takes a quarter of the time of the default, and looks the
-/// same.
+/// From 1, best, to 10. At 7 a card takes a quarter of the default's time and looks the same.
 constexpr int QuantiserSpeed = 7;
 
 void Check(liq_error error)

@@ -4,10 +4,10 @@
 
 namespace deckforge {
 
-/// Whether colours that are left out are imitated by a pattern of others.
+/// Whether missing colours are approximated by a pattern of others.
 enum class Dither { No, Yes };
 
-/// The picture with a palette of at most so many colours, 2 to 256, chosen for it.
+/// Converts the picture to a palette of at most `colours` colours, 2 to 256, chosen for it.
 [[nodiscard]] QImage WithColours(const QImage& picture, int colours, Dither dither);
 
 } // namespace deckforge

@@ -16,7 +16,7 @@ namespace deckforge {
 
 namespace {
 
-constexpr int MostColours = 256;
+constexpr int MaxColours = 256;
 
 std::vector<GifColorType> ColoursOf(const QImage& image)
 {
@@ -27,7 +27,7 @@ std::vector<GifColorType> ColoursOf(const QImage& image)
     return colours;
 }
 
-/// The palette of a file has a power of two of colours, at least two.
+/// GIF palettes have a power of two of colours, at least two.
 Owned<ColorMapObject> PaddedPalette(std::vector<GifColorType> colours)
 {
     std::size_t size = 2;
@@ -66,11 +66,11 @@ QByteArray Encode(const QImage& image)
     CheckGif(EGifPutImageDesc(gif, 0, 0, image.width(), image.height(), false, nullptr), *gif);
     std::vector<GifByteType> line(static_cast<std::size_t>(image.width()));
     for (int y = 0; y < image.height(); ++y) {
-        std::copy_n(image.constScanLine(y), line.size(), line.begin()); // the encoder writes into its lines
+        std::copy_n(image.constScanLine(y), line.size(), line.begin()); // EGifPutLine modifies its line
         CheckGif(EGifPutLine(gif, line.data(), image.width()), *gif);
     }
     close.dismiss();
-    if (EGifCloseFile(gif, &error) != GIF_OK) // writes the end of the file
+    if (EGifCloseFile(gif, &error) != GIF_OK) // writes the trailer
         throw RunTimeError(ErrorNumber::InvalidPicture, QString::fromLatin1(GifErrorString(error)));
     return bytes;
 }
@@ -82,7 +82,7 @@ std::optional<QString> ConvertBmpToGif(const QString& bmpPath, const QString& gi
     try {
         WithMemoryAsFailure([&] {
             const QByteArray gif =
-                Encode(WithColours(DecodePicture(bmpPath).Pixels(), MostColours, Dither::Yes));
+                Encode(WithColours(DecodePicture(bmpPath).Pixels(), MaxColours, Dither::Yes));
             OutputFile file(gifPath);
             file.Write(gif);
             file.Close();

@@ -5,8 +5,8 @@
 
 namespace deckforge {
 
-/// Turns the BMP file at one path into a GIF file at another, with up to 256 colours chosen for the picture.
-/// Gives the failure as a text, or nothing when the GIF is written.
+/// Converts a BMP file to a GIF file with up to 256 colours chosen for the picture. Returns the reason of a
+/// failure, or nothing on success.
 [[nodiscard]] std::optional<QString> ConvertBmpToGif(const QString& bmpPath, const QString& gifPath);
 
 } // namespace deckforge

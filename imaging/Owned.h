@@ -4,7 +4,7 @@
 
 namespace deckforge {
 
-/// What a C library made, with the function that frees it.
+/// Owns a handle of a C library, and frees it with the given function.
 template <class Handle>
 using Owned = std::unique_ptr<Handle, void (*)(Handle*)>;
 

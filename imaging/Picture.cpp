@@ -12,8 +12,8 @@ namespace {
 
 constexpr double InchesPerMetre = 1000 / 25.4;
 
-/// The BMP encoder writes the rows of a picture with a palette as they are in memory. Without this, bytes of
-/// the heap would get into files that people share.
+/// Qt's BMP encoder writes rows of indexed images with their padding, which would leak heap contents into
+/// shared files.
 void ClearRowPadding(QImage& image)
 {
     constexpr int bitsPerByte = 8;

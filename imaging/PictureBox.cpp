@@ -9,7 +9,7 @@ namespace deckforge {
 
 namespace {
 
-/// A rectangle of logical pixels in the memory.
+/// Converts a rectangle of logical pixels to physical ones.
 QRect InMemory(const QRect& logical, int scale)
 {
     return {logical.topLeft() * scale, logical.size() * scale};
@@ -39,7 +39,7 @@ Colour FromRgb(QRgb rgb)
     return (qBlue(rgb) << 16) | (qGreen(rgb) << 8) | qRed(rgb);
 }
 
-PictureBox::PictureBox(QSize size, int scale) : m_size(size), m_scale(scale), m_font(UsualFont())
+PictureBox::PictureBox(QSize size, int scale) : m_size(size), m_scale(scale), m_font(DefaultFont())
 {
     Clear();
 }
@@ -84,8 +84,8 @@ void PictureBox::Clear()
     m_needsClearing = true;
 }
 
-/// The memory, cleared first if that is still to be done: a surface is often cleared several times before the
-/// first drawing, and that of a preview may never be looked at.
+/// Clears the image lazily: surfaces are often cleared repeatedly before they are drawn on, and some previews
+/// are never painted.
 QImage& PictureBox::Pixels() const
 {
     if (!m_needsClearing)
@@ -118,7 +118,7 @@ void PictureBox::SetFontItalic(bool italic)
 
 void PictureBox::SetFontSize(double points)
 {
-    if (!(points > 0 && points <= MostPoints))
+    if (!(points > 0 && points <= MaxPoints))
         throw RunTimeError(ErrorNumber::InvalidPropertyValue);
     m_font.Size = points;
 }
@@ -134,8 +134,8 @@ FontSpec PictureBox::Pen() const
 
 const FontMeasures& PictureBox::Measures() const
 {
-    constexpr qsizetype mostKept = 100; // a set from a stranger can have a font on each of its card backs
-    if (m_measures.size() > mostKept)
+    constexpr qsizetype maxFonts = 100; // a malicious set can have a font on each of its card backs
+    if (m_measures.size() > maxFonts)
         m_measures.clear();
     auto& measures = m_measures[m_font];
     if (!measures)
@@ -231,14 +231,14 @@ void PictureBox::ExtFloodFill(int x, int y, Colour areaColour)
     const QPoint seed = QPoint(x, y) * m_scale;
     if (!image.rect().contains(seed) || area == fill)
         return;
-    // Span by span: each is filled whole, and the rows beside it are looked through for more.
+    // Span filling: each span is filled whole, then the rows above and below it are searched.
     std::vector<QPoint> seeds = {seed};
     while (!seeds.empty()) {
         const QPoint at = seeds.back();
         seeds.pop_back();
         QRgb* const pixels = row(at.y());
         if (pixels[at.x()] != area)
-            continue; // filled since it was found
+            continue; // filled in the meantime
         int left = at.x();
         int right = at.x();
         while (left > 0 && pixels[left - 1] == area)

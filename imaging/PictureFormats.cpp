@@ -15,7 +15,7 @@ namespace {
 
 constexpr qint64 PlaceableHeaderBytes = 22;
 
-/// Reads numbers from a file image; past its end everything is 0 and IsPastEnd() tells so.
+/// Reads numbers from the bytes of a file. Past the end it returns 0, and IsPastEnd() is true.
 class Scanner {
 public:
     explicit Scanner(QByteArrayView bytes) : m_bytes(bytes) {}
@@ -51,7 +51,7 @@ private:
     qint64 m_at = 0;
 };
 
-/// The decoder treats the masks of red, green, blue and alpha as bytes and shows wider ones in wrong colours.
+/// Qt treats colour masks as 8-bit ones and shows wider ones in wrong colours.
 void CheckBmpMasks(QByteArrayView bytes, int count)
 {
     constexpr qint64 masksField = 54;
@@ -68,7 +68,7 @@ void CheckBmpMasks(QByteArrayView bytes, int count)
     }
 }
 
-/// Rows of pixels run from the offset in the header to the end; compressed ones say how long they are.
+/// Pixels run from the offset in the header to the end; compressed ones specify their length.
 bool IsWholeBmp(QByteArrayView bytes)
 {
     constexpr qint64 offsetField = 10;
@@ -78,7 +78,7 @@ bool IsWholeBmp(QByteArrayView bytes)
     in.MoveTo(offsetField);
     const qint64 offset = in.LittleEndian32();
     const quint32 headerSize = in.LittleEndian32();
-    constexpr quint32 oldHeader = 12; // with 16-bit measures, never compressed
+    constexpr quint32 oldHeader = 12; // BITMAPCOREHEADER: 16-bit size, never compressed
     constexpr quint32 alphaHeader = 56;
     const bool isOld = headerSize == oldHeader;
     const qint64 width = isOld ? in.LittleEndian16() : static_cast<qint32>(in.LittleEndian32());
@@ -87,7 +87,7 @@ bool IsWholeBmp(QByteArrayView bytes)
     const qint64 bits = in.LittleEndian16();
     const quint32 compression = isOld ? uncompressed : in.LittleEndian32();
     const qint64 imageSize = isOld ? 0 : in.LittleEndian32();
-    constexpr qint64 maxPixels = 1 << 20; // along one side, far more than could be decoded
+    constexpr qint64 maxPixels = 1 << 20; // per side, far more than can be decoded
     constexpr qint64 maxBits = 32;
     if (in.IsPastEnd() || width <= 0 || width > maxPixels || qAbs(height) > maxPixels || bits > maxBits)
         return false;
@@ -95,8 +95,8 @@ bool IsWholeBmp(QByteArrayView bytes)
         CheckBmpMasks(bytes, headerSize < alphaHeader ? 3 : 4);
     const bool hasRows = compression == uncompressed || compression == bitFields;
     const qint64 rowBytes = (width * bits + 31) / 32 * 4;
-    // Compressed, a pixel takes two bytes at most, and so does the end of a row. The decoder goes through all
-    // that follows, too.
+    // Compressed data has at most two bytes per pixel and two per line end. Qt would also decode whatever
+    // follows.
     constexpr qint64 slack = qint64(1) << 20;
     const qint64 maxCompressed = 2 * (width + 1) * qAbs(height) + slack;
     if (!hasRows && bytes.size() - offset > maxCompressed)
@@ -104,18 +104,17 @@ bool IsWholeBmp(QByteArrayView bytes)
     return offset + (hasRows ? rowBytes * qAbs(height) : imageSize) <= bytes.size();
 }
 
-/// Goes from marker to marker up to the end of the image. Like every decoder it skips stray bytes between the
-/// segments.
+/// Walks the markers to the end of the image, skipping stray bytes between segments as decoders do.
 ///
-/// A scan of a few bytes can go over the whole picture once more, so their number is limited. Encoders write
-/// a dozen.
+/// Limits the number of scans, since each may cost a pass over the whole picture in a few bytes. Encoders
+/// write about a dozen.
 bool IsWholeJpeg(QByteArrayView bytes)
 {
     constexpr quint8 markerStart = 0xFF;
     constexpr quint8 endOfImage = 0xD9;
     constexpr quint8 startOfScan = 0xDA;
     constexpr int maxScans = 64;
-    // 0 is no marker but a data byte of 0xFF; 1 and the restarts have no segment.
+    // 0 is an escaped 0xFF data byte; 1 and the restart markers have no segment.
     const auto isAlone = [](quint8 marker) { return marker <= 1 || (marker >= 0xD0 && marker <= 0xD7); };
     Scanner in(bytes);
     in.Skip(2);
@@ -147,7 +146,7 @@ int TakeGifBytes(GifFileType* gif, GifByteType* target, int size)
     return static_cast<int>(taken.size());
 }
 
-/// Reads up to the description of the first picture.
+/// Reads up to the descriptor of the first image.
 bool FindGifPicture(GifFileType* gif)
 {
     GifRecordType record = UNDEFINED_RECORD_TYPE;
@@ -164,7 +163,7 @@ bool FindGifPicture(GifFileType* gif)
     return record == IMAGE_DESC_RECORD_TYPE && DGifGetImageDesc(gif) == GIF_OK;
 }
 
-/// Decodes all pixels of the picture but the last one: behind that the library skips all codes that are left.
+/// Decodes all pixels but the last: giflib would skip all remaining codes after it.
 bool HasGifPixels(GifFileType* gif)
 {
     const qint64 pixels = qint64{gif->Image.Width} * gif->Image.Height;
@@ -178,8 +177,8 @@ bool HasGifPixels(GifFileType* gif)
     return true;
 }
 
-/// Whether little follows the pixels. A decoder would go on with codes that are left, and twelve bits can
-/// stand for four thousand pixels.
+/// Whether little data follows the pixels. A decoder would read all of it, and twelve bits can encode four
+/// thousand pixels.
 bool EndsGifPicture(GifFileType* gif)
 {
     constexpr int maxBytes = 1024;
@@ -193,7 +192,7 @@ bool EndsGifPicture(GifFileType* gif)
     return false;
 }
 
-/// The first picture must be there to its end; what follows is not shown.
+/// The first image must be complete; later ones are not shown.
 bool IsWholeGif(QByteArrayView bytes)
 {
     const Owned<GifFileType> gif(DGifOpen(&bytes, TakeGifBytes, nullptr),
@@ -202,9 +201,8 @@ bool IsWholeGif(QByteArrayView bytes)
            EndsGifPicture(gif.get());
 }
 
-/// A header with its own length and that of the file, behind the one of a placeable file where there is one.
-/// Some programs count that one, too: their files are whole if they end with the record that ends every
-/// metafile.
+/// Checks the header's own length and file size; a placeable header may precede it. Some programs include
+/// that one in the file size: such files are complete if they end with the end record.
 bool IsWholeWmf(QByteArrayView bytes)
 {
     constexpr quint16 headerWords = 9;

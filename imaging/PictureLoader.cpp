@@ -12,11 +12,11 @@ namespace deckforge {
 
 namespace {
 
-/// A picture that can be shown takes no more bytes as a file than decoded, but for headers.
+/// A file may be as large as its decoded picture, plus headers.
 constexpr qint64 MaxFileBytes = MaxDecodedBytes + (qint64(1) << 20);
 constexpr qsizetype KeptBytes = qsizetype(32) << 20;
 
-[[noreturn]] void RefusePicture()
+[[noreturn]] void RejectPicture()
 {
     throw RunTimeError(ErrorNumber::InvalidPicture);
 }
@@ -27,12 +27,12 @@ QByteArray ReadPictureFile(const QString& path)
         return ReadWholeFile(path, MaxFileBytes);
     } catch (const RunTimeError& error) {
         if (error.Number() == ErrorNumber::OutOfMemory)
-            RefusePicture();
+            RejectPicture();
         throw;
     }
 }
 
-/// One pixel format for opaque pictures and one for others: the two that are drawn without conversion.
+/// Converts to the two formats that are drawn without conversion: one for opaque pictures, one for others.
 QImage ForDrawing(QImage image)
 {
     return std::move(image).convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
@@ -44,13 +44,13 @@ QImage DecodeWithReader(QByteArray bytes, const QByteArray& format)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format);
-    const QSize told = reader.size();
-    const QSize size(told.width(), qAbs(told.height())); // below 0 where the rows of a BMP run top-down
+    const QSize declared = reader.size();
+    const QSize size(declared.width(), qAbs(declared.height())); // BMP heights are negative for top-down rows
     if (size.isEmpty() || qint64(size.width()) * size.height() > MaxDecodedPixels)
-        RefusePicture();
+        RejectPicture();
     QImage image = reader.read();
     if (image.isNull())
-        RefusePicture();
+        RejectPicture();
     return ForDrawing(std::move(image));
 }
 
@@ -71,7 +71,7 @@ Picture DecodePicture(const QString& path)
     case PictureFormat::Unknown:
         break;
     }
-    RefusePicture();
+    RejectPicture();
 }
 
 PictureLoader::PictureLoader() : m_kept(KeptBytes) {}
@@ -92,7 +92,8 @@ Picture PictureLoader::LoadPicture(const QString& path)
         picture = DecodePicture(path);
     } catch (const RunTimeError& error) {
         if (error.Number() == ErrorNumber::InvalidPicture && file)
-            m_kept.insert(path, new Kept{{}, *file, error.At(path)}); // finding that out can take seconds
+            m_kept.insert(path,
+                          new Kept{{}, *file, error.At(path)}); // rejecting a file can take seconds, too
         throw error.At(path);
     }
     if (file)

@@ -10,22 +10,22 @@
 
 namespace deckforge {
 
-/// Decodes a BMP, JPEG, GIF or WMF file, told by its content. The natural size is its size in pixels, of a
-/// WMF its own size at 96 dots to the inch. An animated GIF gives its first picture.
+/// Decodes a BMP, JPEG, GIF or WMF file, recognized by its contents. The natural size is the size in pixels,
+/// of a WMF its own size at 96 pixels per inch. Of an animated GIF the first image is returned.
 ///
-/// Files come from strangers: a missing one is error 53 or 76, what is no regular file 75, and one that is
-/// damaged, cut short, of another kind or over 128 MiB decoded is 481. WMF is converted in a process of its
-/// own with limits of time and memory; error 57 names the program that is missing.
+/// Files are untrusted. A missing file is error 53 or 76, anything but a regular file 75, and a file that is
+/// damaged, truncated, of another format or over 128 MiB decoded is 481. WMF files are converted by a
+/// separate process with limits of time and memory; error 57 names the converter if it is missing.
 [[nodiscard]] Picture DecodePicture(const QString& path);
 
-/// Pictures by path. Decoded ones are kept, up to a bound in bytes, as long as their file has the same size
-/// and time, so that a batch decodes a shared background once.
+/// Loads pictures by path. Decoded pictures are cached, up to a limit in bytes, while size and time of their
+/// files do not change, so that a batch decodes a shared background once.
 class PictureLoader {
 public:
     PictureLoader();
 
-    /// The picture of the file, or the empty picture for an empty path. Fails as DecodePicture does, with the
-    /// path as the place.
+    /// The picture of the file; the empty picture for an empty path. Fails as DecodePicture does, at the
+    /// path.
     [[nodiscard]] Picture LoadPicture(const QString& path);
 
 private:

@@ -21,7 +21,7 @@ bool IsSubstituted(const QString& name)
 
 } // namespace
 
-const TextFont& UsualFont()
+const TextFont& DefaultFont()
 {
     static const TextFont font = {.Name = QStringLiteral("Small Fonts"), .Size = 7};
     return font;
@@ -29,9 +29,9 @@ const TextFont& UsualFont()
 
 TextFont DrawableFont(const FontSpec& font)
 {
-    const bool hasSize = font.Size > 0 && font.Size <= MostPoints;
-    return {.Name = font.Name.isEmpty() ? UsualFont().Name : font.Name,
-            .Size = hasSize ? font.Size : UsualFont().Size,
+    const bool hasSize = font.Size > 0 && font.Size <= MaxPoints;
+    return {.Name = font.Name.isEmpty() ? DefaultFont().Name : font.Name,
+            .Size = hasSize ? font.Size : DefaultFont().Size,
             .Bold = font.Bold,
             .Italic = font.Italic};
 }

@@ -10,7 +10,7 @@
 
 namespace deckforge {
 
-/// What a surface keeps of its font; Size in points.
+/// The font of a surface; Size is in points.
 struct TextFont {
     QString Name;
     double Size = 0;
@@ -22,41 +22,40 @@ struct TextFont {
 
 size_t qHash(const TextFont& font, size_t seed = 0);
 
-inline constexpr double MostPoints = 2160; ///< letters of thirty inches
+inline constexpr double MaxPoints = 2160; ///< letters 30 inches high
 
-/// What a new surface has, so that a text measured with it is nearly as wide as one set in the scheme's bold.
-[[nodiscard]] const TextFont& UsualFont();
+/// The font of a new surface, about as wide as the bold one of the default font scheme.
+[[nodiscard]] const TextFont& DefaultFont();
 
-/// A font of a set as one that can be drawn. Sets from strangers can have one without a name or with a size
-/// that no font has: these are the usual font's then.
+/// The font of a set as a drawable one. Untrusted sets may have fonts without a name or with impossible
+/// sizes, which are replaced by those of DefaultFont().
 [[nodiscard]] TextFont DrawableFont(const FontSpec& font);
 
-/// Of a card, whatever the screen; a printer has more.
+/// Of cards, whatever the screen; printers differ.
 inline constexpr double CardPixelsPerInch = 96;
 
-/// Points as whole pixels: 7 points are 9 pixels of a card.
+/// Points in whole pixels: 7 points are 9 pixels of a card.
 [[nodiscard]] int PixelSize(double points, double pixelsPerInch = CardPixelsPerInch);
 
-/// The font as it is drawn here. The names "Small Fonts" and "Arial" stand for Liberation Sans, which also
-/// stands in for every font that this machine lacks. Unhinted, so that widths scale exactly, without kerning
-/// and ligatures, so that a text is as wide as its characters.
+/// The font for QPainter. "Small Fonts" and "Arial" are replaced by Liberation Sans, which also replaces
+/// fonts that are not installed. Without hinting, so that widths scale exactly, and without kerning and
+/// ligatures, so that text width is the sum of character widths.
 [[nodiscard]] QFont DrawnFont(const TextFont& font, double pixelsPerInch = CardPixelsPerInch);
 
-/// The text as it is measured and drawn: a control character, a tab among them, takes the room of a blank,
-/// and a soft hyphen is a hyphen. So every character has a width of its own, and a text is as wide as their
-/// sum.
+/// The text as it is measured and drawn: control characters, tabs included, become blanks, and soft hyphens
+/// become hyphens, so that text width is the sum of character widths.
 [[nodiscard]] QString Printable(QStringView text);
 
-/// Measures of one font in pixels: the logical ones of a card, or those of a printer.
+/// Measures of a font in pixels: logical ones of a card, or those of a printer.
 class FontMeasures {
 public:
     explicit FontMeasures(const TextFont& font, double pixelsPerInch = CardPixelsPerInch);
 
     [[nodiscard]] const QFont& Font() const { return m_font; }
     [[nodiscard]] double Width(QStringView text) const;
-    /// From one line to the next: ascent, descent and leading, rounded up.
+    /// Line spacing: ascent, descent and leading, rounded up.
     [[nodiscard]] int LineHeight() const { return m_lineHeight; }
-    /// From the top of a line to its base line, rounded up.
+    /// From the top of a line to its baseline, rounded up.
     [[nodiscard]] int Ascent() const { return m_ascent; }
 
 private:

@@ -17,7 +17,7 @@ constexpr int Seconds = 10;
 constexpr rlim_t MemoryBytes = rlim_t(512) << 20;
 constexpr rlim_t MaxPngBytes = rlim_t(256) << 20;
 
-/// Runs between fork and exec: what the converter may use.
+/// Sets resource limits. Runs between fork and exec.
 void LimitProcess()
 {
     const auto limit = [](auto resource, rlim_t value) {
@@ -28,7 +28,7 @@ void LimitProcess()
     limit(RLIMIT_AS, MemoryBytes);
     limit(RLIMIT_FSIZE, MaxPngBytes);
     limit(RLIMIT_CORE, 0);
-    ::signal(SIGXFSZ, SIG_DFL); // it cannot be trusted with a failure
+    ::signal(SIGXFSZ, SIG_DFL); // the converter may ignore it
 }
 
 bool RunConverter(const QStringList& arguments)

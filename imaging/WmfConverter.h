@@ -4,8 +4,8 @@
 
 namespace deckforge {
 
-/// Converts a WMF file to a PNG file of the same size, at most maxPixels. The converter runs in a process of
-/// its own with ten seconds and 512 MiB. Error 481 if it fails, and 57 with its name if it cannot be started.
+/// Converts a WMF file to a PNG file of the same size, of at most maxPixels, in a separate process limited to
+/// ten seconds and 512 MiB. Error 481 if it fails, 57 with the converter's name if it cannot be started.
 [[nodiscard]] QByteArray WmfToPng(const QByteArray& wmf, qint64 maxPixels);
 
 } // namespace deckforge

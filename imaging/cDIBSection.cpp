@@ -14,7 +14,7 @@ namespace {
 
 constexpr int BytesPerPixel = 3;
 
-/// The part of a copy that lies inside both the source and the target.
+/// The part of a copy inside both source and target.
 ///
 ///     source                 target
 ///     +-----------+          +-----------+
@@ -52,7 +52,7 @@ void BitBlt(const DrawingContext& target, QPoint to, QSize extent, const Drawing
     }
 }
 
-/// The image's own memory, which must be blue, green, red already.
+/// The image must already be in BGR format.
 DrawingContext ContextOf(QImage& image)
 {
     return {image.bits(), image.width(), image.height(), image.bytesPerLine()};
@@ -108,7 +108,7 @@ void cDIBSection::CreateFromPicture(const Picture& picture)
     const QImage image = picture.Pixels().convertToFormat(QImage::Format_RGB32);
     if (!Create(image.width(), image.height()))
         return;
-    // Straight into the bottom-up rows: a conversion by the library and a copy take four times as long.
+    // Writing the bottom-up rows directly is four times as fast as a conversion and a copy.
     const DrawingContext target = hdc();
     for (int y = 0; y < target.Height; ++y) {
         const auto* read = reinterpret_cast<const QRgb*>(image.constScanLine(y));
@@ -145,7 +145,8 @@ DrawingContext cDIBSection::hdc() const
 {
     if (m_bits.empty())
         return {};
-    auto* bits = const_cast<std::uint8_t*>(m_bits.data()); // a context is to draw with, as a handle is
+    auto* bits = const_cast<std::uint8_t*>(
+        m_bits.data()); // a DrawingContext is writable, even that of a const section
     const std::ptrdiff_t stride = BytesPerScanLine();
     return {bits + stride * (Height() - 1), Width(), Height(), -stride};
 }
@@ -204,7 +205,7 @@ void cDIBSection::ResampleInto(cDIBSection& target) const
         const int iy = static_cast<int>(fy);
         const float dy = fy - static_cast<float>(iy);
         const std::uint8_t* upper = MemoryRow(iy);
-        // A surface one pixel wide or high has no neighbour: the pixel stands for it, at weight 0.
+        // A section one pixel wide or high has no neighbour: the pixel itself is used, with weight 0.
         const std::uint8_t* lower = MemoryRow(std::min(iy + 1, Height() - 1));
         std::uint8_t* write = target.MemoryRow(y);
         for (int x = 0; x < target.Width(); ++x) {

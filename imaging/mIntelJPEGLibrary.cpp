@@ -9,7 +9,7 @@ namespace deckforge {
 
 namespace {
 
-/// The encoder with the bytes that it gave.
+/// A TurboJPEG compressor with its output.
 class Encoder {
 public:
     Encoder() : m_handle(tjInitCompress())
@@ -25,7 +25,7 @@ public:
     Encoder(const Encoder&) = delete;
     Encoder& operator=(const Encoder&) = delete;
 
-    /// The bytes stay with the encoder.
+    /// The bytes are owned by the encoder.
     [[nodiscard]] QByteArrayView Encode(const cDIBSection& surface, int quality, int dotsPerInch)
     {
         const int result =
@@ -38,10 +38,10 @@ public:
     }
 
 private:
-    /// The encoder begins every file with a JFIF header without a density, and cannot be told one.
+    /// The encoder always writes a JFIF header without a density.
     void WriteDensity(int dotsPerInch)
     {
-        constexpr int units = 13; // behind the markers, the length, "JFIF" and the version
+        constexpr int units = 13; // after the markers, the length, "JFIF" and the version
         constexpr unsigned char dots = 1;
         m_bytes[units] = dots;
         for (const int at : {units + 1, units + 3}) {
@@ -67,7 +67,7 @@ bool SaveJPG(const cDIBSection& surface, const QString& fileName, int32 quality,
     Encoder encoder;
     const std::optional<FileAttributes> replaced = AttributesOf(fileName);
     if (replaced) {
-        CheckWritable(fileName); // a file may be deleted from its folder though it may not be written
+        CheckWritable(fileName); // removing a file does not need write permission on it
         RemoveFile(fileName);
     }
     const QByteArrayView bytes = encoder.Encode(surface, quality, dotsPerInch);

@@ -4,11 +4,10 @@
 
 namespace deckforge {
 
-/// Writes a surface as a JPEG file; quality from 0 to 100, chroma at half the size in both directions,
-/// and so many dots to the inch.
+/// Writes a JPEG file with quality 0 to 100, 4:2:0 chroma subsampling and the given density.
 ///
-/// A file that is replaced hands its access and change times and its permissions on to the new one. It is
-/// deleted before the new one is written. Failures: those of files, and error 26001 of the encoder.
+/// An existing file is deleted first; the new one gets its access and modification times and permissions.
+/// Fails with the errors of files, and error 26001 of the encoder.
 bool SaveJPG(const cDIBSection& surface, const QString& fileName, int32 quality, int dotsPerInch);
 
 } // namespace deckforge

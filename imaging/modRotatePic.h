@@ -4,15 +4,15 @@
 
 namespace deckforge {
 
-// Quarter turns: text can only be printed upright, so what stands sideways on a card is printed on a work
-// surface and then turned.
+// Quarter turns. Text can only be printed upright, so vertical text is printed on a work surface and then
+// rotated.
 
 enum class Turn { Clockwise, CounterClockwise };
 
-/// Turns the source into the target, which takes the turned size. The result is the target's picture.
+/// Rotates the source into the target, resizing it. The result becomes the target's picture.
 void RotatePicture(const PictureBox& source, PictureBox& target, Turn turn);
 
-/// The same, but clockwise the picture lands two pixels to the left: user-designed backs lie so in their
+/// The same, but a clockwise rotation ends two pixels further left, where user-designed backs are in their
 /// frame. The two columns at the right keep the target's background.
 void RotatePictureShifted(const PictureBox& source, PictureBox& target, Turn turn);
 

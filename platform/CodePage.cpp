@@ -13,7 +13,7 @@ constexpr char16_t FirstSpecial = 0x80;
 constexpr char16_t LastSpecial = 0x9F;
 constexpr char16_t LastPlain = 0xFF;
 
-/// What the bytes 0x80 to 0x9F stand for; all others stand for the character of the same value.
+/// The characters of the bytes 0x80 to 0x9F. All other bytes have the value of their character.
 constexpr std::array<char16_t, LastSpecial - FirstSpecial + 1> Specials = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -24,13 +24,13 @@ bool IsSpecialByte(char16_t c)
     return c >= FirstSpecial && c <= LastSpecial;
 }
 
-/// Whether the character is the byte of the same value.
+/// Whether the byte has the value of the character.
 bool IsPlain(char16_t c)
 {
     return c <= LastPlain && !IsSpecialByte(c);
 }
 
-[[noreturn]] void RefuseCharacter(QStringView text, qsizetype at)
+[[noreturn]] void RejectCharacter(QStringView text, qsizetype at)
 {
     char32_t character = text[at].unicode();
     qsizetype length = 1;
@@ -38,7 +38,7 @@ bool IsPlain(char16_t c)
         character = QChar::surrogateToUcs4(text[at], text[at + 1]);
         length = 2;
     }
-    constexpr qsizetype shown = 20; // enough of the text to find it by
+    constexpr qsizetype shown = 20; // enough to find the text
     const QString around = text.sliced(std::max<qsizetype>(0, at - shown)).left(2 * shown).toString();
     const QString code = QString::number(static_cast<uint>(character), 16).toUpper();
     throw RunTimeError(ErrorNumber::InvalidCall,
@@ -64,7 +64,7 @@ QString FromCodePage(QByteArrayView bytes)
 
 bool IsInCodePage(QStringView text)
 {
-    // Nearly all texts have only characters below the special ones, which one look at all bits tells.
+    // Fast path: nearly all texts have only characters below the special ones.
     char16_t bits = 0;
     for (const QChar c : text)
         bits |= c.unicode();
@@ -75,13 +75,13 @@ bool IsInCodePage(QStringView text)
     });
 }
 
-void AppendInCodePage(QByteArray& bytes, QStringView text, Lacking lacking)
+void AppendInCodePage(QByteArray& bytes, QStringView text, Unencodable unencodable)
 {
     const qsizetype before = bytes.size();
     bytes.resize(before + text.size());
     char* const out = bytes.data() + before;
     const char16_t* const characters = text.utf16();
-    bool isPlain = true; // all characters so far have the value of their byte
+    bool isPlain = true; // all bytes so far have the value of their character
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t c = characters[i];
         isPlain = isPlain && IsPlain(c);
@@ -94,11 +94,11 @@ void AppendInCodePage(QByteArray& bytes, QStringView text, Lacking lacking)
         const auto special = std::find(Specials.begin(), Specials.end(), c);
         if (special != Specials.end()) {
             out[i] = static_cast<char>(FirstSpecial + (special - Specials.begin()));
-        } else if (lacking == Lacking::QuestionMark) {
+        } else if (unencodable == Unencodable::QuestionMark) {
             out[i] = '?';
         } else {
             bytes.truncate(before);
-            RefuseCharacter(text, i);
+            RejectCharacter(text, i);
         }
     }
 }

@@ -6,8 +6,8 @@
 
 namespace deckforge {
 
-// The single-byte code page of set files, Windows-1252. The five bytes that it leaves unassigned stand for
-// the control characters of the same value, so every byte survives a round trip.
+// The single-byte code page of set files, Windows-1252. Its five unassigned bytes map to the control
+// characters of the same value, so that every byte survives a round trip.
 
 /// Never fails.
 [[nodiscard]] QString FromCodePage(QByteArrayView bytes);
@@ -15,11 +15,11 @@ namespace deckforge {
 /// Whether the code page has every character of the text.
 [[nodiscard]] bool IsInCodePage(QStringView text);
 
-/// What becomes of a character that the code page lacks.
-enum class Lacking { Refuse, QuestionMark };
+/// How to handle characters that the code page does not have.
+enum class Unencodable { Reject, QuestionMark };
 
-/// Appends the text to the bytes. A character that is refused is error 5 with a description that names it;
-/// the bytes then hold what stood before the text.
-void AppendInCodePage(QByteArray& bytes, QStringView text, Lacking lacking = Lacking::Refuse);
+/// Appends the text to the bytes. With Unencodable::Reject, a character that cannot be encoded is error 5
+/// with a description that names it, and the bytes are unchanged.
+void AppendInCodePage(QByteArray& bytes, QStringView text, Unencodable unencodable = Unencodable::Reject);
 
 } // namespace deckforge

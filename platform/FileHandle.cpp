@@ -54,7 +54,7 @@ FileHandle::FileHandle(const QString& path, int flags, mode_t mode)
 {
     if (m_descriptor < 0)
         throw SystemFailure(errno, path);
-    // Left non-blocking, a pipe would be cut at what it holds when its reader is slow.
+    // A non-blocking write to a pipe would fail when its buffer is full.
     if (const int given = ::fcntl(m_descriptor, F_GETFL); given >= 0)
         ::fcntl(m_descriptor, F_SETFL, given & ~O_NONBLOCK);
 }
@@ -116,7 +116,7 @@ void FileHandle::WriteFrom(FileHandle& source)
 
 void FileHandle::Sync()
 {
-    // Devices, pipes and some file systems have nothing to wait for, and say so.
+    // Devices, pipes and some file systems do not support it.
     if (::fsync(m_descriptor) != 0 && errno != EINVAL && errno != EROFS)
         throw SystemFailure(errno, m_path);
 }
@@ -133,7 +133,7 @@ void SyncFolderOf(const QString& path)
     const QByteArray name = NameForSystem(folder.isEmpty() ? QStringLiteral(".") : folder);
     const int descriptor = ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
-        return; // a folder may be closed to readers
+        return; // the folder may not be readable
     ::fsync(descriptor);
     ::close(descriptor);
 }

@@ -9,19 +9,19 @@
 
 namespace deckforge {
 
-// The system's files, for the functions of Files.h and SaveFile.h.
+// POSIX file functions, for Files.h and SaveFile.h.
 
-/// The failure that the system's error number means for the path.
+/// The error for an errno value at a path.
 [[nodiscard]] RunTimeError SystemFailure(int error, const QString& path);
 
-/// The path as the system takes it. Error 52 for an empty one and for one with a NUL.
+/// The path as the system takes it. Error 52 if it is empty or contains a NUL.
 [[nodiscard]] QByteArray NameForSystem(const QString& path);
 
-/// An open file descriptor; failures are RunTimeErrors for its path. Opening never waits for the other end of
-/// a fifo; once open, reads and writes block.
+/// An open file descriptor. Failures are RunTimeErrors at its path. Opening a FIFO does not wait for its
+/// other end; reads and writes block.
 class FileHandle {
 public:
-    static constexpr mode_t DefaultMode = 0666; ///< less the umask
+    static constexpr mode_t DefaultMode = 0666; ///< the umask applies
 
     FileHandle(const QString& path, int flags, mode_t mode = DefaultMode);
     FileHandle(FileHandle&& other) noexcept;
@@ -32,15 +32,15 @@ public:
     [[nodiscard]] const QString& Path() const { return m_path; }
     [[nodiscard]] struct stat Status() const;
 
-    /// Reads until the bytes are full or the file ends; returns how many came.
+    /// Reads until the buffer is full or the file ends; returns the number of bytes read.
     qint64 Read(char* bytes, qint64 size);
     void Write(QByteArrayView bytes);
-    /// Writes the rest of the other file, piece by piece.
+    /// Writes the rest of the other file in chunks.
     void WriteFrom(FileHandle& source);
 
-    /// Waits until the bytes are on the disk.
+    /// Waits until the data is on the disk.
     void Sync();
-    /// Reports a late failure, which the destructor does not.
+    /// Closes and reports failures, which the destructor does not.
     void Close();
 
 private:
@@ -48,7 +48,7 @@ private:
     QString m_path;
 };
 
-/// Makes a new name in the folder of the path durable, as far as the file system can.
+/// Makes a new directory entry durable, if the file system supports it.
 void SyncFolderOf(const QString& path);
 
 } // namespace deckforge

@@ -26,13 +26,13 @@ void TakeSizeLimitAsFullDisk()
     ::signal(SIGXFSZ, SIG_IGN);
 }
 
-QByteArray ReadWholeFile(const QString& path, qint64 mostBytes)
+QByteArray ReadWholeFile(const QString& path, qint64 maxBytes)
 {
     FileHandle file(path, O_RDONLY);
     const struct stat status = file.Status();
     if (!S_ISREG(status.st_mode))
         throw RunTimeError(ErrorNumber::PathFileAccess);
-    if (status.st_size > mostBytes)
+    if (status.st_size > maxBytes)
         throw RunTimeError(ErrorNumber::OutOfMemory);
     QByteArray bytes(status.st_size, Qt::Uninitialized);
     bytes.truncate(file.Read(bytes.data(), bytes.size()));

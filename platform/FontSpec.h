@@ -6,8 +6,7 @@
 
 namespace deckforge {
 
-/// One font as the user chooses it; Size in points. The name stays as chosen, also where this machine lacks
-/// the font.
+/// A font as chosen by the user; Size is in points. The name is kept even if the font is not installed.
 struct FontSpec {
     QString Name;
     double Size = 0;

@@ -24,7 +24,7 @@ LineWriter::~LineWriter()
     try {
         Flush();
     } catch (const RunTimeError&) {
-        // The failure that ended the writing has been reported; this one adds nothing to it.
+        // The failure that ended the writing has been reported already.
     }
 }
 
@@ -44,7 +44,7 @@ void LineWriter::Close()
 
 void LineWriter::Flush()
 {
-    // Also when it fails: what was written in part must not be written again.
+    // Also on failure: what was partly written must not be written again.
     const auto clear = qScopeGuard([this] { m_gathered.resize(0); });
     m_file.Write(m_gathered);
 }

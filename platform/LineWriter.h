@@ -7,19 +7,19 @@
 
 namespace deckforge {
 
-/// Writes a text file line by line: CR LF behind each, in the single-byte code page.
+/// Writes a text file line by line, with CR LF, in the single-byte code page.
 ///
-/// Bytes are gathered and go to the file in large pieces. Failures of the file come from any call; a
-/// character that the code page lacks is error 5, and nothing of its line is written.
+/// Output is buffered, so any call may report a failure of the file. A character that cannot be encoded is
+/// error 5, and its line is not written.
 class LineWriter {
 public:
     explicit LineWriter(const QString& path);
-    /// What was gathered goes to the file even when a line failed, as far as the disk takes it.
+    /// Writes the buffer even after a failed line, as far as the disk allows.
     ~LineWriter();
     LineWriter(const LineWriter&) = delete;
     LineWriter& operator=(const LineWriter&) = delete;
 
-    /// The text as it is, with the line breaks that it holds.
+    /// Writes the text and a line end. Line breaks in the text are written as they are.
     void Line(const QString& text);
 
     void Close();

@@ -14,7 +14,7 @@ namespace {
 template <class Integer>
 Integer ToInteger(double value)
 {
-    const double rounded = std::nearbyint(value); // the default rounding mode takes halves to even
+    const double rounded = std::nearbyint(value); // rounds halves to even
     if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
         throw RunTimeError(ErrorNumber::Overflow);
     return static_cast<Integer>(rounded);
@@ -30,7 +30,7 @@ QByteArrayView Trimmed(QByteArrayView text)
     return text;
 }
 
-/// The longest form is "-", 15 digits, a point and "E+308".
+/// "-", 15 digits, a point and "E+308".
 constexpr int NumberBufferSize = 32;
 
 void AppendPadded(QByteArray& line, QByteArrayView number)
@@ -67,7 +67,7 @@ double NumberFromText(QByteArrayView text)
     const auto [end, error] = std::from_chars(digits.begin(), digits.end(), value);
     if (error == std::errc::result_out_of_range)
         throw RunTimeError(ErrorNumber::Overflow);
-    // Words such as "inf" and "nan" are read by the library, but they are no numbers here.
+    // from_chars also accepts "inf" and "nan".
     if (error != std::errc() || end != digits.end() || !std::isfinite(value))
         throw RunTimeError(ErrorNumber::TypeMismatch);
     return value;
@@ -93,7 +93,7 @@ void AppendNumber(QByteArray& line, double value)
 {
     constexpr int significantDigits = 15;
     char digits[NumberBufferSize];
-    constexpr double largest = 1.79769313486231E+308; // the next one of so many digits is past the range
+    constexpr double largest = 1.79769313486231E+308; // one more in the last digit would overflow
     const double unsignedZero = value == 0 ? 0 : std::clamp(value, -largest, largest);
     char* end =
         std::to_chars(digits, std::end(digits), unsignedZero, std::chars_format::general, significantDigits)

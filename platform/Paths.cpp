@@ -12,7 +12,7 @@ bool IsSeparator(QChar c)
     return c == QLatin1Char('\\') || c == QLatin1Char('/');
 }
 
-/// How many characters the folder of the path has, its separator counted.
+/// The length of the folder part, with its separator.
 qsizetype FolderLength(const QString& path)
 {
     qsizetype length = path.size();

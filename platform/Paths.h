@@ -4,24 +4,24 @@
 
 namespace deckforge {
 
-// A path is kept as the user's system writes it. "\" and "/" both separate when it is taken apart.
+// Paths are kept as the system that wrote them did, so both "\" and "/" are separators.
 
-/// What stands behind the last separator; the whole text when there is none.
+/// The part after the last separator, or the whole path if there is none.
 [[nodiscard]] QString NamePart(const QString& path);
 
-/// What stands up to the last separator, with it; empty when there is none.
+/// The part up to and including the last separator; empty if there is none.
 [[nodiscard]] QString FolderPart(const QString& path);
 
 [[nodiscard]] bool HoldsSeparator(const QString& text);
 
-/// The folder with this system's separator behind it, or as it stands when it ends in one.
+/// The folder with a trailing separator.
 [[nodiscard]] QString WithSeparator(const QString& folder);
 
-/// The path as this system opens it: "\" is taken for "/".
+/// The path with "/" in place of "\".
 [[nodiscard]] QString PathToOpen(QString path);
 
-/// "Varnhelm Deck Forge" in the user's documents folder, with a separator behind it. Made at the first use;
-/// where that fails, the first write into it tells so.
+/// "Varnhelm Deck Forge" in the user's documents folder, with a trailing separator. Created on first use; if
+/// that fails, the first write into it does.
 [[nodiscard]] QString ProgramFolder();
 
 } // namespace deckforge

@@ -21,7 +21,7 @@ struct FreeInfo {
     void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
 };
 
-/// 0 where the queue does not say.
+/// 0 if the queue does not specify it.
 int ConfiguredResolution(const QString& queue)
 {
     constexpr double centimetresPerInch = 2.54;

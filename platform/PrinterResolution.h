@@ -4,8 +4,8 @@
 
 namespace deckforge {
 
-/// Dots per inch that a print queue of this system is configured with; 600 if it does not say, or if the
-/// program was built without CUPS. (Qt reports 1200 for every queue.)
+/// The configured resolution of a print queue in dots per inch; 600 if it is not specified or the program was
+/// built without CUPS. Qt reports 1200 for every queue.
 [[nodiscard]] int PrinterResolution(const QString& queue);
 
 } // namespace deckforge

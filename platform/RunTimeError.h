@@ -6,7 +6,7 @@
 
 namespace deckforge {
 
-/// The numbers by which a failure is told to the user.
+/// Error numbers that are shown to the user.
 enum class ErrorNumber {
     InvalidCall = 5,
     Overflow = 6,
@@ -24,31 +24,31 @@ enum class ErrorNumber {
     InvalidPropertyValue = 380,
     InvalidPicture = 481,
     PrinterError = 482,
-    JpegLibrary = 26001, ///< raised by the JPEG writer alone
+    JpegLibrary = 26001, ///< raised only by the JPEG writer
 };
 
-/// A failure with a number and a description, thrown where it happens. Whoever knows the file adds it as the
-/// place: "SET.dkf:120", "/pictures/wolf.bmp".
+/// A failure with a number and a description. Callers that know the file add the place: "SET.dkf:120",
+/// "/pictures/wolf.bmp".
 class RunTimeError : public std::exception {
 public:
-    /// With the usual description of the number.
+    /// With the default description of the number.
     explicit RunTimeError(ErrorNumber number);
     RunTimeError(ErrorNumber number, QString description);
 
     [[nodiscard]] ErrorNumber Number() const { return m_number; }
     [[nodiscard]] const QString& Description() const { return m_description; }
-    /// The same failure at a place; one that has a place keeps it.
+    /// The same failure at a place, unless it already has one.
     [[nodiscard]] RunTimeError At(const QString& place) const;
     [[nodiscard]] const QString& Place() const { return m_place; } ///< empty if unknown
     [[nodiscard]] const char* what() const noexcept override { return m_text.constData(); }
 
-    /// "53, File not found": how boxes tell a failure.
+    /// "53, File not found", for message boxes.
     [[nodiscard]] QString NumberAndDescription() const;
 
-    /// "SET.dkf:120: Type mismatch": how a line of a report tells it.
+    /// "SET.dkf:120: Type mismatch", for reports.
     [[nodiscard]] QString PlaceAndDescription() const;
 
-    /// A file or a folder on the way to it is not there.
+    /// Whether the file or a folder of its path does not exist.
     [[nodiscard]] bool IsMissingFile() const;
 
 private:
@@ -58,7 +58,7 @@ private:
     QByteArray m_text;
 };
 
-/// Runs the step; its failures get the place.
+/// Runs the step, and adds the place to its failures.
 template <class Step>
 void WithPlace(const QString& place, Step&& step)
 {
@@ -69,7 +69,7 @@ void WithPlace(const QString& place, Step&& step)
     }
 }
 
-/// Runs the step with a lack of memory told as error 7, for those who trap failures.
+/// Runs the step; std::bad_alloc becomes error 7.
 template <class Step>
 void WithMemoryAsFailure(Step&& step)
 {

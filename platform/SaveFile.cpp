@@ -28,18 +28,18 @@ constexpr mode_t PrivateMode = 0600;
 constexpr mode_t PermissionBits = 07777;
 constexpr char UnfinishedPrefix[] = ".deckforge-";
 constexpr char SafetyCopyPrefix[] = "safety-copy-";
-constexpr char SafetyCopySuffix[] = ".dkf"; ///< the dialog for opening shows it
+constexpr char SafetyCopySuffix[] = ".dkf"; ///< so that the file dialog lists it
 
-/// Whether the failure means that a folder or volume takes no new file, not that it is full or broken.
-bool IsRefusal(const RunTimeError& error)
+/// Whether the error means that no file can be created in the folder, rather than a full or failing disk.
+bool CannotCreateFile(const RunTimeError& error)
 {
     return error.Number() == ErrorNumber::PermissionDenied || error.Number() == ErrorNumber::PathFileAccess;
 }
 
-/// A new file under a name that nobody else uses. Removed with the object unless it is kept.
+/// A new file with a unique name. The destructor removes it unless Keep() was called.
 class NewFile {
 public:
-    /// The name begins with the prefix and is short, since a set may have the longest name that there is.
+    /// The name is short, since the set's own name may have the maximum length.
     NewFile(const QString& prefix, const char* suffix, mode_t mode)
         : m_file(prefix + QString::number(QRandomGenerator::system()->generate64(), 36) +
                      QLatin1String(suffix),
@@ -67,8 +67,7 @@ public:
         Keep();
     }
 
-    /// Makes it the file at the path in one step; returns the system's error number. Throws where the bytes
-    /// do not reach the disk.
+    /// Renames it atomically to the path; returns errno. Throws if the data does not reach the disk.
     [[nodiscard]] int Replace(const QString& path)
     {
         m_file.Sync();
@@ -86,10 +85,10 @@ private:
     bool m_isKept = false;
 };
 
-/// The path at the end of all links, also where no file is there yet.
+/// The target of all links, which need not exist.
 QString FollowLinks(QString path)
 {
-    constexpr int maxLinks = 40; // as the system has it
+    constexpr int maxLinks = 40; // the limit of the system
     for (int i = 0; i < maxLinks; ++i) {
         char target[PATH_MAX];
         const ssize_t length = ::readlink(NameForSystem(path).constData(), target, sizeof target);
@@ -109,7 +108,8 @@ std::optional<struct stat> StatusAt(const QString& path)
     return status;
 }
 
-/// Waits for another save of the file to end. A lock ends with its program; volumes without locks have none.
+/// Waits for other processes that save the file. The lock is released when its process ends; file systems
+/// without locks are not locked.
 void Lock(const FileHandle& file)
 {
     using namespace std::chrono_literals;
@@ -124,7 +124,7 @@ void Lock(const FileHandle& file)
     }
 }
 
-/// The file at the path, locked and open for writing.
+/// Opens the file for writing and locks it.
 FileHandle OpenLocked(const QString& path)
 {
     for (;;) {
@@ -132,11 +132,11 @@ FileHandle OpenLocked(const QString& path)
         Lock(file);
         if (file.Status().st_nlink > 0)
             return file;
-        // Whoever had the lock has put another file in its place.
+        // The process that held the lock has replaced the file.
     }
 }
 
-/// Whether another file could be the same in all but its bytes and times.
+/// Whether a new file would differ only in contents and times.
 bool CanBeReplaced(const QString& path, const struct stat& status)
 {
     const bool hasAccessList =
@@ -144,7 +144,7 @@ bool CanBeReplaced(const QString& path, const struct stat& status)
     return status.st_nlink == 1 && !hasAccessList;
 }
 
-/// Gives the new file the owner and the permissions; false where the volume keeps it from having them.
+/// Copies owner and permissions; false if the file system does not allow it.
 bool TakeOwnerAndPermissions(const FileHandle& file, const struct stat& from)
 {
     struct stat status = file.Status();
@@ -156,7 +156,7 @@ bool TakeOwnerAndPermissions(const FileHandle& file, const struct stat& from)
     return status.st_uid == from.st_uid && status.st_gid == from.st_gid && status.st_mode == from.st_mode;
 }
 
-/// Replaces the file by a new one. False, and all is as before, where only overwriting keeps what it is.
+/// Replaces the file atomically. Returns false, with no change, if only overwriting keeps its attributes.
 bool ReplaceInOneStep(const FileHandle& old, QByteArrayView bytes)
 {
     const struct stat status = old.Status();
@@ -168,17 +168,17 @@ bool ReplaceInOneStep(const FileHandle& old, QByteArrayView bytes)
             return false;
         file.File().Write(bytes);
         const int error = file.Replace(old.Path());
-        if (error != 0 && error != EBUSY && error != EXDEV) // those two: something is mounted on the file
+        if (error != 0 && error != EBUSY && error != EXDEV) // both mean a mount point
             throw SystemFailure(error, old.Path());
         return error == 0;
     } catch (const RunTimeError& error) {
-        if (IsRefusal(error))
+        if (CannotCreateFile(error))
             return false;
         throw;
     }
 }
 
-/// The names of the file's safety copies begin so, whatever folder they are in.
+/// The prefix of the names of the file's safety copies, in any folder.
 QString SafetyCopyName(const QString& path)
 {
     const QByteArray file = QFileInfo(PathToOpen(path)).canonicalFilePath().toUtf8();
@@ -187,7 +187,7 @@ QString SafetyCopyName(const QString& path)
     return QLatin1String(SafetyCopyPrefix) + QString::fromLatin1(hash.first(hashLetters)) + QLatin1Char('-');
 }
 
-/// A copy of the file on the disk: beside it, or in the program's folder where its own takes no new file.
+/// Creates a copy on the disk: in the file's folder, or in the program's folder if that is not possible.
 NewFile MakeSafetyCopy(const QString& path)
 {
     const auto copyTo = [&](const QString& folder) {
@@ -201,13 +201,13 @@ NewFile MakeSafetyCopy(const QString& path)
     try {
         return copyTo(FolderPart(path));
     } catch (const RunTimeError& error) {
-        if (!IsRefusal(error))
+        if (!CannotCreateFile(error))
             throw;
     }
     return copyTo(ProgramFolder());
 }
 
-/// Puts the old bytes back after a failure; where that fails too, the copy stays, and the failure says where.
+/// Restores the old bytes after a failure. If that fails too, the copy is kept, and the error says where.
 [[noreturn]] void Restore(FileHandle& file, NewFile& copy, const RunTimeError& failure)
 {
     try {
@@ -230,9 +230,9 @@ NewFile MakeSafetyCopy(const QString& path)
 void OverwriteBehindCopy(FileHandle& file, QByteArrayView bytes)
 {
     NewFile copy = MakeSafetyCopy(file.Path());
-    copy.Keep(); // whatever ends this, until the bytes of one of both files are on the disk
+    copy.Keep(); // until either file is complete on the disk
     try {
-        file.Write(bytes); // not emptied first: what it has room for now, it has room for again
+        file.Write(bytes); // without truncating, so that the old blocks stay allocated
         if (::ftruncate(file.Descriptor(), bytes.size()) != 0)
             throw SystemFailure(errno, file.Path());
         file.Sync();

@@ -6,18 +6,18 @@
 
 namespace deckforge {
 
-/// Writes the bytes to the path, links followed, so that after a failure, a crash or a loss of power the file
-/// is the old one or the new one, and on the disk before this returns.
+/// Writes the bytes to a file, following links. After a failure, a crash or a power loss the file has its old
+/// or its new contents; the new ones are on the disk when this returns.
 ///
-/// The file is replaced in one step by a new one with its owner and permissions. Where that would change what
-/// the file is, or its folder takes no new file, it is overwritten instead: a safety copy holds the old bytes
-/// meanwhile. Should restoring them fail too, the failure's description says where the copy is. Programs that
-/// save one file wait for each other. No file is touched that this save did not make.
+/// The file is replaced atomically by a new one with its owner and permissions. Where that would change other
+/// attributes, or the folder is not writable, it is overwritten, while a safety copy holds the old bytes. If
+/// restoring them fails as well, the error's description says where the copy is. Concurrent saves of a file
+/// wait for each other. No other files are touched.
 ///
-/// Devices and pipes are written straight. A read-only file is error 70.
+/// Devices and pipes are written directly. A read-only file is error 70.
 void SaveFile(const QString& path, QByteArrayView bytes);
 
-/// The safety copies of the file whose save was cut off, wherever that save could make them.
+/// The safety copies left by interrupted saves of the file, in all folders where they can be.
 [[nodiscard]] QStringList SafetyCopiesOf(const QString& path);
 
 [[nodiscard]] bool IsSafetyCopy(const QString& path);

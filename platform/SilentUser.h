@@ -6,8 +6,7 @@
 
 namespace deckforge {
 
-/// A user who sees nothing and cancels every dialog: where nobody is to be asked or told, or has been
-/// already.
+/// A user who sees no messages and cancels every dialog.
 class SilentUser : public UserPort {
 public:
     Answer ShowMessage(const MessageBoxRequest& /*request*/) override { return deckforge::Answer::Ok; }

@@ -2,7 +2,7 @@
 
 namespace deckforge {
 
-void TellUntrapped(UserPort& user, const RunTimeError& error)
+void ShowUnhandledError(UserPort& user, const RunTimeError& error)
 {
     user.ShowMessage({.Text = QStringLiteral("Run-time error '%1':\r\n\r\n%2")
                                   .arg(static_cast<int>(error.Number()))

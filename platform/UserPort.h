@@ -24,20 +24,21 @@ struct MessageBoxRequest {
     BoxButtons Buttons = BoxButtons::Ok;
 };
 
-/// An open or a save dialog. A filter is "description|pattern" pairs joined by "|"; FilterIndex counts the
-/// pairs from 1. Files to open must exist; before a file is replaced by a save the dialog asks.
+/// Request for an open or save dialog. Filter has "description|pattern" pairs joined by "|"; FilterIndex
+/// counts them from 1. Files to open must exist; a save dialog asks before it replaces a file.
 struct FileDialogRequest {
     QString Title;
     QString FileName;
     QString Filter;
     int FilterIndex = 1;
     QString DefaultExtension;
-    QString Folder; ///< where the dialog starts; empty leaves it where the dialog has it
-    /// The file that FileName names, as the program last read or wrote it; a save dialog warns of changes.
+    QString Folder; ///< where the dialog starts; empty for its default
+    /// The file at FileName as the program last read or wrote it; the save dialog warns if it has changed
+    /// since.
     std::optional<FileAttributes> Known = {};
 };
 
-/// Everything that the program asks or tells its user, without a word about windows.
+/// Everything that the program asks or shows its user, independent of windows.
 class UserPort {
 public:
     UserPort() = default;
@@ -45,40 +46,39 @@ public:
     UserPort(const UserPort&) = delete;
     UserPort& operator=(const UserPort&) = delete;
 
-    /// A question that is put aside without an answer gives Cancel, also where there is no such button.
+    /// Cancel if the message box was closed without an answer, even if it has no such button.
     virtual Answer ShowMessage(const MessageBoxRequest& request) = 0;
 
-    /// What a run did not do as the user expects, one line each, naming card and file. It interrupts nobody.
-    /// An empty list means that the run has nothing to report.
+    /// Shows what a run could not do, one line per problem with card and file, without interrupting the user.
+    /// An empty list means no problems.
     virtual void ReportProblems(const QStringList& problems) = 0;
 
-    /// The full path chosen; nothing when the user cancels.
+    /// The full path; nothing if cancelled.
     virtual std::optional<QString> AskOpenFile(const FileDialogRequest& request) = 0;
     virtual std::optional<QString> AskSaveFile(const FileDialogRequest& request) = 0;
 
-    /// The folder chosen, with its separator; nothing when the user cancels.
+    /// The folder with a trailing separator; nothing if cancelled.
     virtual std::optional<QString> BrowseForFolder() = 0;
 
-    // The dialogs start from the colour or font given. Nothing when the user cancels.
+    // The dialogs start with the given colour or font. Nothing if cancelled.
     virtual std::optional<Colour> AskColour(const QString& title, Colour colour) = 0;
     virtual std::optional<FontSpec> AskFont(const QString& title, const FontSpec& font) = 0;
 
-    /// One line of text, with the text given to begin with; nothing when the user cancels.
+    /// A line of text, initially `text`; nothing if cancelled.
     virtual std::optional<QString> AskText(const QString& prompt, const QString& title,
                                            const QString& text) = 0;
 
-    /// The usual printer with a document of that name begun, at the resolution that the printer has and with
-    /// the corner of what it can print on as its origin; null where there is none. What was painted is sent
-    /// with the end of the painting.
+    /// The default printer with a new document, at the printer's resolution and with the origin at the corner
+    /// of the printable area; null if there is none. The document is sent when painting ends.
     virtual std::unique_ptr<QPagedPaintDevice> OpenPrinter(const QString& document) = 0;
 
     virtual void SetPointer(Pointer pointer) = 0;
 
-    /// How far a long run is: done of total. The last call of a run has done equal to total.
+    /// Progress of a long run. The last call has done equal to total.
     virtual void ShowProgress(int done, int total) = 0;
 };
 
-/// The hourglass for the time of a long run, however it ends.
+/// Shows the hourglass pointer in its scope.
 class HourglassScope {
 public:
     explicit HourglassScope(UserPort& user) : m_user(user) { m_user.SetPointer(Pointer::Hourglass); }
@@ -90,7 +90,7 @@ private:
     UserPort& m_user;
 };
 
-/// Tells a failure that nothing else has told; the program goes on with the set in memory.
-void TellUntrapped(UserPort& user, const RunTimeError& error);
+/// Shows a failure that no other code has handled. The program continues with the set in memory.
+void ShowUnhandledError(UserPort& user, const RunTimeError& error);
 
 } // namespace deckforge

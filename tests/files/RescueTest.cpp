@@ -1,6 +1,6 @@
 #include "files/Rescue.h"
 #include "files/modFile.h"
-#include "platform/LastAct.h"
+#include "platform/TerminationGuard.h"
 #include "support/DefaultSignals.h"
 #include "support/SetTest.h"
 
@@ -180,12 +180,12 @@ TEST_F(RescueTest, ASetDiffersByWhatItsFileHolds)
     EXPECT_TRUE(kept.Differs(Set)) << "what cannot be written has never been";
 }
 
-TEST(LastActDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
+TEST(TerminationGuardDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
 {
     testing::FLAGS_gtest_death_test_style = "fast";
     const DefaultSignals defaults;
     const auto end = [](void (*way)()) noexcept {
-        const LastAct act([] { std::fputs("last act. ", stderr); });
+        const TerminationGuard act([] { std::fputs("last act. ", stderr); });
         way();
     };
     const auto fail = [] { throw RunTimeError(ErrorNumber::DeviceIo); };
