@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """How a back is put together: panel, field, emblem, ribbon and border, for any size.
 
 Colours of a palette: f and d the light and the deep tone of the panel, g the cuts of its field; those of the

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The border of all backs: plaited bands between carved corners.
 
 Colours: o the ground, r and m the light and the deep tone of what is cut into it.

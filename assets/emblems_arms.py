@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Emblems of the default back and of the wide backs of character cards and large cards.
 
 The wide ones are drawn round the origin, 125 to each side, 84 up and 80 down; the others as in emblems_realm.py.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Emblems of the card backs: magic, deeds, beings, and the plain shields.
 
 See emblems_realm.py for their measures and colours.

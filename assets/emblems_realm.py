@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Emblems of the card backs: the land, its towns and its waters.
 
 An emblem is drawn round the origin, 52 to each side, 84 up and 80 down. Colours: a, b, c the light, middle and

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Capitals of the project's own hand, cut from skeletons by a pen.
 
 A letter is a few strokes, each a centre line in a box 100 high; an end with "!" swells; a pen of some thickness and angle turns

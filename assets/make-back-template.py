@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Draws picBackTemplate.svg, the template of a user-designed card back.
 
 The template is black and white: a white margin, a black field and a white border of ornaments in eighteen

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Draws the built-in card backs: backs/imgCB-00.svg to imgCB-26.svg and backs/picBack.svg
 for standard cards, backs/imgChB-0.svg to imgChB-3.svg for character cards and large cards.
 

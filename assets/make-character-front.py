@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Draws picCharacter.svg, the front of a character card: a black border round a white field.
 
 The four attributes stand in black strips on the left and right border; each has a mark of its colour, a

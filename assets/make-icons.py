@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Draws the program's icon, its small form, the icon of a set file and the picture of the About dialog.
 
 icon/varnhelm-deck-forge.svg is for 32 pixels and more; icon/varnhelm-deck-forge-small.svg shows the same with

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Draws the images of the tool bar, toolbar/*.svg, on a grid of 16 x 16.
 
 All edges lie on the grid, so that an image is sharp at its own size and at twice it. Light fills within a

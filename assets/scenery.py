@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Scenery in the manner of the card backs: skies, mountains, water, woods, houses, ships.
 
 For pictures with a frame of their own: a Cut's origin is the left upper corner of the picture.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The tools of the woodcutter: outlines from few points, engraved shading, cut lines.
 
 All art of the program is drawn with them. An outline is a string of points, "x,y x,y ...", through which

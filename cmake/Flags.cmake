@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Compiler and linker flags. Every target of the project links deckforge_flags.
 add_library(deckforge_flags INTERFACE)
 

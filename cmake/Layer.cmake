@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # deckforge_layer(NAME USES layers... [LIBRARIES libraries...] [PRIVATE libraries...])
 #
 # Builds a static library from all sources of the current folder. Headers are included as "folder/Header.h". USES lists

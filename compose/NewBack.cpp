@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "compose/NewBack.h"
 
 #include "compose/CardPainting.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/PicturePaths.h"
 
 #include "core/CardKind.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "dialogs/frmCardSheet.h"
 
 #include "ui_frmCardSheet.h"

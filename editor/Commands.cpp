@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "editor/Commands.h"
 
 #include "commands/OutputCommands.h"
@@ -66,7 +68,8 @@ private:
             {"setinfo", "Set card defaults", [this] { SetInfo(); }},
             {"choosefont", "Set card fonts", [this] { ChangeFonts(); }},
             {},
-            {"exportback", "Export cardbacks to disk", [this] { ExportCardBacks(m_parts.Works, m_parts.User); }},
+            {"exportback", "Export cardbacks to disk",
+             [this] { ExportCardBacks(m_parts.Works, m_parts.User); }},
             {"createone", "Create one card", [this] { CreateOne(); }},
             {"createall", "Create all cards", [this] { CreateAll(); }},
             {"createsheet", "Create card sheets", [this] { CreateSheets(); }},
@@ -131,8 +134,9 @@ private:
 
     void SetInfo()
     {
-        m_parts.Document.Edit(QStringLiteral("Customize Set"),
-                              [this](CardSet&) { EditSetInfo(m_parts.Works, m_parts.User, m_lastBackFile, &m_window); });
+        m_parts.Document.Edit(QStringLiteral("Customize Set"), [this](CardSet&) {
+            EditSetInfo(m_parts.Works, m_parts.User, m_lastBackFile, &m_window);
+        });
         m_window.ShowTables();
     }
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "editor/Pages.h"
 
 #include "commands/OutputCommands.h"
@@ -77,7 +79,9 @@ private:
     void AddFields()
     {
         // The credit is drawn on the background.
-        const auto showArtist = [this] { DrawArtistCredit(m_parts.Works, m_parts.Document.Set().Cards.Current); };
+        const auto showArtist = [this] {
+            DrawArtistCredit(m_parts.Works, m_parts.Document.Set().Cards.Current);
+        };
         AddText(m_form.txtTitle, &Card::Title, {.Preview = &m_boxes.lblTitle});
         AddText(m_form.cboNumber, &Card::Number, {.Preview = &m_boxes.lblNumber});
         AddText(m_form.txtBold, &Card::BoldText,

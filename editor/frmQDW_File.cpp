@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "commands/OutputCommands.h"
 #include "compose/FontScheme.h"
 #include "editor/Page.h"

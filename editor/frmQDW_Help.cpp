@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "dialogs/FocusSelection.h"
 #include "editor/Page.h"
 #include "editor/PreviewController.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "files/modFile.h"
 #include "platform/LineWriter.h"
 #include "platform/Version.h"

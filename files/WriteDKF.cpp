@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/Vocabulary.h"
 #include "files/SetFields.h"
 #include "files/SetWriter.h"

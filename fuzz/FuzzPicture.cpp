@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "fuzz/Drawing.h"
 #include "fuzz/FuzzedFile.h"
 #include "imaging/PictureLoader.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "compose/Attempt.h"
 #include "compose/TextFitting.h"
 #include "fuzz/Drawing.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include "imaging/Picture.h"
@@ -41,7 +43,7 @@ public:
     void SetFontName(const QString& name); ///< error 380 if empty
     void SetFontBold(bool bold);
     void SetFontItalic(bool italic);
-    void SetFontSize(double points); ///< error 380 unless above 0 and at most MaxPoints
+    void SetFontSize(double points);    ///< error 380 unless above 0 and at most MaxPoints
     [[nodiscard]] FontSpec Pen() const; ///< font and ForeColor
     [[nodiscard]] double TextWidth(QStringView text) const;
     [[nodiscard]] double TextHeight(QStringView text) const; ///< of all lines, separated by CR LF

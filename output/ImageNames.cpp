@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "output/ImageNames.h"
 
 #include "core/Vocabulary.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include "platform/FileHandle.h"
@@ -70,8 +72,8 @@ void CheckWritable(const QString& path);
 /// Whether both paths are the same existing file, through links of any kind.
 [[nodiscard]] bool IsSameFile(const QString& one, const QString& other);
 
-/// Whether there is a folder that is the user's own and closed to others; a link is none. The path ends without
-/// a separator.
+/// Whether there is a folder that is the user's own and closed to others; a link is none. The path ends
+/// without a separator.
 [[nodiscard]] bool IsPrivateFolder(const QString& folder);
 
 /// Makes such a folder if it is not there. Error 75 where something else has its name.

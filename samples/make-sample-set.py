@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes sample.dkf.in, the sample set with placeholders for its folders.
 
 @SAMPLES@ stands for the folder of the samples, @OUT@ for the folder of the created

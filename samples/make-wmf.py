@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes the vector pictures of the sample set: pictures/sword.wmf, tithe.wmf, ring.wmf and comet.wmf.
 
 They are cut like the others, but go out as placeable Windows metafiles of polygons alone: not every player

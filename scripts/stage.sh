@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Environment for screenshots: a virtual display with a window manager, a temporary folder ($work), and a home folder in it
 # whose name looks well in screenshots. To be sourced; removed on exit.
 work=$(mktemp -d)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Enemies, strangers and followers of the sample, each for the frame of its card."""
 
 from inks import sheet

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes the drawings of the sample's pictures as SVG files into a folder: draw.py FOLDER"""
 
 import sys

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The characters of the sample: each once before its scene, and once as a playing piece.
 
 A figure stands on the origin, some 180 high and 50 to each side.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Backgrounds of cards, quiet enough for a text; the backs of the set's own; its symbol."""
 
 import backs

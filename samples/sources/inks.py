@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The inks of the sample set: one palette for all its pictures, so that the cards are of one country.
 
 Also opens the way to the woodcutter's tools in assets/.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "BuildPaths.h"
 #include "support/FileBytes.h"
 #include "support/Limits.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "compose/BuiltInArt.h"
 
 #include "output/modCapture.h"

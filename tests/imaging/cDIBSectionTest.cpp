@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "imaging/cDIBSection.h"
 #include "support/Failures.h"
 #include "support/PixelText.h"
