@@ -202,8 +202,11 @@ private:
     {
         QComboBox& list = *m_form.cboCardBack;
         {
-            // Also on failure, which leaves a row without a name.
-            const auto fill = qScopeGuard([this] { FillBackList(); });
+            // Also on failure, which leaves a row without a name and the card its back.
+            const auto fill = qScopeGuard([&] {
+                FillBackList();
+                list.setCurrentIndex(Current().CardBack - 1);
+            });
             m_parts.Document.Edit(list.accessibleName(), [&](CardSet& set) { AddCardBack(set, path); });
         }
         list.setCurrentIndex(list.count() - 2);

@@ -50,6 +50,7 @@ TEST_F(FieldsTest, AUserDefinedBackJoinsTheTable)
         user.WillChoose(choice);
         Choose("cboCardBack", list.count() - 1);
         EXPECT_EQ(FirstCard().CardBack, 28) << "one that is missing is not taken";
+        EXPECT_EQ(list.currentIndex(), 27) << "the list shows the back that the card has";
     }
     EXPECT_EQ(Set().CardBacks[28].Name + Set().CardBacks[28].Picture, "owl" + path);
     EXPECT_EQ(Set().CardBacks[29].Name, "");
