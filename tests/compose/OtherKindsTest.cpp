@@ -122,4 +122,16 @@ TEST_F(OtherKindsTest, ABackIsTurnedUprightTwoPixelsToTheLeft)
     EXPECT_EQ(FailureOf([&] { ShowNewCardBack(Shop, 1); }), 53);
 }
 
+TEST_F(OtherKindsTest, APictureThatIsMovedLeavesTheHandleAtItsFrame)
+{
+    LargeCardTemplate& large = Shop.Templates.Large;
+    CharacterTemplate& character = Shop.Templates.Character;
+    Shop.Set.LargeCards[1].FrameHeight = Hero().FrameHeight = 100;
+    large.lblPicSizeLarge.Left = character.lblPicSizeCharacter.Left = 0;
+    PlaceLargePicture(Shop, 1);
+    PlaceCharacterPicture(Shop, 1);
+    EXPECT_EQ(large.lblPicSizeLarge.Left, large.picFrameLarge.Left + 100);
+    EXPECT_EQ(character.lblPicSizeCharacter.Left, character.picFrameCharacter.Left + 100);
+}
+
 } // namespace deckforge

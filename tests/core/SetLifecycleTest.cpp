@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "core/CardVocabulary.h"
 #include "core/SetTables.h"
 #include "core/Vocabulary.h"
 #include "support/EveryKind.h"
@@ -94,6 +95,10 @@ TEST_F(SetLifecycle, TheVocabularyIsThatOfThePrintedGame)
         EXPECT_TRUE(type.BuiltIn) << row;
     }
     EXPECT_EQ(TypeListEntry(Set.CardTypes[2]), "ENEMY-Animal");
+    for (const int16 row : {int16{1}, Set.CardTypes.Count()}) {
+        EXPECT_TRUE(TypeCardType(Set, FirstCard(), TypeListEntry(Set.CardTypes[row]))) << row;
+        EXPECT_EQ(FirstCard().TypeIndex, row);
+    }
     ASSERT_EQ(Set.CardBacks.Count(), 27);
     for (const auto& [row, name] : {std::pair{1, "Adventure"}, {14, "Mystic Brew"}, {27, "Blank"}})
         EXPECT_EQ(Set.CardBacks[row].Name, name);

@@ -257,4 +257,16 @@ TEST_F(SetFileTest, FoldersNamedInAnyLanguageAreSavedAndReadAgain)
     EXPECT_EQ(Set.LastBackground, before.LastBackground);
 }
 
+TEST_F(SetFileTest, ReadingKeepsCurrentRecordsThatExist)
+{
+    AddOneOfEachKind(Set);
+    AddElement<NewCardBack>(Set);
+    const QByteArray bytes = Written();
+    ASSERT_TRUE(Read(bytes));
+    EXPECT_EQ(Set.NewCardBacks.Current, Set.NewCardBacks.Count()) << "the last one";
+    Set.NewCardBacks.Current = 3;
+    ASSERT_TRUE(Read(bytes));
+    EXPECT_EQ(Set.NewCardBacks.Current, 1) << "there are two";
+}
+
 } // namespace deckforge
