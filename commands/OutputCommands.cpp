@@ -112,7 +112,7 @@ FileDialogRequest ImageDialog(const char* dialogTitle, const QString& title, con
 
 } // namespace
 
-void ShowComposed(UserPort& user, const CompositionFailure& failure)
+void ShowCompositionFailure(UserPort& user, const CompositionFailure& failure)
 {
     if (!failure)
         return;
@@ -122,11 +122,11 @@ void ShowComposed(UserPort& user, const CompositionFailure& failure)
          .Style = BoxStyle::Critical});
 }
 
-void ShowViewed(UserPort& user, const ViewFailures& failures)
+void ShowViewFailures(UserPort& user, const ViewFailures& failures)
 {
     if (failures.Symbol)
         ShowUnhandledError(user, *failures.Symbol);
-    ShowComposed(user, failures.FirstCard);
+    ShowCompositionFailure(user, failures.FirstCard);
 }
 
 ShownRun::ShownRun(UserPort& user) : User(user)

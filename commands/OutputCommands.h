@@ -15,10 +15,10 @@ namespace deckforge {
 // message boxes.
 
 /// Shows why a card could not be composed, if it could not.
-void ShowComposed(UserPort& user, const CompositionFailure& failure);
+void ShowCompositionFailure(UserPort& user, const CompositionFailure& failure);
 
 /// Shows what failed while a set was shown.
-void ShowViewed(UserPort& user, const ViewFailures& failures);
+void ShowViewFailures(UserPort& user, const ViewFailures& failures);
 
 /// A run as the user sees it: failures are shown when they happen, the problems when it is over, however it
 /// ends.
@@ -28,7 +28,7 @@ public:
     ~ShownRun() override;
 
     void ShowProgress(int done, int total) override { User.ShowProgress(done, total); }
-    void ShowNotComposed(const RunTimeError& error) override { ShowComposed(User, error); }
+    void ShowNotComposed(const RunTimeError& error) override { ShowCompositionFailure(User, error); }
     void ShowNotWritten(const char* title, const QString& reason) override;
 
     UserPort& User;

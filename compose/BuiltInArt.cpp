@@ -15,7 +15,7 @@ namespace deckforge {
 
 namespace {
 
-constexpr qsizetype KeptBytes = qsizetype(32) << 20;
+constexpr qsizetype CacheBytes = qsizetype(32) << 20;
 constexpr QSize CardArtSize = {150, 254};
 constexpr QSize DoubleArtSize = {302, 254};
 constexpr QSize LargeBackArtSize = DoubleCardSize;
@@ -25,7 +25,7 @@ constexpr std::array PaletteBacks = {15, 16, 18};
 
 } // namespace
 
-BuiltInArt::BuiltInArt(int scale) : m_scale(scale), m_rendered(KeptBytes) {}
+BuiltInArt::BuiltInArt(int scale) : m_scale(scale), m_rendered(CacheBytes) {}
 
 Picture BuiltInArt::imgCB(int index)
 {

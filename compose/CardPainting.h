@@ -68,7 +68,7 @@ void PrintWatermark(PictureBox& surface, const Box& watermark, QPoint origin = {
 class ShowRun {
 public:
     /// From here on a missing file is reported on this box, in these words and with its path.
-    void LoadsFor(Box& reporter, const QString& path, const char* message = "Missing picture.");
+    void ReportMissingOn(Box& reporter, const QString& path, const char* message = "Missing picture.");
 
     /// The missing files so far.
     [[nodiscard]] const std::vector<PictureProblem>& Problems() const { return m_problems; }

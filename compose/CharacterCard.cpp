@@ -2,9 +2,9 @@
 
 #include "compose/CharacterCard.h"
 
-#include "compose/Attempt.h"
 #include "compose/CardPainting.h"
 #include "compose/FontScheme.h"
+#include "compose/IgnoreFailure.h"
 #include "core/Vocabulary.h"
 #include "imaging/modRotatePic.h"
 
@@ -34,7 +34,7 @@ void PlaceTexts(CharacterTemplate& t)
     t.lblAlignment.Left = t.lblAlignmentTitle.Left + t.lblAlignmentTitle.Width;
     t.lblStart.Left = t.lblStartTitle.Left + t.lblStartTitle.Width;
     for (Box* label : {&t.lblAlignment, &t.lblStart, &t.lblSpecialTitle, &t.lblSpecial})
-        Attempt([&] { label->SetWidth(TextRight - label->Left); });
+        IgnoreFailure([&] { label->SetWidth(TextRight - label->Left); });
 }
 
 void ShowTexts(Workshop& workshop, const Character& character, int16 index)
@@ -65,12 +65,12 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
 {
     CardTemplate& standard = workshop.Templates.Standard;
     CharacterTemplate& t = workshop.Templates.Character;
-    run.LoadsFor(standard.picImage, character.Picture);
+    run.ReportMissingOn(standard.picImage, character.Picture);
     LoadFramedPicture(run, workshop, t.picImageCharacter, character.Picture);
     t.picImageCharacter.MoveToTwips(character.PictureLeft, character.PictureTop);
 
     // Back and piece are told as a missing background, too.
-    run.LoadsFor(standard.picCard, character.Background, "Missing background.");
+    run.ReportMissingOn(standard.picCard, character.Background, "Missing background.");
     run([&] {
         t.picBackgroundChar.Surface->SetPicture(workshop.Pictures.LoadPicture(character.Background));
     });

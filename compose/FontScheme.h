@@ -20,7 +20,7 @@ enum class FontClicks { None, One, Two };
 struct LabelFont {
     Box* Label;
     FontSpec SetHeader::*Font;
-    FontClicks Opens;
+    FontClicks Clicks;
 };
 
 /// The labels of all templates that have a font of the scheme. Those of the standard card ask for two clicks.
@@ -31,6 +31,6 @@ void SetFont(CardTemplates& templates, const SetHeader& header);
 
 /// What an opened set dresses: the labels of the standard card, but lblType(2) and lblType(3), which keep
 /// their fonts until SetFont.
-void DressOpenedSet(CardTemplate& card, const SetHeader& header);
+void ApplyOpenedSetFonts(CardTemplate& card, const SetHeader& header);
 
 } // namespace deckforge

@@ -2,9 +2,9 @@
 
 #include "compose/LargeCard.h"
 
-#include "compose/Attempt.h"
 #include "compose/CardPainting.h"
 #include "compose/FontScheme.h"
+#include "compose/IgnoreFailure.h"
 #include "platform/Twips.h"
 
 namespace deckforge {
@@ -39,7 +39,7 @@ void PlaceTexts(LargeCardTemplate& t)
 {
     for (Box* label : {&t.lblTitleLarge, &t.lblInformationLarge}) {
         label->Left = t.lblPicSizeLarge.Left + t.lblPicSizeLarge.Width;
-        Attempt([&] { label->SetWidth(TextRight - label->Left); });
+        IgnoreFailure([&] { label->SetWidth(TextRight - label->Left); });
     }
 }
 
@@ -61,15 +61,15 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const LargeCard& card)
 {
     CardTemplate& standard = workshop.Templates.Standard;
     LargeCardTemplate& t = workshop.Templates.Large;
-    run.LoadsFor(standard.picImage, card.Picture);
+    run.ReportMissingOn(standard.picImage, card.Picture);
     LoadFramedPicture(run, workshop, t.picImageLarge, card.Picture);
     PlacePictureInFrame(t, card);
 
-    run.LoadsFor(standard.picCard, card.Background);
+    run.ReportMissingOn(standard.picCard, card.Background);
     run([&] { t.picCardLarge.Surface->SetPicture(workshop.Pictures.LoadPicture(card.Background)); });
     t.picCardLarge.Surface->SetBackColor(card.Color);
 
-    run.LoadsFor(standard.picBack, card.CardBack);
+    run.ReportMissingOn(standard.picBack, card.CardBack);
     run([&] {
         t.picBackLarge.Surface->SetPicture(card.CardBack.isEmpty()
                                                ? workshop.Art.imgChB(DefaultBack)

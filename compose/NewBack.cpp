@@ -47,7 +47,7 @@ void FillBackInner(PictureBox& picNewBack, Colour newColour, Colour oldColour)
     Fill(picNewBack, InnerSeed, newColour, oldColour);
 }
 
-void FillBackFrame(PictureBox& picNewBack, Colour newColour, Colour oldColour)
+void FillFrame(PictureBox& picNewBack, Colour newColour, Colour oldColour)
 {
     for (const QPoint seed : FrameSeeds)
         Fill(picNewBack, seed, newColour, oldColour);
@@ -93,10 +93,10 @@ void ColourTemplate(PictureBox& picNewBack, const NewCardBack& back)
     const TemporaryColours temporary = UsableColours();
     FillBackOuter(picNewBack, temporary.Outer, White);
     FillBackInner(picNewBack, temporary.Inner, Black);
-    FillBackFrame(picNewBack, temporary.Frame, White);
+    FillFrame(picNewBack, temporary.Frame, White);
     FillBackOuter(picNewBack, back.BackColor, temporary.Outer);
     FillBackInner(picNewBack, back.InnerColor, temporary.Inner);
-    FillBackFrame(picNewBack, back.FrameColor, temporary.Frame);
+    FillFrame(picNewBack, back.FrameColor, temporary.Frame);
 }
 
 /// The label is as large as its text.

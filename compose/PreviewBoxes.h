@@ -18,7 +18,7 @@ enum class BoxLook {
 };
 
 /// How the user can move a box.
-enum class Grip { None, UpDown, LeftRight, All };
+enum class DragAxis { None, UpDown, LeftRight, All };
 
 /// A box as a preview paints it. Its place counts from inside the border of its parent, which also cuts it
 /// off and hides it; a box without a parent stands on the preview itself.
@@ -26,7 +26,7 @@ struct PreviewBox {
     const Box* Shown;
     const Box* Parent;
     BoxLook Look;
-    Grip Moves = Grip::None;
+    DragAxis Drag = DragAxis::None;
 };
 
 // The boxes of a template in the order in which they are painted: parents before children, labels behind

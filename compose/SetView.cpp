@@ -63,7 +63,7 @@ std::optional<RunTimeError> ShowSet(Workshop& workshop)
     CharacterTemplate& character = workshop.Templates.Character;
     PlaceSymbols(workshop.Templates, symbol,
                  {character.picSymbolCharacter, character.picBackgroundChar, true, SymbolMargin});
-    DressOpenedSet(card, workshop.Set.Header);
+    ApplyOpenedSetFonts(card, workshop.Set.Header);
     ShowNumbers(workshop);
     card.picBack.Visible = !workshop.Set.Header.NoBack;
     return failure;

@@ -2,9 +2,9 @@
 
 #include "compose/StandardCard.h"
 
-#include "compose/Attempt.h"
 #include "compose/CardPainting.h"
 #include "compose/FontScheme.h"
+#include "compose/IgnoreFailure.h"
 #include "compose/TextFitting.h"
 #include "imaging/modRotatePic.h"
 #include "platform/Twips.h"
@@ -40,7 +40,7 @@ void ShowTypeLines(CardTemplate& t, const Card& card)
 void PlaceInformation(CardTemplate& t)
 {
     t.lblInformation.Top = t.lblBold.Top + t.lblBold.Height;
-    Attempt([&] { t.lblInformation.SetHeight(InformationBottom - t.lblInformation.Top); });
+    IgnoreFailure([&] { t.lblInformation.SetHeight(InformationBottom - t.lblInformation.Top); });
 }
 
 void ShowTexts(CardTemplate& t, const Card& card, int16 index)
@@ -87,7 +87,7 @@ void PlacePictureInFrame(CardTemplate& t, const Card& card)
 void LoadBackground(ShowRun& run, Workshop& workshop, const Card& card)
 {
     Box& picCard = workshop.Templates.Standard.picCard;
-    run.LoadsFor(picCard, card.Background);
+    run.ReportMissingOn(picCard, card.Background);
     run([&] { picCard.Surface->SetPicture(workshop.Pictures.LoadPicture(card.Background)); });
     picCard.Surface->SetBackColor(card.Color); // and so does this
 }
@@ -98,7 +98,7 @@ void LoadBack(ShowRun& run, Workshop& workshop, Card& card)
     ReplaceUnknownBack(set, card);
     const CardBack& back = set.CardBacks[card.CardBack];
     Box& picBack = workshop.Templates.Standard.picBack;
-    run.LoadsFor(picBack, back.Picture);
+    run.ReportMissingOn(picBack, back.Picture);
     run([&] { picBack.Surface->SetPicture(PictureOfBack(workshop, card.CardBack)); });
 }
 
@@ -205,7 +205,7 @@ CompositionFailure ShowCard(Workshop& workshop, int16 index)
         Card& card = workshop.Set.Cards[index];
         ShowTexts(t, card, index);
         PlaceFrame(run, t, card);
-        run.LoadsFor(t.picImage, card.Picture);
+        run.ReportMissingOn(t.picImage, card.Picture);
         LoadFramedPicture(run, workshop, t.picImage, card.Picture);
         PlacePictureInFrame(t, card);
         LoadBackground(run, workshop, card);

@@ -9,7 +9,7 @@ namespace deckforge {
 // How a card takes its type and its back from the tables of the set.
 
 /// Gives the card the four texts of a type.
-void TakeTypeTexts(Card& card, const CardType& type);
+void SetTypeTexts(Card& card, const CardType& type);
 
 /// Gives the card a row of the table of types, with its number; a negative one is none. Error 9 when there is
 /// no such row.

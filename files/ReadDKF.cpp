@@ -59,10 +59,10 @@ private:
 void ConvertType(const CardSet& set, TypeFinder& types, Card& card)
 {
     if (card.TypeIndex >= 1 && card.TypeIndex <= BuiltInTypeCount) {
-        TakeTypeTexts(card, set.CardTypes[card.TypeIndex]);
+        SetTypeTexts(card, set.CardTypes[card.TypeIndex]);
     } else if (card.TypeIndex == 0) {
         if (const int16 row = types.FindCardType(card.Type, card.TypeReversed))
-            TakeTypeTexts(card, set.CardTypes[row]);
+            SetTypeTexts(card, set.CardTypes[row]);
     }
 }
 
@@ -179,7 +179,7 @@ std::optional<SetFile> FileOf(const QString& path)
 void ReadFile(CardSet& set, const QString& path, ReadOutcome& outcome)
 {
     std::optional<SetFile> file = FileOf(path);
-    SetReader in(ReadWholeFile(path, setFile::MostBytes));
+    SetReader in(ReadWholeFile(path, setFile::MaxBytes));
     const auto place = [&] { return path + QLatin1Char(':') + QString::number(in.LineNumber()); };
     try {
         const std::optional<int16> version = ReadVersion(in, outcome);

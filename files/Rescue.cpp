@@ -28,7 +28,7 @@ QString RescuedName(const QString& folder, int age)
 
 /// The name of one more rescued set. Earlier sets move on by one, up to the first name that is free; none
 /// does while a set of the folder is to be opened.
-QString MakeRoom(const QString& folder, const QString& toOpen)
+QString FreeName(const QString& folder, const QString& toOpen)
 {
     int age = 0;
     while (age < MaxEarlier && AttributesOf(RescuedName(folder, age)))
@@ -76,9 +76,9 @@ void UnsavedWork::Keep(const CardSet& set, const QString& setFolder)
     m_leftFile.reset();
     m_sinceRenewed.start();
     try {
-        m_kept = Fingerprint(set, Unwritable::Fail);
+        m_savedHash = Fingerprint(set, Unwritable::Fail);
     } catch (const RunTimeError&) {
-        m_kept.clear();
+        m_savedHash.clear();
     }
     RemoveOwn();
 }
@@ -86,7 +86,7 @@ void UnsavedWork::Keep(const CardSet& set, const QString& setFolder)
 bool UnsavedWork::Differs(const CardSet& set) const
 {
     try {
-        return Fingerprint(set, Unwritable::Fail) != m_kept;
+        return Fingerprint(set, Unwritable::Fail) != m_savedHash;
     } catch (const RunTimeError&) {
         return true;
     }
@@ -112,13 +112,13 @@ std::optional<QString> UnsavedWork::Leave(const CardSet& set, const QString& toO
     }
     const QString path = Rescue(set, toOpen);
     m_leftFile = std::exchange(m_own, std::nullopt);
-    m_left = Fingerprint(set, Unwritable::Mend);
+    m_leftHash = Fingerprint(set, Unwritable::Replace);
     return path;
 }
 
 bool UnsavedWork::ReturnTo(const CardSet& set)
 {
-    if (!m_leftFile || Fingerprint(set, Unwritable::Mend) != m_left)
+    if (!m_leftFile || Fingerprint(set, Unwritable::Replace) != m_leftHash)
         return false;
     m_own = std::exchange(m_leftFile, std::nullopt);
     return true;
@@ -129,7 +129,7 @@ QString UnsavedWork::Rescue(const CardSet& set, const QString& toOpen)
     CardSet rescued = set;
     if (set.File)
         rescued.Header.FileName = set.File->Path; // where it is to be saved, also if the file was moved
-    const QByteArray bytes = SetFileBytes(rescued, Unwritable::Mend);
+    const QByteArray bytes = SetFileBytes(rescued, Unwritable::Replace);
     for (const QString& folder : {m_programFolder, m_setFolder}) {
         try {
             if (!folder.isEmpty())
@@ -154,7 +154,7 @@ QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes, con
     file.CloseOnDisk();
     QString target = m_own && m_own->Folder == folder ? PathOfOwn() : QString();
     if (target.isEmpty())
-        target = MakeRoom(folder, toOpen);
+        target = FreeName(folder, toOpen);
     RenameFile(unfinished, target);
     removeUnfinished.dismiss();
     m_own = {.Folder = folder, .Attributes = AttributesOf(target).value_or(FileAttributes())};
@@ -183,7 +183,7 @@ void UnsavedWork::RemoveOwn()
     m_own.reset();
 }
 
-void UnsavedWork::RescueAtTheEnd(const CardSet& set) noexcept
+void UnsavedWork::RescueAtExit(const CardSet& set) noexcept
 {
     try {
         const QString path = Rescue(set);

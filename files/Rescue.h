@@ -50,7 +50,7 @@ public:
     QString Rescue(const CardSet& set, const QString& toOpen = {});
 
     /// The same for a program that ends: standard error says where the file is, or why there is none.
-    void RescueAtTheEnd(const CardSet& set) noexcept;
+    void RescueAtExit(const CardSet& set) noexcept;
 
     struct RescuedSet {
         QString Path;
@@ -71,8 +71,8 @@ private:
 
     QString m_programFolder;
     QString m_setFolder;
-    QByteArray m_kept; ///< fingerprint of the set's file; empty where there can be none
-    QByteArray m_left; ///< fingerprint of the set that was left
+    QByteArray m_savedHash; ///< fingerprint of the set's file; empty where there can be none
+    QByteArray m_leftHash;  ///< fingerprint of the set that was left
     std::optional<OwnFile> m_own;
     std::optional<OwnFile> m_leftFile;
     std::chrono::milliseconds m_renewAfter;

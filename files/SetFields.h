@@ -19,7 +19,7 @@ struct Since {
 };
 
 /// Of new cards in sets that do not tell it.
-inline constexpr int16 NumberOfOldFiles = 2;
+inline constexpr int16 DefaultLastNumber = 2;
 
 template <class File, class Record>
 void FontFields(File& file, Record& font)
@@ -46,7 +46,7 @@ void HeaderFields(File& file, Record& header)
     file.Boolean(header.ReplaceSpace, Since{5});
     file.Integer(header.ArtistColor, Since{8}, LightGrey);
     // Fonts that an old file lacks keep what the set before had.
-    const std::size_t fontCount = file.Has(Since{9}) ? Fonts.size() : FontsOfOldFiles;
+    const std::size_t fontCount = file.Has(Since{9}) ? Fonts.size() : FontCountBefore9;
     for (std::size_t i = 0; i < fontCount; ++i)
         FontFields(file, header.*Fonts[i]);
 }
@@ -166,7 +166,7 @@ void ClosingFields(File& file, Record& set)
     file.Text(set.LastTypeReversed, Since{2}, set.LastType);
     file.Text(set.LastSubType, Since{7});
     file.Text(set.LastSubTypeReversed, Since{7});
-    file.Integer(set.LastNumber, Since{2}, NumberOfOldFiles);
+    file.Integer(set.LastNumber, Since{2}, DefaultLastNumber);
     file.Path(set.LastBackground);
 }
 

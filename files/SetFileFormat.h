@@ -22,13 +22,13 @@ inline constexpr char FlattenedBreak = '|'; ///< ... which is this where such a 
 
 // What a set file may hold. The largest set, 32,767 of each kind with pages of text on each card, is far
 // below it; files from strangers are not, and no control can show a text of megabytes.
-inline constexpr qint64 MostBytes = qint64(1) << 30;
-inline constexpr qsizetype MostLineBytes = qsizetype(1) << 16; ///< without its end
+inline constexpr qint64 MaxBytes = qint64(1) << 30;
+inline constexpr qsizetype MaxLineBytes = qsizetype(1) << 16; ///< without its end
 
-[[noreturn]] inline void RefuseLongLine()
+[[noreturn]] inline void ThrowLongLine()
 {
     throw RunTimeError(ErrorNumber::Overflow,
-                       QStringLiteral("A line of a set file has %1 characters at most").arg(MostLineBytes));
+                       QStringLiteral("A line of a set file has %1 characters at most").arg(MaxLineBytes));
 }
 
 /// Where the first line end of the bytes is; -1 where there is none.
@@ -51,6 +51,6 @@ inline constexpr std::array<FontSpec SetHeader::*, 13> Fonts = {
     &SetHeader::FontPlayingPiece};
 
 /// How many of them files below version 9 have.
-inline constexpr std::size_t FontsOfOldFiles = 6;
+inline constexpr std::size_t FontCountBefore9 = 6;
 
 } // namespace deckforge::setFile

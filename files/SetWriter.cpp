@@ -46,18 +46,18 @@ qsizetype SetWriter::AppendText(const QString& text)
 {
     const qsizetype start = m_bytes.size();
     AppendInCodePage(m_bytes, text,
-                     m_unwritable == Unwritable::Mend ? Unencodable::QuestionMark : Unencodable::Reject);
+                     m_unwritable == Unwritable::Replace ? Unencodable::QuestionMark : Unencodable::Reject);
     return start;
 }
 
 /// Ends the line of the text from the start on, if it is one that can be read again.
 void SetWriter::EndText(qsizetype start)
 {
-    if (m_bytes.size() - start > setFile::MostLineBytes) {
-        const bool isMended = m_unwritable == Unwritable::Mend;
-        m_bytes.truncate(isMended ? start + setFile::MostLineBytes : start);
-        if (!isMended)
-            setFile::RefuseLongLine();
+    if (m_bytes.size() - start > setFile::MaxLineBytes) {
+        const bool mayCut = m_unwritable == Unwritable::Replace;
+        m_bytes.truncate(mayCut ? start + setFile::MaxLineBytes : start);
+        if (!mayCut)
+            setFile::ThrowLongLine();
     }
     EndLine();
 }
@@ -65,7 +65,7 @@ void SetWriter::EndText(qsizetype start)
 void SetWriter::Text(const QString& text)
 {
     const qsizetype start = AppendText(text);
-    if (m_unwritable == Unwritable::Mend) {
+    if (m_unwritable == Unwritable::Replace) {
         FlattenFrom(m_bytes, start, ' ');
     } else if (setFile::FindLineEnd(QByteArrayView(m_bytes).sliced(start)) >= 0) {
         m_bytes.truncate(start);

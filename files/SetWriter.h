@@ -11,8 +11,8 @@
 namespace deckforge {
 
 /// What becomes of a text that no set file can hold: a character outside the code page, a line break in a
-/// field of one line, more than MostLineBytes. Mended, these are question marks, a blank, and cut.
-enum class Unwritable { Fail, Mend };
+/// field of one line, more than MaxLineBytes. Mended, these are question marks, a blank, and cut.
+enum class Unwritable { Fail, Replace };
 
 /// Puts the lines of a set file together in memory, each by the type of its field. A character outside the
 /// code page is error 5.

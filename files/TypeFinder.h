@@ -29,17 +29,17 @@ private:
     /// A text of the table, and which search has met it last.
     struct Known {
         QStringView Text;
-        std::size_t LongestStart; ///< the longest other text that this one starts with
-        int MetBy;
+        std::size_t LongestPrefix; ///< the longest other text that this one starts with
+        int FoundBy;
     };
     struct Row {
         std::size_t Name; ///< places in the texts
         std::size_t SubName;
     };
 
-    void LinkStarts();
-    [[nodiscard]] std::size_t PlaceOf(QStringView text) const;
-    void MeetStartsOf(QStringView text);
+    void LinkPrefixes();
+    [[nodiscard]] std::size_t IndexOf(QStringView text) const;
+    void MarkPrefixesOf(QStringView text);
 
     std::vector<Known> m_texts; ///< in order, each once
     std::vector<Row> m_rows;    ///< from row 1

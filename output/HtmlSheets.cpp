@@ -14,14 +14,14 @@ namespace deckforge {
 
 namespace {
 
-constexpr int MostSlots = 6;
+constexpr int MaxSlots = 6;
 
 /// One page: its place among the others, and its images, empty where a slot has none.
 struct Page {
     const SetHeader& Header;
     const char* NamePrefix;
     QString Title;
-    std::array<QString, MostSlots> Images;
+    std::array<QString, MaxSlots> Images;
     int Number = 0;
     int Count = 0;
     QStringList Links = {}; ///< to each page, from the first

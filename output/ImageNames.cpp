@@ -10,7 +10,7 @@ namespace deckforge {
 namespace {
 
 /// Blanks alone: other white space is part of the name.
-QString WithoutOuterBlanks(const QString& text)
+QString WithoutOuterSpaces(const QString& text)
 {
     qsizetype begin = 0;
     qsizetype end = text.size();
@@ -50,7 +50,7 @@ QString PaddedNumber(int number, int count)
 QString ImageName(const SetHeader& header, const QString& kind, const QString& fileName, int index, int count)
 {
     const QString number = header.FileNr ? PaddedNumber(index, count) + QLatin1Char(' ') : QString();
-    return WithoutOuterBlanks(kind + header.FilenamePrefix + QLatin1Char(' ') + number + fileName +
+    return WithoutOuterSpaces(kind + header.FilenamePrefix + QLatin1Char(' ') + number + fileName +
                               QLatin1Char('.') + ImageExtension(header.SaveFormat));
 }
 

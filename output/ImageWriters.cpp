@@ -17,7 +17,7 @@ constexpr int32 JpegQuality = 90;
 enum SaveFormat : int16 { Bmp = 0, Jpeg = 1, Gif = 2 };
 
 /// What stands at the right of a card.
-enum class Beside { Back, SameAgain, Nothing };
+enum class Beside { Back, Copy, None };
 
 /// What the final pictures of the kinds differ in.
 struct FinalPicture {
@@ -52,13 +52,13 @@ const FinalPicture& RowOf(FinalImage image)
          .GifFailureTitle = "Saving the large card"},
         {.Source = &WorkSurfaces::picACardPP,
          .OutlineWidth = CardSize.width(),
-         .Companion = Beside::SameAgain,
+         .Companion = Beside::Copy,
          .Back = nullptr,
          .FailureTitle = "Saving the playing piece card",
          .GifFailureTitle = "Saving the large card"},
         {.Source = &WorkSurfaces::picACard,
          .OutlineWidth = CardSize.width(),
-         .Companion = Beside::Nothing,
+         .Companion = Beside::None,
          .Back = nullptr,
          .FailureTitle = "Saving the card",
          .GifFailureTitle = "Saving the card"}};
@@ -73,9 +73,9 @@ Picture CompanionOf(const Workshop& workshop, const FinalPicture& kind)
     switch (kind.Companion) {
     case Beside::Back:
         return kind.Back(workshop.Templates)->Surface->GetPicture();
-    case Beside::SameAgain:
+    case Beside::Copy:
         return (workshop.Surfaces.*kind.Source).Image();
-    case Beside::Nothing:
+    case Beside::None:
         break;
     }
     return {};
@@ -83,8 +83,7 @@ Picture CompanionOf(const Workshop& workshop, const FinalPicture& kind)
 
 bool HasCompanion(const Workshop& workshop, const FinalPicture& kind)
 {
-    return kind.Companion == Beside::SameAgain ||
-           (kind.Companion == Beside::Back && !workshop.Set.Header.NoBack);
+    return kind.Companion == Beside::Copy || (kind.Companion == Beside::Back && !workshop.Set.Header.NoBack);
 }
 
 /// The card and what stands at its right, each shifted by a pixel into its outline.
@@ -102,7 +101,7 @@ Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
     picDone.PaintPicture(source.Image(), 1, 1);
     picDone.ForeColor = Black;
     picDone.LineBox(0, 0, kind.OutlineWidth - 1, OutlineBottom);
-    if (kind.Companion != Beside::Nothing)
+    if (kind.Companion != Beside::None)
         picDone.LineBox(kind.OutlineWidth, 0, 2 * kind.OutlineWidth - 1, OutlineBottom);
     return picDone.Image();
 }

@@ -83,7 +83,7 @@ const PageRow& RowOf(PrintedPage page)
 }
 
 /// A symbol lies elsewhere when it was chosen than when its set was opened.
-void TakeSymbolPlaces(CardTemplates& fine, const CardTemplates& shown)
+void CopySymbolPlaces(CardTemplates& fine, const CardTemplates& shown)
 {
     const auto take = [](Box& to, const Box& from) {
         to.Left = from.Left;
@@ -97,12 +97,12 @@ void TakeSymbolPlaces(CardTemplates& fine, const CardTemplates& shown)
 
 /// Composes the current card in a workshop with finer surfaces; whether it could. Whoever showed the card has
 /// reported why not.
-bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
+bool ComposeAtPrintScale(Workshop& fine, const Workshop& workshop, PrintedPage page)
 {
     static_cast<void>(InitForm(fine));
     fine.Set = workshop.Set;
     static_cast<void>(ShowSet(fine));
-    TakeSymbolPlaces(fine.Templates, workshop.Templates);
+    CopySymbolPlaces(fine.Templates, workshop.Templates);
     fine.Carried = workshop.Carried;
     return !ShowForPage(fine, page, CurrentOf(fine.Set, KindOnPage(page)));
 }
@@ -138,7 +138,7 @@ void PrintPage(Workshop& workshop, RunReport& report, PrintedPage page, QPaintDe
 {
     ReportPage(workshop, report, page);
     Workshop fine(PrintScale);
-    if (!LayPage(ComposeFinely(fine, workshop, page) ? fine : workshop, page, device))
+    if (!PaintPage(ComposeAtPrintScale(fine, workshop, page) ? fine : workshop, page, device))
         report.Add(path, QStringLiteral("The playing piece does not lie on the page"));
 }
 
@@ -160,7 +160,7 @@ void WritePdf(Workshop& workshop, RunReport& report, PrintedPage page, const QSt
     });
 }
 
-bool LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
+bool PaintPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
 {
     const PageRow& row = RowOf(page);
     // Made first: a failure on the way sends no half of a page.

@@ -41,6 +41,6 @@ void WritePdf(Workshop& workshop, RunReport& report, PrintedPage page, const QSt
 /// Lays the page down: the composed card under its heading, in pixels of the device from its origin. Margin
 /// and gaps shrink as the device gets finer; pictures and letters have their physical size, 96 pixels of a
 /// card to the inch. Gives whether all of it lies on the page. Error 482 when the device takes no page.
-bool LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device);
+bool PaintPage(Workshop& workshop, PrintedPage page, QPaintDevice& device);
 
 } // namespace deckforge

@@ -63,11 +63,11 @@ void RunReport::AddSymbol(Workshop& workshop)
     try {
         WithMemoryAsFailure([&] { (void)workshop.Pictures.LoadPicture(workshop.Set.Header.Symbol); });
     } catch (const RunTimeError& error) {
-        AddOfSet(workshop.Set.Header, workshop.Set.Header.Symbol, error.Description());
+        AddForSet(workshop.Set.Header, workshop.Set.Header.Symbol, error.Description());
     }
 }
 
-void RunReport::AddOfSet(const SetHeader& header, const QString& file, const QString& reason)
+void RunReport::AddForSet(const SetHeader& header, const QString& file, const QString& reason)
 {
     const QString element = std::exchange(m_element, ElementName(QStringLiteral("set"), header.SetName));
     Add(file, reason);
@@ -97,7 +97,7 @@ QString RunReport::TakeWriter(const QString& path)
     return writer ? writer.mapped() : QString();
 }
 
-void RunReport::NoteWritten(const QString& path, const QString& replaced)
+void RunReport::RecordWritten(const QString& path, const QString& replaced)
 {
     if (!replaced.isEmpty())
         Add(path, QStringLiteral("Replaces the file of ") + replaced);

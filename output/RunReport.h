@@ -37,7 +37,7 @@ public:
     void AddPictures(Workshop& workshop);
 
     /// A problem of the set as a whole.
-    void AddOfSet(const SetHeader& header, const QString& file, const QString& reason);
+    void AddForSet(const SetHeader& header, const QString& file, const QString& reason);
 
     /// A file that could not be written. A folder that cannot be made is reported once, not with each of its
     /// files.
@@ -51,7 +51,7 @@ public:
         MakeFolderOf(path);
         const QString replaced = TakeWriter(path);
         if (write())
-            NoteWritten(path, replaced);
+            RecordWritten(path, replaced);
     }
 
     [[nodiscard]] bool HasWritten() const { return !m_writers.empty(); }
@@ -60,7 +60,7 @@ public:
 private:
     void MakeFolderOf(const QString& path);
     [[nodiscard]] QString TakeWriter(const QString& path);
-    void NoteWritten(const QString& path, const QString& replaced);
+    void RecordWritten(const QString& path, const QString& replaced);
     void AddSymbol(Workshop& workshop);
     void AddLine(const QString& line);
 

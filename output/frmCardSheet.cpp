@@ -83,7 +83,7 @@ void PrepareLargeSheet(Workshop& workshop, const Box& card)
 }
 
 /// The composed card on picDone; the clipboard gets it as well, where there is one.
-void TakeLargeCard(Workshop& workshop, QSize size)
+void CaptureLargeCard(Workshop& workshop, QSize size)
 {
     PictureBox& picDone = workshop.Surfaces.picDone;
     picDone.SetPicture({});
@@ -143,7 +143,7 @@ int16 NextCell(SheetState& sheet, int16 number)
 }
 
 /// Drops what the surfaces of a run hold, before it and after it.
-void DropSheets(Workshop& workshop)
+void ClearSheets(Workshop& workshop)
 {
     WorkSurfaces& surfaces = workshop.Surfaces;
     for (PictureBox* surface : {&surfaces.picDone, &surfaces.picLargeSheet, &surfaces.picStore}) {
@@ -161,7 +161,7 @@ void ReportUnwritten(const Workshop& workshop, RunReport& report, CardKind kind)
         report.Add(FixFileName(set.Header, workshop.Sheet.Unwritten),
                    QStringLiteral("Not written, since the last card has no copies"));
     } else if (!report.HasWritten()) {
-        report.AddOfSet(set.Header, {}, QStringLiteral("No sheet is written"));
+        report.AddForSet(set.Header, {}, QStringLiteral("No sheet is written"));
     }
 }
 
@@ -173,7 +173,7 @@ void BeginSheets(Workshop& workshop, CardKind kind, SheetGrid grid)
     sheet.SheetCol = 0;
     sheet.SheetRow = 1;
     sheet.Unwritten.clear();
-    DropSheets(workshop);
+    ClearSheets(workshop);
     if (const Box* const card = LargeSheetCard(workshop.Templates, kind))
         PrepareLargeSheet(workshop, *card);
 }
@@ -194,7 +194,7 @@ int16 SaveSheets(Workshop& workshop, RunReport& report, CardKind kind, SheetGrid
             SaveImage(workshop, report, kind, index, {.Sheet = number});
         }
     });
-    DropSheets(workshop);
+    ClearSheets(workshop);
     ReportUnwritten(workshop, report, kind);
     return number;
 }
@@ -220,7 +220,7 @@ void SaveLargeCardSheet(Workshop& workshop, RunReport& report, const FilePath& p
         const Box& picCardLarge = workshop.Templates.Large.picCardLarge;
         const QSize size(picCardLarge.Width, picCardLarge.Height);
         PictureBox& picLargeSheet = workshop.Surfaces.picLargeSheet;
-        TakeLargeCard(workshop, size);
+        CaptureLargeCard(workshop, size);
         StackLargeCard(workshop, size);
         const QPoint cell = CellCorner(workshop.Sheet);
         picLargeSheet.PaintPicture(workshop.Surfaces.picStore.GetPicture(), cell.x(), cell.y());

@@ -15,8 +15,8 @@ struct SheetGrid {
     int16 Cols = 2;
     int16 Rows = 3;
 
-    static constexpr int16 MostCols = 6;
-    static constexpr int16 MostRows = 8;
+    static constexpr int16 MaxCols = 6;
+    static constexpr int16 MaxRows = 8;
 };
 
 /// A run over all cards of a kind and their copies. Returns the number of sheets that they take.

@@ -94,7 +94,7 @@ CardNames NamesOf(CardSet& set, CardKind kind, int16 index)
 }
 
 /// Sets the card's file name and returns the folder that its image is written to.
-QString TakeTarget(const SetHeader& header, const ImageTarget& target, const CardNames& names)
+QString ApplyTarget(const SetHeader& header, const ImageTarget& target, const CardNames& names)
 {
     if (target.Chosen) {
         names.FileName = NamePart(*target.Chosen).section(QLatin1Char('.'), 0, 0);
@@ -113,7 +113,7 @@ FilePath SaveElement(Workshop& workshop, RunReport& report, CardKind kind, int16
     const CardNames names = NamesOf(set, kind, index);
     // A failure leaves the card its name.
     auto restoreName = qScopeGuard([&, before = names.FileName] { names.FileName = before; });
-    const QString folder = TakeTarget(set.Header, target, names);
+    const QString folder = ApplyTarget(set.Header, target, names);
     FilePath path = {folder, ImageName(set.Header, QString::fromLatin1(row.NamePrefix), names.FileName, index,
                                        CountOf(set, kind))};
     if (target.Sheet) {

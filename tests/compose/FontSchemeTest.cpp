@@ -47,7 +47,7 @@ TEST(FontScheme, AnOpenedSetLeavesTheSecondLineOfTheTypeAsItWas)
     SetDefaultFont(header);
     header.FontType.Size = 12;
     CardTemplate card(1);
-    DressOpenedSet(card, header);
+    ApplyOpenedSetFonts(card, header);
     EXPECT_EQ(card.lblType[0].Font.Size, 12);
     EXPECT_EQ(card.lblType[1].Font.Size, 12);
     EXPECT_EQ(card.lblType[2].Font.Size, 6.75);

@@ -46,7 +46,7 @@ TEST_F(StandardCardTest, AMissingSymbolIsToldAndLeavesTheCardWithoutOne)
     Compose();
     EXPECT_EQ(Surface().GetPixel(0, 250), Red);
     Header().Symbol = Folder.Path("none.bmp");
-    ShowViewed(User, {.Symbol = ShowSet(Shop)});
+    ShowViewFailures(User, {.Symbol = ShowSet(Shop)});
     EXPECT_FALSE(Boxes().picSymbol.Visible);
     EXPECT_EQ(User.LastBox().Text, "Run-time error '53':\r\n\r\nFile not found");
     Compose();
@@ -94,7 +94,7 @@ TEST_F(StandardCardTest, ADamagedPictureIsToldInABoxAndTheCardIsNotComposed)
     const QImage before = Surface().Image().Pixels();
     FirstCard().Picture = Folder.Write("p.bmp", "BM and no more");
     FirstCard().Color = Black;
-    ShowComposed(User, ShowCard(Shop, 1));
+    ShowCompositionFailure(User, ShowCard(Shop, 1));
     EXPECT_EQ(User.BoxTexts(), QStringList("Cannot draw picture correct|Error while drawing the card.\r\n\r\n"
                                            "481, Invalid picture"));
     EXPECT_EQ(Surface().Image().Pixels(), before);

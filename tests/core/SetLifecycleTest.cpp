@@ -17,7 +17,7 @@ TEST_F(SetLifecycle, DeletingAsksByNameAndLeavesTheCardBeforeTheLastOne)
     User.WillAnswer(Answer::No);
     EXPECT_FALSE(DeleteElement<Card>(Set, User));
     EXPECT_EQ(Set.Cards.Count(), 4);
-    EXPECT_EQ(User.LastTold(), "Confirm delete|Are you sure you want to delete the card \"CARD 3\"?");
+    EXPECT_EQ(User.LastMessageText(), "Confirm delete|Are you sure you want to delete the card \"CARD 3\"?");
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Question);
     User.WillAnswer(Answer::Yes);
     EXPECT_TRUE(DeleteElement<Card>(Set, User));

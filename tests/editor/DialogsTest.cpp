@@ -107,7 +107,7 @@ TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedAtOnce)
         auto& list = List("lstCB");
         Click("cmdCBDelete"); // nothing is selected
         Click("cmdCBAdd");
-        EXPECT_EQ(user.LastTold(), "Missing information|You must give both a name and choose a file.");
+        EXPECT_EQ(user.LastMessageText(), "Missing information|You must give both a name and choose a file.");
         EXPECT_EQ(user.LastBox().Style, BoxStyle::Exclamation);
         ChoosePicture("cmdCBPic", "/pics/caves.v2.bmp");
         EXPECT_EQ(Text({"txtCBPicture", "txtCBName"}), "/pics/caves.v2.bmp|");
@@ -144,7 +144,7 @@ TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
         txtCTName.setFocus();
         QTest::keyClicks(&txtCTName, "OMEN-");
         Click("cmdCTAdd");
-        EXPECT_EQ(user.LastTold(), "Missing information|You must give the type a reversed name.");
+        EXPECT_EQ(user.LastMessageText(), "Missing information|You must give the type a reversed name.");
         QTest::keyClick(&txtCTName, Qt::Key_Tab);
         EXPECT_EQ(txtCTNameRev.text(), "OMEN-");
         QTest::keyClicks(&txtCTNameRev, "-OMEN"); // it was selected
@@ -213,7 +213,7 @@ TEST_F(DialogsTest, TheSheetStartsAtTwoByThreeAndFollowsTheKeys)
     EXPECT_EQ(folder.Image("New set Sheet 1.bmp").size(), QSize(304, 4 * 256));
     EXPECT_EQ(SheetSizeText({.Cols = 1, .Rows = 1}, true), "256 x 152");
     WithDialog("createsheet", [] {}); // Esc
-    EXPECT_EQ(user.LastTold(), "Create cardsheets|0 cardsheets are created.");
+    EXPECT_EQ(user.LastMessageText(), "Create cardsheets|0 cardsheets are created.");
 }
 
 } // namespace deckforge

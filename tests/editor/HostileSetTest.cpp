@@ -16,7 +16,7 @@ namespace deckforge {
 
 namespace {
 
-enum class Failure { None, Told };
+enum class Failure { None, Shown };
 
 /// Sets from strangers: each has two elements of every kind, of which the first is changed.
 class HostileSetTest : public WindowTest {
@@ -37,7 +37,7 @@ protected:
         });
         ASSERT_FALSE(user.Boxes.empty());
         ASSERT_EQ(user.Boxes.front().Text, "The card set is loaded.");
-        EXPECT_TRUE(user.Boxes.size() == 1 || mayFail == Failure::Told) << user.LastBox().Text.toStdString();
+        EXPECT_TRUE(user.Boxes.size() == 1 || mayFail == Failure::Shown) << user.LastBox().Text.toStdString();
         for (int tab = 1; tab <= 4; ++tab) {
             SelectTab(tab);
             View().grab();
@@ -165,7 +165,7 @@ TEST_F(HostileSetTest, PicturesThatAreNoneAreToldInEveryField)
                 AddOwnBack(set, {}, picture);
                 set.Cards[1].CardBack = 28;
             },
-            Failure::Told);
+            Failure::Shown);
     }
 }
 

@@ -9,7 +9,7 @@ namespace deckforge {
 
 class UndoTest : public WindowTest {
 protected:
-    QByteArray Bytes() { return SetFileBytes(Set(), Unwritable::Mend); }
+    QByteArray Bytes() { return SetFileBytes(Set(), Unwritable::Replace); }
     SetDocument& Document() { return window.Document(); }
     int StepCount() { return Document().Steps().index(); }
 };

@@ -85,7 +85,7 @@ TEST_F(frmQDWTest, NewSetComesAfterItsQuestionAndKeepsTheSavedOne)
 TEST_F(frmQDWTest, CopiedCardIsPastedIntoAnotherSet)
 {
     Run("paste");
-    EXPECT_TRUE(user.Boxes.empty()) << user.LastTold().toStdString();
+    EXPECT_TRUE(user.Boxes.empty()) << user.LastMessageText().toStdString();
     EXPECT_EQ(Text("txtTitle"), "") << "nothing was copied yet";
     Type("txtTitle", "Imp");
     Run("copy");

@@ -125,7 +125,8 @@ class GoldenSetTest : public SetTest {
 protected:
     void Read(const QByteArray& bytes)
     {
-        ASSERT_TRUE(OpenSet(Set, Folder.Write("golden.dkf", bytes), User)) << User.LastTold().toStdString();
+        ASSERT_TRUE(OpenSet(Set, Folder.Write("golden.dkf", bytes), User))
+            << User.LastMessageText().toStdString();
         ASSERT_EQ(FieldsOf(Set).size(), std::ssize(Golden));
     }
 

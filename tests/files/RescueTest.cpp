@@ -151,7 +151,7 @@ TEST_F(RescueTest, GoesBesideTheSetOrToTheTemporaryFolderWhereItMust)
     QDir(temporary).removeRecursively();
     ASSERT_TRUE(QFile::link(Folder.Path("set"), temporary)); // somebody else's work
     testing::internal::CaptureStderr();
-    run.RescueAtTheEnd(Set);
+    run.RescueAtExit(Set);
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               "The card set could NOT be rescued: 75, Path/File access error\n");
     EXPECT_TRUE(QDir(Folder.Path("set")).isEmpty());

@@ -175,7 +175,7 @@ TEST_F(SavingTest, AForeignFileIsOverwrittenAndKeepsItsOwner)
     const uid_t owner = Status().st_uid;
     {
         const NoPrivileges asAnybody; // who can give the owner's files to nobody
-        EXPECT_TRUE(Save()) << User.LastTold().toStdString();
+        EXPECT_TRUE(Save()) << User.LastMessageText().toStdString();
     }
     EXPECT_EQ(Folder.Read(Name), NewBytes);
     EXPECT_EQ(Status().st_uid, owner);
@@ -189,7 +189,7 @@ TEST_F(SavingTest, TheLongestNameIsSavedAgainAndAgain)
     for (int i = 0; i < 2; ++i)
         EXPECT_TRUE(WriteSet(Set, Folder.Path(longest), User)) << i;
     EXPECT_FALSE(WriteSet(Set, Folder.Path('x' + longest), User));
-    EXPECT_TRUE(User.LastTold().endsWith("52, Bad file name or number"));
+    EXPECT_TRUE(User.LastMessageText().endsWith("52, Bad file name or number"));
     EXPECT_EQ(Files(), (QStringList{Name, longest}));
 }
 
@@ -206,7 +206,7 @@ TEST_F(SavingTest, OpeningAFileWhoseSaveWasCutOffTellsWhereItsCopyIs)
     const QString copy = Folder.Path(Files().constFirst());
 
     ASSERT_TRUE(OpenSet(Set, Folder.Path(Name), User));
-    EXPECT_TRUE(User.LastBox().Text.contains(copy)) << User.LastTold().toStdString();
+    EXPECT_TRUE(User.LastBox().Text.contains(copy)) << User.LastMessageText().toStdString();
     EXPECT_TRUE(Save());
     EXPECT_TRUE(QFile::exists(copy)) << "no save takes away what it did not make";
 

@@ -84,10 +84,10 @@ TEST_F(SetFileTest, WhatIsNoSetChangesNothing)
           {HeadOf("Version 11"), newer},
           {HeadOf("Version10"), ReadFailure + "13, Type mismatch"}}) {
         EXPECT_FALSE(Read(bytes));
-        EXPECT_EQ(User.LastTold(), told);
+        EXPECT_EQ(User.LastMessageText(), told);
     }
     EXPECT_FALSE(OpenSet(Set, Folder.Path("none.dkf"), User));
-    EXPECT_EQ(User.LastTold(), ReadFailure + "53, File not found");
+    EXPECT_EQ(User.LastMessageText(), ReadFailure + "53, File not found");
     EXPECT_EQ(Set.Header.SetName, "New set");
 }
 
@@ -97,7 +97,7 @@ TEST_F(SetFileTest, AFileCutAtAnyLineIsNeverTakenAndAnotherLastLineIsOnlyTold)
     for (qsizetype end = whole.indexOf("\r\n"); end >= 0 && end + 2 < whole.size();
          end = whole.indexOf("\r\n", end + 1)) {
         EXPECT_FALSE(Read(whole.first(end + 2)));
-        EXPECT_EQ(User.LastTold(), ReadFailure + "62, Input past end of file");
+        EXPECT_EQ(User.LastMessageText(), ReadFailure + "62, Input past end of file");
     }
 
     User.Boxes.clear();
@@ -131,7 +131,7 @@ TEST_F(SetFileTest, ADamagedCountOfAnySectionLeavesASetThatCanBeSavedAndOpened)
             EXPECT_TRUE(Set.Cards.Current >= 1 && Set.Cards.Current <= Set.Cards.Count());
             EXPECT_LE(Set.Characters.Current, Set.Characters.Count());
             const QByteArray saved = Written();
-            ASSERT_TRUE(Read(saved)) << User.LastTold().toStdString();
+            ASSERT_TRUE(Read(saved)) << User.LastMessageText().toStdString();
             EXPECT_EQ(Written(), saved);
         }
     }
@@ -147,7 +147,7 @@ TEST_F(SetFileTest, CountsThatCannotBeAreReported)
                                          {"-2 ", "9, Subscript out of range"},
                                          {" 32767 ", "13, Type mismatch"}}) {
         EXPECT_FALSE(Read(QByteArray(whole).replace(counts, QByteArray(counts).replace(" 1 ", count))));
-        EXPECT_EQ(User.LastTold(), ReadFailure + failure);
+        EXPECT_EQ(User.LastMessageText(), ReadFailure + failure);
     }
 }
 
@@ -173,12 +173,12 @@ TEST_F(SetFileTest, WhatNoFileCanHoldOrTheReaderWouldNotTakeIsNotWritten)
     Set.Cards[1].Info = "Łódź";
     EXPECT_FALSE(Write());
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Critical);
-    EXPECT_TRUE(User.LastTold().startsWith(failure + "5, "));
+    EXPECT_TRUE(User.LastMessageText().startsWith(failure + "5, "));
     EXPECT_TRUE(User.LastBox().Text.contains("Ł"));
     Set.Cards[1].Info.clear();
     Set.Cards[1].PictureTop = std::numeric_limits<double>::quiet_NaN(); // nothing else is known that fails
     EXPECT_FALSE(Write());
-    EXPECT_EQ(User.LastTold(), failure + "13, The set could not be opened again: Type mismatch");
+    EXPECT_EQ(User.LastMessageText(), failure + "13, The set could not be opened again: Type mismatch");
     EXPECT_EQ(Folder.Read("written.dkf"), old);
     Set.Cards[1].PictureTop = std::numeric_limits<double>::max();
     EXPECT_TRUE(Write()) << "rounded to what the reader takes";
@@ -194,11 +194,11 @@ TEST_F(SetFileTest, ALineThatIsTooLongOrTwoIsNeitherReadNorWritten)
     EXPECT_TRUE(Read(whole));
     EXPECT_EQ(Set.Cards[1].Info.size(), 2 * longest);
     EXPECT_FALSE(Read(QByteArray(whole).replace("xx\r", "xxx\r")));
-    EXPECT_TRUE(User.LastTold().startsWith(ReadFailure + "6, A line"));
+    EXPECT_TRUE(User.LastMessageText().startsWith(ReadFailure + "6, A line"));
     title += 'x';
     EXPECT_FALSE(Write());
     EXPECT_TRUE(User.LastBox().Text.contains("\r\n\r\n6, A line"));
-    EXPECT_EQ(SetFileBytes(Set, Unwritable::Mend).size(), whole.size()) << "cut";
+    EXPECT_EQ(SetFileBytes(Set, Unwritable::Replace).size(), whole.size()) << "cut";
     title = "two\r\nlines";
     EXPECT_FALSE(Write()) << "a line that is two breaks those of the file";
     title.clear();
@@ -227,7 +227,7 @@ TEST_F(SetFileTest, SavingProposesTheFileWhereItIsAndPutsThePathIntoIt)
     User.WillChoose(Folder.Path("chosen.dkf"));
     SaveSet(Set, User);
     EXPECT_TRUE(Folder.Read("chosen.dkf").contains(Folder.Path("chosen.dkf").toUtf8()));
-    EXPECT_EQ(User.LastTold(), "Save file|The card set is saved.");
+    EXPECT_EQ(User.LastMessageText(), "Save file|The card set is saved.");
 
     UnsavedWork work(Folder.WithSeparator(), std::chrono::minutes(1));
     ASSERT_TRUE(OpenSet(Set, work.Rescue(Set), User));

@@ -97,7 +97,7 @@ TEST_F(SheetTest, LargeCardsGoToTheClipboardAndCharactersShareTheirName)
     EXPECT_EQ(User.LastBox().Text, "1 large cardsheet is created.");
     AddElement<Character>(Shop.Set);
     CreateSheets(Shop, TheRun, CardKind::Character, SheetGrid{1, 1});
-    EXPECT_EQ(User.LastTold(), "Create large cardsheets|1 character cardsheet is created.");
+    EXPECT_EQ(User.LastMessageText(), "Create large cardsheets|1 character cardsheet is created.");
     EXPECT_FALSE(Folder.Has("Sea Sheet Large 2.bmp"));
 }
 

@@ -123,7 +123,7 @@ TEST_F(ImageTest, TheDialogGivesFolderAndNameAndTheBoxTellsThePathBeforeReplacem
     SaveImageAs(Shop, TheRun, CardKind::Standard, 1);
     EXPECT_EQ(FirstCard().Filename, "a");
     EXPECT_TRUE(Folder.Has("set_a.bmp"));
-    EXPECT_EQ(User.LastTold(),
+    EXPECT_EQ(User.LastMessageText(),
               "Save card|The card is saved to the filename:\r\n\r\n" + Folder.Path("set a.bmp"));
     const FileDialogRequest& dialog = User.SaveDialogs.at(0);
     EXPECT_EQ(dialog.Title + '|' + dialog.FileName, "Save Card|CARD 1.bmp");

@@ -52,7 +52,7 @@ public:
 
     /// "TITLE|text" of each box, for comparing all of them at once, and of the last one.
     [[nodiscard]] QStringList BoxTexts() const;
-    [[nodiscard]] QString LastTold() const { return BoxTexts().value(BoxTexts().size() - 1); }
+    [[nodiscard]] QString LastMessageText() const { return BoxTexts().value(BoxTexts().size() - 1); }
     [[nodiscard]] MessageBoxRequest LastBox() const
     {
         return Boxes.empty() ? MessageBoxRequest() : Boxes.back();

@@ -8,7 +8,7 @@ namespace deckforge {
 
 /// Runs one step of a composition. One that fails is passed over without a word, and the next one runs.
 template <class Step>
-void Attempt(Step&& step)
+void IgnoreFailure(Step&& step)
 {
     try {
         WithMemoryAsFailure(step);
