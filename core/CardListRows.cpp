@@ -6,7 +6,7 @@ namespace deckforge {
 
 namespace {
 
-/// A set can name a back that its table has no row for.
+/// Empty if the card's back is not in the table.
 QString BackName(const CardSet& set, int16 row)
 {
     return row >= 0 && row <= set.CardBacks.Count() ? set.CardBacks[row].Name : QString();

@@ -10,7 +10,7 @@ namespace deckforge {
 
 namespace {
 
-/// The row of the type that the list shows as the text; 0 for none.
+/// The row whose list entry is the text; 0 if there is none.
 int16 RowOfEntry(const CardSet& set, const QString& text)
 {
     for (int row = 1; row <= set.CardTypes.Count(); ++row) {

@@ -6,7 +6,7 @@ namespace deckforge {
 
 namespace {
 
-// Region, hyphen, place. Three places of the city are written with the typographic apostrophe.
+// Region, hyphen, place. Kept: three places of the city have a typographic apostrophe.
 constexpr const char16_t* Areas[] = {
     u"MAIN-VILLAGE",
     u"MAIN-FIELDS",

@@ -18,8 +18,8 @@ struct TypeRow {
     int16 Number;
 };
 
-// The order is fixed: cards and files of older versions hold the row. A type printed in two parts keeps its
-// hyphen in the first.
+// The order must not change: cards and files of older versions refer to types by row. The first part of a
+// type in two parts ends with the hyphen.
 constexpr std::array<TypeRow, BuiltInTypeCount> TypeRows = {{
     {"ENEMY-", "Alien", "-ENEMY", "Alien", 2},
     {"ENEMY-", "Animal", "-ENEMY", "Animal", 2},
