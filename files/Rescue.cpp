@@ -18,7 +18,7 @@ namespace deckforge {
 namespace {
 
 constexpr int MaxEarlier = 9;
-constexpr int LockMilliseconds = 3000; ///< the end of a session waits for nobody longer
+constexpr int LockMilliseconds = 3000; ///< the desktop session does not wait longer at logout
 
 QString RescuedName(const QString& folder, int age)
 {
@@ -26,8 +26,8 @@ QString RescuedName(const QString& folder, int age)
     return folder + QStringLiteral("rescued%1.dkf").arg(number);
 }
 
-/// The name of one more rescued set. Earlier sets move on by one, up to the first name that is free; none
-/// does while a set of the folder is to be opened.
+/// Frees a name for a rescued set and returns it. Earlier sets are renumbered up to the first free number. If
+/// a set of this folder is about to be opened nothing is renumbered, and that set is not replaced.
 QString FreeName(const QString& folder, const QString& toOpen)
 {
     int age = 0;
@@ -41,14 +41,13 @@ QString FreeName(const QString& folder, const QString& toOpen)
     return RescuedName(folder, 0);
 }
 
-/// The folder for rescue files where no other takes one. Everybody may write into the temporary folder, so it
-/// has to be private.
+/// The last choice for rescue files. It has to be private, since everybody can write to the temporary folder.
 QString TemporaryFolder()
 {
     return QStringLiteral("%1/varnhelm-deck-forge-%2").arg(QDir::tempPath()).arg(::getuid());
 }
 
-QByteArray Fingerprint(const CardSet& set, Unwritable unwritable)
+QByteArray Hash(const CardSet& set, Unwritable unwritable)
 {
     return QCryptographicHash::hash(SetFileBytes(set, unwritable), QCryptographicHash::Sha256);
 }
@@ -76,7 +75,7 @@ void UnsavedWork::Keep(const CardSet& set, const QString& setFolder)
     m_leftFile.reset();
     m_sinceRenewed.start();
     try {
-        m_savedHash = Fingerprint(set, Unwritable::Fail);
+        m_savedHash = Hash(set, Unwritable::Fail);
     } catch (const RunTimeError&) {
         m_savedHash.clear();
     }
@@ -86,7 +85,7 @@ void UnsavedWork::Keep(const CardSet& set, const QString& setFolder)
 bool UnsavedWork::Differs(const CardSet& set) const
 {
     try {
-        return Fingerprint(set, Unwritable::Fail) != m_savedHash;
+        return Hash(set, Unwritable::Fail) != m_savedHash;
     } catch (const RunTimeError&) {
         return true;
     }
@@ -112,13 +111,13 @@ std::optional<QString> UnsavedWork::Leave(const CardSet& set, const QString& toO
     }
     const QString path = Rescue(set, toOpen);
     m_leftFile = std::exchange(m_own, std::nullopt);
-    m_leftHash = Fingerprint(set, Unwritable::Replace);
+    m_leftHash = Hash(set, Unwritable::Replace);
     return path;
 }
 
 bool UnsavedWork::ReturnTo(const CardSet& set)
 {
-    if (!m_leftFile || Fingerprint(set, Unwritable::Replace) != m_leftHash)
+    if (!m_leftFile || Hash(set, Unwritable::Replace) != m_leftHash)
         return false;
     m_own = std::exchange(m_leftFile, std::nullopt);
     return true;
@@ -128,7 +127,7 @@ QString UnsavedWork::Rescue(const CardSet& set, const QString& toOpen)
 {
     CardSet rescued = set;
     if (set.File)
-        rescued.Header.FileName = set.File->Path; // where it is to be saved, also if the file was moved
+        rescued.Header.FileName = set.File->Path; // the save dialog proposes it for the rescued set
     const QByteArray bytes = SetFileBytes(rescued, Unwritable::Replace);
     for (const QString& folder : {m_programFolder, m_setFolder}) {
         try {
@@ -143,7 +142,7 @@ QString UnsavedWork::Rescue(const CardSet& set, const QString& toOpen)
 
 QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes, const QString& toOpen)
 {
-    QDir().mkpath(folder); // it may have gone since the program began
+    QDir().mkpath(folder); // it may have been removed meanwhile
     const quint64 random = QRandomGenerator::system()->generate64();
     const QString unfinished = folder + QStringLiteral(".rescued-") + QString::number(random, 36);
     QLockFile lock(RescuedName(folder, 0) + QStringLiteral(".lock"));
@@ -161,7 +160,7 @@ QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes, con
     return target;
 }
 
-/// Empty where it is no more, or was changed by somebody.
+/// Empty if the file was removed or changed.
 QString UnsavedWork::PathOfOwn() const
 {
     for (int age = 0; age <= MaxEarlier; ++age) {
@@ -179,7 +178,7 @@ void UnsavedWork::RemoveOwn()
         return;
     QLockFile lock(RescuedName(m_own->Folder, 0) + QStringLiteral(".lock"));
     lock.tryLock(LockMilliseconds);
-    QFile::remove(PathOfOwn()); // one that cannot be removed is one too many, and no loss
+    QFile::remove(PathOfOwn()); // a failure does no harm: the file is superfluous
     m_own.reset();
 }
 

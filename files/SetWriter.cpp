@@ -12,8 +12,7 @@ namespace deckforge {
 
 namespace {
 
-/// Makes every line break from the start on one other character. In one pass: what stands behind a break
-/// moves down over it.
+/// Replaces every line break behind `start` by one character, in a single pass.
 void FlattenFrom(QByteArray& bytes, qsizetype start, char flattened)
 {
     qsizetype write = start;
@@ -41,7 +40,7 @@ void SetWriter::Literal(const char* text)
     EndLine();
 }
 
-/// Returns where the text begins.
+/// Returns the position of the text.
 qsizetype SetWriter::AppendText(const QString& text)
 {
     const qsizetype start = m_bytes.size();
@@ -50,7 +49,7 @@ qsizetype SetWriter::AppendText(const QString& text)
     return start;
 }
 
-/// Ends the line of the text from the start on, if it is one that can be read again.
+/// Ends the line that begins at `start`, after checking its length.
 void SetWriter::EndText(qsizetype start)
 {
     if (m_bytes.size() - start > setFile::MaxLineBytes) {

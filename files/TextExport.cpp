@@ -8,7 +8,6 @@ namespace deckforge {
 
 namespace {
 
-/// An attribute as the listing has it: "---" is left out.
 QString DashToEmpty(const QString& value)
 {
     return value == QLatin1String("---") ? QString() : value;

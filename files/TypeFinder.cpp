@@ -10,7 +10,7 @@ namespace {
 
 constexpr qsizetype MaxSearchedCharacters = 300;
 
-/// How many characters at the start of both are the same.
+/// The length of the common prefix.
 qsizetype CommonPrefix(QStringView a, QStringView b)
 {
     const auto [inA, inB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
@@ -37,7 +37,7 @@ TypeFinder::TypeFinder(const CardSet& set)
     }
 }
 
-/// In order, what a text starts with stands before it: it is the text before, or one that this starts with.
+/// In sorted order the longest prefix of a text is the text before it, or a prefix of that one.
 void TypeFinder::LinkPrefixes()
 {
     for (std::size_t i = 0; i < m_texts.size(); ++i) {
