@@ -83,7 +83,7 @@ QImage BuiltInArt::AtDepth(const QImage& image, Depth depth)
         return WithColours(image, 256, Dither::No);
     case Depth::Colours16:
         return WithColours(image, 16, Dither::No);
-    case Depth::BlackAndWhite: // smooth edges would be grey, which no fill takes for its own
+    case Depth::BlackAndWhite: // flood fill needs edges without grey
         return image.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither)
             .convertToFormat(QImage::Format_RGB32);
     }

@@ -87,7 +87,7 @@ void ShowRun::ReportMissingOn(Box& reporter, const QString& path, const char* me
     m_message = QLatin1String(message) + QStringLiteral("\r\n") + path;
 }
 
-void ShowRun::Answer(const RunTimeError& error)
+void ShowRun::Handle(const RunTimeError& error)
 {
     if (error.IsMissingFile() && m_reporter != nullptr) {
         PictureBox& surface = *m_reporter->Surface;

@@ -25,7 +25,7 @@ void PlaceFrame(ShowRun& run, CharacterTemplate& t, const Character& character)
     run([&] { t.picFrameCharacter.SetWidth(character.FrameHeight); });
 }
 
-/// The text column stands at the right of the handle; where no room is left a box keeps its width.
+/// Places the texts at the right of the handle. A box without room keeps its width.
 void PlaceTexts(CharacterTemplate& t)
 {
     const int left = t.lblPicSizeCharacter.Left + t.lblPicSizeCharacter.Width + 1;
@@ -52,7 +52,7 @@ void PlacePiece(PlayingPieceTemplate& t, const Character& character)
     t.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft, character.PlayingPieceTop);
 }
 
-/// A back that the list has not is the first.
+/// The first back if the index is not in the list.
 Picture BackOf(Workshop& workshop, const Character& character)
 {
     if (character.CardBack == UserDefinedCharacterBack)
@@ -69,7 +69,7 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
     LoadFramedPicture(run, workshop, t.picImageCharacter, character.Picture);
     t.picImageCharacter.MoveToTwips(character.PictureLeft, character.PictureTop);
 
-    // Back and piece are told as a missing background, too.
+    // Kept: a missing back or playing piece is reported as a missing background, too.
     run.ReportMissingOn(standard.picCard, character.Background, "Missing background.");
     run([&] {
         t.picBackgroundChar.Surface->SetPicture(workshop.Pictures.LoadPicture(character.Background));
@@ -123,7 +123,7 @@ void PaintPictures(Workshop& workshop, const Character& character, QPoint panel)
     PaintSymbol(workshop, t.picSymbolCharacter, panel);
 }
 
-/// A title and what stands behind it, each at the left of its box.
+/// Prints a title and its value, each at the left of its box.
 void PrintPair(PictureBox& surface, QPoint panel, const Box& title, const Box& box, const QString& text)
 {
     PrintAt(surface, title.Left + panel.x(), title.Top + panel.y(), title.Caption);
@@ -191,8 +191,8 @@ void DrawPlayingPiece(Workshop& workshop, int16 index, CarriedPens& pens)
                       PiecePicture(t, workshop.Set.Characters[index]));
     const QRect cutLine = t.CutLine.Place();
     picACardPP.LineBox(cutLine.left(), cutLine.top(), cutLine.right(), cutLine.bottom());
-    // Kept: the piece's font is set on the card surface, not on the piece's own. The name below is printed in
-    // the font of the last watermark, and the outline of the next card has this colour.
+    // Kept: sets the piece's font on the card surface instead of picACardPP. So the name is printed in the
+    // font of the version mark before it, and the outline of the next card has the colour of this font.
     UseFont(workshop.Surfaces.picACard, workshop.Set.Header.FontPlayingPiece);
     PrintCentred(picACardPP, t.lblPlayingPieceName, t.lblPlayingPieceName.Caption);
     PrintWatermark(picACardPP, t.lblWatermark);

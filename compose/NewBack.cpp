@@ -16,7 +16,7 @@ namespace {
 
 constexpr QPoint InnerSeed = {50, 50};
 constexpr QPoint OuterSeed = {1, 1};
-/// A point in each piece of the ornament.
+/// A point in each part of the ornament.
 constexpr std::array<QPoint, 18> FrameSeeds = {{{17, 15},
                                                 {54, 13},
                                                 {88, 13},
@@ -66,8 +66,8 @@ Colour RandomColour()
     return channel() << 16 | green << 8 | red;
 }
 
-/// Colours that no region has before its turn to be filled: margin and ornament are both white in the
-/// template, and the user may pick equal colours.
+/// Colours that tell the regions apart while they are filled: margin and ornament are both white in the
+/// template, and the user may choose equal colours.
 struct TemporaryColours {
     Colour Inner = RandomColour();
     Colour Outer = RandomColour();
@@ -87,7 +87,7 @@ TemporaryColours UsableColours()
     return colours;
 }
 
-/// In two passes: each fill of the second replaces exactly one temporary colour.
+/// Fills in two passes: each fill of the second pass replaces exactly one temporary colour.
 void ColourTemplate(PictureBox& picNewBack, const NewCardBack& back)
 {
     const TemporaryColours temporary = UsableColours();
@@ -99,7 +99,6 @@ void ColourTemplate(PictureBox& picNewBack, const NewCardBack& back)
     FillFrame(picNewBack, back.FrameColor, temporary.Frame);
 }
 
-/// The label is as large as its text.
 void SizeBackTitle(Box& lblBackTitle, const PictureBox& measure)
 {
     double width = 0;
@@ -115,7 +114,7 @@ void CenterBackTitle(Box& lblBackTitle)
     lblBackTitle.Top = ToInt16(NewBackTemplate::TitleCentre.y() - lblBackTitle.Height / 2.0);
 }
 
-/// In a text of several lines a "|" that the user typed breaks a line as well; in one line it is printed.
+/// Kept: in a text of several lines "|" breaks a line as well; in a single line it is printed.
 QStringList BackLines(QString text)
 {
     const QString lineBreak = QStringLiteral("\r\n");

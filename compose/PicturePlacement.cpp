@@ -16,7 +16,7 @@ namespace {
 /// A picture with its frame and the offsets of the record.
 struct PictureRow {
     const Box& Frame;
-    const Box& Measured; ///< the picture by whose size End and Page Down go
+    const Box& Measured; ///< the picture whose size End and Page Down use
     double& Left;
     double& Top;
     void (*Place)(Workshop&, int16);
@@ -37,7 +37,7 @@ PictureRow RowOf(Workshop& workshop, PlacedPicture which)
     }
     case PlacedPicture::Large: {
         LargeCard& card = set.LargeCards[set.LargeCards.Current];
-        // Its edges are found by the size of the standard card's picture, as they always were.
+        // Kept: End and Page Down use the size of the standard card's picture.
         return {t.Large.picFrameLarge, t.Standard.picImage, card.PictureLeft,
                 card.PictureTop,       &PlaceLargePicture,  set.LargeCards.Current};
     }
@@ -55,7 +55,7 @@ PictureRow RowOf(Workshop& workshop, PlacedPicture which)
             &PlacePlayingPiecePicture,           set.Characters.Current};
 }
 
-/// How far the handle of a kind goes, in pixels of the card.
+/// The range of a handle in pixels of the card.
 struct HandleRange {
     int Min;
     int Max;

@@ -11,7 +11,7 @@ namespace deckforge {
 
 namespace {
 
-/// A symbol and the card that it stands on: in the lower left or right corner, a margin away from the edges.
+/// A symbol in the lower left or right corner of its parent.
 struct SymbolPlace {
     Box& Symbol;
     const Box& Parent;
