@@ -9,7 +9,7 @@ namespace deckforge {
 
 namespace {
 
-/// Blanks alone: other white space is part of the name.
+/// Trims spaces only: other white space is part of the name.
 QString WithoutOuterSpaces(const QString& text)
 {
     qsizetype begin = 0;

@@ -16,17 +16,17 @@ constexpr int32 JpegQuality = 90;
 
 enum SaveFormat : int16 { Bmp = 0, Jpeg = 1, Gif = 2 };
 
-/// What stands at the right of a card.
+/// What is painted at the right of the card.
 enum class Beside { Back, Copy, None };
 
-/// What the final pictures of the kinds differ in.
+/// What differs between the final pictures of the kinds.
 struct FinalPicture {
     PictureBox WorkSurfaces::*Source;
-    int OutlineWidth; ///< of the box round the card, in pixels; the one beside it is as wide
+    int OutlineWidth; ///< of the card and of its companion, in pixels
     Beside Companion;
-    const Box* (*Back)(const CardTemplates&); ///< null where no back stands beside
+    const Box* (*Back)(const CardTemplates&); ///< null without Beside::Back
     const char* FailureTitle;
-    const char* GifFailureTitle; ///< mixed as they are
+    const char* GifFailureTitle; ///< Kept: some name another kind of card
 };
 
 const FinalPicture& RowOf(FinalImage image)
@@ -86,7 +86,7 @@ bool HasCompanion(const Workshop& workshop, const FinalPicture& kind)
     return kind.Companion == Beside::Copy || (kind.Companion == Beside::Back && !workshop.Set.Header.NoBack);
 }
 
-/// The card and what stands at its right, each shifted by a pixel into its outline.
+/// The card and its companion, each inside its outline of one pixel.
 Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
 {
     PictureBox& source = workshop.Surfaces.*kind.Source;
@@ -106,14 +106,14 @@ Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
     return picDone.Image();
 }
 
-/// Gives why the picture could not be converted; other failures are thrown.
+/// Returns why the conversion failed, or nothing. Other failures are thrown.
 std::optional<QString> WriteGif(const Picture& picture, const QString& path)
 {
     const QString temporary = ProgramFolder() + QStringLiteral("qdwtemp.bmp");
-    // All runs of the program share the file; another one waits until the picture in it is converted.
+    // All instances of the program share the temporary file.
     constexpr int milliseconds = 10000;
     QLockFile lock(temporary + QStringLiteral(".lock"));
-    // Without a lock for another reason the file cannot be written either, and the writing tells why.
+    // If the lock fails for another reason, SavePicture fails as well and reports it.
     if (!lock.tryLock(milliseconds) && lock.error() == QLockFile::LockFailedError)
         throw RunTimeError(ErrorNumber::PermissionDenied);
     SavePicture(picture, temporary);

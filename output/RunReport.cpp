@@ -12,13 +12,12 @@ namespace deckforge {
 
 namespace {
 
-/// `card 12 "Wolf"`
 QString ElementName(const QString& kind, const QString& name)
 {
     return kind + QStringLiteral(" \"") + name + QLatin1Char('"');
 }
 
-/// Titles and paths of a set may hold characters that break the line or drive a terminal.
+/// Removes line breaks and terminal control characters, which titles and paths may contain.
 QString OnOneLine(QString text)
 {
     for (QChar& character : text) {
@@ -80,7 +79,7 @@ void RunReport::AddNotWritten(const QString& path, const QString& reason)
         Add(path, reason);
 }
 
-/// Only of a full path: "C:\cards" from another machine is none here.
+/// Only absolute paths: "C:\cards" of another system must not be created in the current folder.
 void RunReport::MakeFolderOf(const QString& path)
 {
     const QString folder = PathToOpen(FolderPart(path));

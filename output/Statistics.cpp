@@ -22,7 +22,7 @@ QString TypeName(const QString& type, const QString& subType)
     return subType.isEmpty() ? type : type + QLatin1Char(' ') + subType;
 }
 
-/// The rows of the table, and behind them those of types that cards name and the table lacks.
+/// The rows of the table, then the types of cards that are not in the table.
 std::vector<Row> CountTypes(const CardSet& set)
 {
     std::vector<Row> rows;
@@ -63,8 +63,8 @@ std::vector<Row> CountBacks(const CardSet& set)
     return counted;
 }
 
-/// Highest first, by exchanging each row with every higher one behind it: rows of the same count do not stay
-/// in their order, and the listing of a set is to look the same each time.
+/// Sorts by descending count. Kept: this exchange sort is not stable, and its order of equal counts is part
+/// of the listing.
 void SortByCount(std::vector<Row>& rows)
 {
     for (std::size_t i = 0; i + 1 < rows.size(); ++i) {
