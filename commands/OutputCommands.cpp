@@ -11,7 +11,8 @@ namespace deckforge {
 
 namespace {
 
-/// What the boxes of the kinds say. User-designed backs have only the texts of saving one.
+/// Texts of the dialogs and message boxes. User-designed backs have only those for saving one.
+/// Kept: some titles for characters are those of large cards.
 struct KindTexts {
     const char* SaveTitle;
     const char* SavedTitle;
@@ -131,7 +132,7 @@ void ShowViewFailures(UserPort& user, const ViewFailures& failures)
 
 ShownRun::ShownRun(UserPort& user) : User(user)
 {
-    User.ReportProblems({}); // those of the run before are over
+    User.ReportProblems({}); // removes those of the previous run
 }
 
 ShownRun::~ShownRun()
