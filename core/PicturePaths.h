@@ -15,8 +15,8 @@ namespace deckforge {
 /// One picture field of all records of a kind.
 struct PathField {
     const char* Caption;
-    int16 (*Count)(const CardSet&);
-    bool (*IsListed)(const CardSet&, int16 row);
+    /// The rows that the dialog lists, including records without a picture. Built-in card backs are left out.
+    std::vector<int16> (*Rows)(const CardSet&);
     const QString& (*Title)(const CardSet&, int16 row);
     QString& (*Path)(CardSet&, int16 row);
 };
@@ -24,11 +24,9 @@ struct PathField {
 /// The fields in the order of the dialog.
 [[nodiscard]] const std::vector<PathField>& PathFields();
 
-/// The rows that the dialog lists, including records without a picture. Built-in card backs are left out.
-[[nodiscard]] std::vector<int16> ListedRows(const CardSet& set, const PathField& field);
-
 /// Replaces the folder in the paths of the rows and keeps the file names. Does not check that the files
-/// exist. An empty folder changes nothing. Kept: a row without a picture gets the folder as its path.
+/// exist. An empty folder changes nothing.
+/// Kept: a row without a picture gets the folder as its path.
 void ChangeFolder(CardSet& set, const PathField& field, const std::vector<int16>& rows,
                   const QString& folder);
 
