@@ -124,8 +124,7 @@ void ReadSet(FieldReader& in, CardSet& set)
 /// The 10 of "Version 10".
 int16 VersionOf(QByteArrayView line)
 {
-    const qsizetype blank = line.indexOf(' ');
-    return ToInt16(NumberFromText(blank < 0 ? line : line.sliced(blank + 1)));
+    return ToInt16(NumberFromText(line.sliced(line.indexOf(' ') + 1)));
 }
 
 /// Reads signature and version; nothing if the file is rejected.

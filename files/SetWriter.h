@@ -31,8 +31,7 @@ public:
     [[nodiscard]] QByteArray TakeBytes() { return std::move(m_bytes); }
 
 private:
-    qsizetype AppendText(const QString& text);
-    void EndText(qsizetype start);
+    void Line(const QString& text);
     void EndLine() { m_bytes.append(setFile::LineEnd, sizeof(setFile::LineEnd) - 1); }
 
     QByteArray m_bytes;
