@@ -19,7 +19,8 @@ public:
     /// Kept: 15, 16 and 18 have a palette of 256 colours.
     [[nodiscard]] Picture imgCB(int index);
     /// 0 to 2 are the backs of characters, 302 x 254; 3 is the default back of large cards, 304 x 256. Error
-    /// 9 for any other index. Kept: 3 has a palette of 16 colours.
+    /// 9 for any other index.
+    /// Kept: 3 has a palette of 16 colours.
     [[nodiscard]] Picture imgChB(int index);
     /// The front of a character card, 302 x 254.
     [[nodiscard]] Picture picCharacter();

@@ -47,11 +47,6 @@ void ShowTexts(Workshop& workshop, const Character& character, int16 index)
     t.lblAutonumberCharacter.Caption = QString::number(index);
 }
 
-void PlacePiece(PlayingPieceTemplate& t, const Character& character)
-{
-    t.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft, character.PlayingPieceTop);
-}
-
 /// The first back if the index is not in the list.
 Picture BackOf(Workshop& workshop, const Character& character)
 {
@@ -78,7 +73,7 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
     run([&] { t.picCharacterBack.Surface->SetPicture(BackOf(workshop, character)); });
     PlayingPieceTemplate& piece = workshop.Templates.PlayingPiece;
     LoadFramedPicture(run, workshop, piece.picPlayingPieceImage, character.PlayingPiece);
-    PlacePiece(piece, character);
+    piece.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft, character.PlayingPieceTop);
     piece.lblPlayingPieceName.Caption = character.Name;
 }
 
@@ -98,13 +93,6 @@ QString AttributeText(const QString& word, const QString& value)
     if (value == QLatin1String("---"))
         return word;
     return value.startsWith(QLatin1Char('+')) ? word + value : word + QLatin1Char(' ') + value;
-}
-
-void DrawCharAttributes(Workshop& workshop, const Character& character)
-{
-    int index = 0;
-    for (const auto attribute : CharacterAttributes)
-        DrawCharAttribute(workshop, index++, character.*attribute);
 }
 
 // Composition of the card
@@ -210,7 +198,8 @@ CompositionFailure ShowCharacter(Workshop& workshop, int16 index)
         PlaceFrame(run, t, character);
         ShowPictureFrame(t, character.ShowPicture);
         LoadPictures(run, workshop, character);
-        DrawCharAttributes(workshop, character);
+        for (int i = 0; const auto attribute : CharacterAttributes)
+            DrawCharAttribute(workshop, i++, character.*attribute);
         DrawCharacterCard(workshop, index, workshop.Carried.Card);
         DrawPlayingPiece(workshop, index, workshop.Carried);
     });
@@ -230,7 +219,9 @@ void PlaceCharacterPicture(Workshop& workshop, int16 index)
 
 void PlacePlayingPiecePicture(Workshop& workshop, int16 index)
 {
-    PlacePiece(workshop.Templates.PlayingPiece, workshop.Set.Characters[index]);
+    const Character& character = workshop.Set.Characters[index];
+    workshop.Templates.PlayingPiece.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft,
+                                                                     character.PlayingPieceTop);
 }
 
 void PlaceHandle(CharacterTemplate& t, int left)

@@ -42,20 +42,10 @@ void Fill(PictureBox& surface, QPoint seed, Colour newColour, Colour oldColour)
     surface.ExtFloodFill(seed.x(), seed.y(), oldColour);
 }
 
-void FillBackInner(PictureBox& picNewBack, Colour newColour, Colour oldColour)
-{
-    Fill(picNewBack, InnerSeed, newColour, oldColour);
-}
-
 void FillFrame(PictureBox& picNewBack, Colour newColour, Colour oldColour)
 {
     for (const QPoint seed : FrameSeeds)
         Fill(picNewBack, seed, newColour, oldColour);
-}
-
-void FillBackOuter(PictureBox& picNewBack, Colour newColour, Colour oldColour)
-{
-    Fill(picNewBack, OuterSeed, newColour, oldColour);
 }
 
 Colour RandomColour()
@@ -79,23 +69,17 @@ struct TemporaryColours {
     }
 };
 
-TemporaryColours UsableColours()
-{
-    TemporaryColours colours;
-    while (!colours.AreUsable())
-        colours = {};
-    return colours;
-}
-
 /// Fills in two passes: each fill of the second pass replaces exactly one temporary colour.
 void ColourTemplate(PictureBox& picNewBack, const NewCardBack& back)
 {
-    const TemporaryColours temporary = UsableColours();
-    FillBackOuter(picNewBack, temporary.Outer, White);
-    FillBackInner(picNewBack, temporary.Inner, Black);
+    TemporaryColours temporary;
+    while (!temporary.AreUsable())
+        temporary = {};
+    Fill(picNewBack, OuterSeed, temporary.Outer, White);
+    Fill(picNewBack, InnerSeed, temporary.Inner, Black);
     FillFrame(picNewBack, temporary.Frame, White);
-    FillBackOuter(picNewBack, back.BackColor, temporary.Outer);
-    FillBackInner(picNewBack, back.InnerColor, temporary.Inner);
+    Fill(picNewBack, OuterSeed, back.BackColor, temporary.Outer);
+    Fill(picNewBack, InnerSeed, back.InnerColor, temporary.Inner);
     FillFrame(picNewBack, back.FrameColor, temporary.Frame);
 }
 

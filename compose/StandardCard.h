@@ -7,7 +7,8 @@
 namespace deckforge {
 
 /// Lays out the preview of the card, and composes the card on picACard. Missing files are reported on the
-/// preview. Returns any other failure; picACard then still has the card before. Kept: a card back that is not
+/// preview. Returns any other failure; picACard then still has the card before.
+/// Kept: a card back that is not
 /// in the table becomes row 1 in the record.
 [[nodiscard]] CompositionFailure ShowCard(Workshop& workshop, int16 index);
 

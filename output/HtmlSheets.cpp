@@ -27,7 +27,8 @@ struct Page {
     QStringList Links = {}; ///< to each page
 };
 
-/// Escapes a name for a text or an attribute. Kept: ampersands are not escaped; they cannot end either.
+/// Escapes a name for a text or an attribute.
+/// Kept: ampersands are not escaped; they cannot end either.
 QString Escaped(QString name)
 {
     return name.replace(QLatin1Char('<'), QStringLiteral("&lt;"))
@@ -91,7 +92,8 @@ void WriteImage(LineWriter& out, const Page& page, const QString& image)
     WriteLines(out, {"       </TR>", "   </TABLE>"});
 }
 
-/// Three rows of two images. Kept: empty slots have a table cell, and the gaps between the rows differ.
+/// Three rows of two images.
+/// Kept: empty slots have a table cell, and the gaps between the rows differ.
 void WriteSix(LineWriter& out, const Page& page)
 {
     const auto image = [&](std::size_t slot) {
@@ -168,11 +170,6 @@ constexpr char LargeImages[] = "Large ";
 constexpr char CharacterImages[] = "Character ";
 constexpr char PieceImages[] = "Character Piece ";
 
-constexpr int OneCopy(const Character& /*character*/)
-{
-    return 1;
-}
-
 constexpr HtmlRow<Card> CardPages = {.Copies = [](const Card& card) { return int{card.Copies}; },
                                      .Slots = 6,
                                      .WriteBody = WriteSix,
@@ -185,13 +182,13 @@ constexpr HtmlRow<LargeCard> LargePages = {.Copies = [](const LargeCard& card) {
                                            .PagePrefix = "Large ",
                                            .TitlePrefix = "",
                                            .Image = KindImageName<LargeImages>};
-constexpr HtmlRow<Character> CharacterPages = {.Copies = OneCopy,
+constexpr HtmlRow<Character> CharacterPages = {.Copies = [](const Character&) { return 1; },
                                                .Slots = 3,
                                                .WriteBody = WriteThree,
                                                .PagePrefix = "Character ",
                                                .TitlePrefix = "",
                                                .Image = KindImageName<CharacterImages>};
-constexpr HtmlRow<Character> PiecePages = {.Copies = OneCopy,
+constexpr HtmlRow<Character> PiecePages = {.Copies = [](const Character&) { return 1; },
                                            .Slots = 6,
                                            .WriteBody = WriteSix,
                                            .PagePrefix = "",

@@ -10,15 +10,13 @@ namespace deckforge {
 namespace {
 
 /// Trims spaces only: other white space is part of the name.
-QString WithoutOuterSpaces(const QString& text)
+QString WithoutOuterSpaces(QString text)
 {
-    qsizetype begin = 0;
-    qsizetype end = text.size();
-    while (begin < end && text[begin] == QLatin1Char(' '))
-        ++begin;
-    while (end > begin && text[end - 1] == QLatin1Char(' '))
-        --end;
-    return text.sliced(begin, end - begin);
+    while (text.startsWith(QLatin1Char(' ')))
+        text.remove(0, 1);
+    while (text.endsWith(QLatin1Char(' ')))
+        text.chop(1);
+    return text;
 }
 
 } // namespace

@@ -34,7 +34,8 @@ struct FilePath {
                                 int index, int count);
 
 /// "base Sheet 02.jpg" or "base Sheet Large 02.jpg". The base is the prefix, or the set's name if that is
-/// empty. Kept: the number of digits counts one copy of each card.
+/// empty.
+/// Kept: the number of digits counts one copy of each card.
 [[nodiscard]] QString SheetName(const SetHeader& header, const QString& sheet, int sheetNumber, int cardCount,
                                 int cardsPerSheet);
 

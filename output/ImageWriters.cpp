@@ -67,23 +67,20 @@ const FinalPicture& RowOf(FinalImage image)
 
 constexpr int OutlineBottom = CardSize.height() - 1;
 
-/// What is painted beside the card; the empty picture for nothing.
-Picture CompanionOf(const Workshop& workshop, const FinalPicture& kind)
+/// What is painted beside the card, if anything.
+std::optional<Picture> CompanionOf(const Workshop& workshop, const FinalPicture& kind)
 {
     switch (kind.Companion) {
     case Beside::Back:
+        if (workshop.Set.Header.NoBack)
+            break;
         return kind.Back(workshop.Templates)->Surface->GetPicture();
     case Beside::Copy:
         return (workshop.Surfaces.*kind.Source).Image();
     case Beside::None:
         break;
     }
-    return {};
-}
-
-bool HasCompanion(const Workshop& workshop, const FinalPicture& kind)
-{
-    return kind.Companion == Beside::Copy || (kind.Companion == Beside::Back && !workshop.Set.Header.NoBack);
+    return std::nullopt;
 }
 
 /// The card and its companion, each inside its outline of one pixel.
@@ -91,13 +88,13 @@ Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
 {
     PictureBox& source = workshop.Surfaces.*kind.Source;
     PictureBox& picDone = workshop.Surfaces.picDone;
-    const bool hasCompanion = HasCompanion(workshop, kind);
     const int width = source.Width();
     source.Freeze();
+    const std::optional<Picture> companion = CompanionOf(workshop, kind);
     picDone.SetPicture({});
-    picDone.SetSize({hasCompanion ? 2 * width : width, source.Height()});
-    if (hasCompanion)
-        picDone.PaintPicture(CompanionOf(workshop, kind), width + 1, 1);
+    picDone.SetSize({companion ? 2 * width : width, source.Height()});
+    if (companion)
+        picDone.PaintPicture(*companion, width + 1, 1);
     picDone.PaintPicture(source.Image(), 1, 1);
     picDone.ForeColor = Black;
     picDone.LineBox(0, 0, kind.OutlineWidth - 1, OutlineBottom);

@@ -46,24 +46,21 @@ std::vector<Row> CountTypes(const CardSet& set)
 
 std::vector<Row> CountBacks(const CardSet& set)
 {
-    OneBasedArray<Row> rows;
-    rows.Resize(set.CardBacks.Count());
+    std::vector<Row> rows;
     for (int i = 1; i <= set.CardBacks.Count(); ++i)
-        rows[i].Name = set.CardBacks[i].Name;
+        rows.push_back({set.CardBacks[i].Name});
     for (int i = 1; i <= set.Cards.Count(); ++i) {
         const int16 back = set.Cards[i].CardBack;
-        if (back < 1)
+        if (back < 1 || back > set.CardBacks.Count())
             throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-        Row& row = rows[back];
+        Row& row = rows[static_cast<std::size_t>(back) - 1];
         row.Count = CheckedAdd(row.Count, 1);
     }
-    std::vector<Row> counted;
-    for (int i = 1; i <= set.CardBacks.Count(); ++i)
-        counted.push_back(rows[i]);
-    return counted;
+    return rows;
 }
 
-/// Sorts by descending count. Kept: this exchange sort is not stable, and its order of equal counts is part
+/// Sorts by descending count.
+/// Kept: this exchange sort is not stable, and its order of equal counts is part
 /// of the listing.
 void SortByCount(std::vector<Row>& rows)
 {

@@ -23,7 +23,8 @@ struct SheetGrid {
 /// not written are reported.
 ///
 /// Kept: SheetState::SheetLast stays set after the run. The next run writes its sheet after every card, so
-/// each sheet contains its last card only. Kept: sheets of characters are counted, but no file is written.
+/// each sheet contains its last card only.
+/// Kept: sheets of characters are counted, but no file is written.
 int16 SaveSheets(Workshop& workshop, RunReport& report, CardKind kind, SheetGrid grid);
 
 /// Places the composed card and its back on the sheet, and writes the sheet if it is due. A failure is

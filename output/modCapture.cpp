@@ -24,22 +24,11 @@ struct ImageRow {
 
 const ImageRow& RowOf(CardKind kind)
 {
-    static constexpr ImageRow rows[] = {{.Image = FinalImage::Card,
-                                         .NamePrefix = "",
-                                         .SheetPart = " Sheet ",
-                                         .SheetKind = CardKind::Standard},
-                                        {.Image = FinalImage::LargeCard,
-                                         .NamePrefix = "Large ",
-                                         .SheetPart = " Sheet Large ",
-                                         .SheetKind = CardKind::Large},
-                                        {.Image = FinalImage::Character,
-                                         .NamePrefix = "Character ",
-                                         .SheetPart = " Sheet Large ",
-                                         .SheetKind = CardKind::Character},
-                                        {.Image = FinalImage::NewBack,
-                                         .NamePrefix = "",
-                                         .SheetPart = " Sheet ",
-                                         .SheetKind = CardKind::Standard}};
+    static constexpr ImageRow rows[] = {
+        {FinalImage::Card, "", " Sheet ", CardKind::Standard},
+        {FinalImage::LargeCard, "Large ", " Sheet Large ", CardKind::Large},
+        {FinalImage::Character, "Character ", " Sheet Large ", CardKind::Character},
+        {FinalImage::NewBack, "", " Sheet ", CardKind::Standard}};
     return rows[static_cast<std::size_t>(kind)];
 }
 
