@@ -107,8 +107,7 @@ FileDialogRequest ImageDialog(const char* dialogTitle, const QString& title, con
             .FileName = title + QLatin1Char('.') + extension,
             .Filter = QStringLiteral("All files(*.*)|*.*|Picture (*.%1)|*.%1").arg(extension),
             .FilterIndex = 2,
-            .DefaultExtension = extension,
-            .Folder = {}};
+            .DefaultExtension = extension};
 }
 
 } // namespace

@@ -19,8 +19,7 @@ FileDialogRequest SetFileDialog(const char* title, const QString& fileName)
             .FileName = fileName,
             .Filter = QStringLiteral("All files(*.*)|*.*|Deck Foundry (*.dkf)|*.dkf"),
             .FilterIndex = 2,
-            .DefaultExtension = QStringLiteral("dkf"),
-            .Folder = {}};
+            .DefaultExtension = QStringLiteral("dkf")};
 }
 
 void ShowRejection(UserPort& user, const QString& path, ReadOutcome::Rejection rejection)
@@ -54,7 +53,8 @@ void ShowSafetyCopies(UserPort& user, const QStringList& copies)
              .arg(copies.join(QLatin1String("\r\n"))));
 }
 
-/// The names of an element in message boxes. Kept: a deleted large card is called a card.
+/// The names of an element in message boxes.
+/// Kept: a deleted large card is called a card.
 struct Words {
     QLatin1String Deleted;
     QLatin1String Copied;
@@ -150,8 +150,7 @@ void ExportText(const CardSet& set, UserPort& user)
                           .FileName = set.Header.SetName + QStringLiteral(".txt"),
                           .Filter = QStringLiteral("All files(*.*)|*.*|Text file (*.txt)|*.txt"),
                           .FilterIndex = 2,
-                          .DefaultExtension = QStringLiteral("txt"),
-                          .Folder = {}});
+                          .DefaultExtension = QStringLiteral("txt")});
     if (path)
         WriteListing(set, *path, user);
 }
