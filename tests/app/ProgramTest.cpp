@@ -37,14 +37,14 @@ protected:
     QProcess Program;
 
 private:
-    /// What the system tells of the process.
-    [[nodiscard]] QByteArray ProcFile(const char* file) const
+    /// A file of /proc for the process.
+    [[nodiscard]] QByteArray ProcFile(const char* name) const
     {
-        QFile told(QString("/proc/%1/%2").arg(Program.processId()).arg(file));
-        return told.open(QIODevice::ReadOnly) ? told.readAll() : QByteArray();
+        QFile file(QString("/proc/%1/%2").arg(Program.processId()).arg(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    /// Whether it takes no time of the processor any more, as it does when it waits for its user.
+    /// Whether the process is idle, waiting for its user.
     [[nodiscard]] bool IsAtRest() const
     {
         const auto ticks = [&] {

@@ -7,7 +7,7 @@
 
 namespace deckforge {
 
-TEST(FontScheme, DressesEveryLabelInItsFont)
+TEST(FontScheme, AppliesTheFontOfEveryLabel)
 {
     SetHeader header;
     CardTemplates templates(1);
@@ -41,7 +41,7 @@ TEST(FontScheme, DressesEveryLabelInItsFont)
     EXPECT_EQ(character.lblObjects.Font, objects) << "outside the scheme";
 }
 
-TEST(FontScheme, AnOpenedSetLeavesTheSecondLineOfTheTypeAsItWas)
+TEST(FontScheme, AnOpenedSetKeepsTheFontsOfTheSecondTypeLine)
 {
     SetHeader header;
     SetDefaultFont(header);

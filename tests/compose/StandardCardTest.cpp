@@ -18,7 +18,7 @@ protected:
     QRect InkIn(QRect area) { return deckforge::InkIn(Surface(), area, Cream); }
 };
 
-TEST_F(StandardCardTest, AFrameThatLeavesNoRoomKeepsTheHeightOfTheText)
+TEST_F(StandardCardTest, WithoutRoomTheTextBoxKeepsItsHeight)
 {
     FirstCard().BoldText = "STRENGTH 3";
     for (const auto& [height, top] : {std::pair{int16{60}, 115}, {int16{300}, 355}}) {
@@ -39,7 +39,7 @@ TEST_F(StandardCardTest, AFontWithoutSizeKeepsTheSizeOfTheTextBefore)
     EXPECT_GT(InkIn({0, 163, 152, 40}).height(), 9);
 }
 
-TEST_F(StandardCardTest, AMissingSymbolIsToldAndLeavesTheCardWithoutOne)
+TEST_F(StandardCardTest, AMissingSymbolIsReportedAndTheCardHasNone)
 {
     Header().Symbol = Folder.WritePicture("s.bmp", PictureOf(PixelRows(7, "rrrrrrr")));
     (void)ShowSet(Shop);
@@ -53,7 +53,7 @@ TEST_F(StandardCardTest, AMissingSymbolIsToldAndLeavesTheCardWithoutOne)
     EXPECT_EQ(Surface().GetPixel(0, 250), Cream);
 }
 
-TEST_F(StandardCardTest, TheCreditLiesOverTheBackgroundOfTheCard)
+TEST_F(StandardCardTest, TheCreditIsDrawnOverTheBackgroundOfTheCard)
 {
     FirstCard().Artist = "MMMM";
     FirstCard().Background = Folder.WritePicture("b.bmp", PictureOfPlaces({150, 254}));
@@ -69,7 +69,7 @@ TEST_F(StandardCardTest, TheCreditLiesOverTheBackgroundOfTheCard)
     EXPECT_EQ(Surface().GetPixel(2, 45), ColourOfPlace(2, 45));
 }
 
-TEST_F(StandardCardTest, MissingPicturesAreToldOnThePreviewAndTheRestIsComposed)
+TEST_F(StandardCardTest, MissingPicturesAreReportedOnThePreviewAndTheRestIsComposed)
 {
     FirstCard().Picture = Folder.Path("none.bmp");
     FirstCard().Background = Folder.Path("none/none.bmp");
@@ -82,13 +82,13 @@ TEST_F(StandardCardTest, MissingPicturesAreToldOnThePreviewAndTheRestIsComposed)
     EXPECT_FALSE(deckforge::InkIn(*Boxes().picBack.Surface, {0, 5, 150, 1}, White).isNull())
         << "the back says what is missing";
     EXPECT_EQ(RowsOf(Boxes().picCard.Surface->Image())[5].find('#'), std::string::npos)
-        << "the message on the front goes with its colour";
+        << "setting the colour removes the message on the front";
     FirstCard().CardBack = 99;
     Compose();
     EXPECT_EQ(FirstCard().CardBack, 1) << "a back past the table becomes the first";
 }
 
-TEST_F(StandardCardTest, ADamagedPictureIsToldInABoxAndTheCardIsNotComposed)
+TEST_F(StandardCardTest, ADamagedPictureIsReportedAndTheCardIsNotComposed)
 {
     Compose();
     const QImage before = Surface().Image().Pixels();

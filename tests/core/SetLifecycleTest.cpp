@@ -30,7 +30,7 @@ TEST_F(SetLifecycle, DeletingAsksByNameAndLeavesTheCardBeforeTheLastOne)
     EXPECT_EQ(Set.Cards[3].Title, "CARD 3") << "cards are numbered by their place";
 }
 
-TEST_F(SetLifecycle, ThereIsNoCardBehindTheLastNumber)
+TEST_F(SetLifecycle, CardsPastTheMaximumAreAnError)
 {
     Set.Cards.Resize(32767);
     EXPECT_EQ(FailureOf([&] { AddElement<Card>(Set); }), 6);
@@ -39,7 +39,7 @@ TEST_F(SetLifecycle, ThereIsNoCardBehindTheLastNumber)
     EXPECT_EQ(FailureOf([&] { (void)Set.Cards[-1]; }), 9);
 }
 
-TEST_F(SetLifecycle, ANewCardTakesTheDefaultsOfTheSet)
+TEST_F(SetLifecycle, ANewCardHasTheDefaultsOfTheSet)
 {
     Set.LastType = "type";
     Set.LastSubType = "second";

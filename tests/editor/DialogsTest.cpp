@@ -41,7 +41,7 @@ protected:
         root = &window;
     }
 
-    /// Goes to the last entry with the keyboard.
+    /// Selects the last entry with the keyboard.
     void ChooseLast(const char* list)
     {
         Find<QComboBox>(list).setFocus();
@@ -65,7 +65,7 @@ protected:
     }
 };
 
-TEST_F(DialogsTest, TheListGoesToACardHoweverItIsSorted)
+TEST_F(DialogsTest, TheSortedListOpensTheChosenCard)
 {
     Type("txtTitle", "Troll");
     Click("cmdCardAdd");
@@ -101,7 +101,7 @@ TEST_F(DialogsTest, CheckedPicturesMoveToTheTypedFolder)
     EXPECT_EQ(Find<QLineEdit>("txtPicture").toolTip(), "/new/one.bmp");
 }
 
-TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedAtOnce)
+TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedImmediately)
 {
     WithDialog("setinfo", [&] {
         auto& list = List("lstCB");
@@ -133,7 +133,7 @@ TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedAtOnce)
     EXPECT_EQ(FirstCard().CardBack, 1) << "the card kept its back";
 }
 
-TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
+TEST_F(DialogsTest, ReversedNamesOfOwnTypesFollowTheirNames)
 {
     WithDialog("setinfo", [&] {
         Find<QTabWidget>("tabSet").setCurrentIndex(1);
@@ -174,7 +174,7 @@ TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
               "OMEN- Dark -OMEN kraD -1 /pics/ground.bmp");
 }
 
-TEST_F(DialogsTest, FontOptionsFollowTheSampleAndAStrayOneChangesTheAutonumber)
+TEST_F(DialogsTest, FontOptionsFollowTheSampleAndAnUnknownOneChangesTheAutonumber)
 {
     const FontSpec tall = {.Name = "Arial", .Size = 11};
     WithDialog("choosefont", [&] {

@@ -13,7 +13,7 @@ namespace deckforge {
 
 namespace {
 
-/// Lines of a set file; here each ends in a semicolon.
+/// Lines of a set file, written with semicolons as line ends.
 QByteArray LinesOf(QByteArray text)
 {
     return text.replace(";", "\r\n");
@@ -61,7 +61,7 @@ TEST_F(SetFileTest, ANewSetIsWrittenLineForLine)
 TEST_F(SetFileTest, AFileOfVersionOneIsConverted)
 {
     ASSERT_TRUE(Read(VersionOne("SPELL", "0")));
-    EXPECT_EQ(Set.Cards[1].FrameHeight, 104) << "halves go to the even neighbour";
+    EXPECT_EQ(Set.Cards[1].FrameHeight, 104) << "halves are rounded to even";
     EXPECT_EQ(Set.Cards[1].Info, "Line one\r\nline two");
     EXPECT_EQ(User.BoxTexts(), (QStringList{"Converting|The set you are opening is of an older version.\r\n"
                                             "It will now be converted to the new version.",
@@ -71,10 +71,10 @@ TEST_F(SetFileTest, AFileOfVersionOneIsConverted)
     ASSERT_TRUE(Read(
         VersionOne("SPELL", "13", "16").replace("16\r\n27", "16\r\nQUEST\r\nTSEUQ\r\n7\r\nFalse\r\n27")));
     ASSERT_TRUE(Read(VersionOne("SPELL", "13", "15")));
-    EXPECT_EQ(Set.CardTypes.Count(), 16) << "rows of the set before stay when the file has none";
+    EXPECT_EQ(Set.CardTypes.Count(), 16) << "own rows are kept if the file has none";
 }
 
-TEST_F(SetFileTest, WhatIsNoSetChangesNothing)
+TEST_F(SetFileTest, AFileThatIsNoSetChangesNothing)
 {
     const QString newer = "Version conflict|The set you are opening is from a newer version.\r\n"
                           "It can not be opened in this version.";
@@ -91,7 +91,7 @@ TEST_F(SetFileTest, WhatIsNoSetChangesNothing)
     EXPECT_EQ(Set.Header.SetName, "New set");
 }
 
-TEST_F(SetFileTest, AFileCutAtAnyLineIsNeverTakenAndAnotherLastLineIsOnlyTold)
+TEST_F(SetFileTest, AFileCutAtAnyLineIsRejectedAndAWrongLastLineIsOnlyReported)
 {
     const QByteArray whole = Written();
     for (qsizetype end = whole.indexOf("\r\n"); end >= 0 && end + 2 < whole.size();
@@ -138,7 +138,7 @@ TEST_F(SetFileTest, ADamagedCountOfAnySectionLeavesASetThatCanBeSavedAndOpened)
     EXPECT_GE(damaged, 6 * 7) << "six sections";
 }
 
-TEST_F(SetFileTest, CountsThatCannotBeAreReported)
+TEST_F(SetFileTest, InvalidCountsAreReported)
 {
     const QByteArray whole = Written();
     const QByteArray counts = "\r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n";
@@ -151,7 +151,7 @@ TEST_F(SetFileTest, CountsThatCannotBeAreReported)
     }
 }
 
-TEST_F(SetFileTest, LinesMayEndInLfAloneWhereNoneEndsInCrLf)
+TEST_F(SetFileTest, LinesMayEndWithLfIfNoneEndsWithCrLf)
 {
     Set.Cards[1].Title = "carriage\rreturn";
     const QByteArray whole = Written();
@@ -166,7 +166,7 @@ TEST_F(SetFileTest, LinesMayEndInLfAloneWhereNoneEndsInCrLf)
     EXPECT_EQ(Set.Cards[1].Title, "line\nfeed");
 }
 
-TEST_F(SetFileTest, WhatNoFileCanHoldOrTheReaderWouldNotTakeIsNotWritten)
+TEST_F(SetFileTest, ASetThatCouldNotBeReadAgainIsNotWritten)
 {
     const QByteArray old = Written();
     const QString failure = "Error|The file is NOT saved due to an error.\r\n\r\n";
@@ -184,7 +184,7 @@ TEST_F(SetFileTest, WhatNoFileCanHoldOrTheReaderWouldNotTakeIsNotWritten)
     EXPECT_TRUE(Write()) << "rounded to what the reader takes";
 }
 
-TEST_F(SetFileTest, ALineThatIsTooLongOrTwoIsNeitherReadNorWritten)
+TEST_F(SetFileTest, LinesThatAreTooLongOrBrokenAreNeitherReadNorWritten)
 {
     constexpr qsizetype longest = 1 << 16;
     QString& title = Set.Cards[1].Title;
@@ -207,7 +207,7 @@ TEST_F(SetFileTest, ALineThatIsTooLongOrTwoIsNeitherReadNorWritten)
     EXPECT_FALSE(Write());
 }
 
-TEST_F(SetFileTest, SavingProposesTheFileWhereItIsAndPutsThePathIntoIt)
+TEST_F(SetFileTest, SavingProposesTheCurrentFileAndStoresItsPath)
 {
     const auto proposed = [&] {
         User.WillCancelDialog();
@@ -242,7 +242,7 @@ TEST_F(SetFileTest, FoldersNamedInAnyLanguageAreSavedAndReadAgain)
     Set.Header.SaveTo = "/home/иван/Документы/100%/";
     Set.Header.FileName = "/home/иван/набор.dkf";
     Set.Cards[1].Picture = "/data/Ελλάδα/two\r\nlines.bmp";
-    Set.Cards[1].Background = "/home/josé/bär €.bmp"; // in the code page, so as it stands
+    Set.Cards[1].Background = "/home/josé/bär €.bmp"; // in the code page, so unchanged
     Set.LastBackground = "file:///home/%41.bmp";      // looks like an address, and is none
     const CardSet before = Set;
     const QByteArray written = Written();

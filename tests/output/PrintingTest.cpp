@@ -64,10 +64,10 @@ TEST_F(PrintingTest, HeadingIsTwoLinesOfTwelvePoints)
     EXPECT_NEAR(second.top() - first.top(), line, 4);
 }
 
-TEST_F(PrintingTest, PieceStandsWhereItAlwaysStood)
+TEST_F(PrintingTest, ThePieceIsAtItsTraditionalPosition)
 {
     (void)ShowCharacter(Shop, 1);
-    Header().NoBack = true; // the piece is there twice all the same
+    Header().NoBack = true; // the piece is painted twice nevertheless
     const QImage paper = Painted(PrintedPage::Character, 300);
     const int top = 40 + 2 * FontMeasures({"Arial", 12}, 300).LineHeight() + 40 + 256 * 15;
     const QRect ink = InkIn(paper, {0, 2000, paper.width(), paper.height() - 2000});
@@ -75,7 +75,7 @@ TEST_F(PrintingTest, PieceStandsWhereItAlwaysStood)
     EXPECT_NEAR(ink.right(), 40 + 950 - 1, 1);
 }
 
-TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
+TEST_F(PrintingTest, PrintsToTheDefaultPrinter)
 {
     User.PrinterFile = Folder.Path("page.pdf");
     PrintCard(Shop, TheRun, PrintedPage::Card);
@@ -88,7 +88,7 @@ TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
     FirstCard().Picture = Folder.Write("damaged.bmp", "BM no picture");
     WritePdf(Shop, TheRun, PrintedPage::Card, Folder.Path("page.pdf"), 600);
     EXPECT_TRUE(Folder.Read("page.pdf").contains("/Width 304\n")) << "what cannot be shown is as it was";
-    EXPECT_TRUE(User.Boxes.empty()) << "showing it has told";
+    EXPECT_TRUE(User.Boxes.empty()) << "already reported when shown";
 }
 
 TEST_F(PrintingTest, TheSymbolIsPrintedWhereItIsShown)
@@ -109,7 +109,7 @@ TEST_F(PrintingTest, TheSymbolIsPrintedWhereItIsShown)
     EXPECT_FALSE(printed == printedAt(40, 120));
 }
 
-TEST_F(PrintingTest, NothingIsDoneWithAPrinterThatTakesNoPage)
+TEST_F(PrintingTest, APrinterThatCannotBePaintedOnIsAnError)
 {
     User.PrinterFile = "/no/such/folder/page.pdf";
     EXPECT_EQ(FailureOf([&] { PrintCard(Shop, TheRun, PrintedPage::Card); }), 482);
