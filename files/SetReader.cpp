@@ -39,7 +39,17 @@ QString SetReader::Text()
 
 QString SetReader::Flattened()
 {
-    return Text().replace(QLatin1Char(setFile::FlattenedBreak), QLatin1String(setFile::LineEnd));
+    QByteArrayView rest = Line();
+    if (m_skipsTexts)
+        return {};
+    QByteArray lines;
+    for (qsizetype end = 0; (end = rest.indexOf(setFile::FlattenedBreak)) >= 0; rest = rest.sliced(end + 1)) {
+        lines.append(rest.first(end));
+        lines.append(setFile::LineEnd, sizeof(setFile::LineEnd) - 1);
+    }
+    if (lines.isEmpty())
+        return rest.isEmpty() ? QString() : FromCodePage(rest);
+    return FromCodePage(lines.append(rest));
 }
 
 bool SetReader::Boolean()
