@@ -47,7 +47,7 @@ int main(int argc, char* argv[])
     deckforge::frmQDW window(user);
     user.Serve(&window, [&](int done, int total) { window.ShowProgress(done, total); });
     window.show();
-    const deckforge::TerminationGuard terminationGuard([&window] { window.RescueAtTheEnd(); });
+    const deckforge::TerminationGuard terminationGuard([&window] { window.RescueAtExit(); });
     // In the event loop, so that message boxes appear over the window.
     const QString commandLine = QApplication::arguments().sliced(1).join(QLatin1Char(' '));
     QTimer::singleShot(0, &window, [&] {

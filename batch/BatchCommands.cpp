@@ -38,7 +38,7 @@ ExitStatus RunOnNewSet(int scale, Task&& task)
     try {
         WithMemoryAsFailure([&] {
             Workshop workshop(scale);
-            ShowViewed(user, InitForm(workshop));
+            ShowViewFailures(user, InitForm(workshop));
             done = task(workshop, user);
         });
     } catch (const RunTimeError& error) {
@@ -65,7 +65,7 @@ ExitStatus RunOnSet(const QString& path, int scale, Task&& task)
     return RunOnNewSet(scale, [&](Workshop& workshop, UserPort& user) {
         if (!OpenSet(workshop.Set, path, user))
             return false;
-        ShowViewed(user, ShowOpenedSet(workshop));
+        ShowViewFailures(user, ShowOpenedSet(workshop));
         return task(workshop, user);
     });
 }
@@ -173,8 +173,8 @@ ExitStatus RunSheets(const QStringList& paths, const QCommandLineParser& parser)
     if (kinds.size() > 1) // after a run over one kind the flag of the last card stays set
         throw WrongUse{QStringLiteral("\"sheets\" takes one kind.")};
     SheetGrid grid;
-    grid.Cols = static_cast<int16>(NumberOption(parser, "columns", SheetGrid::MostCols));
-    grid.Rows = static_cast<int16>(NumberOption(parser, "rows", SheetGrid::MostRows));
+    grid.Cols = static_cast<int16>(NumberOption(parser, "columns", SheetGrid::MaxCols));
+    grid.Rows = static_cast<int16>(NumberOption(parser, "rows", SheetGrid::MaxRows));
     const RunSettings settings = SettingsFrom(parser);
     return RunOnSet(paths[0], 1, [&](Workshop& workshop, UserPort& user) {
         WithSettings(workshop.Set.Header, settings, [&] {
@@ -231,7 +231,7 @@ ExitStatus RunPrint(const QStringList& paths, const QCommandLineParser& parser)
     return RunOnSet(paths[0], 1, [&](Workshop& workshop, UserPort& user) {
         ShownRun run(user);
         if (const CompositionFailure failure = ShowForPage(workshop, page, index)) {
-            ShowComposed(user, failure);
+            ShowCompositionFailure(user, failure);
             ReportPage(workshop, run, page);
             return false;
         }

@@ -168,7 +168,7 @@ void NewBack(benchmark::State& state)
 /// workshop, since the flag of the last card stays set.
 void Sheet(benchmark::State& state)
 {
-    constexpr SheetGrid grid = {SheetGrid::MostCols, SheetGrid::MostRows};
+    constexpr SheetGrid grid = {SheetGrid::MaxCols, SheetGrid::MaxRows};
     constexpr int16 cards = grid.Cols * grid.Rows;
     OneCard card(Jpeg);
     cDIBSection sheet;

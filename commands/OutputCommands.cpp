@@ -11,7 +11,8 @@ namespace deckforge {
 
 namespace {
 
-/// What the boxes of the kinds say. User-designed backs have only the texts of saving one.
+/// Texts of the dialogs and message boxes. User-designed backs have only those for saving one.
+/// Kept: some titles for characters are those of large cards.
 struct KindTexts {
     const char* SaveTitle;
     const char* SavedTitle;
@@ -106,13 +107,12 @@ FileDialogRequest ImageDialog(const char* dialogTitle, const QString& title, con
             .FileName = title + QLatin1Char('.') + extension,
             .Filter = QStringLiteral("All files(*.*)|*.*|Picture (*.%1)|*.%1").arg(extension),
             .FilterIndex = 2,
-            .DefaultExtension = extension,
-            .Folder = {}};
+            .DefaultExtension = extension};
 }
 
 } // namespace
 
-void ShowComposed(UserPort& user, const CompositionFailure& failure)
+void ShowCompositionFailure(UserPort& user, const CompositionFailure& failure)
 {
     if (!failure)
         return;
@@ -122,16 +122,16 @@ void ShowComposed(UserPort& user, const CompositionFailure& failure)
          .Style = BoxStyle::Critical});
 }
 
-void ShowViewed(UserPort& user, const ViewFailures& failures)
+void ShowViewFailures(UserPort& user, const ViewFailures& failures)
 {
     if (failures.Symbol)
         ShowUnhandledError(user, *failures.Symbol);
-    ShowComposed(user, failures.FirstCard);
+    ShowCompositionFailure(user, failures.FirstCard);
 }
 
 ShownRun::ShownRun(UserPort& user) : User(user)
 {
-    User.ReportProblems({}); // those of the run before are over
+    User.ReportProblems({}); // removes those of the previous run
 }
 
 ShownRun::~ShownRun()

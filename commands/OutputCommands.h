@@ -11,45 +11,42 @@
 
 namespace deckforge {
 
-// The commands that compose cards and write images, sheets, pages and print-outs, with their questions and
-// message boxes.
+// The commands that create images, sheets, pages and printed pages, with their questions and message boxes.
 
-/// Shows why a card could not be composed, if it could not.
-void ShowComposed(UserPort& user, const CompositionFailure& failure);
+/// Shows the failure of a composition, if any.
+void ShowCompositionFailure(UserPort& user, const CompositionFailure& failure);
 
-/// Shows what failed while a set was shown.
-void ShowViewed(UserPort& user, const ViewFailures& failures);
+void ShowViewFailures(UserPort& user, const ViewFailures& failures);
 
-/// A run as the user sees it: failures are shown when they happen, the problems when it is over, however it
-/// ends.
+/// Shows failures when they occur, and the problems at the end of its scope.
 class ShownRun final : public RunReport {
 public:
     explicit ShownRun(UserPort& user);
     ~ShownRun() override;
 
     void ShowProgress(int done, int total) override { User.ShowProgress(done, total); }
-    void ShowNotComposed(const RunTimeError& error) override { ShowComposed(User, error); }
+    void ShowNotComposed(const RunTimeError& error) override { ShowCompositionFailure(User, error); }
     void ShowNotWritten(const char* title, const QString& reason) override;
 
     UserPort& User;
 };
 
-/// Asks where the image of the composed card is to be written, and writes it there; nothing on a cancel.
+/// Asks where to write the image of the composed card, and writes it; nothing if cancelled.
 void SaveImageAs(Workshop& workshop, ShownRun& run, CardKind kind, int16 index);
 
-// Commands for all cards of a kind; there are none for user-designed backs. Each ends with a box that says
-// how many files were due.
+// Commands for all cards of a kind except user-designed backs. Each shows a message box with the number of
+// files.
 
 void CreateImages(Workshop& workshop, ShownRun& run, CardKind kind);
-/// Without a grid, which is a cancel, the box alone.
+/// Kept: without a grid (cancelled), the message box still appears, with 0 sheets.
 void CreateSheets(Workshop& workshop, ShownRun& run, CardKind kind, std::optional<SheetGrid> grid);
-/// Returns whether all cards have the file names that pages need.
+/// Returns whether all cards have the file names required.
 bool CreateHtml(const CardSet& set, ShownRun& run, HtmlPages pages);
 
-/// Writes the built-in backs to a folder that the user chooses; nothing on a cancel.
+/// Writes the built-in backs to a folder chosen by the user; nothing if cancelled.
 void ExportCardBacks(Workshop& workshop, UserPort& user);
 
-/// Prints the page of the current card on the default printer. Error 482 without a printer.
+/// Prints the page of the current card on the default printer. Error 482 if there is none.
 void PrintCard(Workshop& workshop, ShownRun& run, PrintedPage page);
 
 void ShowStatistics(const CardSet& set, UserPort& user);

@@ -19,8 +19,7 @@ FileDialogRequest SetFileDialog(const char* title, const QString& fileName)
             .FileName = fileName,
             .Filter = QStringLiteral("All files(*.*)|*.*|Deck Foundry (*.dkf)|*.dkf"),
             .FilterIndex = 2,
-            .DefaultExtension = QStringLiteral("dkf"),
-            .Folder = {}};
+            .DefaultExtension = QStringLiteral("dkf")};
 }
 
 void ShowRejection(UserPort& user, const QString& path, ReadOutcome::Rejection rejection)
@@ -44,7 +43,7 @@ void ShowReadFailure(UserPort& user, const RunTimeError& error)
     user.ReportProblems({error.PlaceAndDescription()});
 }
 
-/// A save that was cut off may have left a file that reads well and is half of each set.
+/// An interrupted save may have left a file that can be read but mixes both sets.
 void ShowSafetyCopies(UserPort& user, const QStringList& copies)
 {
     Show(user, BoxStyle::Exclamation, "Open file",
@@ -54,7 +53,8 @@ void ShowSafetyCopies(UserPort& user, const QStringList& copies)
              .arg(copies.join(QLatin1String("\r\n"))));
 }
 
-/// What the boxes call an element.
+/// The names of an element in message boxes.
+/// Kept: a deleted large card is called a card.
 struct Words {
     QLatin1String Deleted;
     QLatin1String Copied;
@@ -70,7 +70,7 @@ const Words& WordsOf(CardKind kind)
     return words[static_cast<std::size_t>(kind)];
 }
 
-/// Runs what writes a file, and shows the failure or the message that it is written.
+/// Runs `write` and shows the failure, or the message `written`.
 template <class Write>
 bool WriteAndShow(UserPort& user, const char* title, const QString& written, Write&& write)
 {
@@ -124,8 +124,8 @@ SaveResult SaveSet(CardSet& set, UserPort& user)
     const std::optional<QString> path = user.AskSaveFile(request);
     if (!path)
         return SaveResult::Cancelled;
-    set.Header.FileName = *path; // first, so that the path is in the very file that is written
-    set.File.reset();            // after a failure the path is proposed again
+    set.Header.FileName = *path; // before writing: the file contains the path
+    set.File.reset();            // after a failure Header.FileName is proposed
     if (!WriteSet(set, *path, user))
         return SaveResult::Failed;
     set.File = {*path, AttributesOf(*path).value_or(FileAttributes{})};
@@ -150,8 +150,7 @@ void ExportText(const CardSet& set, UserPort& user)
                           .FileName = set.Header.SetName + QStringLiteral(".txt"),
                           .Filter = QStringLiteral("All files(*.*)|*.*|Text file (*.txt)|*.txt"),
                           .FilterIndex = 2,
-                          .DefaultExtension = QStringLiteral("txt"),
-                          .Folder = {}});
+                          .DefaultExtension = QStringLiteral("txt")});
     if (path)
         WriteListing(set, *path, user);
 }

@@ -7,36 +7,35 @@
 
 namespace deckforge {
 
-// The commands on the set and its files, with their questions and message boxes.
+// Commands for the set and its files, with their questions and message boxes.
 
-/// Reads the file into the set and reports how that went. Returns whether the set is read.
+/// Reads the file into the set and shows the result. Returns whether the set was read.
 [[nodiscard]] bool OpenSet(CardSet& set, const QString& path, UserPort& user);
 
-/// Writes the set to the path and reports how that went. Returns whether the file is there.
+/// Writes the set to the path and shows the result. Returns whether it was written.
 bool WriteSet(const CardSet& set, const QString& path, UserPort& user);
 
 enum class SaveResult { Saved, Cancelled, Failed };
 
-/// Asks where to save, always, and writes the set there.
+/// Always asks where to save, and writes the set there.
 SaveResult SaveSet(CardSet& set, UserPort& user);
 
-/// Asks for the set file to open; nothing on a cancel.
+/// Asks for the set file to open; nothing if cancelled.
 [[nodiscard]] std::optional<QString> AskSetToOpen(UserPort& user);
 
-/// Writes the listing of the set's texts to the path and reports how that went. Returns whether it is
-/// complete.
+/// Writes the listing of the set's texts to the path and shows the result. Returns whether it is complete.
 bool WriteListing(const CardSet& set, const QString& path, UserPort& user);
 
-/// Asks where to, and writes the listing there; nothing on a cancel.
+/// Asks for a path and writes the listing there; nothing if cancelled.
 void ExportText(const CardSet& set, UserPort& user);
 
-/// Shows a failure that ended a write.
+/// Shows why a file was not saved.
 void ShowNotSaved(UserPort& user, const RunTimeError& error);
 
-/// Whether the current element may be deleted: it is not the only one, and the user agrees.
+/// Whether the current element may be deleted: it is not the only one, and the user confirms.
 [[nodiscard]] bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name);
 
-/// Deletes the current element if it may be. Returns whether it is gone.
+/// Deletes the current element after confirmation. Returns whether it was deleted.
 template <class Record>
 bool DeleteElement(CardSet& set, UserPort& user)
 {
@@ -47,7 +46,7 @@ bool DeleteElement(CardSet& set, UserPort& user)
     return true;
 }
 
-/// Says that the current element of the kind is copied.
+/// Shows that the current element was copied.
 void ShowCopied(UserPort& user, CardKind kind);
 
 } // namespace deckforge

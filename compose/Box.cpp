@@ -20,11 +20,11 @@ int CheckedExtent(int extent)
     return extent;
 }
 
-int WithinScreen(double pixels)
+int ClampedTo16Bits(double pixels)
 {
-    constexpr double least = std::numeric_limits<int16>::min();
-    constexpr double most = std::numeric_limits<int16>::max();
-    return ToInt16(std::clamp(pixels, least, most));
+    constexpr double min = std::numeric_limits<int16>::min();
+    constexpr double max = std::numeric_limits<int16>::max();
+    return ToInt16(std::clamp(pixels, min, max));
 }
 
 } // namespace
@@ -56,12 +56,12 @@ void Box::MoveToTwips(double left, double top)
 
 int PixelsFromTwipsX(double twips)
 {
-    return WithinScreen(twips / TwipsPerPixelX);
+    return ClampedTo16Bits(twips / TwipsPerPixelX);
 }
 
 int PixelsFromTwipsY(double twips)
 {
-    return WithinScreen(twips / TwipsPerPixelY);
+    return ClampedTo16Bits(twips / TwipsPerPixelY);
 }
 
 } // namespace deckforge

@@ -15,7 +15,7 @@ namespace deckforge {
 
 namespace {
 
-constexpr qsizetype KeptBytes = qsizetype(32) << 20;
+constexpr qsizetype CacheBytes = qsizetype(32) << 20;
 constexpr QSize CardArtSize = {150, 254};
 constexpr QSize DoubleArtSize = {302, 254};
 constexpr QSize LargeBackArtSize = DoubleCardSize;
@@ -25,7 +25,7 @@ constexpr std::array PaletteBacks = {15, 16, 18};
 
 } // namespace
 
-BuiltInArt::BuiltInArt(int scale) : m_scale(scale), m_rendered(KeptBytes) {}
+BuiltInArt::BuiltInArt(int scale) : m_scale(scale), m_rendered(CacheBytes) {}
 
 Picture BuiltInArt::imgCB(int index)
 {
@@ -83,7 +83,7 @@ QImage BuiltInArt::AtDepth(const QImage& image, Depth depth)
         return WithColours(image, 256, Dither::No);
     case Depth::Colours16:
         return WithColours(image, 16, Dither::No);
-    case Depth::BlackAndWhite: // smooth edges would be grey, which no fill takes for its own
+    case Depth::BlackAndWhite: // flood fill needs edges without grey
         return image.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither)
             .convertToFormat(QImage::Format_RGB32);
     }

@@ -9,23 +9,24 @@
 
 namespace deckforge {
 
-/// The art that comes with the program: vector drawings, rendered at the scale of the surfaces when first
-/// shown and kept up to a bound in bytes.
+/// The built-in art: SVG files, rendered at the scale of the surfaces when first used and cached up to a
+/// limit.
 class BuiltInArt {
 public:
     explicit BuiltInArt(int scale);
 
-    /// The back of row index + 1 of the table of card backs, 150 x 254; 15, 16 and 18 have a palette of 256
-    /// colours. Error 9 outside 0 to 26.
+    /// The back of row index + 1 of the table of card backs, 150 x 254. Error 9 outside 0 to 26.
+    /// Kept: 15, 16 and 18 have a palette of 256 colours.
     [[nodiscard]] Picture imgCB(int index);
-    /// The backs of character cards, 0 to 2, 302 x 254; 3 is the usual back of large cards, 304 x 256,
-    /// with a palette of 16 colours. Error 9 for any other.
+    /// 0 to 2 are the backs of characters, 302 x 254; 3 is the default back of large cards, 304 x 256. Error
+    /// 9 for any other index.
+    /// Kept: 3 has a palette of 16 colours.
     [[nodiscard]] Picture imgChB(int index);
     /// The front of a character card, 302 x 254.
     [[nodiscard]] Picture picCharacter();
-    /// The template of a user-designed back, 254 x 150, of black and white alone.
+    /// The template of a user-designed back, 254 x 150, in pure black and white.
     [[nodiscard]] Picture picBackTemplate();
-    /// The back that a card shows before it has one of its own, 150 x 254.
+    /// The back on the preview before a card is shown, 150 x 254.
     [[nodiscard]] Picture picBack();
 
 private:

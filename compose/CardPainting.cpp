@@ -2,8 +2,8 @@
 
 #include "compose/CardPainting.h"
 
-#include "compose/Attempt.h"
 #include "compose/FontScheme.h"
+#include "compose/IgnoreFailure.h"
 
 namespace deckforge {
 
@@ -25,7 +25,7 @@ void PaintPictureBlock(PictureBox& surface, const Picture& white, const FramedPi
     if (!picture.IsShown)
         return;
     const QRect frame = picture.Frame.Place().translated(picture.Origin);
-    Attempt([&] { PaintClipped(surface, white, picture, frame); });
+    IgnoreFailure([&] { PaintClipped(surface, white, picture, frame); });
     if (picture.Clip.FrameInset > 0) {
         surface.LineBox(frame.left(), frame.top(), frame.left() + frame.width() - 1,
                         frame.top() + frame.height() - 1);
@@ -44,7 +44,7 @@ void PaintBackground(Workshop& workshop, const Box& preview, const QString& path
 {
     PictureBox& picACard = workshop.Surfaces.picACard;
     BeginCard(picACard, preview, pen);
-    Attempt([&] { picACard.SetPicture(workshop.Pictures.LoadPicture(path)); });
+    IgnoreFailure([&] { picACard.SetPicture(workshop.Pictures.LoadPicture(path)); });
     picACard.SetBackColor(colour);
 }
 
@@ -65,7 +65,7 @@ void PrintWrapped(PictureBox& surface, const Box& box, const QString& text, Line
 {
     const TextColumn column = {
         .Left = box.Left + origin.x(), .Top = box.Top + origin.y(), .Width = box.Width, .Form = form};
-    Attempt([&] { WrapAndPrint(surface, text, column); });
+    IgnoreFailure([&] { WrapAndPrint(surface, text, column); });
 }
 
 void PrintIndex(PictureBox& surface, double x, double y, int16 index)
@@ -81,13 +81,13 @@ void PrintWatermark(PictureBox& surface, const Box& watermark, QPoint origin)
     PrintCentred(surface, watermark, watermark.Caption, origin);
 }
 
-void ShowRun::LoadsFor(Box& reporter, const QString& path, const char* message)
+void ShowRun::ReportMissingOn(Box& reporter, const QString& path, const char* message)
 {
     m_reporter = &reporter;
     m_message = QLatin1String(message) + QStringLiteral("\r\n") + path;
 }
 
-void ShowRun::Answer(const RunTimeError& error)
+void ShowRun::Handle(const RunTimeError& error)
 {
     if (error.IsMissingFile() && m_reporter != nullptr) {
         PictureBox& surface = *m_reporter->Surface;

@@ -50,7 +50,7 @@ Box Bordered(Box box)
     return box;
 }
 
-/// A box with pixels of its own, inside its border.
+/// Gives the box a surface inside its border.
 Box Surface(Box box, int scale)
 {
     const int border = 2 * box.BorderWidth();
@@ -64,11 +64,11 @@ Box PictureAt(const char* name, QRect place, int scale)
     return Surface(Label(name, place), scale);
 }
 
-/// Where the front of a card lies on the preview. The back of a standard card lies at its right, all others
-/// in its place.
+/// The position of a card's front on the preview. The back of a standard card is at its right; other backs
+/// are shown at the same position.
 constexpr QPoint FrontCorner = {8, 267};
 
-/// A surface that shows a whole card, with the border of a pixel that the window draws round it.
+/// A surface that shows a whole card, with a border of one pixel.
 Box CardSurface(const char* name, QSize size, int scale, QPoint corner = FrontCorner)
 {
     return Surface(Bordered(Label(name, {corner, size})), scale);
@@ -97,7 +97,7 @@ Box BlackStrip(const char* name, QRect place, int scale)
 
 } // namespace
 
-// Each row: name, then left, top, width and height, then how its text stands. A whole card has only its size.
+// Each row: name; left, top, width and height; alignment. A whole card has only a size.
 
 CardTemplate::CardTemplate(int scale)
     : picCard(CardSurface("picCard", CardSize, scale)),

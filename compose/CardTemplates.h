@@ -8,14 +8,14 @@
 
 namespace deckforge {
 
-// The templates of all kinds of card: the boxes that the preview shows and whose places the composers read.
-// The Show... routines lay them out from a record.
+// The templates of all kinds of card: the boxes that the preview shows. The Show functions lay them out from
+// a record, and the composers read their positions.
 
-// The sizes of cards on their surfaces, in pixels: 40 mm and 80 mm wide at 96 to the inch.
+// Sizes of cards in pixels: 40 mm and 80 mm wide at 96 pixels per inch.
 inline constexpr QSize CardSize = {152, 256};
 inline constexpr QSize DoubleCardSize = {304, 256}; ///< large cards and characters
 
-/// A standard card: all boxes but the last two lie on picCard, picImage in picFrame.
+/// A standard card. picImage is inside picFrame; all other boxes except picBack are on picCard.
 struct CardTemplate {
     explicit CardTemplate(int scale);
 
@@ -31,12 +31,13 @@ struct CardTemplate {
     Box lblAutonumber;
     Box lblWatermark;
     Box picSymbol;
-    Box picArtistDest; ///< the artist's credit, turned on its side
+    Box picArtistDest; ///< the artist's credit, rotated
 
     Box picBack;
 };
 
-/// A large card: all boxes but the last lie on picCardLarge, picImageLarge in picFrameLarge.
+/// A large card. picImageLarge is inside picFrameLarge; all other boxes except picBackLarge are on
+/// picCardLarge.
 struct LargeCardTemplate {
     explicit LargeCardTemplate(int scale);
 
@@ -53,7 +54,7 @@ struct LargeCardTemplate {
     Box picBackLarge;
 };
 
-/// A character card: the first group lies on picCharacter, the second on the panel picBackgroundChar.
+/// A character card. The first group is on picCharacter, the second on the panel picBackgroundChar.
 struct CharacterTemplate {
     explicit CharacterTemplate(int scale);
 
@@ -92,7 +93,7 @@ struct PlayingPieceTemplate {
     Box lblWatermark;
 };
 
-/// A user-designed back, drawn lying on its side.
+/// A user-designed back, in landscape format.
 struct NewBackTemplate {
     explicit NewBackTemplate(int scale);
 
@@ -103,7 +104,7 @@ struct NewBackTemplate {
     static constexpr QPoint TitleCentre = {128, 76};
 };
 
-/// All of them, at the scale of the surfaces they are composed on.
+/// All templates, with surfaces of the same scale.
 struct CardTemplates {
     explicit CardTemplates(int scale);
 
@@ -113,7 +114,6 @@ struct CardTemplates {
     PlayingPieceTemplate PlayingPiece;
     NewBackTemplate NewBack;
 
-    /// The version marks of all kinds, in this order.
     [[nodiscard]] std::array<Box*, 5> lblWatermark();
 };
 

@@ -2,9 +2,9 @@
 
 #include "compose/CharacterCard.h"
 
-#include "compose/Attempt.h"
 #include "compose/CardPainting.h"
 #include "compose/FontScheme.h"
+#include "compose/IgnoreFailure.h"
 #include "core/Vocabulary.h"
 #include "imaging/modRotatePic.h"
 
@@ -25,7 +25,7 @@ void PlaceFrame(ShowRun& run, CharacterTemplate& t, const Character& character)
     run([&] { t.picFrameCharacter.SetWidth(character.FrameHeight); });
 }
 
-/// The text column stands at the right of the handle; where no room is left a box keeps its width.
+/// Places the texts at the right of the handle. A box without room keeps its width.
 void PlaceTexts(CharacterTemplate& t)
 {
     const int left = t.lblPicSizeCharacter.Left + t.lblPicSizeCharacter.Width + 1;
@@ -34,7 +34,7 @@ void PlaceTexts(CharacterTemplate& t)
     t.lblAlignment.Left = t.lblAlignmentTitle.Left + t.lblAlignmentTitle.Width;
     t.lblStart.Left = t.lblStartTitle.Left + t.lblStartTitle.Width;
     for (Box* label : {&t.lblAlignment, &t.lblStart, &t.lblSpecialTitle, &t.lblSpecial})
-        Attempt([&] { label->SetWidth(TextRight - label->Left); });
+        IgnoreFailure([&] { label->SetWidth(TextRight - label->Left); });
 }
 
 void ShowTexts(Workshop& workshop, const Character& character, int16 index)
@@ -47,12 +47,7 @@ void ShowTexts(Workshop& workshop, const Character& character, int16 index)
     t.lblAutonumberCharacter.Caption = QString::number(index);
 }
 
-void PlacePiece(PlayingPieceTemplate& t, const Character& character)
-{
-    t.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft, character.PlayingPieceTop);
-}
-
-/// A back that the list has not is the first.
+/// The first back if the index is not in the list.
 Picture BackOf(Workshop& workshop, const Character& character)
 {
     if (character.CardBack == UserDefinedCharacterBack)
@@ -65,12 +60,12 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
 {
     CardTemplate& standard = workshop.Templates.Standard;
     CharacterTemplate& t = workshop.Templates.Character;
-    run.LoadsFor(standard.picImage, character.Picture);
+    run.ReportMissingOn(standard.picImage, character.Picture);
     LoadFramedPicture(run, workshop, t.picImageCharacter, character.Picture);
     t.picImageCharacter.MoveToTwips(character.PictureLeft, character.PictureTop);
 
-    // Back and piece are told as a missing background, too.
-    run.LoadsFor(standard.picCard, character.Background, "Missing background.");
+    // Kept: a missing back or playing piece is reported as a missing background, too.
+    run.ReportMissingOn(standard.picCard, character.Background, "Missing background.");
     run([&] {
         t.picBackgroundChar.Surface->SetPicture(workshop.Pictures.LoadPicture(character.Background));
     });
@@ -78,7 +73,7 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
     run([&] { t.picCharacterBack.Surface->SetPicture(BackOf(workshop, character)); });
     PlayingPieceTemplate& piece = workshop.Templates.PlayingPiece;
     LoadFramedPicture(run, workshop, piece.picPlayingPieceImage, character.PlayingPiece);
-    PlacePiece(piece, character);
+    piece.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft, character.PlayingPieceTop);
     piece.lblPlayingPieceName.Caption = character.Name;
 }
 
@@ -100,13 +95,6 @@ QString AttributeText(const QString& word, const QString& value)
     return value.startsWith(QLatin1Char('+')) ? word + value : word + QLatin1Char(' ') + value;
 }
 
-void DrawCharAttributes(Workshop& workshop, const Character& character)
-{
-    int index = 0;
-    for (const auto attribute : CharacterAttributes)
-        DrawCharAttribute(workshop, index++, character.*attribute);
-}
-
 // Composition of the card
 
 void PaintPictures(Workshop& workshop, const Character& character, QPoint panel)
@@ -123,7 +111,7 @@ void PaintPictures(Workshop& workshop, const Character& character, QPoint panel)
     PaintSymbol(workshop, t.picSymbolCharacter, panel);
 }
 
-/// A title and what stands behind it, each at the left of its box.
+/// Prints a title and its value, each at the left of its box.
 void PrintPair(PictureBox& surface, QPoint panel, const Box& title, const Box& box, const QString& text)
 {
     PrintAt(surface, title.Left + panel.x(), title.Top + panel.y(), title.Caption);
@@ -191,8 +179,8 @@ void DrawPlayingPiece(Workshop& workshop, int16 index, CarriedPens& pens)
                       PiecePicture(t, workshop.Set.Characters[index]));
     const QRect cutLine = t.CutLine.Place();
     picACardPP.LineBox(cutLine.left(), cutLine.top(), cutLine.right(), cutLine.bottom());
-    // Kept: the piece's font is set on the card surface, not on the piece's own. The name below is printed in
-    // the font of the last watermark, and the outline of the next card has this colour.
+    // Kept: sets the piece's font on the card surface instead of picACardPP. So the name is printed in the
+    // font of the version mark before it, and the outline of the next card has the colour of this font.
     UseFont(workshop.Surfaces.picACard, workshop.Set.Header.FontPlayingPiece);
     PrintCentred(picACardPP, t.lblPlayingPieceName, t.lblPlayingPieceName.Caption);
     PrintWatermark(picACardPP, t.lblWatermark);
@@ -210,7 +198,8 @@ CompositionFailure ShowCharacter(Workshop& workshop, int16 index)
         PlaceFrame(run, t, character);
         ShowPictureFrame(t, character.ShowPicture);
         LoadPictures(run, workshop, character);
-        DrawCharAttributes(workshop, character);
+        for (int i = 0; const auto attribute : CharacterAttributes)
+            DrawCharAttribute(workshop, i++, character.*attribute);
         DrawCharacterCard(workshop, index, workshop.Carried.Card);
         DrawPlayingPiece(workshop, index, workshop.Carried);
     });
@@ -230,7 +219,9 @@ void PlaceCharacterPicture(Workshop& workshop, int16 index)
 
 void PlacePlayingPiecePicture(Workshop& workshop, int16 index)
 {
-    PlacePiece(workshop.Templates.PlayingPiece, workshop.Set.Characters[index]);
+    const Character& character = workshop.Set.Characters[index];
+    workshop.Templates.PlayingPiece.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft,
+                                                                     character.PlayingPieceTop);
 }
 
 void PlaceHandle(CharacterTemplate& t, int left)

@@ -6,31 +6,30 @@
 
 namespace deckforge {
 
-/// Lays the character out on its previews, and composes its card on picACard and its playing piece on
-/// picACardPP.
+/// Lays out the previews of the character, and composes its card on picACard and its playing piece on
+/// picACardPP. Returns a failure other than a missing file; the card is then not composed.
 ///
-/// Missing files are reported on the boxes of the standard card, which also lose their pictures; the
-/// character's own boxes keep what they showed. Any other failure is returned and leaves the routine before
-/// the card is composed.
+/// Kept: missing files are reported on the boxes of the standard card, which lose their pictures. The
+/// character's own boxes keep theirs.
 [[nodiscard]] CompositionFailure ShowCharacter(Workshop& workshop, int16 index);
 
-/// Lays out again the frame and the text beside it; the picture is not loaded anew.
+/// Updates the positions of frame, picture and texts without loading the picture again.
 void PlaceCharacterPicture(Workshop& workshop, int16 index);
 
-/// Lays out again only the picture of the playing piece.
+/// Updates the position of the playing piece's picture.
 void PlacePlayingPiecePicture(Workshop& workshop, int16 index);
 
-/// Ends the frame where its handle now is, and lays the text out beside it.
+/// Moves the handle, and with it the right edge of the frame and the texts beside it.
 void PlaceHandle(CharacterTemplate& t, int left);
 
-/// Shows or hides frame and handle, and lays the text beside them out.
+/// Shows or hides frame and handle, and moves the texts beside them.
 void ShowPictureFrame(CharacterTemplate& t, bool visible);
 
-/// Draws one attribute, from 0 strength, craft, gold, lives, on its side into its strip of the preview. "---"
-/// gives the word alone; a value without "+" is set off by a blank.
+/// Draws an attribute (0 to 3: strength, craft, gold, lives) rotated into its strip of the preview: "CRAFT
+/// 3", "CRAFT+1", or "CRAFT" for "---".
 void DrawCharAttribute(Workshop& workshop, int index, const QString& value);
 
-/// "(100W*220H)": the frame's size.
+/// "(100W*220H)"
 [[nodiscard]] QString CharacterFrameSizeText(const Box& frame);
 
 } // namespace deckforge

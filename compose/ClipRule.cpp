@@ -11,7 +11,7 @@ namespace deckforge {
 
 namespace {
 
-/// The rule along one axis; it is the same along both.
+/// The rule along one axis.
 struct AxisClip {
     int Source;
     int Target;

@@ -9,26 +9,26 @@
 
 namespace deckforge {
 
-/// A picture behind a frame. Pixels; the offsets in twips as the record has them.
+/// A picture behind a frame. Sizes are in pixels, offsets in twips.
 struct ClipInput {
     QSize Frame;
     QSize Picture;
     double PictureLeft = 0;
     double PictureTop = 0;
-    int FrameInset = 0;          ///< 1 where an outline is drawn: the picture then starts inside it
-    bool FrameHugsWidth = false; ///< the frame has moved in the picture's stead along this axis
+    int FrameInset = 0;          ///< 1 if the frame has an outline, which the picture must not cover
+    bool FrameHugsWidth = false; ///< the frame is as wide as the picture and moves in its place
     bool FrameHugsHeight = false;
 };
 
-/// What is copied: the source in pixels of the picture, the target from the frame's corner.
+/// The source rectangle in the picture, and its target relative to the frame's corner.
 struct Clip {
     QRect Source;
     QPoint Target;
 };
 
-/// The part of a picture that its frame shows. A picture is never scaled: the frame is a clip window, and the
-/// picture moves behind it. The source may reach past the picture's right and bottom edge, where there is
-/// nothing to copy. Nothing when the frame shows none of it; error 6 for an offset past 16 bits of pixels.
+/// The part of a picture that its frame shows; nothing if it shows none. The picture moves behind the frame
+/// and is never scaled. The source may extend past the picture's right and bottom edge. Error 6 for an offset
+/// past 16 bits of pixels.
 ///
 ///      frame                       negative offset: the source starts inside the picture
 ///     +--------------+             positive offset: the target starts inside the frame

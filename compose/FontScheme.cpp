@@ -2,7 +2,7 @@
 
 #include "compose/FontScheme.h"
 
-#include "compose/Attempt.h"
+#include "compose/IgnoreFailure.h"
 
 namespace deckforge {
 
@@ -28,10 +28,10 @@ std::vector<LabelFont> LabelFonts(CardTemplate& card)
 
 void UseFont(PictureBox& surface, const FontSpec& font)
 {
-    Attempt([&] { surface.SetFontName(font.Name); });
+    IgnoreFailure([&] { surface.SetFontName(font.Name); });
     surface.SetFontBold(font.Bold);
     surface.SetFontItalic(font.Italic);
-    Attempt([&] { surface.SetFontSize(font.Size); });
+    IgnoreFailure([&] { surface.SetFontSize(font.Size); });
     surface.ForeColor = font.Color;
 }
 
@@ -66,7 +66,7 @@ void SetFont(CardTemplates& templates, const SetHeader& header)
         row.Label->Font = header.*row.Font;
 }
 
-void DressOpenedSet(CardTemplate& card, const SetHeader& header)
+void ApplyOpenedSetFonts(CardTemplate& card, const SetHeader& header)
 {
     for (const LabelFont& row : LabelFonts(card)) {
         if (row.Label != &card.lblType[2] && row.Label != &card.lblType[3])

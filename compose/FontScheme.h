@@ -9,28 +9,28 @@
 
 namespace deckforge {
 
-/// Dresses a work surface in a font of the scheme, colour included. A value that no font can have is passed
-/// over, and the surface keeps what it had of it.
+/// Sets font and text colour of a surface. Invalid names and sizes are ignored.
 void UseFont(PictureBox& surface, const FontSpec& font);
 
 /// How many clicks on a label open the font dialog.
 enum class FontClicks { None, One, Two };
 
-/// A label with the font of the set that it is dressed in.
+/// A label and its font of the set.
 struct LabelFont {
     Box* Label;
     FontSpec SetHeader::*Font;
-    FontClicks Opens;
+    FontClicks Clicks;
 };
 
-/// The labels of all templates that have a font of the scheme. Those of the standard card ask for two clicks.
+/// All labels with a font of the set.
 [[nodiscard]] std::vector<LabelFont> LabelFonts(CardTemplates& templates);
 
-/// Dresses all labels of the previews from the thirteen fonts.
+/// Applies the thirteen fonts to the labels of all templates.
 void SetFont(CardTemplates& templates, const SetHeader& header);
 
-/// What an opened set dresses: the labels of the standard card, but lblType(2) and lblType(3), which keep
+/// Applies the fonts of an opened set.
+/// Kept: only to the labels of the standard card without lblType(2) and lblType(3). The other labels keep
 /// their fonts until SetFont.
-void DressOpenedSet(CardTemplate& card, const SetHeader& header);
+void ApplyOpenedSetFonts(CardTemplate& card, const SetHeader& header);
 
 } // namespace deckforge

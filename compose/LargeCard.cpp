@@ -2,9 +2,9 @@
 
 #include "compose/LargeCard.h"
 
-#include "compose/Attempt.h"
 #include "compose/CardPainting.h"
 #include "compose/FontScheme.h"
+#include "compose/IgnoreFailure.h"
 #include "platform/Twips.h"
 
 namespace deckforge {
@@ -16,7 +16,6 @@ constexpr int FrameHeight = 238;
 constexpr int HandleLeftWithoutPicture = 5;
 constexpr int TextRight = 296;
 
-/// The picture of the back where the card names none.
 constexpr int DefaultBack = 3;
 
 // Preview
@@ -34,16 +33,16 @@ int HandleLeftAtFrame(const LargeCardTemplate& t)
     return t.picFrameLarge.Left + t.picFrameLarge.Width;
 }
 
-/// Title and information stand at the right of the handle; where no room is left a box keeps its width.
+/// Places title and information at the right of the handle. A box without room keeps its width.
 void PlaceTexts(LargeCardTemplate& t)
 {
     for (Box* label : {&t.lblTitleLarge, &t.lblInformationLarge}) {
         label->Left = t.lblPicSizeLarge.Left + t.lblPicSizeLarge.Width;
-        Attempt([&] { label->SetWidth(TextRight - label->Left); });
+        IgnoreFailure([&] { label->SetWidth(TextRight - label->Left); });
     }
 }
 
-/// With Resize it is the frame that goes up and down, and it is as high as the picture.
+/// With Resize the frame is as high as the picture and moves up and down in its place.
 void PlacePictureInFrame(LargeCardTemplate& t, const LargeCard& card)
 {
     if (card.Resize) {
@@ -61,15 +60,15 @@ void LoadPictures(ShowRun& run, Workshop& workshop, const LargeCard& card)
 {
     CardTemplate& standard = workshop.Templates.Standard;
     LargeCardTemplate& t = workshop.Templates.Large;
-    run.LoadsFor(standard.picImage, card.Picture);
+    run.ReportMissingOn(standard.picImage, card.Picture);
     LoadFramedPicture(run, workshop, t.picImageLarge, card.Picture);
     PlacePictureInFrame(t, card);
 
-    run.LoadsFor(standard.picCard, card.Background);
+    run.ReportMissingOn(standard.picCard, card.Background);
     run([&] { t.picCardLarge.Surface->SetPicture(workshop.Pictures.LoadPicture(card.Background)); });
     t.picCardLarge.Surface->SetBackColor(card.Color);
 
-    run.LoadsFor(standard.picBack, card.CardBack);
+    run.ReportMissingOn(standard.picBack, card.CardBack);
     run([&] {
         t.picBackLarge.Surface->SetPicture(card.CardBack.isEmpty()
                                                ? workshop.Art.imgChB(DefaultBack)
@@ -87,17 +86,17 @@ void PrintTexts(Workshop& workshop, const LargeCard& card, int16 index)
     UseFont(picACard, header.FontTitleLarge);
     PrintWrapped(picACard, t.lblTitleLarge, card.Title, LineForm::Centred);
     UseFont(picACard, header.FontInformationLarge);
-    // From the top of its box, also where the title takes more lines than it has room for.
+    // Kept: always at the top of its box, even if a long title overlaps it.
     PrintWrapped(picACard, t.lblInformationLarge, card.Info);
     if (header.Autonumber) {
         UseFont(picACard, header.FontAutonumber);
-        // At the height of the standard card's number, a pixel above the large card's own box.
+        // Kept: at the height of the standard card's number, a pixel above the large card's own box.
         PrintIndex(picACard, t.lblAutonumberLarge.Left, workshop.Templates.Standard.lblAutonumber.Top, index);
     }
     PrintWatermark(picACard, t.lblWatermark);
 }
 
-/// Composes the card from the places of the boxes. Never fails: a step that does is passed over.
+/// Composes the card at the positions of the boxes. Steps that fail are skipped.
 void DrawLargeCard(Workshop& workshop, int16 index, FontSpec& pen)
 {
     const LargeCardTemplate& t = workshop.Templates.Large;

@@ -6,20 +6,20 @@
 
 namespace deckforge {
 
-/// Lays the large card out on its preview, and composes it on picACard.
+/// Lays out the preview of the large card, and composes the card on picACard. Returns a failure other than a
+/// missing file; the card is then not composed.
 ///
-/// Missing files are reported on the boxes of the standard card, which also lose their pictures; the large
-/// card's own boxes keep what they showed. Any other failure is returned and leaves the routine before the
-/// card is composed.
+/// Kept: missing files are reported on the boxes of the standard card, which lose their pictures. The large
+/// card's own boxes keep theirs.
 [[nodiscard]] CompositionFailure ShowLargeCard(Workshop& workshop, int16 index);
 
-/// Lays out again only the frame; the picture is not loaded anew.
+/// Updates the positions of frame and picture without loading the picture again.
 void PlaceLargePicture(Workshop& workshop, int16 index);
 
-/// Ends the frame where its handle now is, and lays the texts out beside it.
+/// Moves the handle, and with it the right edge of the frame and the texts beside it.
 void PlaceHandle(LargeCardTemplate& t, int left);
 
-/// Shows or hides the picture with its frame and handle; without them the texts take their room.
+/// Shows or hides the picture with frame and handle; without them the texts use the space.
 void ShowPictureFrame(LargeCardTemplate& t, bool visible);
 
 } // namespace deckforge

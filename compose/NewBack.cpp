@@ -16,7 +16,7 @@ namespace {
 
 constexpr QPoint InnerSeed = {50, 50};
 constexpr QPoint OuterSeed = {1, 1};
-/// A point in each piece of the ornament.
+/// A point in each part of the ornament.
 constexpr std::array<QPoint, 18> FrameSeeds = {{{17, 15},
                                                 {54, 13},
                                                 {88, 13},
@@ -42,20 +42,10 @@ void Fill(PictureBox& surface, QPoint seed, Colour newColour, Colour oldColour)
     surface.ExtFloodFill(seed.x(), seed.y(), oldColour);
 }
 
-void FillBackInner(PictureBox& picNewBack, Colour newColour, Colour oldColour)
-{
-    Fill(picNewBack, InnerSeed, newColour, oldColour);
-}
-
-void FillBackFrame(PictureBox& picNewBack, Colour newColour, Colour oldColour)
+void FillFrame(PictureBox& picNewBack, Colour newColour, Colour oldColour)
 {
     for (const QPoint seed : FrameSeeds)
         Fill(picNewBack, seed, newColour, oldColour);
-}
-
-void FillBackOuter(PictureBox& picNewBack, Colour newColour, Colour oldColour)
-{
-    Fill(picNewBack, OuterSeed, newColour, oldColour);
 }
 
 Colour RandomColour()
@@ -66,8 +56,8 @@ Colour RandomColour()
     return channel() << 16 | green << 8 | red;
 }
 
-/// Colours that no region has before its turn to be filled: margin and ornament are both white in the
-/// template, and the user may pick equal colours.
+/// Colours that tell the regions apart while they are filled: margin and ornament are both white in the
+/// template, and the user may choose equal colours.
 struct TemporaryColours {
     Colour Inner = RandomColour();
     Colour Outer = RandomColour();
@@ -79,27 +69,20 @@ struct TemporaryColours {
     }
 };
 
-TemporaryColours UsableColours()
-{
-    TemporaryColours colours;
-    while (!colours.AreUsable())
-        colours = {};
-    return colours;
-}
-
-/// In two passes: each fill of the second replaces exactly one temporary colour.
+/// Fills in two passes: each fill of the second pass replaces exactly one temporary colour.
 void ColourTemplate(PictureBox& picNewBack, const NewCardBack& back)
 {
-    const TemporaryColours temporary = UsableColours();
-    FillBackOuter(picNewBack, temporary.Outer, White);
-    FillBackInner(picNewBack, temporary.Inner, Black);
-    FillBackFrame(picNewBack, temporary.Frame, White);
-    FillBackOuter(picNewBack, back.BackColor, temporary.Outer);
-    FillBackInner(picNewBack, back.InnerColor, temporary.Inner);
-    FillBackFrame(picNewBack, back.FrameColor, temporary.Frame);
+    TemporaryColours temporary;
+    while (!temporary.AreUsable())
+        temporary = {};
+    Fill(picNewBack, OuterSeed, temporary.Outer, White);
+    Fill(picNewBack, InnerSeed, temporary.Inner, Black);
+    FillFrame(picNewBack, temporary.Frame, White);
+    Fill(picNewBack, OuterSeed, back.BackColor, temporary.Outer);
+    Fill(picNewBack, InnerSeed, back.InnerColor, temporary.Inner);
+    FillFrame(picNewBack, back.FrameColor, temporary.Frame);
 }
 
-/// The label is as large as its text.
 void SizeBackTitle(Box& lblBackTitle, const PictureBox& measure)
 {
     double width = 0;
@@ -115,7 +98,7 @@ void CenterBackTitle(Box& lblBackTitle)
     lblBackTitle.Top = ToInt16(NewBackTemplate::TitleCentre.y() - lblBackTitle.Height / 2.0);
 }
 
-/// In a text of several lines a "|" that the user typed breaks a line as well; in one line it is printed.
+/// Kept: in a text of several lines "|" breaks a line as well; in a single line it is printed.
 QStringList BackLines(QString text)
 {
     const QString lineBreak = QStringLiteral("\r\n");

@@ -6,14 +6,13 @@
 
 namespace deckforge {
 
-// A back that the user designs: a text on a picture, or on a template that is coloured by flood fill.
-// Designed lying on its side, used upright.
+// A back that the user designs: a text on a picture, or on a template coloured by flood fill. It is designed
+// in landscape format and used upright.
 
-/// Builds the design on picNewBack and lays its title out. No failure is told or passed over here: a missing
-/// picture is the caller's, and the remaining steps do not run.
+/// Draws the design on picNewBack and lays out its title. Failures are thrown, including a missing picture.
 void ShowNewCardBack(Workshop& workshop, int16 index);
 
-/// Composes the back from the design, and turns it upright into picACard. Runs before an image is made.
+/// Composes the back from the design and rotates it into picACard. Call after ShowNewCardBack.
 void DrawNewCardBack(Workshop& workshop, int16 index);
 
 } // namespace deckforge

@@ -16,13 +16,13 @@ namespace {
 /// A picture with its frame and the offsets of the record.
 struct PictureRow {
     const Box& Frame;
-    const Box& Measured; ///< the picture by whose size End and Page Down go
+    const Box& Measured; ///< the picture whose size End and Page Down use
     double& Left;
     double& Top;
     void (*Place)(Workshop&, int16);
     int16 Index;
 
-    void PlaceIt(Workshop& workshop) const { Place(workshop, Index); }
+    void Apply(Workshop& workshop) const { Place(workshop, Index); }
 };
 
 PictureRow RowOf(Workshop& workshop, PlacedPicture which)
@@ -37,7 +37,7 @@ PictureRow RowOf(Workshop& workshop, PlacedPicture which)
     }
     case PlacedPicture::Large: {
         LargeCard& card = set.LargeCards[set.LargeCards.Current];
-        // Its edges are found by the size of the standard card's picture, as they always were.
+        // Kept: End and Page Down use the size of the standard card's picture.
         return {t.Large.picFrameLarge, t.Standard.picImage, card.PictureLeft,
                 card.PictureTop,       &PlaceLargePicture,  set.LargeCards.Current};
     }
@@ -55,19 +55,19 @@ PictureRow RowOf(Workshop& workshop, PlacedPicture which)
             &PlacePlayingPiecePicture,           set.Characters.Current};
 }
 
-/// How far the handle of a kind goes, in pixels of the card.
+/// The range of a handle in pixels of the card.
 struct HandleRange {
-    int Least;
-    int Most;
+    int Min;
+    int Max;
 };
 
 constexpr HandleRange StandardHandle = {60, 208};
 constexpr HandleRange LargeHandle = {30, 180};
 constexpr HandleRange CharacterHandle = {15, 154};
 
-int Moved(int position, int pixels, HandleRange range)
+int Clamped(int position, int pixels, HandleRange range)
 {
-    return std::clamp(position + pixels, range.Least, range.Most);
+    return std::clamp(position + pixels, range.Min, range.Max);
 }
 
 void MoveStandardHandle(Workshop& workshop, int top)
@@ -84,7 +84,7 @@ void MovePicture(Workshop& workshop, PlacedPicture which, double right, double d
     const PictureRow row = RowOf(workshop, which);
     row.Left += right;
     row.Top += down;
-    row.PlaceIt(workshop);
+    row.Apply(workshop);
 }
 
 void MovePictureByKey(Workshop& workshop, PlacedPicture which, Qt::Key key)
@@ -118,7 +118,7 @@ void MovePictureByKey(Workshop& workshop, PlacedPicture which, Qt::Key key)
     default:
         break;
     }
-    row.PlaceIt(workshop);
+    row.Apply(workshop);
 }
 
 void MoveHandle(Workshop& workshop, PlacedPicture which, int pixels)
@@ -127,14 +127,14 @@ void MoveHandle(Workshop& workshop, PlacedPicture which, int pixels)
     CardSet& set = workshop.Set;
     switch (which) {
     case PlacedPicture::Standard:
-        MoveStandardHandle(workshop, Moved(t.Standard.lblPicSize.Top, pixels, StandardHandle));
+        MoveStandardHandle(workshop, Clamped(t.Standard.lblPicSize.Top, pixels, StandardHandle));
         break;
     case PlacedPicture::Large:
-        PlaceHandle(t.Large, Moved(t.Large.lblPicSizeLarge.Left, pixels, LargeHandle));
+        PlaceHandle(t.Large, Clamped(t.Large.lblPicSizeLarge.Left, pixels, LargeHandle));
         set.LargeCards[set.LargeCards.Current].FrameHeight = static_cast<int16>(t.Large.picFrameLarge.Width);
         break;
     case PlacedPicture::Character:
-        PlaceHandle(t.Character, Moved(t.Character.lblPicSizeCharacter.Left, pixels, CharacterHandle));
+        PlaceHandle(t.Character, Clamped(t.Character.lblPicSizeCharacter.Left, pixels, CharacterHandle));
         set.Characters[set.Characters.Current].FrameHeight =
             static_cast<int16>(t.Character.picFrameCharacter.Width);
         break;
@@ -146,14 +146,14 @@ void MoveHandle(Workshop& workshop, PlacedPicture which, int pixels)
 void MoveHandleByKey(Workshop& workshop, Qt::Key key)
 {
     int top = workshop.Templates.Standard.lblPicSize.Top;
-    if (key == Qt::Key_Up && top > StandardHandle.Least)
+    if (key == Qt::Key_Up && top > StandardHandle.Min)
         --top;
-    else if (key == Qt::Key_Down && top < StandardHandle.Most)
+    else if (key == Qt::Key_Down && top < StandardHandle.Max)
         ++top;
     else if (key == Qt::Key_End)
-        top = StandardHandle.Most;
+        top = StandardHandle.Max;
     else if (key == Qt::Key_Home)
-        top = StandardHandle.Least;
+        top = StandardHandle.Min;
     MoveStandardHandle(workshop, top);
 }
 

@@ -15,13 +15,13 @@ std::vector<PreviewBox> PreviewBoxes(const CardTemplate& card)
         {&card.lblType[3], picCard, BoxLook::Label},
         {&card.lblNumber, picCard, BoxLook::Label},
         {&card.lblTitle, picCard, BoxLook::Label},
-        {&card.lblPicSize, picCard, BoxLook::Label, Grip::UpDown},
+        {&card.lblPicSize, picCard, BoxLook::Label, DragAxis::UpDown},
         {&card.lblBold, picCard, BoxLook::Label},
         {&card.lblInformation, picCard, BoxLook::Label},
         {&card.lblAutonumber, picCard, BoxLook::Label},
         {&card.lblWatermark, picCard, BoxLook::Label},
         {&card.picFrame, picCard, BoxLook::Frame},
-        {&card.picImage, &card.picFrame, BoxLook::Picture, Grip::All},
+        {&card.picImage, &card.picFrame, BoxLook::Picture, DragAxis::All},
         {&card.picArtistDest, picCard, BoxLook::Surface},
         {&card.picSymbol, picCard, BoxLook::Surface},
         {&card.picBack, nullptr, BoxLook::Surface},
@@ -33,13 +33,13 @@ std::vector<PreviewBox> PreviewBoxes(const LargeCardTemplate& card)
     const Box* const picCardLarge = &card.picCardLarge;
     return {
         {picCardLarge, nullptr, BoxLook::Surface},
-        {&card.lblPicSizeLarge, picCardLarge, BoxLook::Label, Grip::LeftRight},
+        {&card.lblPicSizeLarge, picCardLarge, BoxLook::Label, DragAxis::LeftRight},
         {&card.lblTitleLarge, picCardLarge, BoxLook::Label},
         {&card.lblInformationLarge, picCardLarge, BoxLook::Label},
         {&card.lblAutonumberLarge, picCardLarge, BoxLook::Label},
         {&card.lblWatermark, picCardLarge, BoxLook::Label},
         {&card.picFrameLarge, picCardLarge, BoxLook::Frame},
-        {&card.picImageLarge, &card.picFrameLarge, BoxLook::Picture, Grip::All},
+        {&card.picImageLarge, &card.picFrameLarge, BoxLook::Picture, DragAxis::All},
         {&card.picSymbolLarge, picCardLarge, BoxLook::Surface},
         {&card.picBackLarge, nullptr, BoxLook::Surface},
     };
@@ -58,13 +58,13 @@ std::vector<PreviewBox> PreviewBoxes(const CharacterTemplate& card)
     for (const Box& strip : card.picCharAttrDisp)
         boxes.push_back({&strip, picCharacter, BoxLook::Surface});
     boxes.push_back({panel, picCharacter, BoxLook::Surface});
-    boxes.push_back({&card.lblPicSizeCharacter, panel, BoxLook::Label, Grip::LeftRight});
+    boxes.push_back({&card.lblPicSizeCharacter, panel, BoxLook::Label, DragAxis::LeftRight});
     for (const Box* label :
          {&card.lblAlignmentTitle, &card.lblAlignment, &card.lblStartTitle, &card.lblStart,
           &card.lblSpecialTitle, &card.lblSpecial, &card.lblAutonumberCharacter, &card.lblWatermark})
         boxes.push_back({label, panel, BoxLook::Label});
     boxes.push_back({&card.picFrameCharacter, panel, BoxLook::Frame});
-    boxes.push_back({&card.picImageCharacter, &card.picFrameCharacter, BoxLook::Picture, Grip::All});
+    boxes.push_back({&card.picImageCharacter, &card.picFrameCharacter, BoxLook::Picture, DragAxis::All});
     boxes.push_back({&card.picSymbolCharacter, panel, BoxLook::Surface});
     boxes.push_back({&card.picCharacterBack, nullptr, BoxLook::Surface});
     return boxes;
@@ -79,7 +79,7 @@ std::vector<PreviewBox> PreviewBoxes(const PlayingPieceTemplate& piece)
         {&piece.lblWatermark, picPlayingPiece, BoxLook::Label},
         {&piece.CutLine, picPlayingPiece, BoxLook::Outline},
         {&piece.picPlayingPieceFrame, picPlayingPiece, BoxLook::WhiteFrame},
-        {&piece.picPlayingPieceImage, &piece.picPlayingPieceFrame, BoxLook::Picture, Grip::All},
+        {&piece.picPlayingPieceImage, &piece.picPlayingPieceFrame, BoxLook::Picture, DragAxis::All},
     };
 }
 

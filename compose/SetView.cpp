@@ -11,7 +11,7 @@ namespace deckforge {
 
 namespace {
 
-/// A symbol and the card that it stands on: in the lower left or right corner, a margin away from the edges.
+/// A symbol in the lower left or right corner of its parent.
 struct SymbolPlace {
     Box& Symbol;
     const Box& Parent;
@@ -63,7 +63,7 @@ std::optional<RunTimeError> ShowSet(Workshop& workshop)
     CharacterTemplate& character = workshop.Templates.Character;
     PlaceSymbols(workshop.Templates, symbol,
                  {character.picSymbolCharacter, character.picBackgroundChar, true, SymbolMargin});
-    DressOpenedSet(card, workshop.Set.Header);
+    ApplyOpenedSetFonts(card, workshop.Set.Header);
     ShowNumbers(workshop);
     card.picBack.Visible = !workshop.Set.Header.NoBack;
     return failure;

@@ -6,28 +6,29 @@
 
 namespace deckforge {
 
-/// What failed while a set was shown; the rest of it is shown all the same.
+/// Failures while a set was shown. The rest of the set is shown nevertheless.
 struct ViewFailures {
-    std::optional<RunTimeError> Symbol; ///< it cannot be loaded, and the set goes without
+    std::optional<RunTimeError> Symbol; ///< why the symbol is not shown
     CompositionFailure FirstCard = {};
 };
 
-/// Makes the set a new one and shows its card: at the start of the program, and for a new set.
+/// Creates a new set and shows its card.
 [[nodiscard]] ViewFailures InitForm(Workshop& workshop);
 
-/// Applies what holds for the whole set to the previews: symbol, fonts, numbers, and whether backs are made.
-/// Returns why the symbol cannot be loaded; the set then goes without.
+/// Applies the settings of the set to the previews: symbol, fonts, numbers, visible backs. Returns why the
+/// symbol cannot be loaded.
 [[nodiscard]] std::optional<RunTimeError> ShowSet(Workshop& workshop);
 
-// The symbol as the user has just chosen or cleared it. On the character it lies elsewhere than when the set
-// is shown, and a cleared one stays there until a character is shown.
+// After the user chose or cleared the symbol.
+// Kept: on the character it is at another position than in ShowSet, and a cleared symbol stays there until
+// ShowSet.
 void ShowChosenSymbol(CardTemplates& templates, const Picture& symbol);
 void HideSymbol(CardTemplates& templates);
 
-/// Puts the numbers of the current cards on the previews, where the set wants them.
+/// Shows the numbers of the current cards on the previews, if the set has Autonumber.
 void ShowNumbers(Workshop& workshop);
 
-/// Brings the previews up to date with a set that has just been read, and makes the first cards current.
+/// Shows a set that was just read, with the first cards current.
 [[nodiscard]] ViewFailures ShowOpenedSet(Workshop& workshop);
 
 } // namespace deckforge

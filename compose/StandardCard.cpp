@@ -2,9 +2,9 @@
 
 #include "compose/StandardCard.h"
 
-#include "compose/Attempt.h"
 #include "compose/CardPainting.h"
 #include "compose/FontScheme.h"
+#include "compose/IgnoreFailure.h"
 #include "compose/TextFitting.h"
 #include "imaging/modRotatePic.h"
 #include "platform/Twips.h"
@@ -36,11 +36,11 @@ void ShowTypeLines(CardTemplate& t, const Card& card)
         t.lblType[0].Caption += card.SubType;
 }
 
-/// Where no room is left for the text its box keeps the height it had.
+/// Without room for the text its box keeps its height.
 void PlaceInformation(CardTemplate& t)
 {
     t.lblInformation.Top = t.lblBold.Top + t.lblBold.Height;
-    Attempt([&] { t.lblInformation.SetHeight(InformationBottom - t.lblInformation.Top); });
+    IgnoreFailure([&] { t.lblInformation.SetHeight(InformationBottom - t.lblInformation.Top); });
 }
 
 void ShowTexts(CardTemplate& t, const Card& card, int16 index)
@@ -70,7 +70,7 @@ void PlaceFrame(ShowRun& run, CardTemplate& t, const Card& card)
     PlaceTextsBelowHandle(t);
 }
 
-/// With Resize it is the frame that goes sideways, and it is as wide as the picture.
+/// With Resize the frame is as wide as the picture and moves sideways in its place.
 void PlacePictureInFrame(CardTemplate& t, const Card& card)
 {
     if (card.Resize) {
@@ -87,9 +87,9 @@ void PlacePictureInFrame(CardTemplate& t, const Card& card)
 void LoadBackground(ShowRun& run, Workshop& workshop, const Card& card)
 {
     Box& picCard = workshop.Templates.Standard.picCard;
-    run.LoadsFor(picCard, card.Background);
+    run.ReportMissingOn(picCard, card.Background);
     run([&] { picCard.Surface->SetPicture(workshop.Pictures.LoadPicture(card.Background)); });
-    picCard.Surface->SetBackColor(card.Color); // and so does this
+    picCard.Surface->SetBackColor(card.Color); // also removes an earlier message
 }
 
 void LoadBack(ShowRun& run, Workshop& workshop, Card& card)
@@ -98,11 +98,11 @@ void LoadBack(ShowRun& run, Workshop& workshop, Card& card)
     ReplaceUnknownBack(set, card);
     const CardBack& back = set.CardBacks[card.CardBack];
     Box& picBack = workshop.Templates.Standard.picBack;
-    run.LoadsFor(picBack, back.Picture);
+    run.ReportMissingOn(picBack, back.Picture);
     run([&] { picBack.Surface->SetPicture(PictureOfBack(workshop, card.CardBack)); });
 }
 
-/// Lays the card's own background pixels down on the strip for the credit, so that it has no bar of white.
+/// Copies the card's background to the strip of the credit, so that it has no white bar.
 void ReadArtistBackground(Workshop& workshop, int16 index)
 {
     const CardTemplate& t = workshop.Templates.Standard;
@@ -133,8 +133,7 @@ void PaintPictures(Workshop& workshop, const Card& card)
         picACard.PaintPicture(t.picArtistDest.Surface->Image(), t.picArtistDest.Left, t.picArtistDest.Top);
 }
 
-/// The one text that is centred by the width it has in another font, that of the preview's own surface. Cards
-/// made so far have their titles there.
+/// Kept: the title is centred by its width in the font of the preview's surface, not in its own font.
 void PrintTitle(Workshop& workshop, const Card& card)
 {
     const CardTemplate& t = workshop.Templates.Standard;
@@ -150,7 +149,7 @@ void PrintType(Workshop& workshop, const Card& card)
     PictureBox& picACard = workshop.Surfaces.picACard;
     UseFont(picACard, workshop.Set.Header.FontType);
     if (card.OneLine) {
-        // The composed line has the first part alone, and stands where its reversed twin would be centred.
+        // Kept: prints only the first part, at the position where the reversed text would be centred.
         const double width = picACard.TextWidth(card.TypeReversed);
         PrintAt(picACard, Centred(lblType[0], width), lblType[0].Top, card.Type);
         return;
@@ -185,7 +184,7 @@ void PrintTexts(Workshop& workshop, const Card& card, int16 index)
     PrintWatermark(picACard, t.lblWatermark);
 }
 
-/// Composes the card from the places of the boxes. Never fails: a step that does is passed over.
+/// Composes the card at the positions of the boxes. Steps that fail are skipped.
 void DrawCard(Workshop& workshop, int16 index, FontSpec& pen)
 {
     const Card& card = workshop.Set.Cards[index];
@@ -205,7 +204,7 @@ CompositionFailure ShowCard(Workshop& workshop, int16 index)
         Card& card = workshop.Set.Cards[index];
         ShowTexts(t, card, index);
         PlaceFrame(run, t, card);
-        run.LoadsFor(t.picImage, card.Picture);
+        run.ReportMissingOn(t.picImage, card.Picture);
         LoadFramedPicture(run, workshop, t.picImage, card.Picture);
         PlacePictureInFrame(t, card);
         LoadBackground(run, workshop, card);
@@ -273,7 +272,7 @@ void ShowPictureFrame(CardTemplate& t, bool visible)
 
 void DrawArtistCredit(Workshop& workshop, int16 index)
 {
-    constexpr int cutAbove = -2; // the strip is five pixels high: this and the strip cut the text to its core
+    constexpr int cutAbove = -2; // crops the text, with the strip's height of five pixels
     const QString& artist = workshop.Set.Cards[index].Artist;
     PictureBox& picArtist = workshop.Surfaces.picArtist;
     Box& picArtistDest = workshop.Templates.Standard.picArtistDest;

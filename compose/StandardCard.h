@@ -6,38 +6,38 @@
 
 namespace deckforge {
 
-/// Lays the card out on the preview, and composes it. A card back past the table becomes row 1 in the record.
-///
-/// Missing files are reported on the preview. Any other failure is returned and leaves the routine before the
-/// card is composed: the work surface keeps the card before it.
+/// Lays out the preview of the card, and composes the card on picACard. Missing files are reported on the
+/// preview. Returns any other failure; picACard then still has the card before.
+/// Kept: a card back that is not
+/// in the table becomes row 1 in the record.
 [[nodiscard]] CompositionFailure ShowCard(Workshop& workshop, int16 index);
 
-/// Lays out again only the frame and what follows it; the picture is not loaded anew.
+/// Updates the positions of frame, picture and texts without loading the picture again.
 void PlaceCardPicture(Workshop& workshop, int16 index);
 
-/// A back that is not in the table becomes the first, as showing the card does it.
+/// Replaces a back that is not in the table by row 1.
 void ReplaceUnknownBack(const CardSet& set, Card& card);
 
-/// The art of a built-in row of the table of backs, or the picture that the row names. A failure is thrown.
+/// The art of a built-in row of the table of backs, or the picture file of any other row.
 [[nodiscard]] Picture PictureOfBack(Workshop& workshop, int16 row);
 
-/// Puts the four parts of the type on their labels.
+/// Sets the four captions of the type.
 void ShowTypeNames(CardTemplate& card, const Card& record);
 
-/// Gives the bold line the height its caption needs, and the information what is left below it.
+/// Sizes the bold line for its caption, and the information to the space below.
 void PlaceBoldText(CardTemplate& card);
 
-/// Ends the frame where its handle now is, and moves the texts below it.
+/// Moves the handle, and with it the lower edge of the frame and the texts below.
 void PlaceHandle(CardTemplate& card, int top);
 
-/// Shows or hides the picture with its frame and handle; the texts move up to where the frame was.
+/// Shows or hides the picture with frame and handle; without them the texts use the space.
 void ShowPictureFrame(CardTemplate& card, bool visible);
 
-/// Draws the credit of the card on its side on the preview, over the card's own background; hides it when the
-/// card has no artist.
+/// Draws the rotated credit of the artist over the background on the preview; hides it if the card has no
+/// artist.
 void DrawArtistCredit(Workshop& workshop, int16 index);
 
-/// "139W * 105H": the frame's size.
+/// "139W * 105H"
 [[nodiscard]] QString FrameSizeText(const Box& frame);
 
 } // namespace deckforge

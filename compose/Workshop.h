@@ -13,38 +13,38 @@
 
 namespace deckforge {
 
-/// The hidden surfaces on which cards are composed. What one composition leaves on them, fonts and colours
-/// among it, is there for the next.
+/// The hidden surfaces on which cards are composed. Fonts and colours persist from one composition to the
+/// next.
 struct WorkSurfaces {
     explicit WorkSurfaces(int scale);
 
-    PictureBox picACard;         ///< standard, large and character cards, and the turned new back
+    PictureBox picACard;         ///< standard, large and character cards, and the rotated new back
     PictureBox picACardPP;       ///< the playing piece and the new back
-    Picture picWhite;            ///< all white; stretched over a frame it blanks it
-    PictureBox picArtist;        ///< the artist's credit before it is turned, 180 x 5
-    PictureBox picCharAttribute; ///< an attribute before it is turned, 52 x 12, black
-    PictureBox picDone;       ///< the final picture of a card with its outline and back, or a sheet of cards
-    PictureBox picLargeSheet; ///< the sheet of large cards being filled
-    PictureBox picStore;      ///< a large card with its back below it
+    Picture picWhite;            ///< white, for filling a frame
+    PictureBox picArtist;        ///< the artist's credit before rotation, 180 x 5
+    PictureBox picCharAttribute; ///< an attribute before rotation, 52 x 12, black
+    PictureBox picDone;          ///< a card with its outline and back, or a sheet of cards
+    PictureBox picLargeSheet;    ///< the sheet of large cards being filled
+    PictureBox picStore;         ///< a large card with its back below it
 };
 
-/// Font and colour that a composition leaves to the next one on the same surface.
+/// Font and colour that a composition leaves for the next one on the same surface.
 ///
-/// Kept: the outline of a picture has the colour of the text printed before it, and the name on a playing
-/// piece its font. Both come from the composition before.
+/// Kept: the outline of a picture has the colour, and the name on a playing piece the font, of the text
+/// printed last by the composition before.
 struct CarriedPens {
     FontSpec Card;  ///< on picACard
     FontSpec Piece; ///< on picACardPP
 };
 
-/// Where a run of card sheets stands.
+/// The state of a run of card sheets.
 struct SheetState {
     int16 SheetCols = 0;
     int16 SheetRows = 0;
     int16 SheetCol = 0; ///< the cell of the card being placed, from 1
     int16 SheetRow = 0;
-    bool SheetLast = false;    ///< set with the last copy of the last card, and never cleared again
-    QString Unwritten;         ///< path of the sheet that has cards and is not written yet; empty for none
+    bool SheetLast = false;    ///< Kept: set at the last copy of the last card and never cleared
+    QString Unwritten;         ///< path of a sheet with cards that is not written yet; empty if none
     int16 SheetCardHeight = 0; ///< of a cell, in pixels
     int16 SheetCardWidth = 0;
 };
@@ -54,13 +54,12 @@ using CompositionFailure = std::optional<RunTimeError>;
 
 /// A picture that a composition could not load, or another failure that ended it.
 struct PictureProblem {
-    QString Path; ///< empty where it is no picture that failed
+    QString Path; ///< empty for other failures
     QString Reason;
 };
 
-/// What every operation works on, with or without a window: the set, its templates and surfaces, and the art.
-///
-/// With a scale of n all surfaces are n times as fine; the cards are the same.
+/// The set with its templates, surfaces, art and pictures, with or without a window. Scale is the number of
+/// physical pixels per pixel of the surfaces.
 struct Workshop {
     explicit Workshop(int scale = 1);
 

@@ -11,8 +11,7 @@ namespace deckforge {
 /// The kinds of card, in the order of the window's tabs.
 enum class CardKind { Standard, Large, Character, NewBack };
 
-// A record type stands for its kind in templates.
-
+/// The kind of a record type.
 template <class Record>
 inline constexpr CardKind KindOf = CardKind::Standard;
 template <>
@@ -76,7 +75,7 @@ decltype(auto) WithListOf(Set& set, CardKind kind, Function&& function)
     return WithListOf(set, kind, [](const auto& list) { return list.Count(); });
 }
 
-/// The title or name of a record; empty where there is no such record.
+/// The title or name of a record; empty if the index is past the end of the list.
 [[nodiscard]] inline QString NameOf(const CardSet& set, CardKind kind, int16 index)
 {
     return WithListOf(set, kind, [&](const auto& list) {
@@ -85,7 +84,7 @@ decltype(auto) WithListOf(Set& set, CardKind kind, Function&& function)
     });
 }
 
-/// Index of the record of that kind which is being edited; 0 where there is none.
+/// Index of the record that is being edited; 0 if there is none.
 [[nodiscard]] inline int16& CurrentOf(CardSet& set, CardKind kind)
 {
     return WithListOf(set, kind, [](auto& list) -> int16& { return list.Current; });

@@ -10,10 +10,10 @@ namespace deckforge {
 template <class Record>
 class CardList : public OneBasedArray<Record> {
 public:
-    int16 Current = 0; ///< index of the record being edited; 0 where there is none
-    Record Clip;       ///< the copied record, which outlives the set it was copied from
+    int16 Current = 0; ///< index of the record being edited; 0 if there is none
+    Record Clip;       ///< the copied record, kept when another set is opened
 
-    /// Error 9 where there is none.
+    /// Error 9 if there is none.
     [[nodiscard]] Record& CurrentRecord()
     {
         if (Current < 1)

@@ -6,45 +6,10 @@ namespace deckforge {
 
 namespace {
 
-/// A set can name a back that its table has no row for.
+/// Empty if the card's back is not in the table.
 QString BackName(const CardSet& set, int16 row)
 {
     return row >= 0 && row <= set.CardBacks.Count() ? set.CardBacks[row].Name : QString();
-}
-
-QString LacksPicture(const QString& path)
-{
-    return path.isEmpty() ? QStringLiteral("Yes") : QStringLiteral("No");
-}
-
-QString TextOfCard(const CardSet& set, const Card& card, CardListColumn column)
-{
-    switch (column) {
-    case CardListColumn::Card:
-        return card.Title;
-    case CardListColumn::Type:
-        return card.SubType.isEmpty() ? card.Type : card.Type + QLatin1Char(' ') + card.SubType;
-    case CardListColumn::Back:
-        return BackName(set, card.CardBack);
-    case CardListColumn::Picture:
-        return LacksPicture(card.Picture);
-    }
-    return {};
-}
-
-QString TextOfCharacter(const Character& character, CardListColumn column)
-{
-    switch (column) {
-    case CardListColumn::Card:
-        return character.Name;
-    case CardListColumn::Type:
-        return {};
-    case CardListColumn::Back:
-        return character.CardBackPicture;
-    case CardListColumn::Picture:
-        return LacksPicture(character.Picture);
-    }
-    return {};
 }
 
 } // namespace
@@ -56,8 +21,20 @@ int16 CardListCount(const CardSet& set, CardKind kind)
 
 QString CardListText(const CardSet& set, CardKind kind, int16 index, CardListColumn column)
 {
-    return kind == CardKind::Standard ? TextOfCard(set, set.Cards[index], column)
-                                      : TextOfCharacter(set.Characters[index], column);
+    const bool isCard = kind == CardKind::Standard;
+    const Card& card = set.Cards[isCard ? index : 0]; // the element at 0 is empty
+    const Character& character = set.Characters[isCard ? 0 : index];
+    switch (column) {
+    case CardListColumn::Card:
+        return isCard ? card.Title : character.Name;
+    case CardListColumn::Type:
+        return card.SubType.isEmpty() ? card.Type : card.Type + QLatin1Char(' ') + card.SubType;
+    case CardListColumn::Back:
+        return isCard ? BackName(set, card.CardBack) : character.CardBackPicture;
+    case CardListColumn::Picture:
+        return (isCard ? card.Picture : character.Picture).isEmpty() ? "Yes" : "No";
+    }
+    return {};
 }
 
 } // namespace deckforge

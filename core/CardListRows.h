@@ -6,17 +6,17 @@
 
 namespace deckforge {
 
-/// The columns of the list.
 enum class CardListColumn { Card, Type, Back, Picture };
 inline constexpr int CardListColumnCount = 4;
 
-// The kind is that of the tab the list was opened from.
+// The card list shows the kind of the tab that it was opened from.
 
-/// How many records the list has. That of the large cards has the characters: players know it so.
+/// Number of rows.
+/// Kept: the list of large cards shows the characters.
 [[nodiscard]] int16 CardListCount(const CardSet& set, CardKind kind);
 
-/// What the list tells of a record. "No" under Picture stands for one that has a picture. Error 9 when there
-/// is no such record.
+/// The text of a cell. Error 9 if there is no such record.
+/// Kept: "No" in the column Picture means that the record has a picture.
 [[nodiscard]] QString CardListText(const CardSet& set, CardKind kind, int16 index, CardListColumn column);
 
 } // namespace deckforge

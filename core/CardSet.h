@@ -10,14 +10,14 @@
 
 namespace deckforge {
 
-/// The file that a set was read from or written to last, as it was then. Header.FileName is the path that
-/// this file holds: another one, if the file was copied or moved.
+/// The file that the set was last read from or written to, and its attributes at that time. Header.FileName
+/// is the path inside this file, which differs from Path if the file was copied or moved.
 struct SetFile {
     QString Path;
     FileAttributes Attributes;
 };
 
-/// What a new card takes.
+/// Values for the next new card.
 struct NewCardValues {
     QString LastType;
     QString LastTypeReversed;
@@ -30,14 +30,13 @@ struct NewCardValues {
     friend bool operator==(const NewCardValues&, const NewCardValues&) = default;
 };
 
-/// The one card set that a run of the program holds.
+/// A card set in memory.
 ///
-/// The two tables of vocabulary hold the built-in rows and behind them the set's own. There is at least one
-/// standard card, and Cards.Current is one of them; of the other kinds there may be none, and their current
-/// index is then 0.
+/// The tables of types and backs have the built-in rows first, then the set's own. There is always a current
+/// standard card. The other lists may be empty; their current index is then 0.
 struct CardSet : NewCardValues {
     SetHeader Header;
-    std::optional<SetFile> File; ///< nothing for a set that was not read or written yet
+    std::optional<SetFile> File; ///< nothing before the set is read or written
     OneBasedArray<CardType> CardTypes;
     OneBasedArray<CardBack> CardBacks;
 

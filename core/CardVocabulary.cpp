@@ -10,7 +10,7 @@ namespace deckforge {
 
 namespace {
 
-/// The row of the type that the list shows as the text; 0 for none.
+/// The row whose list entry is the text; 0 if there is none.
 int16 RowOfEntry(const CardSet& set, const QString& text)
 {
     for (int row = 1; row <= set.CardTypes.Count(); ++row) {
@@ -22,7 +22,7 @@ int16 RowOfEntry(const CardSet& set, const QString& text)
 
 } // namespace
 
-void TakeTypeTexts(Card& card, const CardType& type)
+void SetTypeTexts(Card& card, const CardType& type)
 {
     card.Type = type.Name;
     card.SubType = type.SubName;
@@ -34,7 +34,7 @@ void ChooseCardType(const CardSet& set, Card& card, int16 row)
 {
     const CardType& type = set.CardTypes[row];
     card.TypeIndex = row;
-    TakeTypeTexts(card, type);
+    SetTypeTexts(card, type);
     card.Number = type.Number < 0 ? QString() : QString::number(type.Number);
 }
 
@@ -44,7 +44,7 @@ bool TypeCardType(const CardSet& set, Card& card, const QString& text)
         ChooseCardType(set, card, row);
         return true;
     }
-    TakeTypeTexts(card, {.Name = text, .SubName = {}, .ReversedName = text, .ReversedSubName = {}});
+    SetTypeTexts(card, {.Name = text, .SubName = {}, .ReversedName = text, .ReversedSubName = {}});
     card.TypeIndex = -1;
     return false;
 }

@@ -6,21 +6,22 @@
 
 namespace deckforge {
 
-// How a card takes its type and its back from the tables of the set.
+// Choosing the type and the back of a card from the tables of the set.
 
-/// Gives the card the four texts of a type.
-void TakeTypeTexts(Card& card, const CardType& type);
+/// Copies the four texts of the type to the card.
+void SetTypeTexts(Card& card, const CardType& type);
 
-/// Gives the card a row of the table of types, with its number; a negative one is none. Error 9 when there is
-/// no such row.
+/// Sets the card's type and number from a row of the table of types. A negative number leaves the card's
+/// number empty. Error 9 if there is no such row.
 void ChooseCardType(const CardSet& set, Card& card, int16 row);
 
-/// Gives the card a type that was typed, and returns whether it is that of a row: one that is spelled like
-/// its entry in the list. Any other is the card's own, with the same text on both sides.
+/// Sets the card's type from text typed by the user. Returns true if the text equals a list entry, whose row
+/// is then chosen. Any other text becomes the type on both sides of the card.
 bool TypeCardType(const CardSet& set, Card& card, const QString& text);
 
-/// Adds a back of the user's own to the table, and gives its row. It is called like the file up to the first
-/// dot; without one error 5 leaves a row without a name. Error 6 past 32767 rows.
+/// Adds a user-defined back to the table and returns its row. Its name is the file name up to the first dot.
+/// Error 6 past 32,767 rows.
+/// Kept: a file name without a dot is error 5, after a row without a name was added.
 int16 AddCardBack(CardSet& set, const QString& picture);
 
 } // namespace deckforge

@@ -9,8 +9,8 @@
 
 namespace deckforge {
 
-/// A growable array that counts from 1. The element at index 0 exists and stays empty.
-/// Any index outside 0 to Count() is error 9; more than 32,767 elements are error 6.
+/// A growable array with indices from 1. The element at index 0 exists and stays empty. An index outside 0 to
+/// Count() is error 9, more than 32,767 elements are error 6.
 template <class Element>
 class OneBasedArray {
 public:
@@ -28,7 +28,7 @@ public:
         return m_elements.back();
     }
 
-    /// Keeps the elements up to the new count. A negative one is error 9.
+    /// Error 9 for a negative count.
     void Resize(int16 count)
     {
         if (count < 0)
@@ -38,7 +38,7 @@ public:
 
     void Clear() { m_elements.resize(1); }
 
-    /// Removes one element; those above it move down by one.
+    /// Removes one element; the elements behind it move down by one.
     void Remove(int index)
     {
         m_elements.erase(m_elements.begin() + static_cast<std::ptrdiff_t>(Checked(index)));

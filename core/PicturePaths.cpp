@@ -9,33 +9,30 @@ namespace deckforge {
 
 namespace {
 
-bool Always(const CardSet& /*set*/, int16 /*row*/)
-{
-    return true;
-}
-
-bool IsOwnBack(const CardSet& set, int16 row)
-{
-    return !set.CardBacks[row].BuiltIn;
-}
-
 template <class Record>
-PathField FieldOf(const char* caption, QString& (*path)(CardSet&, int16),
-                  bool (*isListed)(const CardSet&, int16) = Always)
+std::vector<int16> RowsOf(const CardSet& set)
 {
-    return {.Caption = caption,
-            .Count = [](const CardSet& set) { return ListOf<Record>(set).Count(); },
-            .IsListed = isListed,
-            .Title = [](const CardSet& set, int16 row) -> const QString& {
-                return ListOf<Record>(set)[row].*NameField<Record>;
-            },
-            .Path = path};
+    std::vector<int16> rows;
+    const OneBasedArray<Record>& list = ListOf<Record>(set);
+    for (int row = 1; row <= list.Count(); ++row) {
+        if constexpr (std::is_same_v<Record, CardBack>) {
+            if (list[row].BuiltIn)
+                continue;
+        }
+        rows.push_back(static_cast<int16>(row));
+    }
+    return rows;
 }
 
 template <class Record, QString Record::*Field>
-QString& PathOf(CardSet& set, int16 row)
+PathField FieldOf(const char* caption)
 {
-    return ListOf<Record>(set)[row].*Field;
+    return {.Caption = caption,
+            .Rows = RowsOf<Record>,
+            .Title = [](const CardSet& set, int16 row) -> const QString& {
+                return ListOf<Record>(set)[row].*NameField<Record>;
+            },
+            .Path = [](CardSet& set, int16 row) -> QString& { return ListOf<Record>(set)[row].*Field; }};
 }
 
 } // namespace
@@ -43,25 +40,15 @@ QString& PathOf(CardSet& set, int16 row)
 const std::vector<PathField>& PathFields()
 {
     static const std::vector<PathField> fields = {
-        FieldOf<Card>("Card", PathOf<Card, &Card::Picture>),
-        FieldOf<LargeCard>("Large Card", PathOf<LargeCard, &LargeCard::Picture>),
-        FieldOf<Character>("Character", PathOf<Character, &Character::Picture>),
-        FieldOf<CardBack>("Card Back", PathOf<CardBack, &CardBack::Picture>, IsOwnBack),
-        FieldOf<Character>("Playing Piece", PathOf<Character, &Character::PlayingPiece>),
-        FieldOf<LargeCard>("Large Card Back", PathOf<LargeCard, &LargeCard::CardBack>),
-        FieldOf<Card>("Card Background", PathOf<Card, &Card::Background>),
+        FieldOf<Card, &Card::Picture>("Card"),
+        FieldOf<LargeCard, &LargeCard::Picture>("Large Card"),
+        FieldOf<Character, &Character::Picture>("Character"),
+        FieldOf<CardBack, &CardBack::Picture>("Card Back"),
+        FieldOf<Character, &Character::PlayingPiece>("Playing Piece"),
+        FieldOf<LargeCard, &LargeCard::CardBack>("Large Card Back"),
+        FieldOf<Card, &Card::Background>("Card Background"),
     };
     return fields;
-}
-
-std::vector<int16> ListedRows(const CardSet& set, const PathField& field)
-{
-    std::vector<int16> rows;
-    for (int row = 1; row <= field.Count(set); ++row) {
-        if (field.IsListed(set, static_cast<int16>(row)))
-            rows.push_back(static_cast<int16>(row));
-    }
-    return rows;
 }
 
 void ChangeFolder(CardSet& set, const PathField& field, const std::vector<int16>& rows, const QString& folder)

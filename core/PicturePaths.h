@@ -8,27 +8,25 @@
 
 namespace deckforge {
 
-// The folders of the pictures that a set names, changed for many records at once: when pictures have moved,
-// or a set comes from elsewhere. Backgrounds of large cards and characters and the pictures of user-designed
-// backs are not among them.
+// Changing the folder of pictures for many records at once, for example after the pictures were moved.
+// Kept: backgrounds of large cards and characters, and pictures of user-designed backs, cannot be changed
+// here.
 
 /// One picture field of all records of a kind.
 struct PathField {
     const char* Caption;
-    int16 (*Count)(const CardSet&);
-    bool (*IsListed)(const CardSet&, int16 row);
+    /// The rows that the dialog lists, including records without a picture. Built-in card backs are left out.
+    std::vector<int16> (*Rows)(const CardSet&);
     const QString& (*Title)(const CardSet&, int16 row);
     QString& (*Path)(CardSet&, int16 row);
 };
 
-/// The fields in the order in which they are offered.
+/// The fields in the order of the dialog.
 [[nodiscard]] const std::vector<PathField>& PathFields();
 
-/// The rows of the field's records, those without a picture too; of the card backs only the set's own.
-[[nodiscard]] std::vector<int16> ListedRows(const CardSet& set, const PathField& field);
-
-/// Puts the pictures of the rows into another folder, each under its own name. A row without a picture gets
-/// the folder alone; nothing tells whether there is such a file. An empty folder changes nothing.
+/// Replaces the folder in the paths of the rows and keeps the file names. Does not check that the files
+/// exist. An empty folder changes nothing.
+/// Kept: a row without a picture gets the folder as its path.
 void ChangeFolder(CardSet& set, const PathField& field, const std::vector<int16>& rows,
                   const QString& folder);
 

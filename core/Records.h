@@ -8,27 +8,27 @@
 
 namespace deckforge {
 
-// The records of a card set: plain data, copied whole. An empty text means that the field is not set.
+// The records of a card set. An empty text means that the field is not set.
 //
-// Picture fields hold the full path of a file as the user chose it. Offsets of pictures are in twips from the
-// top left corner of the frame and may be negative; extents of frames are in pixels of the card.
+// Picture fields hold the full path of a file. Offsets of pictures are in twips from the top left corner of
+// the frame and may be negative; sizes of frames are in pixels of the card.
 
-/// The font that the program uses unless the user chose another, upright.
+/// The default font.
 [[nodiscard]] inline FontSpec SmallFont(double size, bool bold = false, Colour colour = Black)
 {
     return {
         .Name = QStringLiteral("Small Fonts"), .Size = size, .Bold = bold, .Italic = false, .Color = colour};
 }
 
-/// What holds for the whole set.
+/// The settings of the set.
 struct SetHeader {
     QString SetName;
-    QString FileName; ///< full path of the set file, as the save dialog gave it
+    QString FileName; ///< full path of the set file, from the save dialog
     QString SaveTo;   ///< folder of created images
     bool Autonumber = false;
     QString Symbol;
     QString FilenamePrefix;
-    bool FileNr = false; ///< the card's number goes into file names
+    bool FileNr = false; ///< file names contain the number of the card
     bool NoBack = false;
     bool ReplaceSpace = false;
     int16 SaveFormat = 0; ///< a row of SaveFormats(), from 0
@@ -52,11 +52,11 @@ struct SetHeader {
 
 /// One row of the table of card types.
 struct CardType {
-    QString Name;    ///< first part, on the upper type line
+    QString Name;    ///< first part, printed on the upper type line
     QString SubName; ///< second part
     QString ReversedName;
     QString ReversedSubName;
-    int16 Number = 0; ///< the number that a card of this type takes; -1 for none
+    int16 Number = 0; ///< printed on cards of this type; -1 for none
     bool BuiltIn = false;
 
     friend bool operator==(const CardType&, const CardType&) = default;
@@ -65,7 +65,7 @@ struct CardType {
 /// One row of the table of card backs.
 struct CardBack {
     QString Name;
-    QString Picture; ///< empty for built-in rows, whose art goes by the index of the row
+    QString Picture; ///< empty for built-in rows, whose art is found by row
     bool BuiltIn = false;
 
     friend bool operator==(const CardBack&, const CardBack&) = default;
@@ -80,7 +80,7 @@ struct Card {
     QString TypeReversed;
     QString SubTypeReversed;
     bool OneLine = false;
-    int16 TypeIndex = 0; ///< row of CardTypes; -1 for a type typed freely, 0 until one was chosen
+    int16 TypeIndex = 0; ///< row of CardTypes; -1 for text not in the table, 0 if none was chosen yet
     QString Number;
     bool ShowPicture = false;
     QString Picture;
@@ -88,14 +88,14 @@ struct Card {
     double PictureLeft = 0;
     int16 FrameHeight = 0;
     bool Frame = false;
-    bool Resize = false; ///< the frame follows the picture's width and moves in its stead
+    bool Resize = false; ///< the frame is as wide as the picture and moves sideways in its place
     QString Artist;
     QString BoldText;
-    QString Info; ///< lines are parted by CR LF
+    QString Info; ///< lines are separated by CR LF
     QString Background;
     int16 CardBack = 0; ///< row of CardBacks
     Colour Color = Black;
-    QString Filename; ///< bare name of the image file last created, without folder and extension
+    QString Filename; ///< name of the image last created, without folder and extension
 
     friend bool operator==(const Card&, const Card&) = default;
 };
@@ -108,10 +108,10 @@ struct LargeCard {
     QString Picture;
     double PictureTop = 0;
     double PictureLeft = 0;
-    int16 FrameHeight = 0; ///< the frame's width, whatever the name says
+    int16 FrameHeight = 0; ///< Kept: the width of the frame
     bool Frame = false;
-    bool Resize = false; ///< the frame follows the picture's height
-    QString Info;        ///< lines are parted by CR LF
+    bool Resize = false; ///< the frame is as high as the picture and moves up and down in its place
+    QString Info;        ///< lines are separated by CR LF
     QString Background;
     QString CardBack; ///< picture file of the back
     Colour Color = Black;
@@ -120,7 +120,7 @@ struct LargeCard {
     friend bool operator==(const LargeCard&, const LargeCard&) = default;
 };
 
-/// A character card and its stand-up playing piece. The attributes are text, since they can read "---".
+/// A character card and its stand-up playing piece. The attributes are text, since they can be "---".
 struct Character {
     QString Name;
     QString StartArea;
@@ -129,11 +129,11 @@ struct Character {
     QString Craft;
     QString Gold;
     QString Lives;
-    QString SpecialAbilities; ///< lines are parted by CR LF
+    QString SpecialAbilities; ///< lines are separated by CR LF
     QString Picture;
     double PictureTop = 0;
     double PictureLeft = 0;
-    int16 FrameHeight = 0; ///< the frame's width, whatever the name says
+    int16 FrameHeight = 0; ///< Kept: the width of the frame
     bool ShowPicture = false;
     bool Frame = false;
     QString Background;

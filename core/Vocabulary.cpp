@@ -18,8 +18,8 @@ struct TypeRow {
     int16 Number;
 };
 
-// The order is fixed: cards and files of older versions hold the row. A type printed in two parts keeps its
-// hyphen in the first.
+// The order must not change: cards and files of older versions refer to types by row. The first part of a
+// type in two parts ends with the hyphen.
 constexpr std::array<TypeRow, BuiltInTypeCount> TypeRows = {{
     {"ENEMY-", "Alien", "-ENEMY", "Alien", 2},
     {"ENEMY-", "Animal", "-ENEMY", "Animal", 2},
@@ -38,7 +38,7 @@ constexpr std::array<TypeRow, BuiltInTypeCount> TypeRows = {{
     {"ENEMY-Troll", "", "Troll-ENEMY", "", 2},
 }};
 
-// A built-in back goes by its row: the art of row r is the picture of number r - 1.
+// The art of row r is the picture with number r - 1.
 constexpr std::array<const char*, BuiltInBackCount> BackNames = {"Adventure",
                                                                  "City",
                                                                  "Dungeon 1",
@@ -69,11 +69,6 @@ constexpr std::array<const char*, BuiltInBackCount> BackNames = {"Adventure",
 
 constexpr int TypeOfNewCards = 2;
 
-QString Text(const char* text)
-{
-    return QString::fromUtf8(text);
-}
-
 } // namespace
 
 CardType GetCardType(int row)
@@ -81,10 +76,10 @@ CardType GetCardType(int row)
     if (row < 1 || row > BuiltInTypeCount)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     const TypeRow& entry = TypeRows[static_cast<std::size_t>(row) - 1];
-    return {.Name = Text(entry.Name),
-            .SubName = Text(entry.SubName),
-            .ReversedName = Text(entry.ReversedName),
-            .ReversedSubName = Text(entry.ReversedSubName),
+    return {.Name = entry.Name,
+            .SubName = entry.SubName,
+            .ReversedName = entry.ReversedName,
+            .ReversedSubName = entry.ReversedSubName,
             .Number = entry.Number,
             .BuiltIn = true};
 }
@@ -105,29 +100,26 @@ void InitCardBacks(CardSet& set)
     set.CardBacks.Resize(BuiltInBackCount);
     for (int row = 1; row <= BuiltInBackCount; ++row) {
         set.CardBacks[row] = {
-            .Name = Text(BackNames[static_cast<std::size_t>(row) - 1]), .Picture = {}, .BuiltIn = true};
+            .Name = BackNames[static_cast<std::size_t>(row) - 1], .Picture = {}, .BuiltIn = true};
     }
     set.LastCardBack = 1;
 }
 
 const QStringList& CardNumbers()
 {
-    static const QStringList list = {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
-                                     QStringLiteral("4"), QStringLiteral("5"), QStringLiteral("6")};
+    static const QStringList list = {"1", "2", "3", "4", "5", "6"};
     return list;
 }
 
 const QStringList& CharacterBackNames()
 {
-    static const QStringList list = {QStringLiteral("STANDARD"), QStringLiteral("MASTER 1"),
-                                     QStringLiteral("MASTER 2"), UserDefinedBack()};
+    static const QStringList list = {"STANDARD", "MASTER 1", "MASTER 2", UserDefinedBack()};
     return list;
 }
 
 const QStringList& Alignments()
 {
-    static const QStringList list = {QStringLiteral("AS BEFORE"), QStringLiteral("GOOD"),
-                                     QStringLiteral("EVIL"), QStringLiteral("NEUTRAL")};
+    static const QStringList list = {"AS BEFORE", "GOOD", "EVIL", "NEUTRAL"};
     return list;
 }
 
@@ -140,7 +132,7 @@ const QStringList& AttributeValues()
 
 const QStringList& SaveFormats()
 {
-    static const QStringList list = {QStringLiteral("BMP"), QStringLiteral("JPG"), QStringLiteral("GIF")};
+    static const QStringList list = {"BMP", "JPG", "GIF"};
     return list;
 }
 

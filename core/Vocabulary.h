@@ -8,22 +8,21 @@
 
 namespace deckforge {
 
-// What the program knows of the printed game.
+// The built-in types and backs, and the values that the editor suggests.
 
 inline constexpr int16 BuiltInTypeCount = 15;
 inline constexpr int16 BuiltInBackCount = 27;
 
-/// A built-in row of the table of card types, from 1 to BuiltInTypeCount. Error 9 for any other.
+/// A built-in card type, from 1 to BuiltInTypeCount. Error 9 for any other row.
 [[nodiscard]] CardType GetCardType(int row);
 
-/// Fills the table with the built-in types; rows of the set's own are gone. The values of new cards become
-/// those of row 2.
+/// Resets the table to the built-in types. New cards take row 2.
 void InitCardTypes(CardSet& set);
 
-/// Fills the table with the built-in backs; rows of the set's own are gone. New cards take row 1.
+/// Resets the table to the built-in backs. New cards take row 1.
 void InitCardBacks(CardSet& set);
 
-// The lists of the editor, in their order. They suggest values; a card keeps whatever was typed.
+// The lists of the editor, in their order. A field may hold any other text.
 
 [[nodiscard]] const QStringList& CardNumbers();
 [[nodiscard]] const QStringList& CharacterBackNames();
@@ -32,13 +31,13 @@ void InitCardBacks(CardSet& set);
 [[nodiscard]] const QStringList& AttributeValues();
 [[nodiscard]] const QStringList& SaveFormats();
 
-/// The row of CharacterBackNames() that takes a picture of the user's.
+/// The row of CharacterBackNames() for a picture chosen by the user.
 inline constexpr int16 UserDefinedCharacterBack = 3;
 
 /// The entry of the list of backs that lets the user pick a picture.
 [[nodiscard]] QString UserDefinedBack();
 
-/// How a type stands in the list of types.
+/// The entry of a type in the list of types.
 [[nodiscard]] QString TypeListEntry(const CardType& type);
 
 } // namespace deckforge

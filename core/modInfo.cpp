@@ -58,7 +58,7 @@ void InitSet(CardSet& set)
 void InitCard(CardSet& set, int16 n)
 {
     Card& card = set.Cards[n];
-    const int16 typeIndex = card.TypeIndex; // the one field that a new card leaves as it was
+    const int16 typeIndex = card.TypeIndex; // Kept: not reset
     card = {};
     card.TypeIndex = typeIndex;
     card.Title = QStringLiteral("CARD %1").arg(n);
@@ -107,7 +107,7 @@ void InitNewCardBack(CardSet& set, int16 n)
 {
     NewCardBack& back = set.NewCardBacks[n];
     back = {};
-    back.Name = QStringLiteral("Back 1"); // every new back is called so, whatever its index
+    back.Name = QStringLiteral("Back 1"); // Kept: every new back has this name
     back.BackText = set.Header.SetName;
     back.Font = {.Name = QStringLiteral("Arial"), .Size = 18, .Bold = true, .Italic = false, .Color = White};
     back.InnerColor = Black;

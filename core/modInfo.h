@@ -6,18 +6,19 @@
 
 namespace deckforge {
 
-// The life of the set in memory. Nothing here touches a file.
+// Creating and changing a set in memory.
 
-/// Puts back what holds for the whole set; cards and tables stay.
+/// Resets the settings of the set; cards and tables stay.
 void NewSet(CardSet& set);
 
-/// The thirteen fonts as a new set has them.
+/// Resets the thirteen fonts to their defaults.
 void SetDefaultFont(SetHeader& header);
 
-/// Makes the set a new one with one standard card. User-designed backs of the set before stay in it.
+/// Resets the set to a new one with one standard card.
+/// Kept: user-designed backs stay in the set.
 void InitSet(CardSet& set);
 
-// What a new element of each kind holds; n goes into its name. Error 9 when there is no element n.
+// Resets element n to default values; its name contains n. Error 9 if there is no element n.
 void InitCard(CardSet& set, int16 n);
 void InitLargeCard(CardSet& set, int16 n);
 void InitCharacter(CardSet& set, int16 n);
@@ -36,7 +37,7 @@ void InitElement(CardSet& set, int16 n)
         InitNewCardBack(set, n);
 }
 
-/// Adds an element at the end and makes it the current one. Error 6 past 32767; the set is then as before.
+/// Adds an element at the end and makes it the current one. Error 6 past 32,767, with the set unchanged.
 template <class Record>
 void AddElement(CardSet& set)
 {
@@ -46,7 +47,7 @@ void AddElement(CardSet& set)
     list.Current = list.Count();
 }
 
-/// Makes the kind have one element, a new one.
+/// Replaces all elements by a single new one.
 template <class Record>
 void MakeFirstElement(CardSet& set)
 {
@@ -64,8 +65,8 @@ void DeleteElement(CardSet& set)
     list.Current = std::min(list.Current, list.Count());
 }
 
-/// Keeps a copy of the current element. It survives a replacement of the set, so that cards can be copied
-/// from set to set.
+/// Copies the current element. The copy is kept when another set is opened, so cards can be copied from set
+/// to set.
 template <class Record>
 void CopyElement(CardSet& set)
 {
@@ -73,7 +74,7 @@ void CopyElement(CardSet& set)
     list.Clip = list.CurrentRecord();
 }
 
-/// Overwrites the current element with the copied one (an empty one if nothing of the kind was copied).
+/// Overwrites the current element with the copied one (default-constructed if nothing was copied).
 template <class Record>
 void PasteElement(CardSet& set)
 {
@@ -81,7 +82,7 @@ void PasteElement(CardSet& set)
     list.CurrentRecord() = list.Clip;
 }
 
-/// "3 (12)": where the current element stands.
+/// "3 (12)": index and count.
 [[nodiscard]] QString PositionText(int16 index, int16 count);
 
 } // namespace deckforge

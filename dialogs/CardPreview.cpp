@@ -105,16 +105,16 @@ bool IsForWindow(const QKeyEvent& event)
     return !isArrow && (event.text().isEmpty() || event.modifiers() & Qt::ControlModifier);
 }
 
-Qt::CursorShape PointerFor(Grip moves)
+Qt::CursorShape PointerFor(DragAxis moves)
 {
     switch (moves) {
-    case Grip::UpDown:
+    case DragAxis::UpDown:
         return Qt::SizeVerCursor;
-    case Grip::LeftRight:
+    case DragAxis::LeftRight:
         return Qt::SizeHorCursor;
-    case Grip::All:
+    case DragAxis::All:
         return Qt::SizeAllCursor;
-    case Grip::None:
+    case DragAxis::None:
         break;
     }
     return Qt::ArrowCursor;
@@ -174,7 +174,7 @@ void CardPreview::SettleFocus()
     const Box* kept = nullptr;
     for (const SeenBox& seen : SeenBoxes()) {
         const Box* const box = seen.Row->Shown;
-        if (seen.Row->Moves != Grip::All)
+        if (seen.Row->Drag != DragAxis::All)
             continue;
         if (!first)
             first = box;
@@ -223,7 +223,7 @@ void CardPreview::Press(const PreviewBox& row, QPointF point)
 {
     m_pressed = row.Shown;
     m_pointer = PixelAt(point);
-    if (row.Moves == Grip::All)
+    if (row.Drag == DragAxis::All)
         FocusOn(*m_pressed);
     Q_EMIT Pressed(m_pressed, m_pointer - CornerOf(*m_pressed));
 }
@@ -232,7 +232,7 @@ void CardPreview::mouseMoveEvent(QMouseEvent* event)
 {
     if (event->buttons() == Qt::NoButton) {
         const PreviewBox* const row = RowAt(event->position());
-        setCursor(PointerFor(row ? row->Moves : Grip::None));
+        setCursor(PointerFor(row ? row->Drag : DragAxis::None));
     } else if (m_pressed && event->buttons() == Qt::LeftButton) {
         const QPoint before = std::exchange(m_pointer, PixelAt(event->position()));
         Q_EMIT Dragged(m_pressed, m_pointer - CornerOf(*m_pressed), m_pointer - before);
@@ -254,7 +254,7 @@ void CardPreview::mouseDoubleClickEvent(QMouseEvent* event)
     const PreviewBox* const row = RowAt(event->position());
     if (!row || event->button() != Qt::LeftButton)
         event->ignore(); // the window shows its version
-    else if (row->Moves != Grip::None)
+    else if (row->Drag != DragAxis::None)
         Press(*row, event->position());
     else
         Q_EMIT DoubleClicked(row->Shown);

@@ -15,8 +15,7 @@ namespace deckforge {
             .Filter = QStringLiteral("All files(*.*)|*.*|Picture files (*.bmp;*.jpg;*.gif;*.wmf)"
                                      "|*.bmp;*.jpg;*.gif;*.wmf"),
             .FilterIndex = 2,
-            .DefaultExtension = QStringLiteral("bmp"),
-            .Folder = {}};
+            .DefaultExtension = QStringLiteral("bmp")};
 }
 
 /// Lets the user change a font; cancelling leaves it unchanged.

@@ -26,7 +26,7 @@ QRect CellPlace(int col, int row)
 /// One small card per cell. The picture has the size of the largest sheet, so that the layout does not move.
 QPixmap GridPicture(SheetGrid grid, double ratio)
 {
-    const QRect last = CellPlace(SheetGrid::MostCols - 1, SheetGrid::MostRows - 1);
+    const QRect last = CellPlace(SheetGrid::MaxCols - 1, SheetGrid::MaxRows - 1);
     QPixmap picture((QSizeF(last.right() + 1, last.bottom() + 1) * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
@@ -64,8 +64,8 @@ public:
     SheetDialog(bool noBack, QWidget* window) : QDialog(window), m_noBack(noBack)
     {
         m_form.setupUi(this);
-        optCol = AddOptions(m_form.fraCols, "optCol", SheetGrid::MostCols, SheetGrid().Cols);
-        optRow = AddOptions(m_form.fraRows, "optRow", SheetGrid::MostRows, SheetGrid().Rows);
+        optCol = AddOptions(m_form.fraCols, "optCol", SheetGrid::MaxCols, SheetGrid().Cols);
+        optRow = AddOptions(m_form.fraRows, "optRow", SheetGrid::MaxRows, SheetGrid().Rows);
         for (QButtonGroup* options : {optCol, optRow})
             connect(options, &QButtonGroup::idClicked, this, [this] { Refresh(); });
         connect(m_form.cmdOK, &QPushButton::clicked, this, &QDialog::accept);

@@ -24,7 +24,7 @@ public:
     {
         beginResetModel();
         m_field = &field;
-        m_rows = ListedRows(m_set, field);
+        m_rows = field.Rows(m_set);
         m_isChecked.assign(m_rows.size(), false);
         endResetModel();
     }

@@ -54,7 +54,7 @@ public:
         // Kept: a cleared symbol stays until a character is shown.
         if (m_parts.Document.Set().Header.Symbol.isEmpty())
             m_boxes.picSymbolCharacter.Visible = false;
-        ShowComposed(m_parts.User, ShowCharacter(m_parts.Works, index));
+        ShowCompositionFailure(m_parts.User, ShowCharacter(m_parts.Works, index));
         Fill();
     }
 

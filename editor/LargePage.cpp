@@ -42,7 +42,7 @@ public:
 
     void Show(int16 index) override
     {
-        ShowComposed(m_parts.User, ShowLargeCard(m_parts.Works, index));
+        ShowCompositionFailure(m_parts.User, ShowLargeCard(m_parts.Works, index));
         Fill();
     }
 

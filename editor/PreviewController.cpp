@@ -121,7 +121,7 @@ void PreviewController::Place(const PlacementRow& row, const char* step, const s
 void PreviewController::LabelClicked(const Box* box, FontClicks clicks)
 {
     for (const LabelFont& row : LabelFonts(m_parts.Works.Templates)) {
-        if (row.Label != box || row.Opens != clicks)
+        if (row.Label != box || row.Clicks != clicks)
             continue;
         const SetHeader& header = m_parts.Document.Set().Header;
         FontSpec font = header.*row.Font;
@@ -168,9 +168,9 @@ void PreviewController::ShowTip(const Box* box, QPoint globalPoint)
 {
     QString tip;
     for (const LabelFont& row : LabelFonts(m_parts.Works.Templates)) {
-        if (row.Label == box && row.Opens != FontClicks::None)
-            tip = row.Opens == FontClicks::One ? QStringLiteral("Click to change the font")
-                                               : QStringLiteral("Double-click to change the font");
+        if (row.Label == box && row.Clicks != FontClicks::None)
+            tip = row.Clicks == FontClicks::One ? QStringLiteral("Click to change the font")
+                                                : QStringLiteral("Double-click to change the font");
     }
     for (const PlacementRow& row : Placements()) {
         if (box == &row.Image)

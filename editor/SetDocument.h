@@ -67,7 +67,7 @@ public:
     /// Marks the set as unchanged: it was saved, read or created.
     void Keep(const QString& folder = {});
 
-    void RescueAtTheEnd() noexcept { m_work.RescueAtTheEnd(m_set); }
+    void RescueAtExit() noexcept { m_work.RescueAtExit(m_set); }
     /// Reports a set rescued by an earlier run.
     void NoteEarlierRescue();
 

@@ -56,7 +56,7 @@ public:
     void Show(int16 index) override
     {
         // A failure was reported. The controls are filled nevertheless, since they edit this record.
-        ShowComposed(m_parts.User, ShowCard(m_parts.Works, index));
+        ShowCompositionFailure(m_parts.User, ShowCard(m_parts.Works, index));
         Fill();
     }
 

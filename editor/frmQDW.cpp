@@ -47,7 +47,7 @@ frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
     BindDocument();
     BindFocus();
     Guarded(user, [this] {
-        ShowViewed(m_parts.User, InitForm(m_works));
+        ShowViewFailures(m_parts.User, InitForm(m_works));
         ShowNewSet();
     });
     m_document.Keep();

@@ -37,7 +37,7 @@ public:
     void ShowProgress(int done, int total);
 
     /// Writes the rescue file when the process is terminated involuntarily.
-    void RescueAtTheEnd() noexcept { m_document.RescueAtTheEnd(); }
+    void RescueAtExit() noexcept { m_document.RescueAtExit(); }
 
     [[nodiscard]] const Workshop& Works() const { return m_works; }
     [[nodiscard]] SetDocument& Document() { return m_document; }

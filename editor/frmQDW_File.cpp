@@ -56,7 +56,7 @@ void frmQDW::NewSet()
     if (m_document.AskToSave(BoxButtons::YesNo) == Answer::Cancel)
         return;
     const auto makeNew = [this](CardSet&) {
-        ShowViewed(m_parts.User, InitForm(m_works));
+        ShowViewFailures(m_parts.User, InitForm(m_works));
         return true;
     };
     if (m_document.Replace(QStringLiteral("New card set"), {}, makeNew))
@@ -95,7 +95,7 @@ void frmQDW::ShowOpened()
     ShowKind(CardKind::Standard);
     for (const auto& page : m_pages)
         page->TakeSet();
-    ShowViewed(m_parts.User, ShowOpenedSet(m_works));
+    ShowViewFailures(m_parts.User, ShowOpenedSet(m_works));
     m_info->Fill();
     SelectedPage().Fill();
 }

@@ -47,7 +47,6 @@ public:
     void Real(double& field) { field = m_in.Real(); }
     [[nodiscard]] bool Has(setFile::Since since) const { return m_version >= since.Version; }
 
-    /// The number of groups that follow.
     [[nodiscard]] int16 Count() { return m_in.Int16(); }
 
 private:
@@ -55,25 +54,26 @@ private:
     int16 m_version;
 };
 
-/// Before version 6 a type was one text. Its parts come from the table, by the card's row or by the text.
+/// Before version 6 a type was one text. Takes the two parts from the table, by the card's row or its text.
 void ConvertType(const CardSet& set, TypeFinder& types, Card& card)
 {
     if (card.TypeIndex >= 1 && card.TypeIndex <= BuiltInTypeCount) {
-        TakeTypeTexts(card, set.CardTypes[card.TypeIndex]);
+        SetTypeTexts(card, set.CardTypes[card.TypeIndex]);
     } else if (card.TypeIndex == 0) {
         if (const int16 row = types.FindCardType(card.Type, card.TypeReversed))
-            TakeTypeTexts(card, set.CardTypes[row]);
+            SetTypeTexts(card, set.CardTypes[row]);
     }
 }
 
-/// A table with built-in rows. With no rows of its own in the file, the rows of the set before stay in it.
+/// Reads the own rows of a table.
+/// Kept: if the file has none, the own rows of the set that was open before stay.
 template <class Record>
 void ReadOwnRows(FieldReader& in, OneBasedArray<Record>& table, int16 builtIn,
                  void (*read)(FieldReader&, Record&))
 {
     int16 own = in.Count();
     if (!in.Has(setFile::Since{6}))
-        own = CheckedAdd(own, static_cast<int16>(-builtIn)); // old files count the built-in rows too
+        own = CheckedAdd(own, static_cast<int16>(-builtIn)); // old files count the built-in rows, too
     if (own <= 0)
         return;
     table.Resize(CheckedAdd(builtIn, own));
@@ -81,7 +81,7 @@ void ReadOwnRows(FieldReader& in, OneBasedArray<Record>& table, int16 builtIn,
         read(in, table[row]);
 }
 
-/// A kind of card that files have since the version given; older files have none of it.
+/// Reads a list that was added in the given version.
 template <class Record>
 void ReadSection(FieldReader& in, setFile::Since since, OneBasedArray<Record>& records,
                  void (*read)(FieldReader&, Record&))
@@ -121,14 +121,13 @@ void ReadSet(FieldReader& in, CardSet& set)
     ClosingFields(in, set);
 }
 
-/// "Version 10" gives 10. Without a blank the whole line is taken, and is no number.
+/// The 10 of "Version 10".
 int16 VersionOf(QByteArrayView line)
 {
-    const qsizetype blank = line.indexOf(' ');
-    return ToInt16(NumberFromText(blank < 0 ? line : line.sliced(blank + 1)));
+    return ToInt16(NumberFromText(line.sliced(line.indexOf(' ') + 1)));
 }
 
-/// Reads what says whether the file can be read at all; nothing when it cannot.
+/// Reads signature and version; nothing if the file is rejected.
 std::optional<int16> ReadVersion(SetReader& in, ReadOutcome& outcome)
 {
     if (in.Line() != setFile::Signature) {
@@ -144,7 +143,7 @@ std::optional<int16> ReadVersion(SetReader& in, ReadOutcome& outcome)
     return version;
 }
 
-/// Reads what follows the version; false where another line is in the place of the last one.
+/// Reads everything behind the version; false if the last line is not the end line.
 [[nodiscard]] bool ReadBody(SetReader& in, int16 version, CardSet& set)
 {
     in.Line(); // the start line; its text does not matter
@@ -153,8 +152,7 @@ std::optional<int16> ReadVersion(SetReader& in, ReadOutcome& outcome)
     return in.Line() == setFile::End;
 }
 
-/// What every set has, also the mix that a failed read leaves: a standard card, and current records that
-/// exist.
+/// Makes the set valid after a complete or failed read: with a standard card, and current indices that exist.
 void MakeValid(CardSet& set)
 {
     if (set.Cards.Count() < 1)
@@ -166,8 +164,8 @@ void MakeValid(CardSet& set)
     }
 }
 
-/// Where the set is to be saved: in the file that it is read from. A backup is to be saved where the set was
-/// that it is for, and holds that path.
+/// The file to propose for saving. Nothing for rescued sets and safety copies: they contain the path of their
+/// set, which is proposed instead.
 std::optional<SetFile> FileOf(const QString& path)
 {
     const std::optional<FileAttributes> attributes = AttributesOf(path);
@@ -179,7 +177,7 @@ std::optional<SetFile> FileOf(const QString& path)
 void ReadFile(CardSet& set, const QString& path, ReadOutcome& outcome)
 {
     std::optional<SetFile> file = FileOf(path);
-    SetReader in(ReadWholeFile(path, setFile::MostBytes));
+    SetReader in(ReadWholeFile(path, setFile::MaxBytes));
     const auto place = [&] { return path + QLatin1Char(':') + QString::number(in.LineNumber()); };
     try {
         const std::optional<int16> version = ReadVersion(in, outcome);

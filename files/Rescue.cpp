@@ -18,7 +18,7 @@ namespace deckforge {
 namespace {
 
 constexpr int MaxEarlier = 9;
-constexpr int LockMilliseconds = 3000; ///< the end of a session waits for nobody longer
+constexpr int LockMilliseconds = 3000; ///< the desktop session does not wait longer at logout
 
 QString RescuedName(const QString& folder, int age)
 {
@@ -26,9 +26,9 @@ QString RescuedName(const QString& folder, int age)
     return folder + QStringLiteral("rescued%1.dkf").arg(number);
 }
 
-/// The name of one more rescued set. Earlier sets move on by one, up to the first name that is free; none
-/// does while a set of the folder is to be opened.
-QString MakeRoom(const QString& folder, const QString& toOpen)
+/// Frees a name for a rescued set and returns it. Earlier sets are renumbered up to the first free number. If
+/// a set of this folder is about to be opened nothing is renumbered, and that set is not replaced.
+QString FreeName(const QString& folder, const QString& toOpen)
 {
     int age = 0;
     while (age < MaxEarlier && AttributesOf(RescuedName(folder, age)))
@@ -41,14 +41,13 @@ QString MakeRoom(const QString& folder, const QString& toOpen)
     return RescuedName(folder, 0);
 }
 
-/// The folder for rescue files where no other takes one. Everybody may write into the temporary folder, so it
-/// has to be private.
+/// The last choice for rescue files. It has to be private, since everybody can write to the temporary folder.
 QString TemporaryFolder()
 {
     return QStringLiteral("%1/varnhelm-deck-forge-%2").arg(QDir::tempPath()).arg(::getuid());
 }
 
-QByteArray Fingerprint(const CardSet& set, Unwritable unwritable)
+QByteArray Hash(const CardSet& set, Unwritable unwritable)
 {
     return QCryptographicHash::hash(SetFileBytes(set, unwritable), QCryptographicHash::Sha256);
 }
@@ -76,9 +75,9 @@ void UnsavedWork::Keep(const CardSet& set, const QString& setFolder)
     m_leftFile.reset();
     m_sinceRenewed.start();
     try {
-        m_kept = Fingerprint(set, Unwritable::Fail);
+        m_savedHash = Hash(set, Unwritable::Fail);
     } catch (const RunTimeError&) {
-        m_kept.clear();
+        m_savedHash.clear();
     }
     RemoveOwn();
 }
@@ -86,7 +85,7 @@ void UnsavedWork::Keep(const CardSet& set, const QString& setFolder)
 bool UnsavedWork::Differs(const CardSet& set) const
 {
     try {
-        return Fingerprint(set, Unwritable::Fail) != m_kept;
+        return Hash(set, Unwritable::Fail) != m_savedHash;
     } catch (const RunTimeError&) {
         return true;
     }
@@ -112,13 +111,13 @@ std::optional<QString> UnsavedWork::Leave(const CardSet& set, const QString& toO
     }
     const QString path = Rescue(set, toOpen);
     m_leftFile = std::exchange(m_own, std::nullopt);
-    m_left = Fingerprint(set, Unwritable::Mend);
+    m_leftHash = Hash(set, Unwritable::Replace);
     return path;
 }
 
 bool UnsavedWork::ReturnTo(const CardSet& set)
 {
-    if (!m_leftFile || Fingerprint(set, Unwritable::Mend) != m_left)
+    if (!m_leftFile || Hash(set, Unwritable::Replace) != m_leftHash)
         return false;
     m_own = std::exchange(m_leftFile, std::nullopt);
     return true;
@@ -128,8 +127,8 @@ QString UnsavedWork::Rescue(const CardSet& set, const QString& toOpen)
 {
     CardSet rescued = set;
     if (set.File)
-        rescued.Header.FileName = set.File->Path; // where it is to be saved, also if the file was moved
-    const QByteArray bytes = SetFileBytes(rescued, Unwritable::Mend);
+        rescued.Header.FileName = set.File->Path; // the save dialog proposes it for the rescued set
+    const QByteArray bytes = SetFileBytes(rescued, Unwritable::Replace);
     for (const QString& folder : {m_programFolder, m_setFolder}) {
         try {
             if (!folder.isEmpty())
@@ -143,7 +142,7 @@ QString UnsavedWork::Rescue(const CardSet& set, const QString& toOpen)
 
 QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes, const QString& toOpen)
 {
-    QDir().mkpath(folder); // it may have gone since the program began
+    QDir().mkpath(folder); // it may have been removed meanwhile
     const quint64 random = QRandomGenerator::system()->generate64();
     const QString unfinished = folder + QStringLiteral(".rescued-") + QString::number(random, 36);
     QLockFile lock(RescuedName(folder, 0) + QStringLiteral(".lock"));
@@ -154,14 +153,14 @@ QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes, con
     file.CloseOnDisk();
     QString target = m_own && m_own->Folder == folder ? PathOfOwn() : QString();
     if (target.isEmpty())
-        target = MakeRoom(folder, toOpen);
+        target = FreeName(folder, toOpen);
     RenameFile(unfinished, target);
     removeUnfinished.dismiss();
     m_own = {.Folder = folder, .Attributes = AttributesOf(target).value_or(FileAttributes())};
     return target;
 }
 
-/// Empty where it is no more, or was changed by somebody.
+/// Empty if the file was removed or changed.
 QString UnsavedWork::PathOfOwn() const
 {
     for (int age = 0; age <= MaxEarlier; ++age) {
@@ -179,11 +178,11 @@ void UnsavedWork::RemoveOwn()
         return;
     QLockFile lock(RescuedName(m_own->Folder, 0) + QStringLiteral(".lock"));
     lock.tryLock(LockMilliseconds);
-    QFile::remove(PathOfOwn()); // one that cannot be removed is one too many, and no loss
+    QFile::remove(PathOfOwn()); // a failure does no harm: the file is superfluous
     m_own.reset();
 }
 
-void UnsavedWork::RescueAtTheEnd(const CardSet& set) noexcept
+void UnsavedWork::RescueAtExit(const CardSet& set) noexcept
 {
     try {
         const QString path = Rescue(set);

@@ -11,58 +11,56 @@
 
 namespace deckforge {
 
-/// Whether a file of that name is a rescued set, in whatever folder.
+/// Whether the file name is that of a rescued set; the folder does not matter.
 [[nodiscard]] bool IsRescuedSet(const QString& path);
 
-/// The set of one run of the program as it was last read, written or made anew, and the rescue file that the
-/// run keeps of what differs from it.
+/// Knows whether the set has changed since it was last read, written or created, and maintains the rescue
+/// file of this run of the program.
 ///
-/// The rescue file is "rescued.dkf" in the program's folder; where that takes none, in the folder of the
-/// set's own file; else in a folder of the user's in the temporary one. The ones from before become
-/// "rescued-1.dkf", the latest, to "rescued-9.dkf"; the tenth is removed. Writing the file again replaces it,
-/// whatever number it has by then, so several programs can do so at once. A text that no set file can hold is
-/// changed as far as it must be.
+/// The rescue file is "rescued.dkf" in the program's folder, else in the folder of the set's file, else in a
+/// private folder below the temporary one. Earlier rescued sets are renumbered from "rescued-1.dkf" (the
+/// latest) to "rescued-9.dkf"; the tenth is removed. Writing the rescue file again replaces it even if
+/// another program has renumbered it. Texts that a set file cannot hold are changed (Unwritable::Replace).
 class UnsavedWork {
 public:
-    /// While the set is worked on its rescue file is at most `renewAfter` older than the last change.
+    /// The rescue file is rewritten after a change if it is older than `renewAfter`.
     UnsavedWork(QString programFolder, std::chrono::milliseconds renewAfter);
 
-    /// The set is what the file in that folder holds; without a folder it is a new set. A rescue file of the
-    /// set is removed.
+    /// Records the set as saved in a file of that folder (none for a new set), and removes its rescue file.
     void Keep(const CardSet& set, const QString& setFolder = {});
 
-    /// Whether the file of the set would be another now. A set that no file can hold always differs.
+    /// Whether the set has changed. Always true for a set that cannot be written to a file.
     [[nodiscard]] bool Differs(const CardSet& set) const;
 
-    /// To be called after each change: writes the rescue file if it is due and the set differs.
+    /// Call after each change. Writes the rescue file if it is due and the set differs.
     void Renew(const CardSet& set);
 
-    /// To be called before the set is given up. Writes the rescue file if the set differs and returns its
-    /// path, else nothing. No later call touches that file, and this one touches none that is to be
-    /// opened next.
+    /// Call before the set is closed or replaced. Writes the rescue file if the set differs, and returns its
+    /// path. Later calls do not touch that file; this one does not touch the file `toOpen`, which is opened
+    /// next.
     [[nodiscard]] std::optional<QString> Leave(const CardSet& set, const QString& toOpen = {});
 
-    /// To be called where a set that was left may still be there; it then has its rescue file again. Returns
-    /// whether it is there unchanged.
+    /// Call if the set may still be open after Leave. Returns whether it is unchanged since; its rescue file
+    /// is then maintained again.
     bool ReturnTo(const CardSet& set);
 
     /// Writes the rescue file and returns its path.
     QString Rescue(const CardSet& set, const QString& toOpen = {});
 
-    /// The same for a program that ends: standard error says where the file is, or why there is none.
-    void RescueAtTheEnd(const CardSet& set) noexcept;
+    /// The same when the program ends. Reports the path, or the failure, on standard error.
+    void RescueAtExit(const CardSet& set) noexcept;
 
     struct RescuedSet {
         QString Path;
         QDateTime Time;
     };
-    /// The latest rescued set that is there, of whatever run.
+    /// The latest rescued set of any run.
     [[nodiscard]] std::optional<RescuedSet> LatestRescued() const;
 
 private:
     struct OwnFile {
         QString Folder;
-        FileAttributes Attributes; ///< by which it is found again under another number
+        FileAttributes Attributes; ///< to recognize the file after it was renumbered
     };
 
     [[nodiscard]] QString WriteTo(const QString& folder, const QByteArray& bytes, const QString& toOpen);
@@ -71,8 +69,8 @@ private:
 
     QString m_programFolder;
     QString m_setFolder;
-    QByteArray m_kept; ///< fingerprint of the set's file; empty where there can be none
-    QByteArray m_left; ///< fingerprint of the set that was left
+    QByteArray m_savedHash; ///< of the set's file; empty if the set cannot be written
+    QByteArray m_leftHash;  ///< of the set at Leave
     std::optional<OwnFile> m_own;
     std::optional<OwnFile> m_leftFile;
     std::chrono::milliseconds m_renewAfter;

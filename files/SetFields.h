@@ -7,19 +7,19 @@
 
 namespace deckforge::setFile {
 
-// The fields of each section in the order of the file, one line of code for each line of the file, told once
-// for the reader and the writer. A field that older files lack has the version that brought it, and the value
-// that it takes from them where that is not nothing.
+// The fields of each section in file order, one line of code per line of the file, for reader and writer. A
+// field that older files lack has the version that added it, and its value for older files if that is not
+// empty.
 //
-// File is what reads or writes: Text, Flattened (a text of several lines), Path, Boolean, Integer and Real
-// take the field, and Has tells whether files of the version at hand have what that version brought.
+// File is the reader or writer: Text, Flattened (several lines), Path, Boolean, Integer and Real transfer a
+// field. Has returns whether the file's version includes what the given version added.
 
 struct Since {
     int16 Version;
 };
 
-/// Of new cards in sets that do not tell it.
-inline constexpr int16 NumberOfOldFiles = 2;
+/// The number of new cards in files without one.
+inline constexpr int16 DefaultLastNumber = 2;
 
 template <class File, class Record>
 void FontFields(File& file, Record& font)
@@ -45,8 +45,8 @@ void HeaderFields(File& file, Record& header)
     file.Integer(header.SaveFormat, Since{2});
     file.Boolean(header.ReplaceSpace, Since{5});
     file.Integer(header.ArtistColor, Since{8}, LightGrey);
-    // Fonts that an old file lacks keep what the set before had.
-    const std::size_t fontCount = file.Has(Since{9}) ? Fonts.size() : FontsOfOldFiles;
+    // Kept: fonts that an old file lacks are those of the set that was open before.
+    const std::size_t fontCount = file.Has(Since{9}) ? Fonts.size() : FontCountBefore9;
     for (std::size_t i = 0; i < fontCount; ++i)
         FontFields(file, header.*Fonts[i]);
 }
@@ -157,7 +157,7 @@ void CharacterFields(File& file, Record& character)
     file.Real(character.PlayingPieceTop);
 }
 
-/// What new cards take.
+/// The values of new cards.
 template <class File, class Record>
 void ClosingFields(File& file, Record& set)
 {
@@ -166,7 +166,7 @@ void ClosingFields(File& file, Record& set)
     file.Text(set.LastTypeReversed, Since{2}, set.LastType);
     file.Text(set.LastSubType, Since{7});
     file.Text(set.LastSubTypeReversed, Since{7});
-    file.Integer(set.LastNumber, Since{2}, NumberOfOldFiles);
+    file.Integer(set.LastNumber, Since{2}, DefaultLastNumber);
     file.Path(set.LastBackground);
 }
 

@@ -10,28 +10,26 @@
 
 namespace deckforge::setFile {
 
-// What the writer and the reader of set files share.
-
 inline constexpr char Signature[] = "Amber Gnome - Varnhelm Deck Foundry";
 inline constexpr char Start[] = "-- START --";
 inline constexpr char End[] = "-- END --";
 inline constexpr int16 CurrentVersion = 10;
 
-inline constexpr char LineEnd[] = "\r\n";   ///< of a line of the file, and in a text of several lines ...
-inline constexpr char FlattenedBreak = '|'; ///< ... which is this where such a text stands on one line
+inline constexpr char LineEnd[] = "\r\n";   ///< ends a line of the file and of a text
+inline constexpr char FlattenedBreak = '|'; ///< replaces the line ends of a text in the file
 
-// What a set file may hold. The largest set, 32,767 of each kind with pages of text on each card, is far
-// below it; files from strangers are not, and no control can show a text of megabytes.
-inline constexpr qint64 MostBytes = qint64(1) << 30;
-inline constexpr qsizetype MostLineBytes = qsizetype(1) << 16; ///< without its end
+// Limits for untrusted files. The largest real set, with 32,767 cards of each kind and pages of text on each,
+// is far below them.
+inline constexpr qint64 MaxBytes = qint64(1) << 30;
+inline constexpr qsizetype MaxLineBytes = qsizetype(1) << 16; ///< without the line end
 
-[[noreturn]] inline void RefuseLongLine()
+[[noreturn]] inline void ThrowLongLine()
 {
     throw RunTimeError(ErrorNumber::Overflow,
-                       QStringLiteral("A line of a set file has %1 characters at most").arg(MostLineBytes));
+                       QStringLiteral("A line of a set file has %1 characters at most").arg(MaxLineBytes));
 }
 
-/// Where the first line end of the bytes is; -1 where there is none.
+/// The position of the first line end; -1 if there is none.
 [[nodiscard]] inline qsizetype FindLineEnd(QByteArrayView bytes)
 {
     qsizetype at = bytes.indexOf('\r');
@@ -40,7 +38,7 @@ inline constexpr qsizetype MostLineBytes = qsizetype(1) << 16; ///< without its 
     return at;
 }
 
-/// The fonts in the order of the file, which is not the one of the record.
+/// The fonts in file order, which differs from the order in the record.
 inline constexpr std::array<FontSpec SetHeader::*, 13> Fonts = {
     &SetHeader::FontTitle,       &SetHeader::FontType,
     &SetHeader::FontNumber,      &SetHeader::FontBold,
@@ -50,7 +48,7 @@ inline constexpr std::array<FontSpec SetHeader::*, 13> Fonts = {
     &SetHeader::FontSpecial,     &SetHeader::FontAlignment,
     &SetHeader::FontPlayingPiece};
 
-/// How many of them files below version 9 have.
-inline constexpr std::size_t FontsOfOldFiles = 6;
+/// The number of fonts in files before version 9.
+inline constexpr std::size_t FontCountBefore9 = 6;
 
 } // namespace deckforge::setFile

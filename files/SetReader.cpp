@@ -13,7 +13,7 @@ SetReader::SetReader(QByteArray bytes, Texts texts)
     : m_bytes(std::move(bytes)), m_skipsTexts(texts == Texts::Skip),
       m_hasBareLineEnds(setFile::FindLineEnd(m_bytes) < 0)
 {
-    if (m_bytes.size() > setFile::MostBytes)
+    if (m_bytes.size() > setFile::MaxBytes)
         throw RunTimeError(ErrorNumber::OutOfMemory);
 }
 
@@ -25,8 +25,8 @@ QByteArrayView SetReader::Line()
     const QByteArrayView rest = QByteArrayView(m_bytes).sliced(m_at);
     const qsizetype end = m_hasBareLineEnds ? rest.indexOf('\n') : setFile::FindLineEnd(rest);
     const QByteArrayView line = end < 0 ? rest : rest.first(end);
-    if (line.size() > setFile::MostLineBytes)
-        setFile::RefuseLongLine();
+    if (line.size() > setFile::MaxLineBytes)
+        setFile::ThrowLongLine();
     m_at += end < 0 ? rest.size() : end + (m_hasBareLineEnds ? 1 : 2);
     return line;
 }

@@ -10,32 +10,31 @@
 
 namespace deckforge {
 
-/// Reads the lines of a set file, each by the type of its field. A line ends at CR LF, or at LF in a file
-/// without any CR LF, as editors and version control convert them; the last one may lack it.
+/// Reads a set file line by line. Lines end with CR LF, or with LF in a file without any CR LF (editors and
+/// version control convert them). The last line may lack its end.
 ///
-/// Every call takes one line: error 62 behind the last, 6 for one that is too long, 13 where a number or a
-/// boolean word was due and the line holds none, 6 where the number does not fit the field.
+/// Every function reads one line. Errors: 62 past the end of the file, 6 for a line that is too long, 13 if
+/// the line is not a number or boolean word as required, 6 if the number does not fit the field.
 class SetReader {
 public:
-    /// Skipped texts are empty: no text can fail, and to decode it takes most of the time.
+    /// Skipped texts are returned empty. Decoding cannot fail and takes most of the time.
     enum class Texts { Decode, Skip };
 
-    /// Error 7 for more bytes than a set file may have.
+    /// Error 7 for more than MaxBytes.
     explicit SetReader(QByteArray bytes, Texts texts = Texts::Decode);
 
     [[nodiscard]] QString Text();
     [[nodiscard]] QString Flattened(); ///< every "|" becomes CR LF
-    /// As StoredPath stores it.
     [[nodiscard]] QString Path() { return PathFromStored(Text()); }
     [[nodiscard]] bool Boolean();
     [[nodiscard]] int16 Int16();
     [[nodiscard]] int32 Int32();
     [[nodiscard]] double Real();
 
-    /// The line as it stands, valid as long as the reader.
+    /// The undecoded line, valid as long as the reader.
     QByteArrayView Line();
 
-    /// Of the line read last, from 1.
+    /// The number of the line read last, from 1.
     [[nodiscard]] int LineNumber() const { return m_lineNumber; }
 
 private:

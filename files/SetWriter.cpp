@@ -6,31 +6,16 @@
 #include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
 
-#include <cstring>
+#include <QStringList>
 
 namespace deckforge {
 
 namespace {
 
-/// Makes every line break from the start on one other character. In one pass: what stands behind a break
-/// moves down over it.
-void FlattenFrom(QByteArray& bytes, qsizetype start, char flattened)
+QString JoinedLines(const QString& text, char separator)
 {
-    qsizetype write = start;
-    for (qsizetype read = start; read < bytes.size();) {
-        const QByteArrayView rest = QByteArrayView(bytes).sliced(read);
-        const qsizetype lineEnd = setFile::FindLineEnd(rest);
-        const qsizetype length = lineEnd < 0 ? rest.size() : lineEnd;
-        if (write != read)
-            std::memmove(bytes.data() + write, rest.data(), static_cast<std::size_t>(length));
-        write += length;
-        read += length;
-        if (lineEnd >= 0) {
-            bytes[write++] = flattened;
-            read += sizeof(setFile::LineEnd) - 1;
-        }
-    }
-    bytes.truncate(write);
+    const QLatin1String lineEnd(setFile::LineEnd);
+    return text.contains(lineEnd) ? text.split(lineEnd).join(QLatin1Char(separator)) : text;
 }
 
 } // namespace
@@ -41,45 +26,31 @@ void SetWriter::Literal(const char* text)
     EndLine();
 }
 
-/// Returns where the text begins.
-qsizetype SetWriter::AppendText(const QString& text)
+void SetWriter::Line(const QString& text)
 {
     const qsizetype start = m_bytes.size();
-    AppendInCodePage(m_bytes, text,
-                     m_unwritable == Unwritable::Mend ? Unencodable::QuestionMark : Unencodable::Reject);
-    return start;
-}
-
-/// Ends the line of the text from the start on, if it is one that can be read again.
-void SetWriter::EndText(qsizetype start)
-{
-    if (m_bytes.size() - start > setFile::MostLineBytes) {
-        const bool isMended = m_unwritable == Unwritable::Mend;
-        m_bytes.truncate(isMended ? start + setFile::MostLineBytes : start);
-        if (!isMended)
-            setFile::RefuseLongLine();
+    const bool canReplace = m_unwritable == Unwritable::Replace;
+    AppendInCodePage(m_bytes, text, canReplace ? Unencodable::QuestionMark : Unencodable::Reject);
+    if (m_bytes.size() - start > setFile::MaxLineBytes) {
+        if (!canReplace)
+            setFile::ThrowLongLine();
+        m_bytes.truncate(start + setFile::MaxLineBytes);
     }
     EndLine();
 }
 
 void SetWriter::Text(const QString& text)
 {
-    const qsizetype start = AppendText(text);
-    if (m_unwritable == Unwritable::Mend) {
-        FlattenFrom(m_bytes, start, ' ');
-    } else if (setFile::FindLineEnd(QByteArrayView(m_bytes).sliced(start)) >= 0) {
-        m_bytes.truncate(start);
+    if (m_unwritable == Unwritable::Fail && text.contains(QLatin1String(setFile::LineEnd))) {
         throw RunTimeError(ErrorNumber::InvalidCall,
                            QStringLiteral("The text \"%1\" holds a line break").arg(text));
     }
-    EndText(start);
+    Line(JoinedLines(text, ' '));
 }
 
 void SetWriter::Flattened(const QString& text)
 {
-    const qsizetype start = AppendText(text);
-    FlattenFrom(m_bytes, start, setFile::FlattenedBreak);
-    EndText(start);
+    Line(JoinedLines(text, setFile::FlattenedBreak));
 }
 
 void SetWriter::Boolean(bool value)

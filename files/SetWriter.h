@@ -10,21 +10,20 @@
 
 namespace deckforge {
 
-/// What becomes of a text that no set file can hold: a character outside the code page, a line break in a
-/// field of one line, more than MostLineBytes. Mended, these are question marks, a blank, and cut.
-enum class Unwritable { Fail, Mend };
+/// How to write a text that a set file cannot hold: with a character outside the code page, a line break in a
+/// field of one line, or more than MaxLineBytes. Replace writes a question mark, a space, and cuts the text.
+enum class Unwritable { Fail, Replace };
 
-/// Puts the lines of a set file together in memory, each by the type of its field. A character outside the
-/// code page is error 5.
+/// Builds a set file in memory, line by line. With Unwritable::Fail a text that the file cannot hold is error
+/// 5, or error 6 if it is too long.
 class SetWriter {
 public:
     explicit SetWriter(Unwritable unwritable) : m_unwritable(unwritable) {}
 
     void Literal(const char* text);
-    // Error 6 for texts too long to be read again.
-    void Text(const QString& text);                            ///< error 5 for one with a line break
+    void Text(const QString& text);
     void Flattened(const QString& text);                       ///< every CR LF becomes "|"
-    void Path(const QString& path) { Text(StoredPath(path)); } ///< any path
+    void Path(const QString& path) { Text(StoredPath(path)); } ///< can hold any path
     void Boolean(bool value);
     void Integer(int32 value);
     void Real(double value);
@@ -32,8 +31,7 @@ public:
     [[nodiscard]] QByteArray TakeBytes() { return std::move(m_bytes); }
 
 private:
-    qsizetype AppendText(const QString& text);
-    void EndText(qsizetype start);
+    void Line(const QString& text);
     void EndLine() { m_bytes.append(setFile::LineEnd, sizeof(setFile::LineEnd) - 1); }
 
     QByteArray m_bytes;

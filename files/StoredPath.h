@@ -6,14 +6,13 @@
 
 namespace deckforge {
 
-// Paths as set files have them: as they stand, but for those that no line of a set file can hold. The folders
-// of a system have names in its user's language, and a set must not depend on that to be saved.
+// Paths in set files. A set must be savable whatever the language of the user's folder names is.
 
-/// The path, or as an address in bytes of UTF-8, "file:///home/%D0%B8...", where it holds a character outside
-/// the code page or a line break.
+/// The path itself, or if it has a line break or a character outside the code page, a URL in UTF-8,
+/// "file:///home/%D0%B8...".
 [[nodiscard]] QString StoredPath(const QString& path);
 
-/// The path that is stored so. Any text that StoredPath does not give is a path as it stands.
+/// The path of a stored text. A text that StoredPath cannot return is a path itself.
 [[nodiscard]] QString PathFromStored(const QString& text);
 
 } // namespace deckforge

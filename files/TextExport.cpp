@@ -8,7 +8,6 @@ namespace deckforge {
 
 namespace {
 
-/// An attribute as the listing has it: "---" is left out.
 QString DashToEmpty(const QString& value)
 {
     return value == QLatin1String("---") ? QString() : value;
@@ -20,11 +19,7 @@ public:
 
     void Line(const char* label, const QString& text = {}) { m_lines.Line(QLatin1String(label) + text); }
     void Separator() { Line(" "); }
-    void Count(int count, const char* what)
-    {
-        m_lines.Line(QString::number(count) + QLatin1String(what));
-        Separator();
-    }
+    void Count(int count, const char* what) { m_lines.Line(QString::number(count) + QLatin1String(what)); }
     void Title(int index, const QString& title) { m_lines.Line(QStringLiteral("%1. ").arg(index) + title); }
     void Close() { m_lines.Close(); }
 
@@ -64,8 +59,14 @@ void ListCharacter(Listing& out, int index, const Character& character)
 }
 
 template <class Record>
-void ListAll(Listing& out, const OneBasedArray<Record>& records, void (*list)(Listing&, int, const Record&))
+void ListAll(Listing& out, const OneBasedArray<Record>& records, const char* heading,
+             void (*list)(Listing&, int, const Record&))
 {
+    if (records.Count() == 0)
+        return;
+    out.Separator();
+    out.Count(records.Count(), heading);
+    out.Separator();
     for (int i = 1; i <= records.Count(); ++i)
         list(out, i, records[i]);
 }
@@ -79,21 +80,9 @@ void ExportSetText(const CardSet& set, const QString& path)
     out.Line(WebAddress);
     out.Separator();
     out.Line("Set: ", set.Header.SetName);
-    out.Separator();
-    if (set.Cards.Count() > 0) {
-        out.Count(set.Cards.Count(), " Cards");
-        ListAll(out, set.Cards, ListCard);
-    }
-    if (set.LargeCards.Count() > 0) {
-        out.Separator();
-        out.Count(set.LargeCards.Count(), " Large Cards");
-        ListAll(out, set.LargeCards, ListLargeCard);
-    }
-    if (set.Characters.Count() > 0) {
-        out.Separator();
-        out.Count(set.Characters.Count(), " Characters");
-        ListAll(out, set.Characters, ListCharacter);
-    }
+    ListAll(out, set.Cards, " Cards", ListCard);
+    ListAll(out, set.LargeCards, " Large Cards", ListLargeCard);
+    ListAll(out, set.Characters, " Characters", ListCharacter);
     out.Close();
 }
 

@@ -10,39 +10,38 @@
 
 namespace deckforge {
 
-/// The rows of CardTypes by their texts, for cards of old files, which have their type as one text.
+/// Finds the row of a card's type by its text, for old files, which have the type as one text.
 ///
-/// A search takes about as long in a table of one row as in one of thousands: files from strangers have both
-/// tables as long as they like. The set's table stays as it is for the time of the finder.
+/// The time of a search hardly depends on the size of the table, since untrusted files may have many types
+/// and many cards. The set's table must not change during the finder's life.
 class TypeFinder {
 public:
     explicit TypeFinder(const CardSet& set);
 
-    /// The row that the type texts of a card belong to, or 0. The first row whose Name and SubName both occur
-    /// in the texts wins, so "EVENT" comes before "EVENT-Law". Texts far longer than a type line belong to
-    /// none.
+    /// The first row whose Name and SubName both occur in the texts of a card, or 0. So "EVENT" is found
+    /// before "EVENT-Law". Texts far longer than a type line have no row.
     [[nodiscard]] int16 FindCardType(const QString& typeText, const QString& reversedText);
 
 private:
     static constexpr std::size_t None = SIZE_MAX;
 
-    /// A text of the table, and which search has met it last.
+    /// A text of the table.
     struct Known {
         QStringView Text;
-        std::size_t LongestStart; ///< the longest other text that this one starts with
-        int MetBy;
+        std::size_t LongestPrefix; ///< the longest other text that this one starts with
+        int FoundBy;               ///< number of the last search that found it
     };
     struct Row {
-        std::size_t Name; ///< places in the texts
+        std::size_t Name; ///< indices in m_texts
         std::size_t SubName;
     };
 
-    void LinkStarts();
-    [[nodiscard]] std::size_t PlaceOf(QStringView text) const;
-    void MeetStartsOf(QStringView text);
+    void LinkPrefixes();
+    [[nodiscard]] std::size_t IndexOf(QStringView text) const;
+    void MarkPrefixesOf(QStringView text);
 
-    std::vector<Known> m_texts; ///< in order, each once
-    std::vector<Row> m_rows;    ///< from row 1
+    std::vector<Known> m_texts; ///< sorted, without duplicates
+    std::vector<Row> m_rows;    ///< row 1 first
     int m_search = 0;
 };
 

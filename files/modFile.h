@@ -11,19 +11,17 @@
 
 namespace deckforge {
 
-// The set file: lines ended by CR LF in the single-byte code page, one field to a line, no keys. Counts in
-// the file say how long each section is. The current version is written; all up to it are read.
+// The set file: text in a single-byte code page, lines ended by CR LF, one field per line, no keys. Each
+// section starts with its count. Files of the current and all older versions can be read.
 
-/// Writes the set to the path; the file is then all there and on the disk.
-///
-/// Nothing is written that the reader would not accept. On failure the file is unchanged; where even that
-/// failed, the description says where its safety copy is (see SaveFile).
+/// Writes the set and syncs the file to the disk. Fails if the reader would not accept the file. On failure
+/// the old file is unchanged, or the description says where its safety copy is (see SaveFile).
 void WriteDKF(const CardSet& set, const QString& path);
 
-/// The bytes of the file that the set would be written to.
+/// The contents of the set's file.
 [[nodiscard]] QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable);
 
-// Each fails as writing a set would fail at this part of it.
+// Fail as writing a set with this part would.
 void CheckSavable(const SetHeader& header);
 void CheckSavable(const NewCardValues& values);
 void CheckSavable(const CardType& type);
@@ -33,28 +31,28 @@ void CheckSavable(const LargeCard& card);
 void CheckSavable(const Character& character);
 void CheckSavable(const NewCardBack& back);
 
-/// Fails as opening a file of these bytes would.
+/// Fails as opening a file with these contents would.
 void CheckReadable(const QByteArray& bytes);
 
 /// How reading a set file ended.
 struct ReadOutcome {
     enum class Rejection { None, NoCardSet, NewerVersion };
 
-    Rejection Rejected = Rejection::None; ///< the set is unchanged unless None
-    bool IsConverted = false;             ///< the file is of an older version
-    QString UnmatchedEnd = {}; ///< "FILE:LINE" where the last line is another one; empty if it is right
+    Rejection Rejected = Rejection::None;     ///< the set is unchanged unless None
+    bool IsConverted = false;                 ///< the file is of an older version
+    QString UnmatchedEnd = {};                ///< "FILE:LINE" if the last line is wrong, else empty
     std::optional<RunTimeError> Failure = {}; ///< with file and line
-    QStringList SafetyCopies = {};            ///< of the file, from saves that were cut off
+    QStringList SafetyCopies = {};            ///< of the file, from interrupted saves
 
     [[nodiscard]] bool IsRead() const { return Rejected == Rejection::None && !Failure; }
 };
 
-/// Reads a set file into the set. What was read before a failure stays in the set, which is a valid one
-/// nevertheless. The file is then proposed for saving, whatever path it holds.
+/// Reads a set file into the set. After a failure the set is valid and contains what was read up to then.
+/// Saving proposes this file, whatever path it contains.
 [[nodiscard]] ReadOutcome ReadDKF(CardSet& set, const QString& path);
 
-/// Writes a plain listing of the set's texts for reading. Pictures, fonts and user-designed backs are not in
-/// it. What was written before a failure stays.
+/// Writes a readable listing of the set's texts, without pictures, fonts and user-designed backs. On failure
+/// the file is left incomplete.
 void ExportSetText(const CardSet& set, const QString& path);
 
 } // namespace deckforge

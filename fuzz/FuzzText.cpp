@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "compose/Attempt.h"
+#include "compose/IgnoreFailure.h"
 #include "compose/TextFitting.h"
 #include "fuzz/Drawing.h"
 
@@ -43,9 +43,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const QString text(reinterpret_cast<const QChar*>(bytes + sizeof column),
                        static_cast<qsizetype>((size - sizeof column) / sizeof(QChar)));
     PictureBox surface({152, 256});
-    Attempt([&] { surface.SetFontSize(column.Points); });
+    IgnoreFailure([&] { surface.SetFontSize(column.Points); });
     CheckBreaks(surface, text, column.Width);
-    Attempt([&] {
+    IgnoreFailure([&] {
         WrapAndPrint(surface, text,
                      {.Left = column.Left,
                       .Top = column.Top,

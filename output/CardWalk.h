@@ -9,7 +9,7 @@
 
 namespace deckforge {
 
-/// Composes a card of the kind; not for user-designed backs.
+/// Composes a card. Not for user-designed backs.
 [[nodiscard]] inline CompositionFailure Compose(Workshop& workshop, CardKind kind, int16 index)
 {
     return kind == CardKind::Standard ? ShowCard(workshop, index)
@@ -17,8 +17,8 @@ namespace deckforge {
                                       : ShowCharacter(workshop, index);
 }
 
-/// Makes each card of the kind the current one, composes it, and carries out the step on it; the one that was
-/// current before is composed at the end.
+/// Composes each card of the kind as the current one and runs the step on it. At the end the previous current
+/// card is composed again.
 template <class Step>
 void ForEachShown(Workshop& workshop, RunReport& report, CardKind kind, Step&& step)
 {

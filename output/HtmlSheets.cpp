@@ -14,21 +14,21 @@ namespace deckforge {
 
 namespace {
 
-constexpr int MostSlots = 6;
+constexpr int MaxSlots = 6;
 
-/// One page: its place among the others, and its images, empty where a slot has none.
+/// A page and its images; an empty slot has none.
 struct Page {
     const SetHeader& Header;
     const char* NamePrefix;
     QString Title;
-    std::array<QString, MostSlots> Images;
+    std::array<QString, MaxSlots> Images;
     int Number = 0;
     int Count = 0;
-    QStringList Links = {}; ///< to each page, from the first
+    QStringList Links = {}; ///< to each page
 };
 
-/// A name in a text or an attribute of a page, where it must not end the one or the other. An ampersand
-/// stays: it can do neither.
+/// Escapes a name for a text or an attribute.
+/// Kept: ampersands are not escaped; they cannot end either.
 QString Escaped(QString name)
 {
     return name.replace(QLatin1Char('<'), QStringLiteral("&lt;"))
@@ -56,7 +56,7 @@ QStringList LinksOf(const Page& page)
 QString PageList(const Page& page)
 {
     QStringList list = page.Links;
-    if (page.Number <= list.size()) { // copies below 0 can announce fewer pages than there are
+    if (page.Number <= list.size()) { // negative copies can make the count too low
         list[page.Number - 1] =
             QStringLiteral("<B>") + QString::number(page.Number) + QStringLiteral("</B>&nbsp;&nbsp;");
     }
@@ -92,7 +92,8 @@ void WriteImage(LineWriter& out, const Page& page, const QString& image)
     WriteLines(out, {"       </TR>", "   </TABLE>"});
 }
 
-/// Three rows of two images; where a slot is empty the lines round it stay. The gaps between the rows differ.
+/// Three rows of two images.
+/// Kept: empty slots have a table cell, and the gaps between the rows differ.
 void WriteSix(LineWriter& out, const Page& page)
 {
     const auto image = [&](std::size_t slot) {
@@ -114,7 +115,7 @@ void WriteSix(LineWriter& out, const Page& page)
     WriteLines(out, {""});
 }
 
-/// Up to three images, one below the other; an empty slot is left out whole.
+/// Up to three images, one below the other, without empty slots.
 void WriteThree(LineWriter& out, const Page& page)
 {
     constexpr std::size_t slots = 3;
@@ -127,18 +128,18 @@ void WriteThree(LineWriter& out, const Page& page)
     }
 }
 
-/// What the pages of the kinds differ in.
+/// What differs between the pages of the kinds.
 template <class Record>
 struct HtmlRow {
     int (*Copies)(const Record&);
     int Slots;
     void (*WriteBody)(LineWriter&, const Page&);
-    const char* PagePrefix;  ///< in front of the set's name in the name of a page
-    const char* TitlePrefix; ///< in front of it in the title, too
+    const char* PagePrefix;  ///< before the set's name in file names
+    const char* TitlePrefix; ///< before the set's name in file names and titles
     QString (*Image)(const SetHeader&, const QString& fileName, int index, int count);
 };
 
-/// The prefix and, where the set wants it, the number, as the pages have them in front of a name.
+/// The prefix of image names and, if the set has FileNr, the number.
 QString NumberPrefix(const SetHeader& header, int index, int count)
 {
     if (!header.FileNr)
@@ -151,7 +152,7 @@ QString WithExtension(const SetHeader& header, const QString& name)
     return name + QLatin1Char('.') + ImageExtension(header.SaveFormat);
 }
 
-/// Without the number no blank parts prefix and name, unlike in the name of the saved image.
+/// Kept: without the number there is no space between prefix and name, unlike in the saved image's name.
 QString StandardImageName(const SetHeader& header, const QString& fileName, int index, int count)
 {
     const QString gap = header.FileNr ? QStringLiteral(" ") : QString();
@@ -169,11 +170,6 @@ constexpr char LargeImages[] = "Large ";
 constexpr char CharacterImages[] = "Character ";
 constexpr char PieceImages[] = "Character Piece ";
 
-constexpr int OneCopy(const Character& /*character*/)
-{
-    return 1;
-}
-
 constexpr HtmlRow<Card> CardPages = {.Copies = [](const Card& card) { return int{card.Copies}; },
                                      .Slots = 6,
                                      .WriteBody = WriteSix,
@@ -186,13 +182,13 @@ constexpr HtmlRow<LargeCard> LargePages = {.Copies = [](const LargeCard& card) {
                                            .PagePrefix = "Large ",
                                            .TitlePrefix = "",
                                            .Image = KindImageName<LargeImages>};
-constexpr HtmlRow<Character> CharacterPages = {.Copies = OneCopy,
+constexpr HtmlRow<Character> CharacterPages = {.Copies = [](const Character&) { return 1; },
                                                .Slots = 3,
                                                .WriteBody = WriteThree,
                                                .PagePrefix = "Character ",
                                                .TitlePrefix = "",
                                                .Image = KindImageName<CharacterImages>};
-constexpr HtmlRow<Character> PiecePages = {.Copies = OneCopy,
+constexpr HtmlRow<Character> PiecePages = {.Copies = [](const Character&) { return 1; },
                                            .Slots = 6,
                                            .WriteBody = WriteSix,
                                            .PagePrefix = "",
@@ -225,7 +221,7 @@ void WritePage(const Page& page, RunReport& report, void (*writeBody)(LineWriter
     }
 }
 
-/// How many images there are with all copies; nothing when a card has no file name yet.
+/// The number of images with all copies; nothing if a card has no file name yet.
 template <class Record>
 std::optional<qint64> ImageCount(const CardSet& set, const HtmlRow<Record>& row)
 {

@@ -9,16 +9,14 @@ namespace deckforge {
 
 namespace {
 
-/// Blanks alone: other white space is part of the name.
-QString WithoutOuterBlanks(const QString& text)
+/// Trims spaces only: other white space is part of the name.
+QString WithoutOuterSpaces(QString text)
 {
-    qsizetype begin = 0;
-    qsizetype end = text.size();
-    while (begin < end && text[begin] == QLatin1Char(' '))
-        ++begin;
-    while (end > begin && text[end - 1] == QLatin1Char(' '))
-        --end;
-    return text.sliced(begin, end - begin);
+    while (text.startsWith(QLatin1Char(' ')))
+        text.remove(0, 1);
+    while (text.endsWith(QLatin1Char(' ')))
+        text.chop(1);
+    return text;
 }
 
 } // namespace
@@ -50,7 +48,7 @@ QString PaddedNumber(int number, int count)
 QString ImageName(const SetHeader& header, const QString& kind, const QString& fileName, int index, int count)
 {
     const QString number = header.FileNr ? PaddedNumber(index, count) + QLatin1Char(' ') : QString();
-    return WithoutOuterBlanks(kind + header.FilenamePrefix + QLatin1Char(' ') + number + fileName +
+    return WithoutOuterSpaces(kind + header.FilenamePrefix + QLatin1Char(' ') + number + fileName +
                               QLatin1Char('.') + ImageExtension(header.SaveFormat));
 }
 

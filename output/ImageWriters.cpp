@@ -16,17 +16,17 @@ constexpr int32 JpegQuality = 90;
 
 enum SaveFormat : int16 { Bmp = 0, Jpeg = 1, Gif = 2 };
 
-/// What stands at the right of a card.
-enum class Beside { Back, SameAgain, Nothing };
+/// What is painted at the right of the card.
+enum class Beside { Back, Copy, None };
 
-/// What the final pictures of the kinds differ in.
+/// What differs between the final pictures of the kinds.
 struct FinalPicture {
     PictureBox WorkSurfaces::*Source;
-    int OutlineWidth; ///< of the box round the card, in pixels; the one beside it is as wide
+    int OutlineWidth; ///< of the card and of its companion, in pixels
     Beside Companion;
-    const Box* (*Back)(const CardTemplates&); ///< null where no back stands beside
+    const Box* (*Back)(const CardTemplates&); ///< null without Beside::Back
     const char* FailureTitle;
-    const char* GifFailureTitle; ///< mixed as they are
+    const char* GifFailureTitle; ///< Kept: some name another kind of card
 };
 
 const FinalPicture& RowOf(FinalImage image)
@@ -52,13 +52,13 @@ const FinalPicture& RowOf(FinalImage image)
          .GifFailureTitle = "Saving the large card"},
         {.Source = &WorkSurfaces::picACardPP,
          .OutlineWidth = CardSize.width(),
-         .Companion = Beside::SameAgain,
+         .Companion = Beside::Copy,
          .Back = nullptr,
          .FailureTitle = "Saving the playing piece card",
          .GifFailureTitle = "Saving the large card"},
         {.Source = &WorkSurfaces::picACard,
          .OutlineWidth = CardSize.width(),
-         .Companion = Beside::Nothing,
+         .Companion = Beside::None,
          .Back = nullptr,
          .FailureTitle = "Saving the card",
          .GifFailureTitle = "Saving the card"}};
@@ -67,54 +67,50 @@ const FinalPicture& RowOf(FinalImage image)
 
 constexpr int OutlineBottom = CardSize.height() - 1;
 
-/// What is painted beside the card; the empty picture for nothing.
-Picture CompanionOf(const Workshop& workshop, const FinalPicture& kind)
+/// What is painted beside the card, if anything.
+std::optional<Picture> CompanionOf(const Workshop& workshop, const FinalPicture& kind)
 {
     switch (kind.Companion) {
     case Beside::Back:
+        if (workshop.Set.Header.NoBack)
+            break;
         return kind.Back(workshop.Templates)->Surface->GetPicture();
-    case Beside::SameAgain:
+    case Beside::Copy:
         return (workshop.Surfaces.*kind.Source).Image();
-    case Beside::Nothing:
+    case Beside::None:
         break;
     }
-    return {};
+    return std::nullopt;
 }
 
-bool HasCompanion(const Workshop& workshop, const FinalPicture& kind)
-{
-    return kind.Companion == Beside::SameAgain ||
-           (kind.Companion == Beside::Back && !workshop.Set.Header.NoBack);
-}
-
-/// The card and what stands at its right, each shifted by a pixel into its outline.
+/// The card and its companion, each inside its outline of one pixel.
 Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
 {
     PictureBox& source = workshop.Surfaces.*kind.Source;
     PictureBox& picDone = workshop.Surfaces.picDone;
-    const bool hasCompanion = HasCompanion(workshop, kind);
     const int width = source.Width();
     source.Freeze();
+    const std::optional<Picture> companion = CompanionOf(workshop, kind);
     picDone.SetPicture({});
-    picDone.SetSize({hasCompanion ? 2 * width : width, source.Height()});
-    if (hasCompanion)
-        picDone.PaintPicture(CompanionOf(workshop, kind), width + 1, 1);
+    picDone.SetSize({companion ? 2 * width : width, source.Height()});
+    if (companion)
+        picDone.PaintPicture(*companion, width + 1, 1);
     picDone.PaintPicture(source.Image(), 1, 1);
     picDone.ForeColor = Black;
     picDone.LineBox(0, 0, kind.OutlineWidth - 1, OutlineBottom);
-    if (kind.Companion != Beside::Nothing)
+    if (kind.Companion != Beside::None)
         picDone.LineBox(kind.OutlineWidth, 0, 2 * kind.OutlineWidth - 1, OutlineBottom);
     return picDone.Image();
 }
 
-/// Gives why the picture could not be converted; other failures are thrown.
+/// Returns why the conversion failed, or nothing. Other failures are thrown.
 std::optional<QString> WriteGif(const Picture& picture, const QString& path)
 {
     const QString temporary = ProgramFolder() + QStringLiteral("qdwtemp.bmp");
-    // All runs of the program share the file; another one waits until the picture in it is converted.
+    // All instances of the program share the temporary file.
     constexpr int milliseconds = 10000;
     QLockFile lock(temporary + QStringLiteral(".lock"));
-    // Without a lock for another reason the file cannot be written either, and the writing tells why.
+    // If the lock fails for another reason, SavePicture fails as well and reports it.
     if (!lock.tryLock(milliseconds) && lock.error() == QLockFile::LockFailedError)
         throw RunTimeError(ErrorNumber::PermissionDenied);
     SavePicture(picture, temporary);

@@ -10,20 +10,22 @@
 
 namespace deckforge {
 
-/// The final pictures: the composed card in its outline, with its back unless the set has none. The playing
-/// piece is there twice, also in a set without backs.
+/// The final pictures: the composed card in its outline, with its back unless the set has NoBack. A playing
+/// piece is always painted twice, a user-designed back once.
 enum class FinalImage { Card, LargeCard, Character, PlayingPiece, NewBack };
 
 [[nodiscard]] Picture FinalPictureOf(Workshop& workshop, FinalImage image);
 
-/// Builds the final picture and writes it in the set's format. A failure is reported; the caller goes on.
+/// Builds the final picture and writes it in the set's format. A failure is reported.
 void WriteFinalPicture(Workshop& workshop, RunReport& report, FinalImage image, const FilePath& path);
 
-/// Carries out the step that builds a picture and writes it in the set's format. A failure is reported with
-/// the path, and shown under the title; those of the GIF writer have their own title. An unknown format is
-/// reported and writes nothing.
+/// Runs a step that builds and writes a picture. A failure is reported with the path and shown with the
+/// title.
 void WriteOrReport(Workshop& workshop, RunReport& report, const FilePath& path, const char* failureTitle,
                    const std::function<void()>& step);
+
+/// Writes the picture in the set's format. Failures of the GIF writer are reported and shown with their own
+/// title, other failures are thrown. An unknown format is only reported.
 void WriteInFormat(Workshop& workshop, RunReport& report, const Picture& picture, const FilePath& path,
                    const char* gifFailureTitle);
 

@@ -34,14 +34,13 @@ public:
         m_painter.setFont(m_measures.Font());
     }
 
-    /// A line at the margin; the next one stands below it.
     void PrintLine(const QString& text)
     {
         m_painter.drawText(QPointF(Margin, m_currentY + m_measures.Ascent()), Printable(text));
         m_currentY += m_measures.LineHeight();
     }
 
-    /// At its physical size, so far below the lines. Gives whether all of it lies on the page.
+    /// Paints the picture at its physical size, `gap` below the lines. Returns whether it fits on the page.
     bool PaintPicture(const Picture& picture, int gap)
     {
         const QSizeF size(picture.Size().width() * m_perInchX / CardPixelsPerInch,
@@ -65,7 +64,7 @@ private:
     int m_currentY = Margin;
 };
 
-/// What the pages differ in.
+/// What differs between the pages.
 struct PageRow {
     CardKind Kind;
     FinalImage Front;
@@ -82,8 +81,8 @@ const PageRow& RowOf(PrintedPage page)
     return rows[static_cast<std::size_t>(page)];
 }
 
-/// A symbol lies elsewhere when it was chosen than when its set was opened.
-void TakeSymbolPlaces(CardTemplates& fine, const CardTemplates& shown)
+/// The position of a symbol depends on whether it was chosen or its set was opened.
+void CopySymbolPlaces(CardTemplates& fine, const CardTemplates& shown)
 {
     const auto take = [](Box& to, const Box& from) {
         to.Left = from.Left;
@@ -95,14 +94,14 @@ void TakeSymbolPlaces(CardTemplates& fine, const CardTemplates& shown)
     take(fine.Character.picSymbolCharacter, shown.Character.picSymbolCharacter);
 }
 
-/// Composes the current card in a workshop with finer surfaces; whether it could. Whoever showed the card has
-/// reported why not.
-bool ComposeFinely(Workshop& fine, const Workshop& workshop, PrintedPage page)
+/// Composes the current card in a workshop with finer surfaces; false on failure, which was reported when the
+/// card was shown.
+bool ComposeAtPrintScale(Workshop& fine, const Workshop& workshop, PrintedPage page)
 {
     static_cast<void>(InitForm(fine));
     fine.Set = workshop.Set;
     static_cast<void>(ShowSet(fine));
-    TakeSymbolPlaces(fine.Templates, workshop.Templates);
+    CopySymbolPlaces(fine.Templates, workshop.Templates);
     fine.Carried = workshop.Carried;
     return !ShowForPage(fine, page, CurrentOf(fine.Set, KindOnPage(page)));
 }
@@ -138,7 +137,7 @@ void PrintPage(Workshop& workshop, RunReport& report, PrintedPage page, QPaintDe
 {
     ReportPage(workshop, report, page);
     Workshop fine(PrintScale);
-    if (!LayPage(ComposeFinely(fine, workshop, page) ? fine : workshop, page, device))
+    if (!PaintPage(ComposeAtPrintScale(fine, workshop, page) ? fine : workshop, page, device))
         report.Add(path, QStringLiteral("The playing piece does not lie on the page"));
 }
 
@@ -160,10 +159,10 @@ void WritePdf(Workshop& workshop, RunReport& report, PrintedPage page, const QSt
     });
 }
 
-bool LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
+bool PaintPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
 {
     const PageRow& row = RowOf(page);
-    // Made first: a failure on the way sends no half of a page.
+    // Built first, so that a failure does not leave half a page.
     const QString title = PageTitle(workshop.Set, page);
     const Picture card = FinalPictureOf(workshop, row.Front);
     const Picture piece = row.HasPiece ? FinalPictureOf(workshop, FinalImage::PlayingPiece) : Picture();
@@ -172,8 +171,8 @@ bool LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
     paper.PrintLine(QStringLiteral("Varnhelm Deck Forge"));
     paper.PrintLine(title);
     paper.PaintPicture(card, GapAboveCard);
-    // The piece goes down by its height in twips, taken for pixels of the printer. At 600 to the inch it is
-    // well below the card and still on the paper; pages have always looked like this.
+    // Kept: the piece is moved down by its height in twips, taken for device pixels. At 600 per inch it is
+    // well below the card and still on the paper.
     const int pieceGap = GapAbovePiece + piece.Size().height() * TwipsPerPixelY;
     const bool isWhole = !row.HasPiece || paper.PaintPicture(piece, pieceGap);
     paper.Send();

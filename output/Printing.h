@@ -8,39 +8,37 @@ class QPaintDevice;
 
 namespace deckforge {
 
-/// What is printed of a set: its current card of a kind with the back, and with a character the playing
-/// piece, or not; in the order of the tabs, and so of CardKind: the tab of backs prints the current
-/// character.
+/// What is printed: the current card of a kind with its back; a character with or without its playing piece.
+/// The order is that of the tabs.
+/// Kept: the tab of user-designed backs prints the current character.
 enum class PrintedPage { Card, LargeCard, Character, CharacterAlone };
 
-/// The kind of card that the page is of.
+/// The kind of card on the page.
 [[nodiscard]] CardKind KindOnPage(PrintedPage page);
 
-/// Makes the card of the index the current one, and composes it.
+/// Makes the card the current one and composes it.
 [[nodiscard]] CompositionFailure ShowForPage(Workshop& workshop, PrintedPage page, int16 index);
 
-/// Reports what the card that was shown for the page lacks.
+/// Reports the missing pictures of the card that was shown for the page.
 void ReportPage(Workshop& workshop, RunReport& report, PrintedPage page);
 
-/// What the page says above the card: the set and the card.
+/// The heading of the page: set and card.
 [[nodiscard]] QString PageTitle(const CardSet& set, PrintedPage page);
 
-// The card is composed anew for the page, finer than the window does, from the set as it stands. One that
-// cannot be composed so is printed as it was composed last; whoever showed it has told why. Pictures that it
-// lacks are reported, and a playing piece that does not lie on the page.
-
-/// Paints the page of the current card. The path is that of the page in a report, empty for a printer. Error
-/// 482 when the device takes no page.
+/// Composes the current card again for the page, at a finer scale, and paints the page. If that composition
+/// fails the card is printed as it was composed last. Reports missing pictures, and a playing piece that does
+/// not fit on the page. The path is used in reports, empty for a printer. Error 482 if the device cannot be
+/// painted on.
 void PrintPage(Workshop& workshop, RunReport& report, PrintedPage page, QPaintDevice& device,
                const QString& path = {});
 
-/// The same page as a PDF file on A4 paper, which is printable to its edges. A failure of the file is thrown.
+/// Writes the page as a PDF file on A4 paper without margins.
 void WritePdf(Workshop& workshop, RunReport& report, PrintedPage page, const QString& path,
               int pixelsPerInch);
 
-/// Lays the page down: the composed card under its heading, in pixels of the device from its origin. Margin
-/// and gaps shrink as the device gets finer; pictures and letters have their physical size, 96 pixels of a
-/// card to the inch. Gives whether all of it lies on the page. Error 482 when the device takes no page.
-bool LayPage(Workshop& workshop, PrintedPage page, QPaintDevice& device);
+/// Paints the composed card below its heading. Pictures and text have their physical size, at 96 pixels of a
+/// card per inch. Returns whether everything fits on the page. Error 482 if the device cannot be painted on.
+/// Kept: margin and gaps are in device pixels, so they are smaller on finer devices.
+bool PaintPage(Workshop& workshop, PrintedPage page, QPaintDevice& device);
 
 } // namespace deckforge

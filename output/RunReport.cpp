@@ -12,13 +12,12 @@ namespace deckforge {
 
 namespace {
 
-/// `card 12 "Wolf"`
 QString ElementName(const QString& kind, const QString& name)
 {
     return kind + QStringLiteral(" \"") + name + QLatin1Char('"');
 }
 
-/// Titles and paths of a set may hold characters that break the line or drive a terminal.
+/// Removes line breaks and terminal control characters, which titles and paths may contain.
 QString OnOneLine(QString text)
 {
     for (QChar& character : text) {
@@ -63,11 +62,11 @@ void RunReport::AddSymbol(Workshop& workshop)
     try {
         WithMemoryAsFailure([&] { (void)workshop.Pictures.LoadPicture(workshop.Set.Header.Symbol); });
     } catch (const RunTimeError& error) {
-        AddOfSet(workshop.Set.Header, workshop.Set.Header.Symbol, error.Description());
+        AddForSet(workshop.Set.Header, workshop.Set.Header.Symbol, error.Description());
     }
 }
 
-void RunReport::AddOfSet(const SetHeader& header, const QString& file, const QString& reason)
+void RunReport::AddForSet(const SetHeader& header, const QString& file, const QString& reason)
 {
     const QString element = std::exchange(m_element, ElementName(QStringLiteral("set"), header.SetName));
     Add(file, reason);
@@ -80,7 +79,7 @@ void RunReport::AddNotWritten(const QString& path, const QString& reason)
         Add(path, reason);
 }
 
-/// Only of a full path: "C:\cards" from another machine is none here.
+/// Only absolute paths: "C:\cards" of another system must not be created in the current folder.
 void RunReport::MakeFolderOf(const QString& path)
 {
     const QString folder = PathToOpen(FolderPart(path));
@@ -97,7 +96,7 @@ QString RunReport::TakeWriter(const QString& path)
     return writer ? writer.mapped() : QString();
 }
 
-void RunReport::NoteWritten(const QString& path, const QString& replaced)
+void RunReport::RecordWritten(const QString& path, const QString& replaced)
 {
     if (!replaced.isEmpty())
         Add(path, QStringLiteral("Replaces the file of ") + replaced);

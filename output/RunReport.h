@@ -11,8 +11,8 @@
 
 namespace deckforge {
 
-/// What a run (one image, all images, sheets, pages or a printed page) did not do as the user expects, and
-/// which files it has written. Whoever starts a run derives from it to follow the run while it goes on.
+/// The problems of a run (one image, all images, sheets, pages or a printed page) and the files that it has
+/// written. Derived classes show the progress and failures of the run.
 class RunReport {
 public:
     RunReport() = default;
@@ -20,38 +20,36 @@ public:
     RunReport(const RunReport&) = delete;
     RunReport& operator=(const RunReport&) = delete;
 
-    /// How far the run is: done of total. The last call has done equal to total.
+    /// The last call has done equal to total.
     virtual void ShowProgress(int done, int total) = 0;
-    /// A card could not be composed; the run goes on.
+    // The run continues after these failures.
     virtual void ShowNotComposed(const RunTimeError& error) = 0;
-    /// An image could not be written; the run goes on. The reason is empty where it has no words of its own.
-    virtual void ShowNotWritten(const char* title, const QString& reason) = 0;
+    virtual void ShowNotWritten(const char* title, const QString& reason) = 0; ///< reason may be empty
 
-    /// The card that the problems and files from here on belong to.
+    /// Sets the card that the following problems and files belong to.
     void Begin(const CardSet& set, CardKind kind, int16 index);
 
-    /// Reports `card 12 "Wolf": FILE: reason`, without the file where it is empty; each line once.
+    /// Adds `card 12 "Wolf": FILE: reason`, unless it is there already. The file may be empty.
     void Add(const QString& file, const QString& reason);
 
-    /// The pictures that the last composition could not show, and the symbol of the set.
+    /// Adds the missing pictures of the last composition, and a missing symbol of the set.
     void AddPictures(Workshop& workshop);
 
-    /// A problem of the set as a whole.
-    void AddOfSet(const SetHeader& header, const QString& file, const QString& reason);
+    /// Adds a problem of the set as a whole.
+    void AddForSet(const SetHeader& header, const QString& file, const QString& reason);
 
-    /// A file that could not be written. A folder that cannot be made is reported once, not with each of its
-    /// files.
+    /// Adds a file that could not be written, unless its folder could not be created, which is reported once.
     void AddNotWritten(const QString& path, const QString& reason);
 
-    /// Runs what writes the file at the path and returns whether it did, and makes the folder first. A file
-    /// that this run wrote before is reported as replaced.
+    /// Creates the folder and calls `write`, which returns whether it wrote the file. Reports a file that
+    /// this run had written before as replaced.
     template <class Write>
     void WriteFile(const QString& path, Write&& write)
     {
         MakeFolderOf(path);
         const QString replaced = TakeWriter(path);
         if (write())
-            NoteWritten(path, replaced);
+            RecordWritten(path, replaced);
     }
 
     [[nodiscard]] bool HasWritten() const { return !m_writers.empty(); }
@@ -60,14 +58,14 @@ public:
 private:
     void MakeFolderOf(const QString& path);
     [[nodiscard]] QString TakeWriter(const QString& path);
-    void NoteWritten(const QString& path, const QString& replaced);
+    void RecordWritten(const QString& path, const QString& replaced);
     void AddSymbol(Workshop& workshop);
     void AddLine(const QString& line);
 
     QString m_element;
     QStringList m_problems;
-    QSet<QString> m_reported;            ///< the same
-    std::map<FileId, QString> m_writers; ///< of each written file, the card that it was written for
+    QSet<QString> m_reported;            ///< the same, for searching
+    std::map<FileId, QString> m_writers; ///< the card that each file was written for
     bool m_isSymbolChecked = false;
 };
 

@@ -22,7 +22,7 @@ QString TypeName(const QString& type, const QString& subType)
     return subType.isEmpty() ? type : type + QLatin1Char(' ') + subType;
 }
 
-/// The rows of the table, and behind them those of types that cards name and the table lacks.
+/// The rows of the table, then the types of cards that are not in the table.
 std::vector<Row> CountTypes(const CardSet& set)
 {
     std::vector<Row> rows;
@@ -46,25 +46,22 @@ std::vector<Row> CountTypes(const CardSet& set)
 
 std::vector<Row> CountBacks(const CardSet& set)
 {
-    OneBasedArray<Row> rows;
-    rows.Resize(set.CardBacks.Count());
+    std::vector<Row> rows;
     for (int i = 1; i <= set.CardBacks.Count(); ++i)
-        rows[i].Name = set.CardBacks[i].Name;
+        rows.push_back({set.CardBacks[i].Name});
     for (int i = 1; i <= set.Cards.Count(); ++i) {
         const int16 back = set.Cards[i].CardBack;
-        if (back < 1)
+        if (back < 1 || back > set.CardBacks.Count())
             throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-        Row& row = rows[back];
+        Row& row = rows[static_cast<std::size_t>(back) - 1];
         row.Count = CheckedAdd(row.Count, 1);
     }
-    std::vector<Row> counted;
-    for (int i = 1; i <= set.CardBacks.Count(); ++i)
-        counted.push_back(rows[i]);
-    return counted;
+    return rows;
 }
 
-/// Highest first, by exchanging each row with every higher one behind it: rows of the same count do not stay
-/// in their order, and the listing of a set is to look the same each time.
+/// Sorts by descending count.
+/// Kept: this exchange sort is not stable, and its order of equal counts is part
+/// of the listing.
 void SortByCount(std::vector<Row>& rows)
 {
     for (std::size_t i = 0; i + 1 < rows.size(); ++i) {

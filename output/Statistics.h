@@ -6,8 +6,8 @@
 
 namespace deckforge {
 
-/// The cards of the set by type and by back, each card once, and the totals of the other kinds. A card whose
-/// back is not in the table is error 9.
+/// Counts the cards of the set by type and by back, without copies, and the cards of the other kinds. Error 9
+/// if a card's back is not in the table.
 [[nodiscard]] QString StatisticsText(const CardSet& set);
 
 } // namespace deckforge

@@ -16,14 +16,15 @@ namespace {
 
 constexpr char FailureTitle[] = "Saving the cardsheet";
 constexpr char GifFailureTitle[] = "Saving the card";
-constexpr int CardOutline = CardSize.width(); ///< of the boxes of the grid; a back's begins a pixel further
+constexpr int CardOutline =
+    CardSize.width(); ///< width of the outlines; a back's begins a pixel further right
 
 QPoint CellCorner(const SheetState& sheet)
 {
     return {(sheet.SheetCol - 1) * sheet.SheetCardWidth, (sheet.SheetRow - 1) * sheet.SheetCardHeight};
 }
 
-/// Whether the sheet is to be written: the grid is full, or nothing more comes.
+/// Whether to write the sheet: its grid is full, or this is the last card.
 bool IsDue(SheetState& sheet, const FilePath& path)
 {
     const bool isFull = sheet.SheetCol == sheet.SheetCols && sheet.SheetRow == sheet.SheetRows;
@@ -54,7 +55,7 @@ void SizeCardSheet(Workshop& workshop)
     workshop.Surfaces.picDone.SetSize({sheet.SheetCols * cellWidth, sheet.SheetRows * picACard.Height()});
 }
 
-/// The grid lies on the outer pixels of the cards.
+/// Draws the grid over the outer pixels of the cards.
 void DrawGrid(Workshop& workshop)
 {
     const SheetState& sheet = workshop.Sheet;
@@ -82,8 +83,8 @@ void PrepareLargeSheet(Workshop& workshop, const Box& card)
     picLargeSheet.SetPicture({});
 }
 
-/// The composed card on picDone; the clipboard gets it as well, where there is one.
-void TakeLargeCard(Workshop& workshop, QSize size)
+/// Copies the composed card to picDone and to the clipboard.
+void CaptureLargeCard(Workshop& workshop, QSize size)
 {
     PictureBox& picDone = workshop.Surfaces.picDone;
     picDone.SetPicture({});
@@ -95,7 +96,7 @@ void TakeLargeCard(Workshop& workshop, QSize size)
     card.CopyToClipboard();
 }
 
-/// The card, and below it its back in four lines of black.
+/// Paints the card, and below it its back with a black outline, on picStore.
 void StackLargeCard(Workshop& workshop, QSize size)
 {
     PictureBox& picStore = workshop.Surfaces.picStore;
@@ -113,7 +114,7 @@ void StackLargeCard(Workshop& workshop, QSize size)
     picStore.Freeze();
 }
 
-/// The card by whose size a large sheet is laid out; null for sheets of standard cards.
+/// The box with the size of the cells on a large sheet; null for standard cards.
 const Box* LargeSheetCard(const CardTemplates& templates, CardKind kind)
 {
     return kind == CardKind::Large       ? &templates.Large.picCardLarge
@@ -128,7 +129,7 @@ int CopiesOf(const CardSet& set, CardKind kind, int16 index)
                                       : 1;
 }
 
-/// Goes to the next cell; gives the number of the sheet it is on.
+/// Advances to the next cell. Returns the number of its sheet.
 int16 NextCell(SheetState& sheet, int16 number)
 {
     ++sheet.SheetCol;
@@ -142,8 +143,7 @@ int16 NextCell(SheetState& sheet, int16 number)
     return CheckedAdd(number, 1);
 }
 
-/// Drops what the surfaces of a run hold, before it and after it.
-void DropSheets(Workshop& workshop)
+void ClearSheets(Workshop& workshop)
 {
     WorkSurfaces& surfaces = workshop.Surfaces;
     for (PictureBox* surface : {&surfaces.picDone, &surfaces.picLargeSheet, &surfaces.picStore}) {
@@ -152,7 +152,7 @@ void DropSheets(Workshop& workshop)
     }
 }
 
-/// Reports the sheet that was not written, or that none was.
+/// Reports an incomplete sheet that was not written, or that no sheet was written.
 void ReportUnwritten(const Workshop& workshop, RunReport& report, CardKind kind)
 {
     const CardSet& set = workshop.Set;
@@ -161,7 +161,7 @@ void ReportUnwritten(const Workshop& workshop, RunReport& report, CardKind kind)
         report.Add(FixFileName(set.Header, workshop.Sheet.Unwritten),
                    QStringLiteral("Not written, since the last card has no copies"));
     } else if (!report.HasWritten()) {
-        report.AddOfSet(set.Header, {}, QStringLiteral("No sheet is written"));
+        report.AddForSet(set.Header, {}, QStringLiteral("No sheet is written"));
     }
 }
 
@@ -173,7 +173,7 @@ void BeginSheets(Workshop& workshop, CardKind kind, SheetGrid grid)
     sheet.SheetCol = 0;
     sheet.SheetRow = 1;
     sheet.Unwritten.clear();
-    DropSheets(workshop);
+    ClearSheets(workshop);
     if (const Box* const card = LargeSheetCard(workshop.Templates, kind))
         PrepareLargeSheet(workshop, *card);
 }
@@ -194,7 +194,7 @@ int16 SaveSheets(Workshop& workshop, RunReport& report, CardKind kind, SheetGrid
             SaveImage(workshop, report, kind, index, {.Sheet = number});
         }
     });
-    DropSheets(workshop);
+    ClearSheets(workshop);
     ReportUnwritten(workshop, report, kind);
     return number;
 }
@@ -220,7 +220,7 @@ void SaveLargeCardSheet(Workshop& workshop, RunReport& report, const FilePath& p
         const Box& picCardLarge = workshop.Templates.Large.picCardLarge;
         const QSize size(picCardLarge.Width, picCardLarge.Height);
         PictureBox& picLargeSheet = workshop.Surfaces.picLargeSheet;
-        TakeLargeCard(workshop, size);
+        CaptureLargeCard(workshop, size);
         StackLargeCard(workshop, size);
         const QPoint cell = CellCorner(workshop.Sheet);
         picLargeSheet.PaintPicture(workshop.Surfaces.picStore.GetPicture(), cell.x(), cell.y());

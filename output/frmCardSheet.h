@@ -7,31 +7,33 @@
 
 namespace deckforge {
 
-// Card sheets: images with many cards in a grid, for printing. Each copy of a card takes a cell; a sheet is
-// written when its grid is full, and when the last copy of the last card is placed.
+// Card sheets: images with many cards in a grid, for printing. Each copy of a card has a cell. A sheet is
+// written when its grid is full, and after the last copy of the last card.
 
-/// What the user picks: 1 to 6 columns and 1 to 8 rows.
+/// The grid chosen by the user, at least 1 x 1.
 struct SheetGrid {
     int16 Cols = 2;
     int16 Rows = 3;
 
-    static constexpr int16 MostCols = 6;
-    static constexpr int16 MostRows = 8;
+    static constexpr int16 MaxCols = 6;
+    static constexpr int16 MaxRows = 8;
 };
 
-/// A run over all cards of a kind and their copies. Returns the number of sheets that they take.
+/// Creates the sheets of all cards of a kind and their copies. Returns the number of sheets; those that were
+/// not written are reported.
 ///
-/// The flag of the last card stays set when a run is over: another run of the same program writes at every
-/// card, and each of its sheets ends up with its last card only. Characters are walked through and no file
-/// results. Sheets that are counted but not written are reported.
+/// Kept: SheetState::SheetLast stays set after the run. The next run writes its sheet after every card, so
+/// each sheet contains its last card only.
+/// Kept: sheets of characters are counted, but no file is written.
 int16 SaveSheets(Workshop& workshop, RunReport& report, CardKind kind, SheetGrid grid);
 
-/// Places the composed card and its back on the sheet, and writes the sheet when that is due. A failure is
+/// Places the composed card and its back on the sheet, and writes the sheet if it is due. A failure is
 /// reported.
 void SaveCardSheet(Workshop& workshop, RunReport& report, const FilePath& path);
 
-/// The same for a large card, which stands above its back, though the cell is as wide as both. The clipboard
-/// is given each card.
+/// The same for a large card.
+/// Kept: the card is above its back although the cell is as wide as both, and each card is copied to the
+/// clipboard.
 void SaveLargeCardSheet(Workshop& workshop, RunReport& report, const FilePath& path);
 
 } // namespace deckforge

@@ -14,32 +14,21 @@ namespace deckforge {
 
 namespace {
 
-/// What the images of the kinds differ in.
+/// What differs between the images of the kinds.
 struct ImageRow {
     FinalImage Image;
     const char* NamePrefix;
     const char* SheetPart; ///< of a sheet's name
-    CardKind SheetKind;    ///< whose count sheets are numbered by
+    CardKind SheetKind;    ///< the kind whose count sets the digits of sheet numbers
 };
 
 const ImageRow& RowOf(CardKind kind)
 {
-    static constexpr ImageRow rows[] = {{.Image = FinalImage::Card,
-                                         .NamePrefix = "",
-                                         .SheetPart = " Sheet ",
-                                         .SheetKind = CardKind::Standard},
-                                        {.Image = FinalImage::LargeCard,
-                                         .NamePrefix = "Large ",
-                                         .SheetPart = " Sheet Large ",
-                                         .SheetKind = CardKind::Large},
-                                        {.Image = FinalImage::Character,
-                                         .NamePrefix = "Character ",
-                                         .SheetPart = " Sheet Large ",
-                                         .SheetKind = CardKind::Character},
-                                        {.Image = FinalImage::NewBack,
-                                         .NamePrefix = "",
-                                         .SheetPart = " Sheet ",
-                                         .SheetKind = CardKind::Standard}};
+    static constexpr ImageRow rows[] = {
+        {FinalImage::Card, "", " Sheet ", CardKind::Standard},
+        {FinalImage::LargeCard, "Large ", " Sheet Large ", CardKind::Large},
+        {FinalImage::Character, "Character ", " Sheet Large ", CardKind::Character},
+        {FinalImage::NewBack, "", " Sheet ", CardKind::Standard}};
     return rows[static_cast<std::size_t>(kind)];
 }
 
@@ -65,7 +54,7 @@ void WriteImageOf(Workshop& workshop, RunReport& report, CardKind kind, int16 in
 void PlaceOnSheet(Workshop& workshop, RunReport& report, CardKind kind, int16 index, const FilePath& path)
 {
     switch (kind) {
-    case CardKind::Character: // its sheets are named and counted, and no file results
+    case CardKind::Character: // Kept: its sheets are counted but not written
         return;
     case CardKind::Large:
         SaveLargeCardSheet(workshop, report, path);
@@ -79,7 +68,6 @@ void PlaceOnSheet(Workshop& workshop, RunReport& report, CardKind kind, int16 in
     SaveCardSheet(workshop, report, path);
 }
 
-/// The title and the file name of a card.
 struct CardNames {
     const QString& Title;
     QString& FileName;
@@ -94,7 +82,7 @@ CardNames NamesOf(CardSet& set, CardKind kind, int16 index)
 }
 
 /// Sets the card's file name and returns the folder that its image is written to.
-QString TakeTarget(const SetHeader& header, const ImageTarget& target, const CardNames& names)
+QString ApplyTarget(const SetHeader& header, const ImageTarget& target, const CardNames& names)
 {
     if (target.Chosen) {
         names.FileName = NamePart(*target.Chosen).section(QLatin1Char('.'), 0, 0);
@@ -111,9 +99,8 @@ FilePath SaveElement(Workshop& workshop, RunReport& report, CardKind kind, int16
     CardSet& set = workshop.Set;
     const ImageRow& row = RowOf(kind);
     const CardNames names = NamesOf(set, kind, index);
-    // A failure leaves the card its name.
     auto restoreName = qScopeGuard([&, before = names.FileName] { names.FileName = before; });
-    const QString folder = TakeTarget(set.Header, target, names);
+    const QString folder = ApplyTarget(set.Header, target, names);
     FilePath path = {folder, ImageName(set.Header, QString::fromLatin1(row.NamePrefix), names.FileName, index,
                                        CountOf(set, kind))};
     if (target.Sheet) {
@@ -151,7 +138,7 @@ void SaveImages(Workshop& workshop, RunReport& report, CardKind kind)
 
 void WriteCardBacks(Workshop& workshop, const QString& folder)
 {
-    constexpr int lastBack = 26; // the blank one behind it is left out
+    constexpr int lastBack = 26; // without the blank one behind it
     constexpr int characterBacks = 3;
     const auto save = [&](const Picture& picture, const QString& name) {
         const QString path = folder + QLatin1Char('/') + name + QStringLiteral(".bmp");

@@ -7,29 +7,27 @@
 
 namespace deckforge {
 
-// Image files of composed cards, one by one and all of a kind.
-
 /// Where the image of a card is written to.
 struct ImageTarget {
-    /// The path that the user chose; without it the card's file name, or else its title, in the set's folder.
+    /// The path chosen by the user. Otherwise the card's file name, else its title, in the set's folder.
     std::optional<QString> Chosen = {};
-    /// The sheet that the card is placed on; without it an image of its own is written.
+    /// The sheet on which to place the card instead of writing an image.
     std::optional<int16> Sheet = {};
 };
 
-/// Names the composed card of the index and writes its image, or places it on a sheet. Returns the path of
-/// the image. A failure before the writing returns nothing and leaves the card its name.
+/// Sets the file name of the composed card, and writes its image or places it on a sheet. Failures and
+/// missing pictures are reported. Returns the path of the image; nothing, with the file name unchanged, if a
+/// failure occurred before writing.
 ///
-/// A character's playing piece is written with its card; on a sheet a character writes nothing. A
-/// user-designed back is shown and composed anew. Failures are reported, and so are pictures that the
-/// composed card lacks.
+/// The playing piece is written with its character. User-designed backs are composed again.
 std::optional<FilePath> SaveImage(Workshop& workshop, RunReport& report, CardKind kind, int16 index,
                                   const ImageTarget& target = {});
 
 /// Composes each card of a kind and writes its image.
 void SaveImages(Workshop& workshop, RunReport& report, CardKind kind);
 
-/// The built-in backs as BMP files, except the blank one, and those of characters. A failure is thrown.
+/// Writes the built-in backs (except the blank one) and those of characters as BMP files. Failures are
+/// thrown.
 void WriteCardBacks(Workshop& workshop, const QString& folder);
 
 } // namespace deckforge

@@ -34,7 +34,7 @@ struct FileDialogRequest {
     QString Filter;
     int FilterIndex = 1;
     QString DefaultExtension;
-    QString Folder; ///< where the dialog starts; empty for its default
+    QString Folder = {}; ///< where the dialog starts; empty for its default
     /// The file at FileName as the program last read or wrote it; the save dialog warns if it has changed
     /// since.
     std::optional<FileAttributes> Known = {};

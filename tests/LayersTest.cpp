@@ -36,8 +36,8 @@ QStringList IncludesOf(const QString& path)
 
 } // namespace
 
-/// Each includes only what lies below it; widgets begin with the dialogs, and one file names their classes.
-TEST(Layers, IncludeOnlyWhatLiesBelowThem)
+/// Each includes only layers below it. Only dialogs and above use widgets.
+TEST(Layers, IncludeOnlyLayersBelowThem)
 {
     const auto isWidgetHeader = [](const QString& header) {
         return QFile::exists(DECKFORGE_WIDGET_HEADERS "/" + header);

@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-// All tests run without a screen and in a home of their own, so that none meets the files of the user.
+// All tests run without a screen and in their own home, so that they do not touch the files of the user.
 int main(int argc, char* argv[])
 {
     testing::InitGoogleTest(&argc, argv);

@@ -22,33 +22,33 @@ protected:
         Program.setProcessEnvironment(environment);
         Program.start(DECKFORGE_WINDOW, QStringList());
         EXPECT_TRUE(Program.waitForStarted());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Catches(SIGTERM); }, MostMilliseconds))
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Catches(SIGTERM); }, TimeoutMilliseconds))
             << Program.readAllStandardError().toStdString();
         // A crash in the middle of its work is rescued by luck.
-        EXPECT_TRUE(QTest::qWaitFor([&] { return IsAtRest(); }, MostMilliseconds));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return IsAtRest(); }, TimeoutMilliseconds));
     }
     void Kill(int signal) { ::kill(static_cast<pid_t>(Program.processId()), signal); }
 
     static constexpr const char* Rescued = "Documents/Varnhelm Deck Forge/rescued.dkf";
 
-    static constexpr int MostMilliseconds = 20000;
+    static constexpr int TimeoutMilliseconds = 20000;
     TestFolder Home;
     DefaultSignals Signals; ///< for the program
     QProcess Program;
 
 private:
-    /// What the system tells of the process.
-    [[nodiscard]] QByteArray ToldOf(const char* file) const
+    /// A file of /proc for the process.
+    [[nodiscard]] QByteArray ProcFile(const char* name) const
     {
-        QFile told(QString("/proc/%1/%2").arg(Program.processId()).arg(file));
-        return told.open(QIODevice::ReadOnly) ? told.readAll() : QByteArray();
+        QFile file(QString("/proc/%1/%2").arg(Program.processId()).arg(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    /// Whether it takes no time of the processor any more, as it does when it waits for its user.
+    /// Whether the process is idle, waiting for its user.
     [[nodiscard]] bool IsAtRest() const
     {
         const auto ticks = [&] {
-            const QByteArray all = ToldOf("stat");
+            const QByteArray all = ProcFile("stat");
             const QList<QByteArray> fields = all.mid(all.lastIndexOf(')') + 2).split(' ');
             return fields.value(0) + fields.value(11) + ' ' + fields.value(12);
         };
@@ -59,7 +59,7 @@ private:
 
     [[nodiscard]] bool Catches(int signal) const
     {
-        const QByteArray all = ToldOf("status");
+        const QByteArray all = ProcFile("status");
         const QByteArray mask = all.mid(all.indexOf("SigCgt:") + 7).split('\n').front().trimmed();
         return (mask.toULongLong(nullptr, 16) >> (signal - 1) & 1) != 0;
     }

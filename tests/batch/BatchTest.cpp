@@ -16,7 +16,7 @@ namespace deckforge {
 /// "DIR" the folder of that.
 class Batch : public testing::Test {
 protected:
-    /// Its status, and what it says; blanks part the arguments.
+    /// Its exit status and output; arguments are separated by spaces.
     int Run(QString commandLine, const QString& standardOutput = {})
     {
         commandLine.replace("SET", Folder.Path("a.dkf")).replace("DIR", Folder.Path());
@@ -66,7 +66,7 @@ TEST_F(Batch, WritesEveryOutputOfASet)
     EXPECT_TRUE(Output.startsWith("Number of cards used/type:\n1 - ENEMY- Animal (100%)\n"));
 }
 
-TEST_F(Batch, TheSameInputGivesTheSameBytesWhateverIsInMemory)
+TEST_F(Batch, TheSameInputGivesTheSameBytes)
 {
     const auto run = [&](const char* usedMemory) {
         qputenv("MALLOC_PERTURB_", usedMemory);
@@ -98,7 +98,7 @@ TEST_F(Batch, PrintsOnePageOfAnyKind)
     EXPECT_FALSE(Folder.Has("b.pdf"));
 }
 
-TEST_F(Batch, TellsAFailureInItsStatus)
+TEST_F(Batch, ReportsAFailureByItsExitStatus)
 {
     EXPECT_EQ(Run("images DIR/none.dkf"), 1);
     EXPECT_EQ(Error, "Error: Error while opening the Varnhelm Card Set.\n\n53, File not found\n" +
@@ -122,7 +122,7 @@ TEST_F(Batch, TellsAFailureInItsStatus)
     EXPECT_EQ(Run("statistics SET", "/dev/full"), 1);
 }
 
-TEST_F(Batch, TellsAMissingPictureInItsStatusWhereOneIsNeeded)
+TEST_F(Batch, ReportsANecessaryMissingPictureByItsExitStatus)
 {
     const QString symbol = Folder.Path("symbol.bmp");
     QByteArray set = Folder.Read("a.dkf");
@@ -137,7 +137,7 @@ TEST_F(Batch, TellsAMissingPictureInItsStatusWhereOneIsNeeded)
         EXPECT_EQ(Run(command), 0) << Error.toStdString();
 }
 
-TEST_F(Batch, WritesNothingOverTheSet)
+TEST_F(Batch, NeverOverwritesTheSet)
 {
     const QByteArray set = Folder.Read("a.dkf");
     ASSERT_TRUE(QFile::link(Folder.Path("a.dkf"), Folder.Path("link")));
@@ -150,7 +150,7 @@ TEST_F(Batch, WritesNothingOverTheSet)
     EXPECT_EQ(Run("convert SET SET"), 0) << "saves it";
 }
 
-TEST_F(Batch, RefusesAWrongCommandLineAndShowsItsUse)
+TEST_F(Batch, RejectsAWrongCommandLineAndShowsItsUsage)
 {
     for (const char* wrong : {"", "paint a.dkf", "new", "new a.dkf a.dkf", "convert a.dkf",
                               "new a.dkf --save", "images a.dkf --scale 0", "images a.dkf --format png",

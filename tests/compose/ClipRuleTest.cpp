@@ -5,7 +5,7 @@
 
 namespace deckforge {
 
-TEST(ClipRule, TellsSourceAndTargetForEveryPlaceOfThePicture)
+TEST(ClipRule, GivesSourceAndTargetForEveryPositionOfThePicture)
 {
     const QSize small(50, 40);
     const QSize large(200, 160);

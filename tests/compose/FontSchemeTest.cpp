@@ -7,7 +7,7 @@
 
 namespace deckforge {
 
-TEST(FontScheme, DressesEveryLabelInItsFont)
+TEST(FontScheme, AppliesTheFontOfEveryLabel)
 {
     SetHeader header;
     CardTemplates templates(1);
@@ -41,13 +41,13 @@ TEST(FontScheme, DressesEveryLabelInItsFont)
     EXPECT_EQ(character.lblObjects.Font, objects) << "outside the scheme";
 }
 
-TEST(FontScheme, AnOpenedSetLeavesTheSecondLineOfTheTypeAsItWas)
+TEST(FontScheme, AnOpenedSetKeepsTheFontsOfTheSecondTypeLine)
 {
     SetHeader header;
     SetDefaultFont(header);
     header.FontType.Size = 12;
     CardTemplate card(1);
-    DressOpenedSet(card, header);
+    ApplyOpenedSetFonts(card, header);
     EXPECT_EQ(card.lblType[0].Font.Size, 12);
     EXPECT_EQ(card.lblType[1].Font.Size, 12);
     EXPECT_EQ(card.lblType[2].Font.Size, 6.75);

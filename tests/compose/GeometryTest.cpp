@@ -34,7 +34,7 @@ PictureBox SurfaceIn(const FontSpec& font, QSize size)
     return surface;
 }
 
-/// The ground with one line of text in its box.
+/// The background with one line of text in its box.
 QImage WithText(const QImage& ground, const FontSpec& font, At place, QRect box, const QString& text)
 {
     PictureBox surface = SurfaceIn(font, ground.size());
@@ -49,7 +49,7 @@ QImage WithText(const QImage& ground, const FontSpec& font, At place, QRect box,
     return surface.Image().Pixels();
 }
 
-/// What a turned strip shows, from the text that is printed on it upright.
+/// The rotated strip, from the text printed upright.
 QImage TurnedStrip(PictureBox& strip, double x, double y, const QString& text, int degrees)
 {
     strip.CurrentX = x;
@@ -172,7 +172,7 @@ TEST_F(GeometryTest, EachTextHasItsPlaceAndFont)
     }
 }
 
-TEST_F(GeometryTest, RunningNumbersStandAtTheBottomWithABlankBefore)
+TEST_F(GeometryTest, NumbersArePrintedAtTheBottomAfterASpace)
 {
     const double leftOnCard = 134 + 13 - SurfaceIn(Header().FontAutonumber, {}).TextWidth(u"1");
     const std::tuple<On, double, int> rows[] = {
@@ -190,7 +190,7 @@ TEST_F(GeometryTest, RunningNumbersStandAtTheBottomWithABlankBefore)
     }
 }
 
-TEST_F(GeometryTest, TheTextsOfAStandardCardFollowTheirSwitches)
+TEST_F(GeometryTest, TheTextsOfAStandardCardFollowItsOptions)
 {
     // Without a bold line the information begins a pixel under it, with one twelve.
     Standard.FrameHeight = 105;
@@ -219,7 +219,7 @@ TEST_F(GeometryTest, TheTextsOfAStandardCardFollowTheirSwitches)
     EXPECT_EQ(Changed(without, Composed(OnCard)), Changed(without, expected));
 }
 
-TEST_F(GeometryTest, TheTextOfABackIsCentredOnItsMiddleAndBreaksAtBarsAmongLines)
+TEST_F(GeometryTest, TheTextOfABackIsCentredAndBreaksAtBarsIfItHasLines)
 {
     Back.InnerColor = Back.FrameColor = Back.BackColor = White;
     const QImage without = Composed(OnBack);
@@ -242,7 +242,7 @@ TEST_F(GeometryTest, TheTextOfABackIsCentredOnItsMiddleAndBreaksAtBarsAmongLines
     }
 }
 
-TEST_F(GeometryTest, EachAttributeReadsInItsOwnStripInItsColour)
+TEST_F(GeometryTest, EachAttributeIsDrawnInItsStripAndColour)
 {
     const std::tuple<QString&, QString, Colour, QRect, int> rows[] = {
         {Hero.Strength, "STRENGTH 4", 0x101FFF, {0, 44, 12, 52}, 90},
@@ -280,7 +280,7 @@ TEST_F(GeometryTest, TheCreditOfTheArtistRunsDownTheLeftEdge)
     EXPECT_TRUE(QRect(0, 40, 5, 180).contains(Changed(without, with)));
 }
 
-TEST_F(GeometryTest, SymbolsStandInTheirCorners)
+TEST_F(GeometryTest, SymbolsAreInTheirCorners)
 {
     const std::pair<On, QRect> rows[] = {{OnCard, {0, 256 - 2 - 11, 7, 11}},
                                          {OnLarge, {304 - 2 - 7, 256 - 2 - 11, 7, 11}},
@@ -296,14 +296,14 @@ TEST_F(GeometryTest, SymbolsStandInTheirCorners)
     }
 }
 
-TEST_F(GeometryTest, FieldAndOutlineOfThePictureFillTheFrame)
+TEST_F(GeometryTest, BackgroundAndOutlineOfThePictureFillTheFrame)
 {
     Hero.Background = Folder.WritePicture("ground.bmp", PictureOfPlaces({276, 228}));
     const std::tuple<On, bool&, bool&, QRect, int> rows[] = {
         {OnCard, Standard.ShowPicture, Standard.Frame, {5, 40, 139, 60}, 60},
         {OnLarge, Large.ShowPicture, Large.Frame, {8, 8, 100, 238}, 238},
         {OnHero, Hero.ShowPicture, Hero.Frame, {14, 14, 100, 220}, 218}};
-    // What moves with the frame has no part in it.
+    // Without the boxes that move with the frame.
     for (Box* caption : {&Boxes.Character.lblAlignmentTitle, &Boxes.Character.lblStartTitle,
                          &Boxes.Character.lblSpecialTitle})
         caption->Caption.clear();
@@ -328,7 +328,7 @@ TEST_F(GeometryTest, FieldAndOutlineOfThePictureFillTheFrame)
     }
 }
 
-TEST_F(GeometryTest, APictureLiesInItsFrameAndIsCutByIt)
+TEST_F(GeometryTest, APictureIsClippedByItsFrame)
 {
     struct Placed {
         On Kind;
@@ -393,7 +393,7 @@ TEST_F(GeometryTest, APictureLiesInItsFrameAndIsCutByIt)
     }
 }
 
-TEST_F(GeometryTest, AFrameThatFollowsThePictureMovesInItsStead)
+TEST_F(GeometryTest, AFrameThatFollowsThePictureMovesInItsPlace)
 {
     Standard.ShowPicture = Standard.Resize = Standard.Frame = true;
     Large.Resize = Large.Frame = true;

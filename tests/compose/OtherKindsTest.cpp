@@ -26,7 +26,7 @@ protected:
     const QString Places = Folder.WritePicture("places.bmp", PictureOfPlaces({200, 250}));
 };
 
-TEST_F(OtherKindsTest, WithoutAPictureTheTextTakesTheWholeCard)
+TEST_F(OtherKindsTest, WithoutAPictureTheTextUsesTheWholeCard)
 {
     Large().ShowPicture = Hero().ShowPicture = false;
     ASSERT_FALSE(ShowLargeCard(Shop, 1) || ShowCharacter(Shop, 1));
@@ -36,7 +36,7 @@ TEST_F(OtherKindsTest, WithoutAPictureTheTextTakesTheWholeCard)
     EXPECT_EQ(Shop.Templates.Large.picBackLarge.Surface->GetPicture().Pixels(), Shop.Art.imgChB(3).Pixels());
 }
 
-TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreToldOnTheStandardCard)
+TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreReportedOnTheStandardCard)
 {
     const Picture kept = PictureOf({"rr"});
     Shop.Templates.Standard.picBack.Surface->SetPicture(kept);
@@ -55,7 +55,7 @@ TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreToldOnTheStandardCard)
     }
 }
 
-TEST_F(OtherKindsTest, ThePiecePrintsItsNameInWhatTheSurfaceHadAndDressesTheCard)
+TEST_F(OtherKindsTest, ThePieceNameHasTheFontBeforeItAndThePieceFontIsSetOnTheCard)
 {
     Header().FontPlayingPiece.Color = Red;
     ASSERT_FALSE(ShowCharacter(Shop, 1));
@@ -108,7 +108,7 @@ TEST_F(OtherKindsTest, ABackHasItsThreeColoursAndNoOtherAtEveryScale)
     }
 }
 
-TEST_F(OtherKindsTest, ABackIsTurnedUprightTwoPixelsToTheLeft)
+TEST_F(OtherKindsTest, ABackIsRotatedAndShiftedLeftByTwoPixels)
 {
     Back().BackText.clear();
     Back().UsePicture = true;

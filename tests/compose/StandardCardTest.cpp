@@ -18,7 +18,7 @@ protected:
     QRect InkIn(QRect area) { return deckforge::InkIn(Surface(), area, Cream); }
 };
 
-TEST_F(StandardCardTest, AFrameThatLeavesNoRoomKeepsTheHeightOfTheText)
+TEST_F(StandardCardTest, WithoutRoomTheTextBoxKeepsItsHeight)
 {
     FirstCard().BoldText = "STRENGTH 3";
     for (const auto& [height, top] : {std::pair{int16{60}, 115}, {int16{300}, 355}}) {
@@ -39,21 +39,21 @@ TEST_F(StandardCardTest, AFontWithoutSizeKeepsTheSizeOfTheTextBefore)
     EXPECT_GT(InkIn({0, 163, 152, 40}).height(), 9);
 }
 
-TEST_F(StandardCardTest, AMissingSymbolIsToldAndLeavesTheCardWithoutOne)
+TEST_F(StandardCardTest, AMissingSymbolIsReportedAndTheCardHasNone)
 {
     Header().Symbol = Folder.WritePicture("s.bmp", PictureOf(PixelRows(7, "rrrrrrr")));
     (void)ShowSet(Shop);
     Compose();
     EXPECT_EQ(Surface().GetPixel(0, 250), Red);
     Header().Symbol = Folder.Path("none.bmp");
-    ShowViewed(User, {.Symbol = ShowSet(Shop)});
+    ShowViewFailures(User, {.Symbol = ShowSet(Shop)});
     EXPECT_FALSE(Boxes().picSymbol.Visible);
     EXPECT_EQ(User.LastBox().Text, "Run-time error '53':\r\n\r\nFile not found");
     Compose();
     EXPECT_EQ(Surface().GetPixel(0, 250), Cream);
 }
 
-TEST_F(StandardCardTest, TheCreditLiesOverTheBackgroundOfTheCard)
+TEST_F(StandardCardTest, TheCreditIsDrawnOverTheBackgroundOfTheCard)
 {
     FirstCard().Artist = "MMMM";
     FirstCard().Background = Folder.WritePicture("b.bmp", PictureOfPlaces({150, 254}));
@@ -69,7 +69,7 @@ TEST_F(StandardCardTest, TheCreditLiesOverTheBackgroundOfTheCard)
     EXPECT_EQ(Surface().GetPixel(2, 45), ColourOfPlace(2, 45));
 }
 
-TEST_F(StandardCardTest, MissingPicturesAreToldOnThePreviewAndTheRestIsComposed)
+TEST_F(StandardCardTest, MissingPicturesAreReportedOnThePreviewAndTheRestIsComposed)
 {
     FirstCard().Picture = Folder.Path("none.bmp");
     FirstCard().Background = Folder.Path("none/none.bmp");
@@ -82,19 +82,19 @@ TEST_F(StandardCardTest, MissingPicturesAreToldOnThePreviewAndTheRestIsComposed)
     EXPECT_FALSE(deckforge::InkIn(*Boxes().picBack.Surface, {0, 5, 150, 1}, White).isNull())
         << "the back says what is missing";
     EXPECT_EQ(RowsOf(Boxes().picCard.Surface->Image())[5].find('#'), std::string::npos)
-        << "the message on the front goes with its colour";
+        << "setting the colour removes the message on the front";
     FirstCard().CardBack = 99;
     Compose();
     EXPECT_EQ(FirstCard().CardBack, 1) << "a back past the table becomes the first";
 }
 
-TEST_F(StandardCardTest, ADamagedPictureIsToldInABoxAndTheCardIsNotComposed)
+TEST_F(StandardCardTest, ADamagedPictureIsReportedAndTheCardIsNotComposed)
 {
     Compose();
     const QImage before = Surface().Image().Pixels();
     FirstCard().Picture = Folder.Write("p.bmp", "BM and no more");
     FirstCard().Color = Black;
-    ShowComposed(User, ShowCard(Shop, 1));
+    ShowCompositionFailure(User, ShowCard(Shop, 1));
     EXPECT_EQ(User.BoxTexts(), QStringList("Cannot draw picture correct|Error while drawing the card.\r\n\r\n"
                                            "481, Invalid picture"));
     EXPECT_EQ(Surface().Image().Pixels(), before);

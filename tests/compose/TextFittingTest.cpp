@@ -8,7 +8,7 @@ namespace deckforge {
 
 namespace {
 
-/// The text as it is broken to the width of as many "m" as given, less a hair so that that many do not fit.
+/// The text wrapped to a width that `letters` letters "m" just exceed.
 QStringList Broken(const QString& text, int letters)
 {
     PictureBox surface(QSize(200, 50));
@@ -22,7 +22,7 @@ QStringList Broken(const QString& text, int letters)
     return lines;
 }
 
-/// The lines of a surface that hold ink, each with its first inked column.
+/// The lines of a surface with ink, each with its first inked column.
 std::vector<std::pair<int, int>> InkedLines(const PictureBox& surface, int pitch)
 {
     std::vector<std::pair<int, int>> lines;
@@ -42,7 +42,7 @@ TEST(TextFitting, LinesBreakBehindTheLastBreakCharacterThatFits)
         {{"mm mmm", 5, "mm |mmm", "at a blank"},
          {"mm-mm-mm", 6, "mm-mm-|mm", "at the last hyphen"},
          {"mmm mmm", 3 + 1, "mmm |mmm", "the blank itself fits"},
-         {"mmm", 3, "mm|m", "a line that fills the width is refused"},
+         {"mmm", 3, "mm|m", "a line that fills the width breaks"},
          {"mm@mm", 3, "mm@|mm", "a break that overflows stays"},
          {"m m", 4, "m m", "what fits is not broken"},
          {"mmmmmmm", 4, "mmm|mmm|m", "a word longer than the line is cut"},
@@ -51,7 +51,7 @@ TEST(TextFitting, LinesBreakBehindTheLastBreakCharacterThatFits)
         EXPECT_EQ(Broken(text, letters).join('|'), lines) << why;
 }
 
-TEST(TextFitting, EmptyLinesTakeAPitchAndCentredOnesStandInTheMiddleOfTheirColumn)
+TEST(TextFitting, EmptyLinesHaveTheLineHeightAndCentredOnesAreCentred)
 {
     PictureBox surface(QSize(40, 60));
     WrapAndPrint(surface, "H\r\n\r\nH\r\n", {.Left = 3, .Top = 0, .Width = 30});
@@ -73,11 +73,11 @@ TEST(TextFitting, EmptyLinesTakeAPitchAndCentredOnesStandInTheMiddleOfTheirColum
     EXPECT_NEAR(centred[1].second, 60 - wide.TextWidth(u"HHHHH") / 2, 1.5);
 }
 
-TEST(TextFitting, OneLineIsCentredOnWholePixelsAndRunsOverBothSides)
+TEST(TextFitting, OneLineIsCentredOnWholePixelsAndExtendsPastBothSides)
 {
     const Box box{.Name = {}, .Left = 10, .Width = 20};
-    EXPECT_EQ(Centred(box, 5), 17); // 7.5 goes down
-    EXPECT_EQ(Centred(box, 25), 7); // -2.5 goes down as well
+    EXPECT_EQ(Centred(box, 5), 17); // 7.5 is rounded down
+    EXPECT_EQ(Centred(box, 25), 7); // -2.5 is rounded down, too
     EXPECT_EQ(RightAligned(box, 25), 5);
 }
 

@@ -6,7 +6,7 @@
 
 namespace deckforge {
 
-/// Two records of each kind and one card back of its own, each with a text that tells its field.
+/// Two records of each kind and one card back of its own, each with a text that names its field.
 class PicturePathsTest : public SetTest {
 protected:
     PicturePathsTest()
@@ -35,7 +35,7 @@ protected:
     }
 };
 
-TEST_F(PicturePathsTest, EveryFieldTakesTheFolderAndKeepsItsName)
+TEST_F(PicturePathsTest, EveryFieldGetsTheFolderAndKeepsItsFileName)
 {
     const std::tuple<const char*, std::vector<int16>, const char*, const char*> cases[] = {
         {"Card", {1, 2}, "CARD 2", "/new/card.bmp"},
@@ -49,7 +49,7 @@ TEST_F(PicturePathsTest, EveryFieldTakesTheFolderAndKeepsItsName)
         SCOPED_TRACE(caption);
         CardSet set = Set;
         const PathField& field = Field(caption);
-        EXPECT_EQ(ListedRows(set, field), rows);
+        EXPECT_EQ(field.Rows(set), rows);
         const int16 row = rows.back();
         EXPECT_EQ(field.Title(set, row), title);
         ChangeFolder(set, field, {row}, "/new/");
@@ -60,7 +60,7 @@ TEST_F(PicturePathsTest, EveryFieldTakesTheFolderAndKeepsItsName)
     }
 }
 
-TEST_F(PicturePathsTest, SeparatorIsAddedUnlessThereIsOne)
+TEST_F(PicturePathsTest, ASeparatorIsAddedIfMissing)
 {
     for (const auto& [folder, expected] : {std::pair{"/new", "/new/card.bmp"},
                                            {"D:\\new\\", "D:\\new\\card.bmp"},

@@ -18,7 +18,7 @@ TEST_F(SetLifecycle, DeletingAsksByNameAndLeavesTheCardBeforeTheLastOne)
     User.WillAnswer(Answer::No);
     EXPECT_FALSE(DeleteElement<Card>(Set, User));
     EXPECT_EQ(Set.Cards.Count(), 4);
-    EXPECT_EQ(User.LastTold(), "Confirm delete|Are you sure you want to delete the card \"CARD 3\"?");
+    EXPECT_EQ(User.LastMessageText(), "Confirm delete|Are you sure you want to delete the card \"CARD 3\"?");
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Question);
     User.WillAnswer(Answer::Yes);
     EXPECT_TRUE(DeleteElement<Card>(Set, User));
@@ -31,7 +31,7 @@ TEST_F(SetLifecycle, DeletingAsksByNameAndLeavesTheCardBeforeTheLastOne)
     EXPECT_EQ(Set.Cards[3].Title, "CARD 3") << "cards are numbered by their place";
 }
 
-TEST_F(SetLifecycle, ThereIsNoCardBehindTheLastNumber)
+TEST_F(SetLifecycle, CardsPastTheMaximumAreAnError)
 {
     Set.Cards.Resize(32767);
     EXPECT_EQ(FailureOf([&] { AddElement<Card>(Set); }), 6);
@@ -40,7 +40,7 @@ TEST_F(SetLifecycle, ThereIsNoCardBehindTheLastNumber)
     EXPECT_EQ(FailureOf([&] { (void)Set.Cards[-1]; }), 9);
 }
 
-TEST_F(SetLifecycle, ANewCardTakesTheDefaultsOfTheSet)
+TEST_F(SetLifecycle, ANewCardHasTheDefaultsOfTheSet)
 {
     Set.LastType = "type";
     Set.LastSubType = "second";

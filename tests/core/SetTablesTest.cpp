@@ -10,7 +10,7 @@ namespace deckforge {
 
 using SetTables = SetTest;
 
-TEST_F(SetTables, DeletedBackGivesItsRowToTheNext)
+TEST_F(SetTables, TheNextBackMovesToTheRowOfADeletedOne)
 {
     for (const QString name : {"One", "Two", "Three"})
         AddOwnBack(Set, name, name + ".bmp");

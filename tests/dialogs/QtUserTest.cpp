@@ -14,7 +14,7 @@
 
 namespace deckforge {
 
-TEST(QtUser, ABoxKeepsAllLinesInSightOrScrollsThem)
+TEST(QtUser, AMessageBoxShowsAllLinesOrScrolls)
 {
     for (const int lines : {2, 500}) {
         QTimer::singleShot(0, [&] {
@@ -51,8 +51,7 @@ TEST(QtUser, TheReplaceQuestionNamesTheFolderAndAnotherProgramsChange)
 {
     const TestFolder folder;
     const QString path = folder.Write("set.dkf", "before");
-    FileDialogRequest request = {
-        .Title = {}, .FileName = path, .Filter = {}, .DefaultExtension = {}, .Folder = {}};
+    FileDialogRequest request = {.Title = {}, .FileName = path, .Filter = {}, .DefaultExtension = {}};
     const QString plain = "set.dkf already exists in " + folder.Path() + ".\nDo you want to replace it?";
     EXPECT_EQ(ReplaceQuestion(path, request), plain);
     request.Known = AttributesOf(path);

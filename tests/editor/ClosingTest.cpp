@@ -27,7 +27,7 @@ protected:
         return ProgramFolder() + (age == 0 ? QString("rescued.dkf") : QString("rescued-%1.dkf").arg(age));
     }
     static bool IsRescued() { return QFile::exists(RescuedPath()); }
-    /// Of the first card; empty where there is no rescued set.
+    /// The title of the first card; empty if there is no rescued set.
     static QString RescuedTitle(int age = 0)
     {
         ScriptedUser reader;
@@ -37,7 +37,7 @@ protected:
     }
     QString Note() { return window.statusBar()->currentMessage(); }
 
-    /// A set with one card of that title.
+    /// A set with one card with this title.
     QString WriteSet(const QString& file, const QString& title)
     {
         CardSet set;
@@ -60,7 +60,7 @@ protected:
     }
 };
 
-TEST_F(ClosingTest, NoWayToLoseUnsavedWorkLeavesNoRescuedSet)
+TEST_F(ClosingTest, EveryWayToLoseUnsavedWorkLeavesARescuedSet)
 {
     const QString other = WriteSet("other.dkf", "Other");
     QByteArray half = folder.Read("other.dkf");
@@ -119,7 +119,7 @@ TEST_F(ClosingTest, TheWindowStaysWithASetThatCannotBeRescued)
     EXPECT_TRUE(IsRescued());
 }
 
-TEST_F(ClosingTest, WhatIsOnTheDiskIsNotRescued)
+TEST_F(ClosingTest, SavedWorkIsNotRescued)
 {
     OpenChangedSet(AddOneOfEachKind);
     for (int tab = 1; tab <= 4; ++tab)
@@ -153,7 +153,7 @@ TEST_F(ClosingTest, ChangesRenewTheRescuedSetUntilTheyAreSaved)
     EXPECT_FALSE(IsRescued());
 }
 
-TEST_F(ClosingTest, TheStartTellsOfARescuedSet)
+TEST_F(ClosingTest, TheStartShowsARescuedSet)
 {
     window.Start({});
     EXPECT_EQ(Note(), QString());
@@ -164,7 +164,7 @@ TEST_F(ClosingTest, TheStartTellsOfARescuedSet)
     EXPECT_TRUE(Note().contains(day)) << Note().toStdString();
 }
 
-TEST_F(ClosingTest, AHintAtWhatCannotBeSavedStaysUntilItIsChanged)
+TEST_F(ClosingTest, TheHintAtUnsavableTextStaysUntilItIsChanged)
 {
     window.show();
     const auto& hint = Find<QLabel>("hint");

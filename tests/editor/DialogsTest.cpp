@@ -41,7 +41,7 @@ protected:
         root = &window;
     }
 
-    /// Goes to the last entry with the keyboard.
+    /// Selects the last entry with the keyboard.
     void ChooseLast(const char* list)
     {
         Find<QComboBox>(list).setFocus();
@@ -65,7 +65,7 @@ protected:
     }
 };
 
-TEST_F(DialogsTest, TheListGoesToACardHoweverItIsSorted)
+TEST_F(DialogsTest, TheSortedListOpensTheChosenCard)
 {
     Type("txtTitle", "Troll");
     Click("cmdCardAdd");
@@ -101,13 +101,13 @@ TEST_F(DialogsTest, CheckedPicturesMoveToTheTypedFolder)
     EXPECT_EQ(Find<QLineEdit>("txtPicture").toolTip(), "/new/one.bmp");
 }
 
-TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedAtOnce)
+TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedImmediately)
 {
     WithDialog("setinfo", [&] {
         auto& list = List("lstCB");
         Click("cmdCBDelete"); // nothing is selected
         Click("cmdCBAdd");
-        EXPECT_EQ(user.LastTold(), "Missing information|You must give both a name and choose a file.");
+        EXPECT_EQ(user.LastMessageText(), "Missing information|You must give both a name and choose a file.");
         EXPECT_EQ(user.LastBox().Style, BoxStyle::Exclamation);
         ChoosePicture("cmdCBPic", "/pics/caves.v2.bmp");
         EXPECT_EQ(Text({"txtCBPicture", "txtCBName"}), "/pics/caves.v2.bmp|");
@@ -133,7 +133,7 @@ TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedAtOnce)
     EXPECT_EQ(FirstCard().CardBack, 1) << "the card kept its back";
 }
 
-TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
+TEST_F(DialogsTest, ReversedNamesOfOwnTypesFollowTheirNames)
 {
     WithDialog("setinfo", [&] {
         Find<QTabWidget>("tabSet").setCurrentIndex(1);
@@ -144,7 +144,7 @@ TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
         txtCTName.setFocus();
         QTest::keyClicks(&txtCTName, "OMEN-");
         Click("cmdCTAdd");
-        EXPECT_EQ(user.LastTold(), "Missing information|You must give the type a reversed name.");
+        EXPECT_EQ(user.LastMessageText(), "Missing information|You must give the type a reversed name.");
         QTest::keyClick(&txtCTName, Qt::Key_Tab);
         EXPECT_EQ(txtCTNameRev.text(), "OMEN-");
         QTest::keyClicks(&txtCTNameRev, "-OMEN"); // it was selected
@@ -174,7 +174,7 @@ TEST_F(DialogsTest, OwnTypesTakeTheirReversedNamesFromTheirNames)
               "OMEN- Dark -OMEN kraD -1 /pics/ground.bmp");
 }
 
-TEST_F(DialogsTest, FontOptionsFollowTheSampleAndAStrayOneChangesTheAutonumber)
+TEST_F(DialogsTest, FontOptionsFollowTheSampleAndAnUnknownOneChangesTheAutonumber)
 {
     const FontSpec tall = {.Name = "Arial", .Size = 11};
     WithDialog("choosefont", [&] {
@@ -213,7 +213,7 @@ TEST_F(DialogsTest, TheSheetStartsAtTwoByThreeAndFollowsTheKeys)
     EXPECT_EQ(folder.Image("New set Sheet 1.bmp").size(), QSize(304, 4 * 256));
     EXPECT_EQ(SheetSizeText({.Cols = 1, .Rows = 1}, true), "256 x 152");
     WithDialog("createsheet", [] {}); // Esc
-    EXPECT_EQ(user.LastTold(), "Create cardsheets|0 cardsheets are created.");
+    EXPECT_EQ(user.LastMessageText(), "Create cardsheets|0 cardsheets are created.");
 }
 
 } // namespace deckforge

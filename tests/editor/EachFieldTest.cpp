@@ -7,11 +7,11 @@
 
 namespace deckforge {
 
-/// A set in which no two fields hold the same, but for those that can only be yes or no.
+/// A set in which all fields except booleans have different values.
 class EachFieldTest : public WindowTest {
 protected:
     struct Row {
-        int Tab; ///< 0 for what is beside the tabs
+        int Tab; ///< 0 for controls outside the tabs
         const char* Control;
         std::function<QString()> InSet;
     };
@@ -91,7 +91,7 @@ protected:
         return Find<QWidget>(row.Control);
     }
 
-    /// What the control shows; of a path the name of the file.
+    /// The contents of the control; for a path, the file name.
     QString ShownBy(const Row& row)
     {
         QWidget& control = ControlOf(row);
@@ -105,8 +105,8 @@ protected:
         return {};
     }
 
-    /// Gives the control another value as a user does; gives what the field then should hold, or nothing for
-    /// a control that only shows.
+    /// Changes the control like a user and returns the expected value of the field, or nothing for a
+    /// read-only control.
     std::optional<QString> Edit(const Row& row)
     {
         QWidget& control = ControlOf(row);
@@ -147,7 +147,7 @@ TEST_F(EachFieldTest, IsShownByItsOwnControl)
     EXPECT_EQ(Find<QComboBox>("cboCardBack").currentIndex(), 4 - 1);
 }
 
-TEST_F(EachFieldTest, TakesTheValueOfItsOwnControlAlone)
+TEST_F(EachFieldTest, IsChangedByItsOwnControlOnly)
 {
     AddRows();
     const auto values = [&] {
@@ -164,7 +164,7 @@ TEST_F(EachFieldTest, TakesTheValueOfItsOwnControlAlone)
     }
 }
 
-TEST_F(EachFieldTest, AnAttributeIsDrawnAnewInItsOwnStrip)
+TEST_F(EachFieldTest, AnAttributeIsRedrawnInItsOwnStrip)
 {
     SelectTab(3);
     const auto& strips = Boxes().Character.picCharAttrDisp;

@@ -15,7 +15,7 @@ protected:
     }
 };
 
-TEST_F(FieldsTest, AChosenTypeBringsItsNumberAndATypedOneIsTheCardsOwn)
+TEST_F(FieldsTest, AChosenTypeSetsItsNumberAndATypedOneIsTheCardsOwn)
 {
     Choose("cboType", 5);
     EXPECT_EQ(CardType(), "ENEMY-|Spirit|-ENEMY|Spirit|6|3");
@@ -39,7 +39,7 @@ TEST_F(FieldsTest, AChosenTypeBringsItsNumberAndATypedOneIsTheCardsOwn)
     EXPECT_EQ(CardType(), "SPELL||SPELL||13|") << "Enter chooses the entry again";
 }
 
-TEST_F(FieldsTest, AUserDefinedBackJoinsTheTable)
+TEST_F(FieldsTest, AUserDefinedBackIsAddedToTheTable)
 {
     auto& list = Find<QComboBox>("cboCardBack");
     user.WillCancelDialog();
@@ -86,7 +86,7 @@ TEST_F(FieldsTest, PictureButtonsFillFieldPreviewAndPathBox)
     EXPECT_EQ(user.OpenDialogs.back().Folder, "");
 }
 
-TEST_F(FieldsTest, EveryPictureButtonCarriesToItsOwnField)
+TEST_F(FieldsTest, EveryPictureButtonFillsItsOwnField)
 {
     for (const int tab : {2, 3, 4})
         SelectTab(tab);
@@ -112,7 +112,7 @@ TEST_F(FieldsTest, EveryPictureButtonCarriesToItsOwnField)
     }
 }
 
-TEST_F(FieldsTest, ACharacterTakesThePlaceOfAnAreaAndAttributesAsTyped)
+TEST_F(FieldsTest, ACharacterHasThePlaceOfItsAreaAndAttributesAsTyped)
 {
     SelectTab(3);
     Choose("cboStartArea", 19);
@@ -129,7 +129,7 @@ TEST_F(FieldsTest, ACharacterTakesThePlaceOfAnAreaAndAttributesAsTyped)
     EXPECT_EQ(std::tuple(Hero().CardBack, Hero().CardBackPicture), std::tuple(1, QString()));
 }
 
-TEST_F(FieldsTest, ColoursGoToRecordAndSurface)
+TEST_F(FieldsTest, ColoursAreAppliedToRecordAndSurface)
 {
     constexpr Colour red = 0x0000FF;
     for (const int tab : {4, 1})
@@ -156,7 +156,7 @@ TEST_F(FieldsTest, ColoursGoToRecordAndSurface)
     EXPECT_EQ(Boxes().NewBack.picNewBack.Surface->GetPixel(50, 50), red);
 }
 
-TEST_F(FieldsTest, FontsOpenAtTwoClicksOnStandardCardsAndAtOneElsewhere)
+TEST_F(FieldsTest, FontsOpenOnADoubleClickOnStandardCardsAndOnAClickElsewhere)
 {
     const FontSpec chosen = SmallFont(9, true, 0x00FF00);
     const QPoint title = PointOn(Preview().lblTitle);
@@ -170,7 +170,7 @@ TEST_F(FieldsTest, FontsOpenAtTwoClicksOnStandardCardsAndAtOneElsewhere)
     EXPECT_EQ(Set().Header.FontAlignment, chosen);
 }
 
-TEST_F(FieldsTest, ABackIsShownAnewAtEveryChangeOfItsText)
+TEST_F(FieldsTest, ABackIsRedrawnAtEveryChangeOfItsText)
 {
     SelectTab(4);
     Type("txtBackText", "OWLS");
@@ -178,7 +178,7 @@ TEST_F(FieldsTest, ABackIsShownAnewAtEveryChangeOfItsText)
     QTest::keyClicks(&Find<QLineEdit>("txtBackText"), "xy");
     EXPECT_EQ(Boxes().NewBack.lblBackTitle.Caption, "OxyWLS") << "the cursor stays";
 
-    // A missing picture of it is told once for all letters.
+    // A missing picture is reported once for all letters.
     Click("chkNewBackPicture");
     ChoosePicture("cmdGetNewBackPicture", folder.WritePicture("owl.bmp"));
     ASSERT_TRUE(QFile::remove(Back().Picture));

@@ -16,12 +16,12 @@ namespace deckforge {
 
 namespace {
 
-enum class Failure { None, Told };
+enum class Failure { None, Shown };
 
-/// Sets from strangers: each has two elements of every kind, of which the first is changed.
+/// Untrusted sets with two elements of every kind, of which the first is changed.
 class HostileSetTest : public WindowTest {
 protected:
-    /// Opens the set, looks at everything in it, steps, and makes all images and sheets.
+    /// Opens the set, shows everything in it, steps, and creates all images and sheets.
     void Try(const char* what, const std::function<void(CardSet&)>& change, Failure mayFail = Failure::None)
     {
         SCOPED_TRACE(what);
@@ -37,7 +37,7 @@ protected:
         });
         ASSERT_FALSE(user.Boxes.empty());
         ASSERT_EQ(user.Boxes.front().Text, "The card set is loaded.");
-        EXPECT_TRUE(user.Boxes.size() == 1 || mayFail == Failure::Told) << user.LastBox().Text.toStdString();
+        EXPECT_TRUE(user.Boxes.size() == 1 || mayFail == Failure::Shown) << user.LastBox().Text.toStdString();
         for (int tab = 1; tab <= 4; ++tab) {
             SelectTab(tab);
             View().grab();
@@ -46,7 +46,7 @@ protected:
         SelectTab(1);
         Slide("hsbCard", 2);
         window.close();
-        // Without a back there are those of the two other cards all the same.
+        // Without this back there are still those of the two other cards.
         EXPECT_TRUE(folder.Has("CARD 2.bmp"));
         QFile::remove(folder.Path("CARD 2.bmp"));
         user.Boxes.clear();
@@ -71,7 +71,7 @@ void SetFonts(CardSet& set, const FontSpec& font)
 
 } // namespace
 
-TEST_F(HostileSetTest, NumbersOutsideTheirTablesAreShown)
+TEST_F(HostileSetTest, NumbersOutsideTheirTablesAreAccepted)
 {
     for (const int16 number : std::array<int16, 6>{-32768, -5, -1, 0, 28, 32767}) {
         Try("numbers", [&](CardSet& set) {
@@ -108,7 +108,7 @@ TEST_F(HostileSetTest, NumbersOutsideTheirTablesAreShown)
     }
 }
 
-TEST_F(HostileSetTest, FontsThatThereAreNotAreShown)
+TEST_F(HostileSetTest, UnknownFontsAreAccepted)
 {
     for (const double size : {0.0, -7.0, 0.01, 2160.0, 10000.0, 1e300})
         Try("a size", [&](CardSet& set) { SetFonts(set, SmallFont(size)); });
@@ -116,7 +116,7 @@ TEST_F(HostileSetTest, FontsThatThereAreNotAreShown)
         Try("a name", [&](CardSet& set) { SetFonts(set, {.Name = name, .Size = 7}); });
 }
 
-TEST_F(HostileSetTest, TextsThatNoCardHasRoomForAreShown)
+TEST_F(HostileSetTest, OverlongTextsAreAccepted)
 {
     for (const QString& text :
          {QString(1 << 16, 'x'), QString(1 << 12, QChar(u'\0')), QStringLiteral("|\r|\n ").repeated(2000),
@@ -135,7 +135,7 @@ TEST_F(HostileSetTest, TextsThatNoCardHasRoomForAreShown)
     }
 }
 
-TEST_F(HostileSetTest, PicturesThatAreNoneAreToldInEveryField)
+TEST_F(HostileSetTest, InvalidPicturesAreReportedForEveryField)
 {
     const QString fifo = folder.Path("fifo.bmp");
     ASSERT_EQ(::mkfifo(fifo.toUtf8().constData(), 0600), 0);
@@ -165,7 +165,7 @@ TEST_F(HostileSetTest, PicturesThatAreNoneAreToldInEveryField)
                 AddOwnBack(set, {}, picture);
                 set.Cards[1].CardBack = 28;
             },
-            Failure::Told);
+            Failure::Shown);
     }
 }
 

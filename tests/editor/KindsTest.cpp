@@ -19,7 +19,7 @@ protected:
     }
 };
 
-TEST_F(KindsTest, AfterANewSetNothingIsTypedIntoAHiddenBox)
+TEST_F(KindsTest, AfterANewSetNoHiddenControlHasTheFocus)
 {
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -56,7 +56,7 @@ TEST_F(KindsTest, ANewSetLeavesTheTabAndItsCardsToTheNextClick)
     EXPECT_EQ(Text("txtNewCardBackName"), "Owls");
 }
 
-TEST_F(KindsTest, OnlyACancelledQuestionAFailedSaveAndARunKeepTheWindowOpen)
+TEST_F(KindsTest, OnlyCancelAFailedSaveAndARunKeepTheWindowOpen)
 {
     window.show();
     Type("txtTitle", "Imp");
@@ -81,7 +81,7 @@ TEST_F(KindsTest, OnlyACancelledQuestionAFailedSaveAndARunKeepTheWindowOpen)
     EXPECT_FALSE(window.isVisible());
 }
 
-TEST_F(KindsTest, KeysAndCommandsGoByTheTab)
+TEST_F(KindsTest, KeysAndCommandsDependOnTheTab)
 {
     const QKeySequence add(Qt::CTRL | Qt::Key_N);
     const QKeySequence previous(Qt::CTRL | Qt::Key_Comma);
@@ -106,7 +106,7 @@ TEST_F(KindsTest, KeysAndCommandsGoByTheTab)
     EXPECT_EQ(Hero().Name, "CHARACTER 2");
 }
 
-TEST_F(KindsTest, TheWheelTurnsNothingThatTheUserDoesNotWorkIn)
+TEST_F(KindsTest, TheWheelChangesOnlyTheFocusedControl)
 {
     for (const char* name : {"cboCardBack", "cboType", "udCopy", "tbCard"})
         TurnWheel(Find<QWidget>(name), -120);
@@ -116,8 +116,8 @@ TEST_F(KindsTest, TheWheelTurnsNothingThatTheUserDoesNotWorkIn)
     EXPECT_EQ(Set().LargeCards.Count(), 0);
 }
 
-/// What the keyboard and a screen reader need.
-TEST_F(KindsTest, ControlsAreNamedAndTabGoesDownOrToTheRight)
+/// Accessibility.
+TEST_F(KindsTest, ControlsAreNamedAndTheTabOrderRunsDownOrRight)
 {
     window.show();
     for (int tab = 1; tab <= 4; ++tab) {

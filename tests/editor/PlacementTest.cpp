@@ -6,7 +6,7 @@ namespace deckforge {
 
 class PlacementTest : public WindowTest {
 protected:
-    /// How far the picture of an element is moved, in pixels.
+    /// The offset of an element's picture in pixels.
     template <class Record>
     static QPointF Offset(const Record& element)
     {
@@ -61,7 +61,7 @@ TEST_F(PlacementTest, TheTextFollowsTheHandleWhichStopsAtItsBounds)
     EXPECT_EQ(Text("lblPicDimChar"), "(99W*220H)");
 }
 
-TEST_F(PlacementTest, KeysLayThePictureAtTheEdgesOfItsFrame)
+TEST_F(PlacementTest, KeysMoveThePictureToTheEdgesOfItsFrame)
 {
     ChoosePicture("cmdGetPic", folder.WritePicture("imp.bmp", PictureOfPlaces({200, 50})));
     const std::pair<Qt::Key, QPointF> steps[] = {{Qt::Key_Right, {1, 0}}, {Qt::Key_Down, {1, 1}},
@@ -96,7 +96,7 @@ TEST_F(PlacementTest, CharacterAndPieceMoveEachTheirOwnPicture)
     EXPECT_EQ(QPointF(Hero().PlayingPieceLeft, Hero().PlayingPieceTop), QPointF(-2, 3) * 15);
 }
 
-TEST_F(PlacementTest, ADroppedPictureGoesWhereItFalls)
+TEST_F(PlacementTest, ADroppedPictureIsUsedWhereItIsDropped)
 {
     const QString path = folder.WritePicture("imp.bmp");
     const auto expectDropped = [&](const QString& field, const Box& box, QPoint inBox = {1, 1}) {
@@ -129,7 +129,7 @@ TEST_F(PlacementTest, ADroppedSetIsOpenedAfterTheQuestion)
     Drop(set);
     EXPECT_EQ(Text("txtTitle"), "Changed");
     window.ShowProgress(1, 3);
-    Drop(set); // refused while a run goes on
+    Drop(set); // rejected during a run
     window.ShowProgress(3, 3);
     user.WillAnswer(Answer::No);
     Drop(set);

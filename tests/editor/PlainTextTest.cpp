@@ -21,7 +21,7 @@ const QString Hostile = QStringLiteral("<img src='none'>");
 
 class PlainTextTest : public WindowTest {
 protected:
-    /// Whatever is on the screen now.
+    /// All visible widgets.
     static void ExpectPlain(const char* where)
     {
         for (const QWidget* widget : QApplication::allWidgets()) {
@@ -33,7 +33,7 @@ protected:
             EXPECT_TRUE(!isHostile || label->textFormat() == Qt::PlainText) << name;
         }
     }
-    /// Lets the mouse rest on a place of a widget.
+    /// Hovers the mouse over a position of a widget.
     void RestOn(QWidget& widget, QPoint point)
     {
         QHelpEvent rest(QEvent::ToolTip, point, widget.mapToGlobal(point));
@@ -74,7 +74,7 @@ protected:
 
 } // namespace
 
-TEST_F(PlainTextTest, NoLabelTipOrBoxTakesATextOfTheSetForRichText)
+TEST_F(PlainTextTest, TextsOfTheSetAreNeverShownAsRichText)
 {
     window.show();
     OpenChangedSet([](CardSet& set) {
@@ -108,7 +108,7 @@ TEST_F(PlainTextTest, NoLabelTipOrBoxTakesATextOfTheSetForRichText)
     EXPECT_GT(tips, 12) << "the mouse has hardly met a text";
 }
 
-TEST_F(PlainTextTest, AScreenReaderIsToldWhatTheLabelsShow)
+TEST_F(PlainTextTest, AccessibleTextsMatchTheLabels)
 {
     const auto read = [&](const char* label) {
         return QAccessible::queryAccessibleInterface(&Find<QLabel>(label))->text(QAccessible::Name);

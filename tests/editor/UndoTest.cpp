@@ -9,12 +9,12 @@ namespace deckforge {
 
 class UndoTest : public WindowTest {
 protected:
-    QByteArray Bytes() { return SetFileBytes(Set(), Unwritable::Mend); }
+    QByteArray Bytes() { return SetFileBytes(Set(), Unwritable::Replace); }
     SetDocument& Document() { return window.Document(); }
     int StepCount() { return Document().Steps().index(); }
 };
 
-TEST_F(UndoTest, WhatIsTypedIntoAFieldIsOneStepUntilAnotherIsVisited)
+TEST_F(UndoTest, TypingIntoAFieldIsOneStepUntilTheFocusMoves)
 {
     Find<QLineEdit>("txtTitle").setFocus();
     Type("txtTitle", "Wolf");
@@ -33,7 +33,7 @@ TEST_F(UndoTest, WhatIsTypedIntoAFieldIsOneStepUntilAnotherIsVisited)
     EXPECT_EQ(Text("txtTitle"), "Wolf");
 }
 
-TEST_F(UndoTest, AChangeThatIsTakenBackByHandIsNoStep)
+TEST_F(UndoTest, AChangeRevertedByHandIsNoStep)
 {
     Click("chkFrame");
     Click("chkFrame");
@@ -43,7 +43,7 @@ TEST_F(UndoTest, AChangeThatIsTakenBackByHandIsNoStep)
     EXPECT_EQ(StepCount(), 0);
 }
 
-TEST_F(UndoTest, AGestureIsOneStepAndTheNextOneAnother)
+TEST_F(UndoTest, EachGestureIsOneStep)
 {
     ChoosePicture("cmdGetPic", folder.WritePicture("a.bmp", PictureOfPlaces({200, 150})));
     const int before = StepCount();
@@ -59,7 +59,7 @@ TEST_F(UndoTest, AGestureIsOneStepAndTheNextOneAnother)
     EXPECT_EQ(FirstCard().PictureLeft, 0);
 }
 
-TEST_F(UndoTest, GoesToTheTabAndCardOfTheStep)
+TEST_F(UndoTest, UndoSelectsTheTabAndCardOfTheStep)
 {
     Click("cmdCardAdd");
     Type("txtTitle", "Second");
@@ -85,7 +85,7 @@ TEST_F(UndoTest, SavingIsNoStepAndItsPathSurvivesUndo)
     EXPECT_EQ(Set().File.value().Path, folder.Path("mine.dkf"));
 }
 
-TEST_F(UndoTest, AnySequenceOfActionsGoesBackAndForthStepByStep)
+TEST_F(UndoTest, AnySequenceOfActionsIsUndoneAndRedoneStepByStep)
 {
     QRandomGenerator random(7);
     const QString picture = folder.WritePicture("a.bmp", PictureOfPlaces({200, 150}));

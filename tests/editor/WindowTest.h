@@ -39,7 +39,7 @@ protected:
     }
 
     // Controls
-    /// What controls show, parted by bars: their texts; of a slider its place and its end: "1 (2)".
+    /// The contents of controls, separated by bars: their texts, or value and maximum of a slider: "1 (2)".
     QString Text(const std::vector<const char*>& names)
     {
         QStringList texts;
@@ -65,7 +65,7 @@ protected:
         Line(name).selectAll();
         QTest::keyClicks(&Line(name), text);
     }
-    /// Chooses an entry as the user does.
+    /// Chooses an entry like the user.
     void Choose(const char* name, int entry)
     {
         auto& list = Find<QComboBox>(name);
@@ -76,13 +76,13 @@ protected:
     void Click(const char* name) { Find<QAbstractButton>(name).click(); }
     void Run(const char* command) { Find<QAction>(command).trigger(); }
     void SelectTab(int tab) { Find<QTabBar>("tbCard").setCurrentIndex(tab - 1); }
-    /// A click on the tab that is selected already.
+    /// Clicks the tab that is already selected.
     void ClickTab(int tab)
     {
         auto& tabs = Find<QTabBar>("tbCard");
         QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(tab - 1).center());
     }
-    /// A turn of the wheel over a control.
+    /// Turns the wheel over a control.
     static void TurnWheel(QWidget& control, int by)
     {
         QWheelEvent turn({2, 2}, control.mapToGlobal(QPointF(2, 2)), {}, {0, by}, Qt::NoButton, {},
@@ -99,7 +99,7 @@ protected:
     const CardTemplate& Preview() const { return Boxes().Standard; }
     CardPreview& View() { return *window.findChild<CardPreview*>(); }
 
-    /// Where on the preview a pixel of a box is, at any zoom.
+    /// The position of a box's pixel on the preview, at any zoom.
     QPoint PointOn(const Box& box, QPoint inBox = {1, 1})
     {
         QPoint corner = box.Place().topLeft() + inBox;
@@ -144,7 +144,7 @@ protected:
         Click(button);
     }
 
-    /// Opens a copy of the set that the window holds now, under another name and with its cards changed.
+    /// Opens a copy of the current set under another name and with changed cards.
     template <class Change>
     void OpenChangedSet(Change&& change)
     {

@@ -6,7 +6,7 @@ namespace deckforge {
 
 class frmQDWTest : public WindowTest {};
 
-TEST_F(frmQDWTest, AnOpenedSetStaysAsItIsWhateverItsControlsHold)
+TEST_F(frmQDWTest, OpeningASetDoesNotChangeItsRecords)
 {
     OpenChangedSet([](CardSet& set) {
         set.Header.SetName = "Caves";
@@ -30,7 +30,7 @@ TEST_F(frmQDWTest, AnOpenedSetStaysAsItIsWhateverItsControlsHold)
     EXPECT_EQ(SetFileBytes(Set(), Unwritable::Fail), before);
 }
 
-TEST_F(frmQDWTest, TypedTextGoesToThePreviewAndCompletesAttributes)
+TEST_F(frmQDWTest, TypedTextUpdatesThePreviewAndCompletesAttributes)
 {
     Type("txtTitle", "Sword & Shield");
     EXPECT_EQ(Preview().lblTitle.Caption, "Sword & Shield");
@@ -51,7 +51,7 @@ TEST_F(frmQDWTest, TypedTextGoesToThePreviewAndCompletesAttributes)
     EXPECT_EQ(FirstCard().BoldText, "s");
 }
 
-TEST_F(frmQDWTest, NewCardTakesTheNextKeysAsItsTitleAndALastOneGivesWayToTheOneBefore)
+TEST_F(frmQDWTest, ANewCardFocusesItsTitleAndDeletingTheLastSelectsTheOneBefore)
 {
     window.show();
     window.activateWindow();
@@ -64,7 +64,7 @@ TEST_F(frmQDWTest, NewCardTakesTheNextKeysAsItsTitleAndALastOneGivesWayToTheOneB
     EXPECT_EQ(Text({"lblCurrentCard", "hsbCard", "txtTitle"}), "2 (2)|2 (2)|Imp");
 }
 
-TEST_F(frmQDWTest, NewSetComesAfterItsQuestionAndKeepsTheSavedOne)
+TEST_F(frmQDWTest, ANewSetAsksFirstAndKeepsTheSavedOne)
 {
     window.Start(folder.Path("none.dkf"));
     EXPECT_EQ(user.LastBox().Style, BoxStyle::Critical);
@@ -85,7 +85,7 @@ TEST_F(frmQDWTest, NewSetComesAfterItsQuestionAndKeepsTheSavedOne)
 TEST_F(frmQDWTest, CopiedCardIsPastedIntoAnotherSet)
 {
     Run("paste");
-    EXPECT_TRUE(user.Boxes.empty()) << user.LastTold().toStdString();
+    EXPECT_TRUE(user.Boxes.empty()) << user.LastMessageText().toStdString();
     EXPECT_EQ(Text("txtTitle"), "") << "nothing was copied yet";
     Type("txtTitle", "Imp");
     Run("copy");

@@ -10,14 +10,14 @@ namespace {
 constexpr int CurrentVersion = 10;
 constexpr int FirstWithOwnRowsOnly = 6; ///< older files count the built-in rows of the tables, too
 
-/// A line of the golden file, and the field that holds it.
+/// A line of the golden file and its field.
 struct Row {
     QByteArray Field;
     int Since;         ///< the first version that has the line
-    QByteArray Before; ///< what older files give; "-" where they lack the whole section
+    QByteArray Before; ///< what older files give; "-" if they lack the whole section
     QByteArray Line;
 
-    /// As the set has it, without the blanks of a number.
+    /// The value in the set, without the spaces of a number.
     [[nodiscard]] static QString Value(const QByteArray& line)
     {
         const bool isNumber = line.endsWith(' ') && line.trimmed().back() <= '9';
@@ -57,7 +57,7 @@ QByteArray FileOf(const Rows& rows, int version = CurrentVersion)
     return file + "-- END --\r\n";
 }
 
-/// Fields as the lines of a file have them.
+/// Formats fields as in the file.
 class Fields : public QStringList {
 public:
     template <class... Values>
@@ -82,7 +82,7 @@ private:
     }
 };
 
-/// What the set has for each row.
+/// The value in the set for each row.
 QStringList FieldsOf(const CardSet& set)
 {
     Fields all;
@@ -125,7 +125,8 @@ class GoldenSetTest : public SetTest {
 protected:
     void Read(const QByteArray& bytes)
     {
-        ASSERT_TRUE(OpenSet(Set, Folder.Write("golden.dkf", bytes), User)) << User.LastTold().toStdString();
+        ASSERT_TRUE(OpenSet(Set, Folder.Write("golden.dkf", bytes), User))
+            << User.LastMessageText().toStdString();
         ASSERT_EQ(FieldsOf(Set).size(), std::ssize(Golden));
     }
 
@@ -146,7 +147,7 @@ TEST_F(GoldenSetTest, EachFieldIsReadFromItsOwnLineAndWrittenThere)
     ExpectWrittenLikeRead(FileOf(Golden));
 }
 
-TEST_F(GoldenSetTest, EachSwitchHasALineOfItsOwn)
+TEST_F(GoldenSetTest, EachBooleanHasItsOwnLine)
 {
     for (std::size_t i = 0; i < Golden.size(); ++i) {
         Rows flipped = Golden;
@@ -160,11 +161,11 @@ TEST_F(GoldenSetTest, EachSwitchHasALineOfItsOwn)
     }
 }
 
-TEST_F(GoldenSetTest, WhatAnOlderVersionLacksGetsItsDefault)
+TEST_F(GoldenSetTest, FieldsThatAnOlderVersionLacksGetTheirDefaults)
 {
     for (int version = 1; version < CurrentVersion; ++version) {
         SCOPED_TRACE(version);
-        Read(FileOf(Golden)); // so that no field has its default by chance, and for the fonts, which stay
+        Read(FileOf(Golden)); // so that no field has its default by chance; fonts are kept
         Read(FileOf(Golden, version));
         const QStringList fields = FieldsOf(Set);
         for (std::size_t i = 0; i < Golden.size(); ++i) {

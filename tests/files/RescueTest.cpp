@@ -15,7 +15,7 @@ namespace deckforge {
 
 class RescueTest : public SetTest {
 protected:
-    /// Rescues the set under a name, as a run of its own does or as the one given.
+    /// Rescues the set under a name, in a new run or the given one.
     QString RescueAs(const QString& name)
     {
         UnsavedWork run(Folder.WithSeparator(), {});
@@ -26,7 +26,7 @@ protected:
         Set.Header.SetName = name;
         return run.Rescue(Set);
     }
-    /// The name of the set in the file; empty where there is none.
+    /// The name of the set in the file; empty if there is none.
     QString NameIn(const QString& file)
     {
         CardSet read;
@@ -34,14 +34,14 @@ protected:
         ScriptedUser silent;
         return OpenSet(read, Folder.Path(file), silent) ? read.Header.SetName : QString();
     }
-    /// The names in the latest files.
+    /// The set names in the latest files.
     QString Names()
     {
         return QStringList{NameIn("rescued.dkf"), NameIn("rescued-1.dkf"), NameIn("rescued-2.dkf")}.join('|');
     }
 };
 
-TEST_F(RescueTest, EarlierOnesMoveOnAndTheTenthIsRemoved)
+TEST_F(RescueTest, EarlierSetsAreRenumberedAndTheTenthIsRemoved)
 {
     for (int i = 1; i <= 12; ++i)
         EXPECT_EQ(RescueAs(QString::number(i)), Folder.Path("rescued.dkf"));
@@ -50,7 +50,7 @@ TEST_F(RescueTest, EarlierOnesMoveOnAndTheTenthIsRemoved)
         EXPECT_EQ(NameIn(QStringLiteral("rescued-%1.dkf").arg(age)), QString::number(12 - age));
     EXPECT_FALSE(Folder.Has("rescued-10.dkf"));
     const QString gone = Folder.Path("gone/");
-    EXPECT_EQ(UnsavedWork(gone, {}).Rescue(Set), gone + "rescued.dkf") << "the folder is made again";
+    EXPECT_EQ(UnsavedWork(gone, {}).Rescue(Set), gone + "rescued.dkf") << "the folder is created again";
 
     QFile::remove(Folder.Path("rescued-2.dkf"));
     RescueAs("13");
@@ -78,7 +78,7 @@ TEST_F(RescueTest, ARunReplacesItsOwnFileWhateverItsNumber)
     EXPECT_EQ(Folder.Read("rescued-1.dkf"), "somebody's") << "it was not its own any more";
 }
 
-TEST_F(RescueTest, IsRenewedWhereItIsDueAndTheSetDiffers)
+TEST_F(RescueTest, IsRenewedIfItIsDueAndTheSetDiffers)
 {
     UnsavedWork idle(Folder.WithSeparator(), std::chrono::hours(1));
     UnsavedWork run(Folder.WithSeparator(), {});
@@ -92,7 +92,7 @@ TEST_F(RescueTest, IsRenewedWhereItIsDueAndTheSetDiffers)
     EXPECT_EQ(Names(), "changed||");
 }
 
-TEST_F(RescueTest, WhatWasLeftStaysUnlessItWasNotLeftAfterAll)
+TEST_F(RescueTest, TheFileOfASetThatWasLeftStaysUntilTheSetIsReturnedTo)
 {
     UnsavedWork run(Folder.WithSeparator(), {});
     run.Keep(Set);
@@ -129,7 +129,7 @@ TEST_F(RescueTest, ARescuedSetThatIsToBeOpenedStays)
     EXPECT_EQ(NameIn("rescued.dkf"), "its own");
 }
 
-TEST_F(RescueTest, GoesBesideTheSetOrToTheTemporaryFolderWhereItMust)
+TEST_F(RescueTest, IsWrittenBesideTheSetOrToTheTemporaryFolderIfNecessary)
 {
     const QByteArray before = qgetenv("TMPDIR");
     const auto restore = qScopeGuard([&] { qputenv("TMPDIR", before); });
@@ -151,13 +151,13 @@ TEST_F(RescueTest, GoesBesideTheSetOrToTheTemporaryFolderWhereItMust)
     QDir(temporary).removeRecursively();
     ASSERT_TRUE(QFile::link(Folder.Path("set"), temporary)); // somebody else's work
     testing::internal::CaptureStderr();
-    run.RescueAtTheEnd(Set);
+    run.RescueAtExit(Set);
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               "The card set could NOT be rescued: 75, Path/File access error\n");
     EXPECT_TRUE(QDir(Folder.Path("set")).isEmpty());
 }
 
-TEST_F(RescueTest, TextsThatNoFileCanHoldTakeNothingElseWithThem)
+TEST_F(RescueTest, UnwritableTextsLoseNothingElse)
 {
     Set.Cards[1].Title = "two\r\nlines";
     Set.Cards[1].Info = "Łódź\r\n€";
@@ -169,7 +169,7 @@ TEST_F(RescueTest, TextsThatNoFileCanHoldTakeNothingElseWithThem)
     EXPECT_EQ(NameIn("rescued.dkf"), "mended");
 }
 
-TEST_F(RescueTest, ASetDiffersByWhatItsFileHolds)
+TEST_F(RescueTest, ASetDiffersIfItsFileWould)
 {
     UnsavedWork kept(Folder.WithSeparator(), {});
     kept.Keep(Set);
@@ -182,7 +182,7 @@ TEST_F(RescueTest, ASetDiffersByWhatItsFileHolds)
     EXPECT_TRUE(kept.Differs(Set)) << "what cannot be written has never been";
 }
 
-TEST(TerminationGuardDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
+TEST(TerminationGuardDeathTest, RunsOnceBeforeUnhandledFailures)
 {
     testing::FLAGS_gtest_death_test_style = "fast";
     const DefaultSignals defaults;
@@ -191,10 +191,10 @@ TEST(TerminationGuardDeathTest, RunsOnceBeforeFailuresThatNobodyHandles)
         way();
     };
     const auto fail = [] { throw RunTimeError(ErrorNumber::DeviceIo); };
-    const auto wait = [] { (void)std::raise(SIGALRM); }; // for longer than the session does
+    const auto wait = [] { (void)std::raise(SIGALRM); }; // longer than the session
     const auto loseDisplay = [] {
         qWarning("The Wayland connection broke. Did the Wayland compositor die?");
-        ::_exit(1); // the drawing library goes so
+        ::_exit(1); // like the graphics library
     };
     EXPECT_DEATH(end(fail), "^last act. terminate called.*\n.*57, Device I/O error");
     EXPECT_EXIT(end([] { std::exit(3); }), testing::ExitedWithCode(3), "^last act. $");

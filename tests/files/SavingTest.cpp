@@ -13,8 +13,7 @@
 
 namespace deckforge {
 
-/// Lets a child run to its system call of that number, counted at entry and at return, and kills it there.
-/// False when it has ended by itself before.
+/// Kills a child at the entry to or return from its n-th system call. False if it ended before.
 static bool KillAtCall(pid_t child, int number)
 {
     int status = 0;
@@ -30,8 +29,7 @@ static bool KillAtCall(pid_t child, int number)
     return true;
 }
 
-/// Saving a set over an older one, which must be on the disk whatever happens: under its name or as its
-/// safety copy.
+/// Saving a set over an older one, which must always be on the disk: under its name or as its safety copy.
 class SavingTest : public SetTest {
 protected:
     SavingTest()
@@ -44,7 +42,7 @@ protected:
     }
 
     bool Save() { return WriteSet(Set, Folder.Path(Name), User); }
-    /// Saves in a child that is killed at its system call of that number; false when it ended before.
+    /// Saves in a child that is killed at its n-th system call; false if it ended before.
     bool SaveKilledAt(int call)
     {
         const pid_t child = ::fork();
@@ -56,7 +54,7 @@ protected:
         }
         return KillAtCall(child, call);
     }
-    /// From now on the file is not replaced but overwritten.
+    /// Makes saves overwrite the file instead of replacing it.
     void AddHardLink() const
     {
         QDir(Folder.Path()).mkdir("linked");
@@ -70,7 +68,7 @@ protected:
         ::stat(Folder.Path(Name).toUtf8().constData(), &status);
         return status;
     }
-    /// Sets the permissions of a file of the folder, or of the folder.
+    /// Sets the permissions of the folder or a file in it.
     void Permit(mode_t mode, const QString& name) const
     {
         ::chmod(Folder.Path(name).toUtf8().constData(), mode);
@@ -93,7 +91,7 @@ protected:
     QByteArray NewBytes;
 };
 
-/// The same where the file is replaced in one step and where it is overwritten.
+/// Runs with files that are replaced and with files that are overwritten.
 class SavingEitherWayTest : public SavingTest, public testing::WithParamInterface<bool> {
 protected:
     SavingEitherWayTest()
@@ -105,7 +103,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(, SavingEitherWayTest, testing::Bool(),
                          [](const auto& way) { return way.param ? "Overwritten" : "Replaced"; });
 
-TEST_P(SavingEitherWayTest, ADiskThatIsFullAfterAnyByteChangesNothing)
+TEST_P(SavingEitherWayTest, AFullDiskAtAnyByteChangesNothing)
 {
     for (qsizetype room = 0; room < NewBytes.size(); ++room) {
         {
@@ -122,7 +120,7 @@ TEST_P(SavingEitherWayTest, ADiskThatIsFullAfterAnyByteChangesNothing)
 
 TEST_P(SavingEitherWayTest, ASaveThatIsKilledAtAnySystemCallLosesNothing)
 {
-    // Each goes on from what the one before left, as a user would who starts the program again.
+    // Each continues with the files of the one before, as after a restart of the program.
     int calls = 0;
     for (bool isKilled = true; isKilled; ++calls) {
         isKilled = SaveKilledAt(calls);
@@ -134,10 +132,10 @@ TEST_P(SavingEitherWayTest, ASaveThatIsKilledAtAnySystemCallLosesNothing)
     EXPECT_EQ(Folder.Read(Name), NewBytes);
 }
 
-TEST_P(SavingEitherWayTest, TwoSaversOfOneSetLeaveOneOfBothWhole)
+TEST_P(SavingEitherWayTest, ConcurrentSavesLeaveOneCompleteSet)
 {
     Set.Cards.Resize(3000);
-    CardSet larger = Set; // writes about as long, so that both meet at the file
+    CardSet larger = Set; // takes about as long to write, so that both compete for the file
     larger.Cards.Resize(3100);
     const QByteArray both[] = {SetFileBytes(Set, Unwritable::Fail), SetFileBytes(larger, Unwritable::Fail)};
     for (int round = 0; round < 20; ++round) {
@@ -153,7 +151,7 @@ TEST_P(SavingEitherWayTest, TwoSaversOfOneSetLeaveOneOfBothWhole)
     }
 }
 
-TEST_P(SavingEitherWayTest, TheFileStaysWhatItIsAndOthersAreNotTouched)
+TEST_P(SavingEitherWayTest, TheFileKeepsItsAttributesAndOthersAreNotTouched)
 {
     for (const QString& name : {Name + '~', Name + "~~", Name + ".bak"})
         Folder.Write(name, "another program's");
@@ -174,8 +172,8 @@ TEST_F(SavingTest, AForeignFileIsOverwrittenAndKeepsItsOwner)
     Permit(0777, {});
     const uid_t owner = Status().st_uid;
     {
-        const NoPrivileges asAnybody; // who can give the owner's files to nobody
-        EXPECT_TRUE(Save()) << User.LastTold().toStdString();
+        const NoPrivileges asAnybody; // cannot change the owner of files
+        EXPECT_TRUE(Save()) << User.LastMessageText().toStdString();
     }
     EXPECT_EQ(Folder.Read(Name), NewBytes);
     EXPECT_EQ(Status().st_uid, owner);
@@ -189,11 +187,11 @@ TEST_F(SavingTest, TheLongestNameIsSavedAgainAndAgain)
     for (int i = 0; i < 2; ++i)
         EXPECT_TRUE(WriteSet(Set, Folder.Path(longest), User)) << i;
     EXPECT_FALSE(WriteSet(Set, Folder.Path('x' + longest), User));
-    EXPECT_TRUE(User.LastTold().endsWith("52, Bad file name or number"));
+    EXPECT_TRUE(User.LastMessageText().endsWith("52, Bad file name or number"));
     EXPECT_EQ(Files(), (QStringList{Name, longest}));
 }
 
-TEST_F(SavingTest, OpeningAFileWhoseSaveWasCutOffTellsWhereItsCopyIs)
+TEST_F(SavingTest, OpeningAFileAfterAnInterruptedSaveShowsItsCopy)
 {
     AddHardLink();
     for (int calls = 1; Folder.Read(Name) == OldBytes; ++calls) {
@@ -202,13 +200,13 @@ TEST_F(SavingTest, OpeningAFileWhoseSaveWasCutOffTellsWhereItsCopyIs)
         if (!SaveKilledAt(calls))
             GTEST_SKIP() << "no child can be traced here";
     }
-    ASSERT_EQ(Files().size(), 2) << "the copy goes last";
+    ASSERT_EQ(Files().size(), 2) << "the copy is removed last";
     const QString copy = Folder.Path(Files().constFirst());
 
     ASSERT_TRUE(OpenSet(Set, Folder.Path(Name), User));
-    EXPECT_TRUE(User.LastBox().Text.contains(copy)) << User.LastTold().toStdString();
+    EXPECT_TRUE(User.LastBox().Text.contains(copy)) << User.LastMessageText().toStdString();
     EXPECT_TRUE(Save());
-    EXPECT_TRUE(QFile::exists(copy)) << "no save takes away what it did not make";
+    EXPECT_TRUE(QFile::exists(copy)) << "a save removes only its own files";
 
     ASSERT_TRUE(OpenSet(Set, copy, User));
     User.WillCancelDialog();
@@ -216,7 +214,7 @@ TEST_F(SavingTest, OpeningAFileWhoseSaveWasCutOffTellsWhereItsCopyIs)
     EXPECT_EQ(User.SaveDialogs[0].FileName, Set.Header.FileName) << "not over the copy";
 }
 
-TEST_F(SavingTest, PlacesThatTakeNoSetAreToldAndLeaveAll)
+TEST_F(SavingTest, UnwritablePathsAreReportedAndNothingChanges)
 {
     const auto linkTo = [&](const QString& target) {
         return [&, target](QDir f) { f.remove(Name), QFile::link(target, f.filePath(Name)); };
@@ -245,7 +243,7 @@ TEST_F(SavingTest, PlacesThatTakeNoSetAreToldAndLeaveAll)
     }
 }
 
-TEST_F(SavingTest, WhereNothingMayBeWrittenTheOldSetStays)
+TEST_F(SavingTest, WithoutWritePermissionTheOldSetStays)
 {
     // The second folder has no room for a copy.
     for (const auto& [ofFile, ofFolder] : {std::pair<mode_t, mode_t>{0444, 0777}, {0666, 0555}}) {

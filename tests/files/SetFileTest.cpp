@@ -13,7 +13,7 @@ namespace deckforge {
 
 namespace {
 
-/// Lines of a set file; here each ends in a semicolon.
+/// Lines of a set file, written with semicolons as line ends.
 QByteArray LinesOf(QByteArray text)
 {
     return text.replace(";", "\r\n");
@@ -61,7 +61,7 @@ TEST_F(SetFileTest, ANewSetIsWrittenLineForLine)
 TEST_F(SetFileTest, AFileOfVersionOneIsConverted)
 {
     ASSERT_TRUE(Read(VersionOne("SPELL", "0")));
-    EXPECT_EQ(Set.Cards[1].FrameHeight, 104) << "halves go to the even neighbour";
+    EXPECT_EQ(Set.Cards[1].FrameHeight, 104) << "halves are rounded to even";
     EXPECT_EQ(Set.Cards[1].Info, "Line one\r\nline two");
     EXPECT_EQ(User.BoxTexts(), (QStringList{"Converting|The set you are opening is of an older version.\r\n"
                                             "It will now be converted to the new version.",
@@ -71,10 +71,10 @@ TEST_F(SetFileTest, AFileOfVersionOneIsConverted)
     ASSERT_TRUE(Read(
         VersionOne("SPELL", "13", "16").replace("16\r\n27", "16\r\nQUEST\r\nTSEUQ\r\n7\r\nFalse\r\n27")));
     ASSERT_TRUE(Read(VersionOne("SPELL", "13", "15")));
-    EXPECT_EQ(Set.CardTypes.Count(), 16) << "rows of the set before stay when the file has none";
+    EXPECT_EQ(Set.CardTypes.Count(), 16) << "own rows are kept if the file has none";
 }
 
-TEST_F(SetFileTest, WhatIsNoSetChangesNothing)
+TEST_F(SetFileTest, AFileThatIsNoSetChangesNothing)
 {
     const QString newer = "Version conflict|The set you are opening is from a newer version.\r\n"
                           "It can not be opened in this version.";
@@ -84,20 +84,20 @@ TEST_F(SetFileTest, WhatIsNoSetChangesNothing)
           {HeadOf("Version 11"), newer},
           {HeadOf("Version10"), ReadFailure + "13, Type mismatch"}}) {
         EXPECT_FALSE(Read(bytes));
-        EXPECT_EQ(User.LastTold(), told);
+        EXPECT_EQ(User.LastMessageText(), told);
     }
     EXPECT_FALSE(OpenSet(Set, Folder.Path("none.dkf"), User));
-    EXPECT_EQ(User.LastTold(), ReadFailure + "53, File not found");
+    EXPECT_EQ(User.LastMessageText(), ReadFailure + "53, File not found");
     EXPECT_EQ(Set.Header.SetName, "New set");
 }
 
-TEST_F(SetFileTest, AFileCutAtAnyLineIsNeverTakenAndAnotherLastLineIsOnlyTold)
+TEST_F(SetFileTest, AFileCutAtAnyLineIsRejectedAndAWrongLastLineIsOnlyReported)
 {
     const QByteArray whole = Written();
     for (qsizetype end = whole.indexOf("\r\n"); end >= 0 && end + 2 < whole.size();
          end = whole.indexOf("\r\n", end + 1)) {
         EXPECT_FALSE(Read(whole.first(end + 2)));
-        EXPECT_EQ(User.LastTold(), ReadFailure + "62, Input past end of file");
+        EXPECT_EQ(User.LastMessageText(), ReadFailure + "62, Input past end of file");
     }
 
     User.Boxes.clear();
@@ -131,14 +131,14 @@ TEST_F(SetFileTest, ADamagedCountOfAnySectionLeavesASetThatCanBeSavedAndOpened)
             EXPECT_TRUE(Set.Cards.Current >= 1 && Set.Cards.Current <= Set.Cards.Count());
             EXPECT_LE(Set.Characters.Current, Set.Characters.Count());
             const QByteArray saved = Written();
-            ASSERT_TRUE(Read(saved)) << User.LastTold().toStdString();
+            ASSERT_TRUE(Read(saved)) << User.LastMessageText().toStdString();
             EXPECT_EQ(Written(), saved);
         }
     }
     EXPECT_GE(damaged, 6 * 7) << "six sections";
 }
 
-TEST_F(SetFileTest, CountsThatCannotBeAreReported)
+TEST_F(SetFileTest, InvalidCountsAreReported)
 {
     const QByteArray whole = Written();
     const QByteArray counts = "\r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n";
@@ -147,11 +147,11 @@ TEST_F(SetFileTest, CountsThatCannotBeAreReported)
                                          {"-2 ", "9, Subscript out of range"},
                                          {" 32767 ", "13, Type mismatch"}}) {
         EXPECT_FALSE(Read(QByteArray(whole).replace(counts, QByteArray(counts).replace(" 1 ", count))));
-        EXPECT_EQ(User.LastTold(), ReadFailure + failure);
+        EXPECT_EQ(User.LastMessageText(), ReadFailure + failure);
     }
 }
 
-TEST_F(SetFileTest, LinesMayEndInLfAloneWhereNoneEndsInCrLf)
+TEST_F(SetFileTest, LinesMayEndWithLfIfNoneEndsWithCrLf)
 {
     Set.Cards[1].Title = "carriage\rreturn";
     const QByteArray whole = Written();
@@ -166,25 +166,25 @@ TEST_F(SetFileTest, LinesMayEndInLfAloneWhereNoneEndsInCrLf)
     EXPECT_EQ(Set.Cards[1].Title, "line\nfeed");
 }
 
-TEST_F(SetFileTest, WhatNoFileCanHoldOrTheReaderWouldNotTakeIsNotWritten)
+TEST_F(SetFileTest, ASetThatCouldNotBeReadAgainIsNotWritten)
 {
     const QByteArray old = Written();
     const QString failure = "Error|The file is NOT saved due to an error.\r\n\r\n";
     Set.Cards[1].Info = "Łódź";
     EXPECT_FALSE(Write());
     EXPECT_EQ(User.LastBox().Style, BoxStyle::Critical);
-    EXPECT_TRUE(User.LastTold().startsWith(failure + "5, "));
+    EXPECT_TRUE(User.LastMessageText().startsWith(failure + "5, "));
     EXPECT_TRUE(User.LastBox().Text.contains("Ł"));
     Set.Cards[1].Info.clear();
     Set.Cards[1].PictureTop = std::numeric_limits<double>::quiet_NaN(); // nothing else is known that fails
     EXPECT_FALSE(Write());
-    EXPECT_EQ(User.LastTold(), failure + "13, The set could not be opened again: Type mismatch");
+    EXPECT_EQ(User.LastMessageText(), failure + "13, The set could not be opened again: Type mismatch");
     EXPECT_EQ(Folder.Read("written.dkf"), old);
     Set.Cards[1].PictureTop = std::numeric_limits<double>::max();
     EXPECT_TRUE(Write()) << "rounded to what the reader takes";
 }
 
-TEST_F(SetFileTest, ALineThatIsTooLongOrTwoIsNeitherReadNorWritten)
+TEST_F(SetFileTest, LinesThatAreTooLongOrBrokenAreNeitherReadNorWritten)
 {
     constexpr qsizetype longest = 1 << 16;
     QString& title = Set.Cards[1].Title;
@@ -194,11 +194,11 @@ TEST_F(SetFileTest, ALineThatIsTooLongOrTwoIsNeitherReadNorWritten)
     EXPECT_TRUE(Read(whole));
     EXPECT_EQ(Set.Cards[1].Info.size(), 2 * longest);
     EXPECT_FALSE(Read(QByteArray(whole).replace("xx\r", "xxx\r")));
-    EXPECT_TRUE(User.LastTold().startsWith(ReadFailure + "6, A line"));
+    EXPECT_TRUE(User.LastMessageText().startsWith(ReadFailure + "6, A line"));
     title += 'x';
     EXPECT_FALSE(Write());
     EXPECT_TRUE(User.LastBox().Text.contains("\r\n\r\n6, A line"));
-    EXPECT_EQ(SetFileBytes(Set, Unwritable::Mend).size(), whole.size()) << "cut";
+    EXPECT_EQ(SetFileBytes(Set, Unwritable::Replace).size(), whole.size()) << "cut";
     title = "two\r\nlines";
     EXPECT_FALSE(Write()) << "a line that is two breaks those of the file";
     title.clear();
@@ -207,7 +207,7 @@ TEST_F(SetFileTest, ALineThatIsTooLongOrTwoIsNeitherReadNorWritten)
     EXPECT_FALSE(Write());
 }
 
-TEST_F(SetFileTest, SavingProposesTheFileWhereItIsAndPutsThePathIntoIt)
+TEST_F(SetFileTest, SavingProposesTheCurrentFileAndStoresItsPath)
 {
     const auto proposed = [&] {
         User.WillCancelDialog();
@@ -227,7 +227,7 @@ TEST_F(SetFileTest, SavingProposesTheFileWhereItIsAndPutsThePathIntoIt)
     User.WillChoose(Folder.Path("chosen.dkf"));
     SaveSet(Set, User);
     EXPECT_TRUE(Folder.Read("chosen.dkf").contains(Folder.Path("chosen.dkf").toUtf8()));
-    EXPECT_EQ(User.LastTold(), "Save file|The card set is saved.");
+    EXPECT_EQ(User.LastMessageText(), "Save file|The card set is saved.");
 
     UnsavedWork work(Folder.WithSeparator(), std::chrono::minutes(1));
     ASSERT_TRUE(OpenSet(Set, work.Rescue(Set), User));
@@ -242,7 +242,7 @@ TEST_F(SetFileTest, FoldersNamedInAnyLanguageAreSavedAndReadAgain)
     Set.Header.SaveTo = "/home/иван/Документы/100%/";
     Set.Header.FileName = "/home/иван/набор.dkf";
     Set.Cards[1].Picture = "/data/Ελλάδα/two\r\nlines.bmp";
-    Set.Cards[1].Background = "/home/josé/bär €.bmp"; // in the code page, so as it stands
+    Set.Cards[1].Background = "/home/josé/bär €.bmp"; // in the code page, so unchanged
     Set.LastBackground = "file:///home/%41.bmp";      // looks like an address, and is none
     const CardSet before = Set;
     const QByteArray written = Written();

@@ -7,7 +7,7 @@
 
 namespace deckforge {
 
-TEST(PictureBox, PicturesAreCutAtItsEdgesAndTheRestStays)
+TEST(PictureBox, PicturesAreClippedAtItsEdges)
 {
     const Picture picture = PictureOf({"rgb", "###"});
     const std::tuple<QPoint, QRect, PixelRows> cases[] = {
@@ -24,7 +24,7 @@ TEST(PictureBox, PicturesAreCutAtItsEdgesAndTheRestStays)
     }
 }
 
-TEST(PictureBox, OutlinesHoldBothCornersAndColourAndPictureClearWhatWasDrawn)
+TEST(PictureBox, OutlinesIncludeBothCornersAndColourAndPictureClearTheDrawing)
 {
     PictureBox surface(QSize(5, 4));
     surface.PaintStretched(PictureOf({"b"}), {0, 0, 4, 3});
@@ -47,7 +47,7 @@ TEST(PictureBox, OutlinesHoldBothCornersAndColourAndPictureClearWhatWasDrawn)
     EXPECT_EQ(RowsOf(before), PixelRows{"r#g"}) << "an image taken before is not drawn over";
 }
 
-TEST(PictureBox, FloodFillKeepsToTheConnectedAreaOfItsColour)
+TEST(PictureBox, FloodFillFillsTheConnectedAreaOfItsColour)
 {
     PictureBox surface = SurfaceOf({"..#..", "..#.#", "###..", "....."});
     surface.FillColor = 0x0000FF;
@@ -58,7 +58,7 @@ TEST(PictureBox, FloodFillKeepsToTheConnectedAreaOfItsColour)
     EXPECT_EQ(RowsOf(surface), (PixelRows{"rr#..", "rr#.#", "###..", "....."}));
 }
 
-TEST(PictureBox, AtAScaleThePlacesAreTheSame)
+TEST(PictureBox, PositionsAreTheSameAtEveryScale)
 {
     PictureBox fine(QSize(4, 3), 3);
     fine.PaintPart(PictureOf({"rrr", "rrr"}), {2, 1}, {0, 0, 3, 2});
@@ -72,7 +72,7 @@ TEST(PictureBox, AtAScaleThePlacesAreTheSame)
     EXPECT_EQ(coarse.GetPixel(3, 2), 0x0000FF);
 }
 
-TEST(PictureBox, RefusesFontsThatCannotBeAndKeepsTheOneItHad)
+TEST(PictureBox, RejectsInvalidFontsAndKeepsItsFont)
 {
     PictureBox surface(QSize(10, 10));
     const TextFont before = surface.Font();
@@ -105,7 +105,7 @@ TEST(TextFont, EveryCharacterIsDrawnAsWideAsItIsMeasured)
     EXPECT_NEAR(ink.right(), surface.TextWidth(text), 3);
 }
 
-TEST(TextFont, TextStandsInItsLineAtEveryScale)
+TEST(TextFont, TextIsInItsLineAtEveryScale)
 {
     for (const int scale : {1, 4}) {
         PictureBox surface(QSize(60, 30), scale);
@@ -120,7 +120,7 @@ TEST(TextFont, TextStandsInItsLineAtEveryScale)
     }
 }
 
-TEST(RotatePicture, TurnsBothWaysAndShiftsTheClockwiseTurnOfBacks)
+TEST(RotatePicture, RotatesBothWaysAndShiftsBacks)
 {
     const PictureBox source = SurfaceOf({"r...", "#..b"});
     PictureBox target(QSize(1, 1));

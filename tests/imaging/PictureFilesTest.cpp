@@ -88,7 +88,7 @@ QByteArray BmpWithMasks(quint32 red, quint32 green, quint32 blue, quint32 pixel)
 
 // Pictures of a few pixels that keep a decoder busy for as long as they have bytes.
 
-/// A picture of 1 x 1 pixels whose codes take so many bytes. Each code stands for the one before and a pixel
+/// A picture of 1 x 1 pixels whose codes take so many bytes. Each code is the one before and one pixel
 /// more, up to thousands.
 QByteArray GifOfOnePixel(qsizetype codeBytes)
 {
@@ -158,7 +158,7 @@ protected:
     PictureLoader Loader;
 };
 
-TEST_F(PictureFiles, TheContentTellsTheFormatWhateverTheName)
+TEST_F(PictureFiles, TheContentDecidesTheFormatNotTheName)
 {
     EXPECT_TRUE(Load("").IsEmpty());
     EXPECT_EQ(Load(Folder.Write("a.jpg", Encoded("BMP"))).Pixels(),
@@ -168,7 +168,7 @@ TEST_F(PictureFiles, TheContentTellsTheFormatWhateverTheName)
     EXPECT_EQ(Load(Folder.Write("d.gif", Metafile())).Size(), QSize(96, 48));
 }
 
-TEST_F(PictureFiles, TakesTheFormsThatEachFormatHas)
+TEST_F(PictureFiles, ReadsTheVariantsOfEachFormat)
 {
     // Compressed, progressive, interlaced, with old headers, bit fields, four colours, several pictures.
     for (const QString format : {"bmp", "jpeg", "gif", "wmf"}) {
@@ -181,7 +181,7 @@ TEST_F(PictureFiles, TakesTheFormsThatEachFormatHas)
     }
 }
 
-TEST_F(PictureFiles, WhatCannotBeIsRejectedAndWhatIsOddIsTaken)
+TEST_F(PictureFiles, InvalidFilesAreRejectedAndUnusualOnesRead)
 {
     const QByteArray bmp = Encoded("BMP");
     const QByteArray jpeg = Encoded("JPEG");
@@ -220,7 +220,7 @@ TEST_F(PictureFiles, WhatCannotBeIsRejectedAndWhatIsOddIsTaken)
         EXPECT_EQ(FailureOfDecoding(bytes), failure) << what;
 }
 
-TEST_F(PictureFiles, WhatIsCutIsRejected)
+TEST_F(PictureFiles, TruncatedFilesAreRejected)
 {
     for (const QByteArray& whole :
          {Encoded("BMP"), Encoded("JPEG"), EncodedGif(), Metafile(), Seed("bmp/rle8"), Seed("bmp/old-header"),
@@ -232,7 +232,7 @@ TEST_F(PictureFiles, WhatIsCutIsRejected)
     }
 }
 
-TEST_F(PictureFiles, AFileOfMoreBytesThanAnyPictureIsNotRead)
+TEST_F(PictureFiles, AnOversizedFileIsNotRead)
 {
     const QString path = Folder.Write("a.bmp", Encoded("BMP"));
     ASSERT_TRUE(QFile::resize(path, MaxDecodedBytes));
@@ -299,7 +299,7 @@ TEST_F(PictureFiles, AMetafileHasTheSizeOfItsPlaceableHeader)
     EXPECT_EQ(PlaceableWmfSize(Metafile().sliced(22)), std::nullopt);
 }
 
-TEST_F(PictureFiles, AMissingConverterIsNamedAndFoundOnceItIsThere)
+TEST_F(PictureFiles, AMissingConverterIsNamedAndFoundOnceInstalled)
 {
     const QString path = Folder.Write("a.wmf", Metafile());
     {

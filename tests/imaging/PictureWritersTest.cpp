@@ -120,7 +120,7 @@ TEST_F(PictureWriters, AJpegHasItsQualityHalfTheColoursAndItsDensity)
     EXPECT_EQ(Folder.Image("a.jpg").dotsPerMeterY(), 15118);
 }
 
-TEST_F(PictureWriters, AJpegHasItsRowsAndColoursInTheirPlaces)
+TEST_F(PictureWriters, AJpegHasItsRowsAndColoursInOrder)
 {
     WrittenJpeg(PictureOfPlaces({153, 40})); // rows with padding
     const QImage read = Folder.Image("a.jpg");
@@ -141,7 +141,7 @@ TEST_F(PictureWriters, AJpegKeepsTheTimesOfTheFileThatItReplaces)
     EXPECT_EQ(QFileInfo(path).lastModified(), old);
 }
 
-TEST_F(PictureWriters, AnImageThatCannotBeMadeIsAnError)
+TEST_F(PictureWriters, AnImageThatCannotBeCreatedIsAnError)
 {
     const cDIBSection surface = SectionOf(PictureOfPlaces({8, 8}));
     EXPECT_EQ(FailureOf([&] { SaveJPG(surface, Folder.Path(), 90, 96); }), 75);

@@ -37,7 +37,7 @@ std::vector<int> BytesOf(const cDIBSection& section)
 
 } // namespace
 
-TEST(cDIBSection, RowsRunBottomUpInBlueGreenRedAndAreFilledUpToFourBytes)
+TEST(cDIBSection, RowsAreBottomUpInBlueGreenRedAndPaddedToFourBytes)
 {
     for (const auto& [width, bytes] :
          {std::pair{1, 4}, {4, 12}, {7, 24}, {151, 456}, {152, 456}, {153, 460}}) {
@@ -50,7 +50,7 @@ TEST(cDIBSection, RowsRunBottomUpInBlueGreenRedAndAreFilledUpToFourBytes)
     EXPECT_EQ(BytesOf(section), (std::vector<int>{255, 0, 0, 0, 0, 0, 255, 0}));
 }
 
-TEST(cDIBSection, WhatCannotBeMadeLeavesItEmpty)
+TEST(cDIBSection, AFailedCreationLeavesItEmpty)
 {
     cDIBSection section = SectionOf({"r"});
     EXPECT_FALSE(section.Create(0, 5));
@@ -62,7 +62,7 @@ TEST(cDIBSection, WhatCannotBeMadeLeavesItEmpty)
     EXPECT_EQ(section.Resample(2, 0), nullptr);
 }
 
-TEST(cDIBSection, CopiesAreCutToBothSurfaces)
+TEST(cDIBSection, CopiesAreClippedToBothSurfaces)
 {
     const cDIBSection source = SectionOf({"rg", "b#"});
     for (const auto& [x, y, width, height, sourceX, sourceY, expected] : {

@@ -10,7 +10,7 @@ namespace deckforge {
 
 using FullDiskTest = WorkshopTest;
 
-TEST_F(FullDiskTest, AnImageThatCouldNotBeWrittenIsToldWhateverIsLeftOfTheOlderOne)
+TEST_F(FullDiskTest, AnImageThatCouldNotBeWrittenIsReported)
 {
     FirstCard().Filename = "card";
     for (int16 format = 0; format < 3; ++format) {
@@ -33,7 +33,7 @@ TEST_F(FullDiskTest, AnImageThatCouldNotBeWrittenIsToldWhateverIsLeftOfTheOlderO
     }
     EXPECT_FALSE(QFile::exists(ProgramFolder() + "qdwtemp.bmp.lock"));
 
-    const FullDisk full(100); // pages and backs are told as well
+    const FullDisk full(100); // pages and backs are reported as well
     (void)CreateHtml(Shop.Set, TheRun, HtmlPages::Cards);
     EXPECT_TRUE(TheRun.Problems().last().endsWith("New set 1.htm: Disk full"));
     EXPECT_EQ(FailureOf([&] { WriteCardBacks(Shop, Folder.Path()); }), 61);

@@ -24,7 +24,7 @@ protected:
         for (int i = 1; i <= count; ++i)
             Set.Cards[i].Filename = QStringLiteral("card %1").arg(i);
     }
-    /// The images of a page, parted by bars.
+    /// The images of a page, separated by bars.
     QString ImagesOf(const char* page)
     {
         QStringList images;
@@ -38,7 +38,7 @@ protected:
     ShownRun TheRun{User};
 };
 
-TEST_F(PagesTest, APageOfSixHasTheSameLinesWhateverItsSlots)
+TEST_F(PagesTest, APageOfSixHasTheSameLinesWithEmptySlots)
 {
     AddCards(1);
     Set.Header.FilenamePrefix = "p";
@@ -53,7 +53,7 @@ TEST_F(PagesTest, PagesAreLinkedAndCopiesAreRepeatedImages)
     Set.Cards[1].Copies = 6;
     Set.Header.ReplaceSpace = true;
     EXPECT_TRUE(CreateHtml(Set, TheRun, HtmlPages::Cards));
-    // Twelve copies announce three pages and fill two.
+    // Twelve copies are linked as three pages and fill two.
     const QByteArray second = Folder.Read("My_Set_2.htm");
     EXPECT_TRUE(
         second.contains("<P>Pages:&nbsp;&nbsp;<A HREF=\"My_Set_1.htm\">1</A>&nbsp;&nbsp;<B>2</B>&nbsp;&nbsp;"
@@ -64,7 +64,7 @@ TEST_F(PagesTest, PagesAreLinkedAndCopiesAreRepeatedImages)
     EXPECT_FALSE(Folder.Has("My_Set_3.htm"));
 }
 
-TEST_F(PagesTest, NamesCannotEndATextOrAnAttribute)
+TEST_F(PagesTest, NamesAreEscaped)
 {
     AddCards(7);
     Set.Header.SetName = "<script>\"&amp;";
@@ -111,7 +111,7 @@ TEST_F(PagesTest, ACardWithoutAFileNameStopsThePages)
     EXPECT_TRUE(CreateHtml(Set, TheRun, HtmlPages::Cards));
     EXPECT_EQ(TheRun.Problems(), QStringList("card 1 \"CARD 1\": " + Folder.Path("../outside 1.htm") +
                                              ": Bad file name or number"));
-    EXPECT_EQ(User.LastBox().Text, "1 HTML sheet is created.") << "it is counted all the same";
+    EXPECT_EQ(User.LastBox().Text, "1 HTML sheet is created.") << "it is counted nevertheless";
     AddCards(7);
     for (int i = 1; i <= 7; ++i)
         Set.Cards[i].Copies = 32767;

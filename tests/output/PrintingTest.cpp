@@ -17,13 +17,13 @@ protected:
     }
 
     /// A printer's page as pixels, large enough for the place of a playing piece.
-    QImage Laid(PrintedPage page, int dotsPerInch)
+    QImage Painted(PrintedPage page, int dotsPerInch)
     {
         QImage paper(2500, 4800, QImage::Format_RGB32);
         paper.fill(Qt::white);
         paper.setDotsPerMeterX(qRound(dotsPerInch / 0.0254));
         paper.setDotsPerMeterY(qRound(dotsPerInch / 0.0254));
-        LayPage(Shop, page, paper);
+        PaintPage(Shop, page, paper);
         return paper;
     }
 };
@@ -43,7 +43,7 @@ TEST_F(PrintingTest, PicturesKeepTheirSizeAndMarginsTheirPixels)
             (void)ShowLargeCard(Shop, 1);
         else
             (void)ShowCharacter(Shop, 1);
-        const QImage paper = Laid(page, dotsPerInch);
+        const QImage paper = Painted(page, dotsPerInch);
         const int top = 40 + 2 * FontMeasures({"Arial", 12}, dotsPerInch).LineHeight() + 20;
         const QRect ink = InkIn(paper, {0, top - 10, paper.width(), paper.height() - top + 10});
         EXPECT_EQ(ink.topLeft(), QPoint(40, top)) << width;
@@ -55,7 +55,7 @@ TEST_F(PrintingTest, PicturesKeepTheirSizeAndMarginsTheirPixels)
 TEST_F(PrintingTest, HeadingIsTwoLinesOfTwelvePoints)
 {
     constexpr int line = 115; // 12 points are 100 pixels here
-    const QImage paper = Laid(PrintedPage::Card, 600);
+    const QImage paper = Painted(PrintedPage::Card, 600);
     const QRect first = InkIn(paper, {0, 0, 1000, 40 + line});
     const QRect second = InkIn(paper, {0, 40 + line, 1000, line});
     EXPECT_GE(first.top(), 40);
@@ -64,18 +64,18 @@ TEST_F(PrintingTest, HeadingIsTwoLinesOfTwelvePoints)
     EXPECT_NEAR(second.top() - first.top(), line, 4);
 }
 
-TEST_F(PrintingTest, PieceStandsWhereItAlwaysStood)
+TEST_F(PrintingTest, ThePieceIsAtItsTraditionalPosition)
 {
     (void)ShowCharacter(Shop, 1);
-    Header().NoBack = true; // the piece is there twice all the same
-    const QImage paper = Laid(PrintedPage::Character, 300);
+    Header().NoBack = true; // the piece is painted twice nevertheless
+    const QImage paper = Painted(PrintedPage::Character, 300);
     const int top = 40 + 2 * FontMeasures({"Arial", 12}, 300).LineHeight() + 40 + 256 * 15;
     const QRect ink = InkIn(paper, {0, 2000, paper.width(), paper.height() - 2000});
     EXPECT_EQ(ink.topLeft(), QPoint(40, top));
     EXPECT_NEAR(ink.right(), 40 + 950 - 1, 1);
 }
 
-TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
+TEST_F(PrintingTest, PrintsToTheDefaultPrinter)
 {
     User.PrinterFile = Folder.Path("page.pdf");
     PrintCard(Shop, TheRun, PrintedPage::Card);
@@ -88,7 +88,7 @@ TEST_F(PrintingTest, PrintedOnAFileForAPrinter)
     FirstCard().Picture = Folder.Write("damaged.bmp", "BM no picture");
     WritePdf(Shop, TheRun, PrintedPage::Card, Folder.Path("page.pdf"), 600);
     EXPECT_TRUE(Folder.Read("page.pdf").contains("/Width 304\n")) << "what cannot be shown is as it was";
-    EXPECT_TRUE(User.Boxes.empty()) << "showing it has told";
+    EXPECT_TRUE(User.Boxes.empty()) << "already reported when shown";
 }
 
 TEST_F(PrintingTest, TheSymbolIsPrintedWhereItIsShown)
@@ -109,7 +109,7 @@ TEST_F(PrintingTest, TheSymbolIsPrintedWhereItIsShown)
     EXPECT_FALSE(printed == printedAt(40, 120));
 }
 
-TEST_F(PrintingTest, NothingIsDoneWithAPrinterThatTakesNoPage)
+TEST_F(PrintingTest, APrinterThatCannotBePaintedOnIsAnError)
 {
     User.PrinterFile = "/no/such/folder/page.pdf";
     EXPECT_EQ(FailureOf([&] { PrintCard(Shop, TheRun, PrintedPage::Card); }), 482);

@@ -94,7 +94,7 @@ TEST_F(RunReportTest, RunsLeaveNoFilesOpen)
     EXPECT_EQ(openFiles().size(), before);
 }
 
-TEST_F(RunReportTest, AFileWrittenTwiceInARunIsReportedWhateverItsName)
+TEST_F(RunReportTest, AFileWrittenTwiceInARunIsReportedUnderAnyName)
 {
     AddCards(3);
     Shop.Set.Cards[2].Title = "CARD 1";
@@ -146,7 +146,7 @@ TEST_F(RunReportTest, PagesThatAreNotWrittenAreReported)
                     ": Not written, since the last card has no copies"));
 }
 
-TEST_F(RunReportTest, AFolderIsMadeOrReportedOnceAndAFormatThatThereIsNotForEachFile)
+TEST_F(RunReportTest, AFolderIsCreatedOrReportedOnceAndAnUnknownFormatForEachFile)
 {
     AddCards(2);
     const auto run = [&](ShownRun& report) { CreateImages(Shop, report, CardKind::Standard); };

@@ -10,7 +10,7 @@
 
 namespace deckforge {
 
-/// A set of cards that are told by their colours, 0x000010 x their number, and by nothing else.
+/// A set of cards that differ only in their colours, 0x000010 x their number.
 class SheetTest : public WorkshopTest {
 protected:
     SheetTest()
@@ -22,7 +22,7 @@ protected:
             Shop.Set.Cards[i].Color = 0x10 * i;
     }
 
-    /// Which cards lie in the cells with these corners; 0 for a blank one.
+    /// The cards in the cells with these corners; 0 if blank.
     static std::vector<int> CardsIn(const QImage& sheet, std::initializer_list<QPoint> cells)
     {
         std::vector<int> cards;
@@ -42,7 +42,7 @@ protected:
     static constexpr QRgb BlackPixel = qRgb(0, 0, 0);
 };
 
-TEST_F(SheetTest, EachCopyTakesACellAndTheLastSheetIsWrittenAsFarAsItIsFilled)
+TEST_F(SheetTest, EachCopyHasACellAndTheLastSheetMayBePartlyFilled)
 {
     Shop.Set.Cards[2].Copies = 3;
     Shop.Set.Cards[4].Copies = 0;
@@ -55,7 +55,7 @@ TEST_F(SheetTest, EachCopyTakesACellAndTheLastSheetIsWrittenAsFarAsItIsFilled)
     EXPECT_EQ(User.BoxTexts(), QStringList{"Create cardsheets|2 cardsheets are created."});
 }
 
-TEST_F(SheetTest, EachCellHasItsCardAndTheBackOfItInAGrid)
+TEST_F(SheetTest, EachCellHasACardAndItsBackInAGrid)
 {
     for (int16 i = 1; i <= 5; ++i)
         Shop.Set.Cards[i].CardBack = i;
@@ -89,7 +89,7 @@ TEST_F(SheetTest, WithoutBacksACellIsACardAndASecondRunWritesAtEveryCard)
         << "each sheet ends up with its last card only";
 }
 
-TEST_F(SheetTest, LargeCardsGoToTheClipboardAndCharactersShareTheirName)
+TEST_F(SheetTest, LargeCardsAreCopiedToTheClipboardAndCharactersShareTheirName)
 {
     AddElement<LargeCard>(Shop.Set);
     CreateSheets(Shop, TheRun, CardKind::Large, SheetGrid{1, 1});
@@ -97,7 +97,7 @@ TEST_F(SheetTest, LargeCardsGoToTheClipboardAndCharactersShareTheirName)
     EXPECT_EQ(User.LastBox().Text, "1 large cardsheet is created.");
     AddElement<Character>(Shop.Set);
     CreateSheets(Shop, TheRun, CardKind::Character, SheetGrid{1, 1});
-    EXPECT_EQ(User.LastTold(), "Create large cardsheets|1 character cardsheet is created.");
+    EXPECT_EQ(User.LastMessageText(), "Create large cardsheets|1 character cardsheet is created.");
     EXPECT_FALSE(Folder.Has("Sea Sheet Large 2.bmp"));
 }
 
@@ -133,7 +133,7 @@ TEST_F(SheetTest, SheetsHaveTheNameAndTheFormatOfTheSet)
 {
     Header().NoBack = true;
     Header().ReplaceSpace = true;
-    Header().FileNr = true; // is of no account
+    Header().FileNr = true; // has no effect
     for (const auto& [prefix, format, name] : {std::tuple{"", int16{0}, "Sea_Sheet_2.bmp"},
                                                {"my sea", int16{1}, "my_sea_Sheet_2.jpg"},
                                                {"my sea", int16{2}, "my_sea_Sheet_2.gif"}}) {
@@ -144,7 +144,7 @@ TEST_F(SheetTest, SheetsHaveTheNameAndTheFormatOfTheSet)
     }
 }
 
-TEST_F(SheetTest, AFailureIsToldAndTheRunGoesOn)
+TEST_F(SheetTest, AFailureIsReportedAndTheRunContinues)
 {
     Header().SaveTo = Folder.Write("file", {}) + "/";
     CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{6, 1});

@@ -32,7 +32,7 @@ TEST(ImageNames, FollowPrefixNumberAndKind)
     }
 }
 
-TEST(ImageNames, LoseOuterBlanksAndNumberSheetsByTheCards)
+TEST(ImageNames, HaveNoOuterSpacesAndNumberSheetsByTheCards)
 {
     SetHeader header;
     EXPECT_EQ(ImageName(header, {}, "  \u00A0Sword", 1, 1), "\u00A0Sword.bmp") << "lost at the ends";
@@ -53,7 +53,7 @@ TEST(ImageNames, LoseOuterBlanksAndNumberSheetsByTheCards)
     EXPECT_EQ(SheetName(header, " Sheet Large ", 2, 53, 6), "s Sheet Large 2.bmp");
 }
 
-TEST_F(ImageTest, CardAndBackStandSideBySideInTheirOutlines)
+TEST_F(ImageTest, CardAndBackAreSideBySideInTheirOutlines)
 {
     AddOneOfEachKind(Shop.Set);
     FirstCard().CardBack = 2;
@@ -100,7 +100,7 @@ TEST_F(ImageTest, CardAndBackStandSideBySideInTheirOutlines)
     EXPECT_EQ(Folder.Image("Back 1.bmp").size(), back.size());
 }
 
-TEST_F(ImageTest, ABatchNamesCardsByTheirTitlesAndComesBackToTheCurrentOne)
+TEST_F(ImageTest, ABatchNamesCardsByTheirTitlesAndRestoresTheCurrentOne)
 {
     AddElement<Card>(Shop.Set);
     FirstCard().Title = "Dr. Who";
@@ -115,7 +115,7 @@ TEST_F(ImageTest, ABatchNamesCardsByTheirTitlesAndComesBackToTheCurrentOne)
     EXPECT_EQ(User.ProgressSteps, 2);
 }
 
-TEST_F(ImageTest, TheDialogGivesFolderAndNameAndTheBoxTellsThePathBeforeReplacements)
+TEST_F(ImageTest, TheDialogSetsFolderAndNameAndTheMessageHasThePathBeforeReplacements)
 {
     Header().FilenamePrefix = "set";
     Header().ReplaceSpace = true;
@@ -123,7 +123,7 @@ TEST_F(ImageTest, TheDialogGivesFolderAndNameAndTheBoxTellsThePathBeforeReplacem
     SaveImageAs(Shop, TheRun, CardKind::Standard, 1);
     EXPECT_EQ(FirstCard().Filename, "a");
     EXPECT_TRUE(Folder.Has("set_a.bmp"));
-    EXPECT_EQ(User.LastTold(),
+    EXPECT_EQ(User.LastMessageText(),
               "Save card|The card is saved to the filename:\r\n\r\n" + Folder.Path("set a.bmp"));
     const FileDialogRequest& dialog = User.SaveDialogs.at(0);
     EXPECT_EQ(dialog.Title + '|' + dialog.FileName, "Save Card|CARD 1.bmp");
@@ -139,7 +139,7 @@ TEST_F(ImageTest, TheDialogGivesFolderAndNameAndTheBoxTellsThePathBeforeReplacem
     EXPECT_TRUE(User.Boxes.empty());
 }
 
-TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
+TEST_F(ImageTest, AFailureIsReportedByTheWriterAndTheRunContinues)
 {
     AddElement<Card>(Shop.Set);
     FirstCard().Title = "../outside";
@@ -151,7 +151,7 @@ TEST_F(ImageTest, AFailureIsToldByTheWriterAndTheRunGoesOn)
         User.Boxes.clear();
         ++Header().SaveFormat;
     }
-    Header().SaveFormat = 2; // which goes by a temporary file
+    Header().SaveFormat = 2; // which uses a temporary file
     EXPECT_TRUE(QFile::exists(ProgramFolder() + "qdwtemp.bmp"));
     WriteFinalPicture(Shop, TheRun, FinalImage::Card, {"/proc/none/", "card.gif"});
     EXPECT_EQ(User.LastBox().Text, "Something went wrong.\r\n\r\nPath not found");

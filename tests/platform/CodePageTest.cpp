@@ -16,7 +16,7 @@ TEST(CodePage, EveryByteSurvivesARoundTrip)
     EXPECT_EQ(FromCodePage("\x80\x92\x9F"), "€’Ÿ");
 }
 
-TEST(CodePage, ACharacterThatItLacksIsNamedAndLeavesTheBytesAsTheyWere)
+TEST(CodePage, AnUnencodableCharacterIsNamedAndLeavesTheBytesUnchanged)
 {
     QByteArray bytes = "before";
     const auto refusal = [&](const QString& text) {

@@ -11,7 +11,7 @@
 
 namespace deckforge {
 
-TEST(Files, FailuresAreToldByWhatIsWrongWithThePath)
+TEST(Files, ErrorsDependOnThePath)
 {
     constexpr qint64 plenty = 1000;
     const TestFolder folder;
@@ -34,7 +34,7 @@ TEST(Files, FailuresAreToldByWhatIsWrongWithThePath)
     EXPECT_EQ(FailureOf([] { OutputFile("/dev/full").Write("x"); }), 61);
 }
 
-TEST(Files, APipeTakesAllThatIsWrittenHoweverSlowItsReader)
+TEST(Files, APipeWithASlowReaderGetsAllBytes)
 {
     const TestFolder folder;
     const QByteArray fifo = folder.Path("fifo").toUtf8();
@@ -72,7 +72,7 @@ TEST(Files, BothSeparatorsOpenAFile)
     EXPECT_TRUE(folder.Has("pictures/b"));
 }
 
-TEST(Paths, AreTakenApartAtTheLastSeparatorOfEitherKindAndFoldersEndInOne)
+TEST(Paths, AreSplitAtTheLastSeparatorAndFoldersEndInOne)
 {
     EXPECT_EQ(NamePart("C:\\cards\\troll.bmp"), "troll.bmp");
     EXPECT_EQ(FolderPart("C:\\cards/troll.bmp"), "C:\\cards/");

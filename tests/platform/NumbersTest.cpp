@@ -7,7 +7,7 @@
 
 namespace deckforge {
 
-TEST(Numbers, RoundHalvesToEvenAndRefuseWhatDoesNotFit)
+TEST(Numbers, RoundHalvesToEvenAndOverflow)
 {
     EXPECT_EQ(ToInt16(104.5), 104);
     EXPECT_EQ(ToInt16(105.5), 106);
@@ -20,7 +20,7 @@ TEST(Numbers, RoundHalvesToEvenAndRefuseWhatDoesNotFit)
     EXPECT_EQ(FailureOf([] { (void)CheckedAdd(32767, 1); }), 6);
 }
 
-TEST(Numbers, AreReadWithTheirBlanksWhateverTheLocaleAndAsBooleans)
+TEST(Numbers, AreReadWithSpacesInAnyLocaleAndAsBooleans)
 {
     for (const auto& [text, number] :
          {std::pair{" 105 ", 105.}, {"-1 ", -1}, {"+12.5", 12.5}, {".5", 0.5}, {"1E+20", 1e20}})
@@ -37,7 +37,7 @@ TEST(Numbers, AreReadWithTheirBlanksWhateverTheLocaleAndAsBooleans)
     EXPECT_EQ(FailureOf([] { (void)BooleanFromText(""); }), 13);
 }
 
-TEST(Numbers, AreWrittenWithAPlaceForTheSignAndABlankBehind)
+TEST(Numbers, AreWrittenWithASignPositionAndATrailingSpace)
 {
     const auto written = [](auto value) {
         QByteArray line;

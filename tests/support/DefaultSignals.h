@@ -7,7 +7,7 @@
 
 namespace deckforge {
 
-/// While it lives, signals do what they do by default, and so they do in children started meanwhile, whatever
+/// In its scope, signals have their default action, also in child processes, whatever
 /// the caller of the tests ignores or blocks (nohup, a shell's trap).
 class DefaultSignals {
 public:

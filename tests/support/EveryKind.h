@@ -6,7 +6,7 @@
 
 namespace deckforge {
 
-/// A large card, a character and a card back beside the standard cards that every set has.
+/// Adds a large card, a character and a card back to the standard card of a new set.
 inline CardSet& AddOneOfEachKind(CardSet& set)
 {
     AddElement<LargeCard>(set);

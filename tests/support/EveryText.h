@@ -6,7 +6,7 @@
 
 namespace deckforge {
 
-/// Goes over the fields of a set as a file does, and gives each text what the function makes.
+/// Visits the fields of a set in file order and replaces each text by the result of the function.
 template <class Make>
 struct EveryText {
     Make MakeText;

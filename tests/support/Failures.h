@@ -20,7 +20,7 @@ inline void PrintTo(const QRect& rect, std::ostream* out)
 
 namespace deckforge {
 
-/// The number of the failure that the step ends in; 0 when it ends in none.
+/// The error number of the step's failure; 0 if it succeeds.
 template <class Step>
 int FailureOf(Step&& step)
 {

@@ -40,7 +40,7 @@ inline QByteArray JpegSegments(const QByteArray& jpeg, int marker)
     return found;
 }
 
-/// The largest divisors of brightness (table 0) or colour (table 1). It tells the quality: at 90 it is a
+/// The largest divisors of brightness (table 0) or colour (table 1). It shows the quality: at 90 it is a
 /// fifth of the 121 or 99 in the tables of the JPEG standard.
 inline int CoarsestJpegStep(const QByteArray& jpeg, int table)
 {
@@ -59,7 +59,7 @@ inline void ExpectLines(const QByteArray& text, const QByteArray& expectedText)
         EXPECT_EQ(lines[i], expected[i]) << "line " << i + 1;
 }
 
-/// A file of the tests, with the line ends of a set.
+/// A test data file, with the line ends of a set.
 inline QByteArray TestData(const QString& name)
 {
     QFile file(DECKFORGE_SOURCE_DIR "/tests/data/" + name);

@@ -9,7 +9,7 @@
 
 namespace deckforge {
 
-/// While it lives, no file can grow past so many bytes: every write behind them fails as on a full disk.
+/// In its scope, writing past this file size fails as on a full disk.
 class FullDisk {
 public:
     explicit FullDisk(qint64 room)
@@ -25,7 +25,7 @@ private:
     rlimit m_before = {};
 };
 
-/// While it lives, permissions hold for the process also where the tests run as root.
+/// In its scope, file permissions apply even if the tests run as root.
 class NoPrivileges {
 public:
     NoPrivileges()

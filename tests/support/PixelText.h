@@ -9,10 +9,10 @@
 
 namespace deckforge {
 
-/// A picture laid out as text, a letter to a pixel and an entry to a row.
+/// A picture as text, with a letter per pixel and an entry per row.
 using PixelRows = std::vector<std::string>;
 
-/// The letters that stand for colours; what is none of them is shown as "?".
+/// The letters of the colours; any other colour is "?".
 constexpr std::string_view PixelLetters = ".#rgb";
 constexpr Colour PixelColours[] = {White, Black, 0x0000FF, 0x00FF00, 0xFF0000};
 
@@ -26,7 +26,7 @@ struct Pixel {
 };
 void ExpectPixels(const PictureBox& surface, std::initializer_list<Pixel> pixels);
 
-/// The least rectangle around the pixels of the area for which that holds; null where there is none.
+/// The bounding rectangle of the pixels that match; null if there are none.
 template <class Condition>
 QRect Where(QRect area, Condition&& holds)
 {
@@ -38,9 +38,9 @@ QRect Where(QRect area, Condition&& holds)
     return found;
 }
 
-/// What of the area is not of the colour of its ground, as a rectangle; null where all of it is.
+/// The bounding rectangle of the pixels that differ from the background; null if there are none.
 QRect InkIn(const PictureBox& surface, QRect area, Colour ground);
-/// What of the area is dark.
+/// The bounding rectangle of the dark pixels.
 QRect InkIn(const QImage& image, QRect area);
 
 /// A surface that shows the rows.
@@ -50,7 +50,7 @@ inline Picture PictureOf(const PixelRows& rows)
     return SurfaceOf(rows).Image();
 }
 
-/// A picture in which the colour of each pixel tells its place, so that a copy shows where it came from.
+/// A picture in which the colour of each pixel encodes its position.
 Picture PictureOfPlaces(QSize size);
 Colour ColourOfPlace(int x, int y);
 

@@ -11,9 +11,9 @@
 
 namespace deckforge {
 
-/// A user who answers from a script and keeps all that was asked and told.
+/// A user who answers from a script and records all questions and messages.
 ///
-/// Boxes with nothing but OK need no script. Every other question needs an answer queued for it: one without
+/// Message boxes with only OK need no script. Every other question needs an answer queued for it: one without
 /// fails at once, and an answer that no question took fails at the end.
 class ScriptedUser final : public UserPort {
 public:
@@ -46,13 +46,13 @@ public:
     std::vector<Pointer> Pointers;
     QStringList ColourTitles;
     QStringList TextDialogs; ///< "TITLE|prompt|text" of each
-    QString PrinterFile;     ///< what stands for the printer: a PDF file; empty for no printer
+    QString PrinterFile;     ///< a PDF file instead of the printer; empty for no printer
     QStringList PrintedDocuments;
     int ProgressSteps = 0;
 
-    /// "TITLE|text" of each box, for comparing all of them at once, and of the last one.
+    /// "TITLE|text" of each message box, for comparing all of them at once, and of the last one.
     [[nodiscard]] QStringList BoxTexts() const;
-    [[nodiscard]] QString LastTold() const { return BoxTexts().value(BoxTexts().size() - 1); }
+    [[nodiscard]] QString LastMessageText() const { return BoxTexts().value(BoxTexts().size() - 1); }
     [[nodiscard]] MessageBoxRequest LastBox() const
     {
         return Boxes.empty() ? MessageBoxRequest() : Boxes.back();

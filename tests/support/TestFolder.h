@@ -11,14 +11,14 @@
 
 namespace deckforge {
 
-/// A folder of the test's own that goes away with it.
+/// A folder of the test that is removed at its end.
 class TestFolder {
 public:
     [[nodiscard]] QString Path(const QString& name = {}) const { return m_folder.filePath(name); }
-    /// The folder as a set names it, with its separator.
+    /// The path with its separator.
     [[nodiscard]] QString WithSeparator() const { return m_folder.path() + '/'; }
     QString Write(const QString& name, const QByteArray& bytes) const;
-    /// A picture file; without another picture one in which no two pixels are alike.
+    /// Writes a picture file; by default one in which all pixels differ.
     QString WritePicture(const QString& name, const Picture& picture = PictureOfPlaces({40, 30})) const;
     void SetTime(const QString& name, const QDateTime& time) const;
     [[nodiscard]] QByteArray Read(const QString& name) const;

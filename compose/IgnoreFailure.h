@@ -6,9 +6,9 @@
 
 namespace deckforge {
 
-/// Runs one step of a composition. One that fails is passed over without a word, and the next one runs.
+/// Runs a step of a composition and ignores its failure.
 template <class Step>
-void Attempt(Step&& step)
+void IgnoreFailure(Step&& step)
 {
     try {
         WithMemoryAsFailure(step);
