@@ -56,6 +56,9 @@ TEST_F(RescueTest, EarlierSetsAreRenumberedAndTheTenthIsRemoved)
     RescueAs("13");
     EXPECT_EQ(NameIn("rescued-2.dkf"), "11");
     EXPECT_EQ(NameIn("rescued-9.dkf"), "3") << "there was room below it";
+    for (const char* name : {"rescued.dkf", "rescued-9.dkf"})
+        EXPECT_TRUE(IsRescuedSet(Folder.Path(name))) << name;
+    EXPECT_FALSE(IsRescuedSet(Folder.Path("rescued-10.dkf")));
 }
 
 TEST_F(RescueTest, ARunReplacesItsOwnFileWhateverItsNumber)
