@@ -2,6 +2,7 @@
 
 #include "core/SetTables.h"
 #include "core/CardListRows.h"
+#include "core/CardVocabulary.h"
 #include "support/SetTest.h"
 
 #include <limits>
@@ -34,6 +35,10 @@ TEST_F(SetTables, OwnTypesAreListedWithTheirNumbers)
     AddOwnType(Set, {"OMEN", {}, {}, {}, -1, false});
     EXPECT_EQ(OwnTypeEntries(Set), (QStringList{"HAZARD-Trap (0)", "OMEN ( )"}));
     EXPECT_FALSE(Set.CardTypes[16].BuiltIn);
+    for (const auto& [row, number] : {std::pair{int16{16}, "0"}, {int16{17}, ""}}) {
+        ChooseCardType(Set, FirstCard(), row);
+        EXPECT_EQ(FirstCard().Number, number);
+    }
     DeleteOwnType(Set, 0);
     EXPECT_EQ(OwnTypeEntries(Set), QStringList("OMEN ( )"));
     EXPECT_EQ(Set.CardTypes.Count(), 16);
