@@ -110,6 +110,10 @@ TEST_F(OtherKindsTest, ABackHasItsThreeColoursAndNoOtherAtEveryScale)
 
 TEST_F(OtherKindsTest, ABackIsRotatedAndShiftedLeftByTwoPixels)
 {
+    ShowNewCardBack(Shop, 1);
+    const Box& title = Shop.Templates.NewBack.lblBackTitle;
+    EXPECT_NEAR(title.Left + title.Width / 2.0, 128, 1) << "the title, in the preview";
+    EXPECT_NEAR(title.Top + title.Height / 2.0, 76, 1);
     Back().BackText.clear();
     Back().UsePicture = true;
     Back().Picture = Places;
