@@ -29,7 +29,7 @@ struct FileId {
     quint64 Device = 0;
     quint64 Inode = 0;
 
-    auto operator<=>(const FileId&) const = default;
+    auto operator<=>(const FileId&) const = default; // NOLINT(modernize-use-nullptr): misread by the check
 };
 
 struct FileAttributes {
