@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "compose/CharacterCard.h"
-#include "compose/LargeCard.h"
-#include "compose/NewBack.h"
-#include "compose/StandardCard.h"
-#include "files/SetFileFormat.h"
-#include "support/EveryKind.h"
-#include "support/WorkshopTest.h"
+#include "compose/GeometryTest.h"
 
 #include <QTransform>
 #include <cmath>
@@ -15,13 +9,7 @@ namespace deckforge {
 
 namespace {
 
-enum On { OnCard, OnLarge, OnHero, OnPiece, OnBack };
 enum At { Left, Right, Middle, MiddleOfTitle, MiddleUnrounded };
-
-QRect Changed(const QImage& before, const QImage& after)
-{
-    return Where(after.rect(), [&](int x, int y) { return before.pixel(x, y) != after.pixel(x, y); });
-}
 
 PictureBox SurfaceIn(const FontSpec& font, QSize size)
 {
@@ -59,58 +47,6 @@ QImage TurnedStrip(PictureBox& strip, double x, double y, const QString& text, i
 }
 
 } // namespace
-
-/// One element of each kind without texts and pictures, in thirteen fonts that all differ.
-class GeometryTest : public WorkshopTest {
-protected:
-    GeometryTest()
-    {
-        Clear(Standard);
-        Large = {};
-        Hero = {};
-        Large.ShowPicture = Hero.ShowPicture = true;
-        Large.FrameHeight = Hero.FrameHeight = 100;
-        Large.Color = Cream;
-        Back.BackText.clear();
-        int place = 0;
-        for (FontSpec SetHeader::*font : setFile::Fonts) {
-            Header().*font = SmallFont(5 + 0.2 * place, place % 2 == 1, 0x0A1020 * place);
-            ++place;
-        }
-        Back.Font = SmallFont(16, true, Red);
-        for (const On kind : {OnCard, OnLarge, OnHero, OnBack})
-            Composed(kind); // the first outlines have the colour of a new surface
-    }
-
-    static void Clear(Card& card)
-    {
-        card = {};
-        card.FrameHeight = 60;
-        card.CardBack = 1;
-        card.Color = Cream;
-    }
-
-    QImage Composed(On kind)
-    {
-        EXPECT_FALSE(kind == OnCard    ? ShowCard(Shop, 1)
-                     : kind == OnLarge ? ShowLargeCard(Shop, 1)
-                     : kind == OnBack  ? std::nullopt
-                                       : ShowCharacter(Shop, 1));
-        if (kind == OnBack) {
-            ShowNewCardBack(Shop, 1);
-            DrawNewCardBack(Shop, 1);
-        }
-        return (kind >= OnPiece ? Shop.Surfaces.picACardPP : Surface()).Image().Pixels();
-    }
-
-    CardSet& Set = AddOneOfEachKind(Shop.Set);
-    Card& Standard = Set.Cards[1];
-    LargeCard& Large = Set.LargeCards[1];
-    Character& Hero = Set.Characters[1];
-    NewCardBack& Back = Set.NewCardBacks[1];
-    CardTemplates& Boxes = Shop.Templates;
-    const FontSpec MarkFont = SmallFont(5.25, false, LightGrey);
-};
 
 TEST_F(GeometryTest, EachTextHasItsPlaceAndFont)
 {
@@ -278,138 +214,6 @@ TEST_F(GeometryTest, TheCreditOfTheArtistRunsDownTheLeftEdge)
     const QImage expected = TurnedStrip(strip, 0, -2, Standard.Artist, 90);
     EXPECT_TRUE(Changed(expected, with.copy(0, 40, 5, 180)).isNull());
     EXPECT_TRUE(QRect(0, 40, 5, 180).contains(Changed(without, with)));
-}
-
-TEST_F(GeometryTest, SymbolsAreInTheirCorners)
-{
-    const std::pair<On, QRect> rows[] = {{OnCard, {0, 256 - 2 - 11, 7, 11}},
-                                         {OnLarge, {304 - 2 - 7, 256 - 2 - 11, 7, 11}},
-                                         {OnHero, {13 + 276 - 2 - 7, 13 + 228 - 2 - 11, 7, 11}}};
-    const QString symbol = Folder.WritePicture("s.bmp", PictureOf(PixelRows(11, "rrrrrrr")));
-    for (const auto& [kind, place] : rows) {
-        Header().Symbol.clear();
-        (void)ShowSet(Shop);
-        const QImage without = Composed(kind);
-        Header().Symbol = symbol;
-        (void)ShowSet(Shop);
-        EXPECT_EQ(Changed(without, Composed(kind)), place) << kind;
-    }
-}
-
-TEST_F(GeometryTest, BackgroundAndOutlineOfThePictureFillTheFrame)
-{
-    Hero.Background = Folder.WritePicture("ground.bmp", PictureOfPlaces({276, 228}));
-    const std::tuple<On, bool&, bool&, QRect, int> rows[] = {
-        {OnCard, Standard.ShowPicture, Standard.Frame, {5, 40, 139, 60}, 60},
-        {OnLarge, Large.ShowPicture, Large.Frame, {8, 8, 100, 238}, 238},
-        {OnHero, Hero.ShowPicture, Hero.Frame, {14, 14, 100, 220}, 218}};
-    // Without the boxes that move with the frame.
-    for (Box* caption : {&Boxes.Character.lblAlignmentTitle, &Boxes.Character.lblStartTitle,
-                         &Boxes.Character.lblSpecialTitle})
-        caption->Caption.clear();
-    for (const auto& [kind, isShown, isOutlined, place, outlineHeight] : rows) {
-        SCOPED_TRACE(kind);
-        isShown = false;
-        isOutlined = true;
-        const QImage without = Composed(kind);
-        isShown = true;
-        const QImage outlined = Composed(kind);
-        isOutlined = false;
-        EXPECT_EQ(Changed(without, Composed(kind)), place);
-        const QRect outline(place.topLeft(), QSize(place.width(), outlineHeight));
-        EXPECT_EQ(Changed(without, outlined), outline);
-        PictureBox expected(outlined.size());
-        expected.LineBox(outline.left(), outline.top(), outline.right(), outline.bottom());
-        const auto isField = [](QRgb pixel) { return pixel == qRgb(255, 255, 255); };
-        const QImage box = expected.Image().Pixels();
-        EXPECT_TRUE(Where(outline, [&](int x, int y) {
-                        return isField(outlined.pixel(x, y)) != isField(box.pixel(x, y));
-                    }).isNull());
-    }
-}
-
-TEST_F(GeometryTest, APictureIsClippedByItsFrame)
-{
-    struct Placed {
-        On Kind;
-        QString& Path;
-        double& Left;
-        double& Top;
-        bool* Outlined;
-        QRect Frame;
-    };
-    Character& hero = Hero;
-    const Placed rows[] = {
-        {OnCard,
-         Standard.Picture,
-         Standard.PictureLeft,
-         Standard.PictureTop,
-         &Standard.Frame,
-         {5, 40, 139, 60}},
-        {OnLarge, Large.Picture, Large.PictureLeft, Large.PictureTop, &Large.Frame, {8, 8, 100, 238}},
-        {OnHero, hero.Picture, hero.PictureLeft, hero.PictureTop, nullptr, {14, 14, 100, 220}},
-        {OnHero, hero.Picture, hero.PictureLeft, hero.PictureTop, &hero.Frame, {14, 14, 100, 218}},
-        {OnPiece,
-         hero.PlayingPiece,
-         hero.PlayingPieceLeft,
-         hero.PlayingPieceTop,
-         nullptr,
-         {9, 24, 132, 222}}};
-    const QString small = Folder.WritePicture("small.bmp", PictureOfPlaces({30, 20}));
-    const QString big = Folder.WritePicture("big.bmp", PictureOfPlaces({200, 250}));
-    Standard.ShowPicture = true;
-    for (const Placed& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.Kind << (row.Outlined != nullptr));
-        if (row.Outlined != nullptr)
-            *row.Outlined = true;
-        const int inset = row.Outlined != nullptr ? 1 : 0;
-        const QPoint corner = row.Frame.topLeft() + QPoint(inset, inset);
-        row.Path.clear();
-        Composed(row.Kind); // for the outline in the colour that the kind itself leaves
-        const QImage empty = Composed(row.Kind);
-        const auto shown = [&](const QString& path, int right, int down) {
-            row.Path = path;
-            row.Left = 15 * right;
-            row.Top = 15 * down;
-            const QImage card = Composed(row.Kind);
-            return std::pair{card, Changed(empty, card)};
-        };
-        const auto [whole, placeOfWhole] = shown(small, 10, 7);
-        EXPECT_EQ(placeOfWhole, QRect(corner + QPoint(10, 7), QSize(30, 20)));
-        EXPECT_EQ(FromRgb(whole.pixel(placeOfWhole.topLeft())), ColourOfPlace(0, 0));
-
-        // Cut at the left and the top it is as large as the frame, past whose outline it then reaches.
-        const auto [cut, placeOfCut] = shown(big, -20, -5);
-        EXPECT_EQ(placeOfCut, QRect(corner, row.Frame.size().boundedTo({180, 245})));
-        EXPECT_EQ(FromRgb(cut.pixel(placeOfCut.topLeft())), ColourOfPlace(20, 5));
-
-        // Cut at the right and the bottom it ends inside the outline.
-        const auto [low, placeOfLow] = shown(small, row.Frame.width() - 12, row.Frame.height() - 9);
-        EXPECT_EQ(placeOfLow.size(), QSize(12 - 2 * inset, 9 - 2 * inset));
-        EXPECT_EQ(FromRgb(low.pixel(placeOfLow.topLeft())), ColourOfPlace(0, 0));
-
-        EXPECT_TRUE(shown(small, -30, 0).second.isNull()) << "gone at the left";
-        EXPECT_TRUE(shown(small, 0, row.Frame.height() - inset).second.isNull()) << "gone at the bottom";
-    }
-}
-
-TEST_F(GeometryTest, AFrameThatFollowsThePictureMovesInItsPlace)
-{
-    Standard.ShowPicture = Standard.Resize = Standard.Frame = true;
-    Large.Resize = Large.Frame = true;
-    Standard.Picture = Large.Picture = Folder.WritePicture("p.bmp", PictureOfPlaces({40, 50}));
-    Standard.PictureLeft = Large.PictureLeft = 15 * 6;
-    Standard.PictureTop = Large.PictureTop = 15 * 4;
-    const std::tuple<On, bool&, QRect, QPoint> rows[] = {
-        // The standard card's frame is as wide as the picture, the large card's as high.
-        {OnCard, Standard.ShowPicture, {5 + 6, 40, 40, 60}, {1, 4 + 1}},
-        {OnLarge, Large.ShowPicture, {8, 8 + 4, 100, 50}, {6 + 1, 1}}};
-    for (const auto& [kind, isShown, frame, offset] : rows) {
-        const QImage with = Composed(kind);
-        isShown = false;
-        EXPECT_EQ(Changed(Composed(kind), with), frame);
-        EXPECT_EQ(FromRgb(with.pixel(frame.topLeft() + offset)), ColourOfPlace(0, 0));
-    }
 }
 
 } // namespace deckforge
