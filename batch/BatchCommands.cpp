@@ -8,15 +8,12 @@
 #include "commands/SetCommands.h"
 #include "compose/NewBack.h"
 #include "compose/StandardCard.h"
-#include "core/Vocabulary.h"
 #include "output/Statistics.h"
 #include "output/modCapture.h"
 #include "platform/Files.h"
-#include "platform/Paths.h"
 #include "platform/Version.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <cstdio>
 #include <limits>
 
