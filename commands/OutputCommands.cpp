@@ -2,6 +2,7 @@
 
 #include "commands/OutputCommands.h"
 
+#include "commands/Messages.h"
 #include "output/Statistics.h"
 #include "output/modCapture.h"
 
@@ -90,15 +91,11 @@ const HtmlTexts& TextsOf(HtmlPages pages)
     return texts[static_cast<std::size_t>(pages)];
 }
 
-void ShowDone(UserPort& user, const char* title, const QString& text)
-{
-    user.ShowMessage({.Text = text, .Title = QString::fromLatin1(title), .Style = BoxStyle::Information});
-}
-
 /// "1 card is created.", "2 cards are created."
 void ShowCreated(UserPort& user, const char* title, int count, const char* one, const char* others)
 {
-    ShowDone(user, title, QString::number(count) + QLatin1String(count == 1 ? one : others));
+    ShowBox(user, BoxStyle::Information, title,
+            QString::number(count) + QLatin1String(count == 1 ? one : others));
 }
 
 FileDialogRequest ImageDialog(const char* dialogTitle, const QString& title, const QString& extension)
@@ -116,10 +113,8 @@ void ShowCompositionFailure(UserPort& user, const CompositionFailure& failure)
 {
     if (!failure)
         return;
-    user.ShowMessage(
-        {.Text = QStringLiteral("Error while drawing the card.\r\n\r\n") + failure->NumberAndDescription(),
-         .Title = QStringLiteral("Cannot draw picture correct"),
-         .Style = BoxStyle::Critical});
+    ShowBox(user, BoxStyle::Critical, "Cannot draw picture correct",
+            QStringLiteral("Error while drawing the card.\r\n\r\n") + failure->NumberAndDescription());
 }
 
 void ShowViewFailures(UserPort& user, const ViewFailures& failures)
@@ -142,10 +137,9 @@ ShownRun::~ShownRun()
 
 void ShownRun::ShowNotWritten(const char* title, const QString& reason)
 {
-    User.ShowMessage({.Text = QStringLiteral("Something went wrong.") +
-                              (reason.isEmpty() ? QString() : QStringLiteral("\r\n\r\n") + reason),
-                      .Title = QString::fromLatin1(title),
-                      .Style = BoxStyle::Critical});
+    ShowBox(User, BoxStyle::Critical, title,
+            QStringLiteral("Something went wrong.") +
+                (reason.isEmpty() ? QString() : QStringLiteral("\r\n\r\n") + reason));
 }
 
 void SaveImageAs(Workshop& workshop, ShownRun& run, CardKind kind, int16 index)
@@ -157,8 +151,8 @@ void SaveImageAs(Workshop& workshop, ShownRun& run, CardKind kind, int16 index)
     if (!chosen)
         return;
     if (const auto path = SaveImage(workshop, run, kind, index, {.Chosen = *chosen}))
-        ShowDone(run.User, texts.SavedTitle,
-                 QLatin1String(texts.Saved) + QStringLiteral("\r\n\r\n") + path->Full());
+        ShowBox(run.User, BoxStyle::Information, texts.SavedTitle,
+                QLatin1String(texts.Saved) + QStringLiteral("\r\n\r\n") + path->Full());
 }
 
 void CreateImages(Workshop& workshop, ShownRun& run, CardKind kind)
@@ -187,14 +181,12 @@ bool CreateHtml(const CardSet& set, ShownRun& run, HtmlPages pages)
     const HtmlTexts& texts = TextsOf(pages);
     const std::optional<int> count = WriteHtml(set, run, pages);
     if (!count) {
-        run.User.ShowMessage({.Text = QString::fromLatin1(texts.Missing),
-                              .Title = QStringLiteral("Missing information"),
-                              .Style = BoxStyle::Exclamation});
+        ShowBox(run.User, BoxStyle::Exclamation, "Missing information", QString::fromLatin1(texts.Missing));
         return false;
     }
-    ShowDone(run.User, "Save HTML",
-             *count == 1 ? QString::fromLatin1(texts.OnePage)
-                         : QString::number(*count) + QLatin1String(texts.Pages));
+    ShowBox(run.User, BoxStyle::Information, "Save HTML",
+            *count == 1 ? QString::fromLatin1(texts.OnePage)
+                        : QString::number(*count) + QLatin1String(texts.Pages));
     return true;
 }
 
@@ -204,7 +196,7 @@ void ExportCardBacks(Workshop& workshop, UserPort& user)
     if (!folder)
         return;
     WriteCardBacks(workshop, *folder);
-    ShowDone(user, "Export", QStringLiteral("All card backs are exported."));
+    ShowBox(user, BoxStyle::Information, "Export", QStringLiteral("All card backs are exported."));
 }
 
 void PrintCard(Workshop& workshop, ShownRun& run, PrintedPage page)
@@ -213,12 +205,12 @@ void PrintCard(Workshop& workshop, ShownRun& run, PrintedPage page)
     if (!printer)
         throw RunTimeError(ErrorNumber::PrinterError);
     PrintPage(workshop, run, page, *printer);
-    ShowDone(run.User, "Print", QStringLiteral("Printing done!"));
+    ShowBox(run.User, BoxStyle::Information, "Print", QStringLiteral("Printing done!"));
 }
 
 void ShowStatistics(const CardSet& set, UserPort& user)
 {
-    ShowDone(user, "Statistics", StatisticsText(set));
+    ShowBox(user, BoxStyle::Information, "Statistics", StatisticsText(set));
 }
 
 } // namespace deckforge

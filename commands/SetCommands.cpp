@@ -2,16 +2,12 @@
 
 #include "commands/SetCommands.h"
 
+#include "commands/Messages.h"
 #include "files/modFile.h"
 
 namespace deckforge {
 
 namespace {
-
-void Show(UserPort& user, BoxStyle style, const char* title, const QString& text)
-{
-    user.ShowMessage({.Text = text, .Title = QString::fromLatin1(title), .Style = style});
-}
 
 FileDialogRequest SetFileDialog(const char* title, const QString& fileName)
 {
@@ -25,10 +21,10 @@ FileDialogRequest SetFileDialog(const char* title, const QString& fileName)
 void ShowRejection(UserPort& user, const QString& path, ReadOutcome::Rejection rejection)
 {
     if (rejection == ReadOutcome::Rejection::NoCardSet) {
-        Show(user, BoxStyle::Critical, "Open File Error",
-             QStringLiteral("This is not a correct card set file."));
+        ShowBox(user, BoxStyle::Critical, "Open File Error",
+                QStringLiteral("This is not a correct card set file."));
     } else {
-        Show(
+        ShowBox(
             user, BoxStyle::Information, "Version conflict",
             QStringLiteral(
                 "The set you are opening is from a newer version.\r\nIt can not be opened in this version."));
@@ -38,19 +34,20 @@ void ShowRejection(UserPort& user, const QString& path, ReadOutcome::Rejection r
 
 void ShowReadFailure(UserPort& user, const RunTimeError& error)
 {
-    Show(user, BoxStyle::Critical, "Error",
-         QStringLiteral("Error while opening the Varnhelm Card Set.\r\n\r\n") + error.NumberAndDescription());
+    ShowBox(user, BoxStyle::Critical, "Error",
+            QStringLiteral("Error while opening the Varnhelm Card Set.\r\n\r\n") +
+                error.NumberAndDescription());
     user.ReportProblems({error.PlaceAndDescription()});
 }
 
 /// An interrupted save may have left a file that can be read but mixes both sets.
 void ShowSafetyCopies(UserPort& user, const QStringList& copies)
 {
-    Show(user, BoxStyle::Exclamation, "Open file",
-         QStringLiteral("A save of this file was cut off. What it held before is in\r\n\r\n%1"
-                        "\r\n\r\nIf anything is missing here, open that file and save it "
-                        "under this name. Delete it when all is well.")
-             .arg(copies.join(QLatin1String("\r\n"))));
+    ShowBox(user, BoxStyle::Exclamation, "Open file",
+            QStringLiteral("A save of this file was cut off. What it held before is in\r\n\r\n%1"
+                           "\r\n\r\nIf anything is missing here, open that file and save it "
+                           "under this name. Delete it when all is well.")
+                .arg(copies.join(QLatin1String("\r\n"))));
 }
 
 /// The names of an element in message boxes.
@@ -80,7 +77,7 @@ bool WriteAndShow(UserPort& user, const char* title, const QString& written, Wri
         ShowNotSaved(user, error);
         return false;
     }
-    Show(user, BoxStyle::Information, title, written);
+    ShowBox(user, BoxStyle::Information, title, written);
     return true;
 }
 
@@ -90,20 +87,21 @@ bool OpenSet(CardSet& set, const QString& path, UserPort& user)
 {
     const ReadOutcome outcome = ReadDKF(set, path);
     if (outcome.IsConverted) {
-        Show(user, BoxStyle::Information, "Converting",
-             QStringLiteral("The set you are opening is of an older version.\r\nIt will now be converted to "
-                            "the new version."));
+        ShowBox(
+            user, BoxStyle::Information, "Converting",
+            QStringLiteral("The set you are opening is of an older version.\r\nIt will now be converted to "
+                           "the new version."));
     }
     if (outcome.Rejected != ReadOutcome::Rejection::None)
         ShowRejection(user, path, outcome.Rejected);
     if (outcome.Failure)
         ShowReadFailure(user, *outcome.Failure);
     if (!outcome.UnmatchedEnd.isEmpty()) {
-        Show(user, BoxStyle::Question, "Error", QStringLiteral("No final match!"));
+        ShowBox(user, BoxStyle::Question, "Error", QStringLiteral("No final match!"));
         user.ReportProblems({outcome.UnmatchedEnd + QStringLiteral(": No final match!")});
     }
     if (outcome.IsRead())
-        Show(user, BoxStyle::Information, "Open file", QStringLiteral("The card set is loaded."));
+        ShowBox(user, BoxStyle::Information, "Open file", QStringLiteral("The card set is loaded."));
     if (!outcome.SafetyCopies.isEmpty())
         ShowSafetyCopies(user, outcome.SafetyCopies);
     return outcome.IsRead();
@@ -157,16 +155,16 @@ void ExportText(const CardSet& set, UserPort& user)
 
 void ShowNotSaved(UserPort& user, const RunTimeError& error)
 {
-    Show(user, BoxStyle::Critical, "Error",
-         QStringLiteral("The file is NOT saved due to an error.\r\n\r\n") + error.NumberAndDescription());
+    ShowBox(user, BoxStyle::Critical, "Error",
+            QStringLiteral("The file is NOT saved due to an error.\r\n\r\n") + error.NumberAndDescription());
 }
 
 bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name)
 {
     if (count < 2) {
         if (kind == CardKind::Standard) {
-            Show(user, BoxStyle::Information, "",
-                 QStringLiteral("You have only one card in your set. This can't be deleted."));
+            ShowBox(user, BoxStyle::Information, "",
+                    QStringLiteral("You have only one card in your set. This can't be deleted."));
         }
         return false;
     }
@@ -181,7 +179,8 @@ bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name)
 
 void ShowCopied(UserPort& user, CardKind kind)
 {
-    Show(user, BoxStyle::Information, "Copy", QStringLiteral("The %1 is copied.").arg(WordsOf(kind).Copied));
+    ShowBox(user, BoxStyle::Information, "Copy",
+            QStringLiteral("The %1 is copied.").arg(WordsOf(kind).Copied));
 }
 
 } // namespace deckforge
