@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace deckforge {
 
@@ -28,6 +29,25 @@ int ClampedTo16Bits(double pixels)
 }
 
 } // namespace
+
+Box::Box(BoxList& list, const Box* parent, const QRect& place, BoxDesign&& design)
+    : BoxDesign(std::move(design)), List(list), Parent(parent), Left(place.x()), Top(place.y()),
+      Width(place.width()), Height(place.height()), Design(place.size())
+{
+    const int border = 2 * BorderWidth();
+    if (Look == BoxLook::Surface || Look == BoxLook::Picture)
+        Surface.emplace(Design - QSize(border, border), list.Scale);
+    list.Boxes.push_back(this);
+}
+
+Box::Box(BoxList& list, const QRect& place, BoxDesign design) : Box(list, nullptr, place, std::move(design))
+{
+}
+
+Box::Box(Box& parent, const QRect& place, BoxDesign design)
+    : Box(parent.List, &parent, place, std::move(design))
+{
+}
 
 void Box::SetWidth(int width)
 {

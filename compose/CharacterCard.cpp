@@ -21,7 +21,7 @@ constexpr int TextRight = 272;
 void PlaceFrame(ShowRun& run, CharacterTemplate& t, const Character& character)
 {
     t.picFrameCharacter.SetHeight(character.Frame ? FramedHeight : UnframedHeight);
-    t.picFrameCharacter.SetOutlined(character.Frame);
+    t.picFrameCharacter.Outlined = character.Frame;
     run([&] { t.picFrameCharacter.SetWidth(character.FrameHeight); });
 }
 

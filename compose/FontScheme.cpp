@@ -6,26 +6,6 @@
 
 namespace deckforge {
 
-namespace {
-
-std::vector<LabelFont> LabelFonts(CardTemplate& card)
-{
-    using enum FontClicks;
-    return {
-        {&card.lblType[0], &SetHeader::FontType, Two},
-        {&card.lblType[1], &SetHeader::FontType, Two},
-        {&card.lblType[2], &SetHeader::FontType, Two},
-        {&card.lblType[3], &SetHeader::FontType, Two},
-        {&card.lblNumber, &SetHeader::FontNumber, Two},
-        {&card.lblTitle, &SetHeader::FontTitle, Two},
-        {&card.lblBold, &SetHeader::FontBold, Two},
-        {&card.lblInformation, &SetHeader::FontInformation, Two},
-        {&card.lblAutonumber, &SetHeader::FontAutonumber, Two},
-    };
-}
-
-} // namespace
-
 void UseFont(PictureBox& surface, const FontSpec& font)
 {
     IgnoreFailure([&] { surface.SetFontName(font.Name); });
@@ -35,42 +15,19 @@ void UseFont(PictureBox& surface, const FontSpec& font)
     surface.ForeColor = font.Color;
 }
 
-std::vector<LabelFont> LabelFonts(CardTemplates& templates)
-{
-    using enum FontClicks;
-    LargeCardTemplate& large = templates.Large;
-    CharacterTemplate& character = templates.Character;
-    PlayingPieceTemplate& piece = templates.PlayingPiece;
-    const std::vector<LabelFont> others = {
-        {&large.lblTitleLarge, &SetHeader::FontTitleLarge, One},
-        {&large.lblInformationLarge, &SetHeader::FontInformationLarge, One},
-        {&large.lblAutonumberLarge, &SetHeader::FontAutonumber, None},
-        {&character.lblCharacter, &SetHeader::FontCharacter, One},
-        {&character.lblSpecialTitle, &SetHeader::FontSpecialTitle, One},
-        {&character.lblSpecial, &SetHeader::FontSpecial, One},
-        {&character.lblAlignment, &SetHeader::FontAlignment, One},
-        {&character.lblAlignmentTitle, &SetHeader::FontAlignment, One},
-        {&character.lblStart, &SetHeader::FontAlignment, One},
-        {&character.lblStartTitle, &SetHeader::FontAlignment, One},
-        {&character.lblAutonumberCharacter, &SetHeader::FontAutonumber, None},
-        {&piece.lblPlayingPieceName, &SetHeader::FontPlayingPiece, One},
-    };
-    std::vector<LabelFont> labels = LabelFonts(templates.Standard);
-    labels.insert(labels.end(), others.begin(), others.end());
-    return labels;
-}
-
 void SetFont(CardTemplates& templates, const SetHeader& header)
 {
-    for (const LabelFont& row : LabelFonts(templates))
-        row.Label->Font = header.*row.Font;
+    for (Box* box : templates.Boxes()) {
+        if (box->FontOfSet)
+            box->Font = header.*box->FontOfSet;
+    }
 }
 
 void ApplyOpenedSetFonts(CardTemplate& card, const SetHeader& header)
 {
-    for (const LabelFont& row : LabelFonts(card)) {
-        if (row.Label != &card.lblType[2] && row.Label != &card.lblType[3])
-            row.Label->Font = header.*row.Font;
+    for (Box* box : card.Boxes) {
+        if (box->FontOfSet && box != &card.lblType[2] && box != &card.lblType[3])
+            box->Font = header.*box->FontOfSet;
     }
 }
 

@@ -3,27 +3,11 @@
 #pragma once
 
 #include "compose/CardTemplates.h"
-#include "core/Records.h"
-
-#include <vector>
 
 namespace deckforge {
 
 /// Sets font and text colour of a surface. Invalid names and sizes are ignored.
 void UseFont(PictureBox& surface, const FontSpec& font);
-
-/// How many clicks on a label open the font dialog.
-enum class FontClicks { None, One, Two };
-
-/// A label and its font of the set.
-struct LabelFont {
-    Box* Label;
-    FontSpec SetHeader::*Font;
-    FontClicks Clicks;
-};
-
-/// All labels with a font of the set.
-[[nodiscard]] std::vector<LabelFont> LabelFonts(CardTemplates& templates);
 
 /// Applies the thirteen fonts to the labels of all templates.
 void SetFont(CardTemplates& templates, const SetHeader& header);

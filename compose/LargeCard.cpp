@@ -24,7 +24,7 @@ void PlaceFrame(ShowRun& run, LargeCardTemplate& t, const LargeCard& card)
 {
     t.picFrameLarge.Visible = card.ShowPicture;
     t.lblPicSizeLarge.Visible = card.ShowPicture;
-    t.picFrameLarge.SetOutlined(card.Frame);
+    t.picFrameLarge.Outlined = card.Frame;
     run([&] { t.picFrameLarge.SetWidth(card.FrameHeight); });
 }
 

@@ -5,7 +5,6 @@
 #include "compose/FontScheme.h"
 #include "compose/StandardCard.h"
 #include "core/modInfo.h"
-#include "platform/Version.h"
 
 namespace deckforge {
 
@@ -41,9 +40,6 @@ void PlaceSymbols(CardTemplates& t, const Picture& symbol, const SymbolPlace& on
 
 ViewFailures InitForm(Workshop& workshop)
 {
-    const QString versionMark = QStringLiteral("QDW %1.%2").arg(VersionMajor).arg(VersionMinor);
-    for (Box* watermark : workshop.Templates.lblWatermark())
-        watermark->Caption = versionMark;
     InitSet(workshop.Set);
     ViewFailures failures{.Symbol = ShowSet(workshop)};
     failures.FirstCard = ShowCard(workshop, workshop.Set.Cards.Current);

@@ -64,7 +64,7 @@ void PlaceFrame(ShowRun& run, CardTemplate& t, const Card& card)
 {
     t.picFrame.Visible = card.ShowPicture;
     t.lblPicSize.Visible = card.ShowPicture;
-    t.picFrame.SetOutlined(card.Frame);
+    t.picFrame.Outlined = card.Frame;
     run([&] { t.picFrame.SetHeight(card.FrameHeight); });
     t.lblPicSize.Top = t.picFrame.Top + t.picFrame.Height;
     PlaceTextsBelowHandle(t);

@@ -66,14 +66,13 @@ QRect ContentOf(const Box& box, const QRect& place)
     return place.adjusted(border, border, -border, -border);
 }
 
-void PaintBox(QPainter& painter, const PreviewBox& row, const QRect& place)
+void PaintBox(QPainter& painter, const Box& box, const QRect& place)
 {
-    const Box& box = *row.Shown;
     if (box.BorderWidth() > 0)
         PaintBorder(painter, place);
     const QRect content = ContentOf(box, place);
     painter.setClipRect(content, Qt::IntersectClip);
-    switch (row.Look) {
+    switch (box.Look) {
     case BoxLook::Surface:
         PaintSurface(painter, *box.Surface, content);
         break;
@@ -122,8 +121,8 @@ Qt::CursorShape PointerFor(DragAxis moves)
 
 } // namespace
 
-CardPreview::CardPreview(std::vector<PreviewBox> boxes, QWidget* parent)
-    : QWidget(parent), m_boxes(std::move(boxes))
+CardPreview::CardPreview(const std::vector<Box*>& boxes, QWidget* parent)
+    : QWidget(parent), m_boxes(boxes.begin(), boxes.end())
 {
     setAccessibleName(QStringLiteral("Preview of the card"));
     setMouseTracking(true);
@@ -150,15 +149,13 @@ QSize CardPreview::minimumSizeHint() const
 
 const Box* CardPreview::BoxAt(QPointF point) const
 {
-    const PreviewBox* const row = RowAt(point);
-    return row ? row->Shown : nullptr;
-}
-
-const Box* CardPreview::ParentOf(const Box& box) const
-{
-    const auto row = std::find_if(m_boxes.begin(), m_boxes.end(),
-                                  [&](const PreviewBox& candidate) { return candidate.Shown == &box; });
-    return row == m_boxes.end() ? nullptr : row->Parent;
+    const QPoint pixel = PixelAt(point);
+    const Box* foremost = nullptr;
+    for (const SeenBox& seen : SeenBoxes()) {
+        if (seen.Shown->Look != BoxLook::Outline && (seen.Place & seen.Clip).contains(pixel))
+            foremost = seen.Shown;
+    }
+    return foremost;
 }
 
 void CardPreview::FocusOn(const Box& picture)
@@ -173,8 +170,8 @@ void CardPreview::SettleFocus()
     const Box* first = nullptr;
     const Box* kept = nullptr;
     for (const SeenBox& seen : SeenBoxes()) {
-        const Box* const box = seen.Row->Shown;
-        if (seen.Row->Drag != DragAxis::All)
+        const Box* const box = seen.Shown;
+        if (box->Drag != DragAxis::All)
             continue;
         if (!first)
             first = box;
@@ -203,7 +200,7 @@ void CardPreview::paintEvent(QPaintEvent* /*event*/)
     for (const SeenBox& seen : boxes) {
         painter.save();
         painter.setClipRect(seen.Clip);
-        PaintBox(painter, *seen.Row, seen.Place);
+        PaintBox(painter, *seen.Shown, seen.Place);
         painter.restore();
     }
     if (hasFocus())
@@ -212,27 +209,27 @@ void CardPreview::paintEvent(QPaintEvent* /*event*/)
 
 void CardPreview::mousePressEvent(QMouseEvent* event)
 {
-    const PreviewBox* const row = RowAt(event->position());
-    if (row && event->button() == Qt::LeftButton)
-        Press(*row, event->position());
+    const Box* const box = BoxAt(event->position());
+    if (box && event->button() == Qt::LeftButton)
+        Press(*box, event->position());
     else
         event->ignore();
 }
 
-void CardPreview::Press(const PreviewBox& row, QPointF point)
+void CardPreview::Press(const Box& box, QPointF point)
 {
-    m_pressed = row.Shown;
+    m_pressed = &box;
     m_pointer = PixelAt(point);
-    if (row.Drag == DragAxis::All)
-        FocusOn(*m_pressed);
-    Q_EMIT Pressed(m_pressed, m_pointer - CornerOf(*m_pressed));
+    if (box.Drag == DragAxis::All)
+        FocusOn(box);
+    Q_EMIT Pressed(m_pressed, m_pointer - CornerOf(box));
 }
 
 void CardPreview::mouseMoveEvent(QMouseEvent* event)
 {
     if (event->buttons() == Qt::NoButton) {
-        const PreviewBox* const row = RowAt(event->position());
-        setCursor(PointerFor(row ? row->Drag : DragAxis::None));
+        const Box* const box = BoxAt(event->position());
+        setCursor(PointerFor(box ? box->Drag : DragAxis::None));
     } else if (m_pressed && event->buttons() == Qt::LeftButton) {
         const QPoint before = std::exchange(m_pointer, PixelAt(event->position()));
         Q_EMIT Dragged(m_pressed, m_pointer - CornerOf(*m_pressed), m_pointer - before);
@@ -251,13 +248,13 @@ void CardPreview::mouseReleaseEvent(QMouseEvent* event)
 /// The second press begins a drag on boxes that can be moved, as the first does.
 void CardPreview::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const PreviewBox* const row = RowAt(event->position());
-    if (!row || event->button() != Qt::LeftButton)
+    const Box* const box = BoxAt(event->position());
+    if (!box || event->button() != Qt::LeftButton)
         event->ignore(); // the window shows its version
-    else if (row->Drag != DragAxis::None)
-        Press(*row, event->position());
+    else if (box->Drag != DragAxis::None)
+        Press(*box, event->position());
     else
-        Q_EMIT DoubleClicked(row->Shown);
+        Q_EMIT DoubleClicked(box);
 }
 
 void CardPreview::keyPressEvent(QKeyEvent* event)
@@ -273,34 +270,23 @@ std::vector<CardPreview::SeenBox> CardPreview::SeenBoxes() const
     std::vector<SeenBox> seen;
     QHash<const Box*, Inside> insides;
     insides.insert(nullptr, {{0, 0}, Bounds()});
-    for (const PreviewBox& row : m_boxes) {
-        const Inside outer = insides.value(row.Parent);
-        const QRect place = row.Shown->Place().translated(outer.Origin);
-        const QRect content = ContentOf(*row.Shown, place);
-        const bool isSeen = row.Shown->Visible && !outer.Clip.isEmpty();
-        insides.insert(row.Shown, {content.topLeft(), isSeen ? content & outer.Clip : QRect()});
+    for (const Box* box : m_boxes) {
+        const Inside outer = insides.value(box->Parent);
+        const QRect place = box->Place().translated(outer.Origin);
+        const QRect content = ContentOf(*box, place);
+        const bool isSeen = box->Visible && !outer.Clip.isEmpty();
+        insides.insert(box, {content.topLeft(), isSeen ? content & outer.Clip : QRect()});
         if (isSeen)
-            seen.push_back({&row, place, outer.Clip});
+            seen.push_back({box, place, outer.Clip});
     }
     return seen;
-}
-
-const PreviewBox* CardPreview::RowAt(QPointF point) const
-{
-    const QPoint pixel = PixelAt(point);
-    const PreviewBox* foremost = nullptr;
-    for (const SeenBox& seen : SeenBoxes()) {
-        if (seen.Row->Look != BoxLook::Outline && (seen.Place & seen.Clip).contains(pixel))
-            foremost = seen.Row;
-    }
-    return foremost;
 }
 
 /// Works for hidden boxes as well, such as one dragged out of its frame.
 QPoint CardPreview::CornerOf(const Box& box) const
 {
     const QPoint corner = box.Place().topLeft();
-    const Box* const parent = ParentOf(box);
+    const Box* const parent = box.Parent;
     if (!parent)
         return corner;
     return corner + ContentOf(*parent, {CornerOf(*parent), parent->Place().size()}).topLeft();
@@ -332,9 +318,9 @@ QTransform CardPreview::FromCard() const
 QRect CardPreview::Bounds() const
 {
     QRect bounds;
-    for (const PreviewBox& row : m_boxes) {
-        if (!row.Parent)
-            bounds |= row.Shown->Place();
+    for (const Box* box : m_boxes) {
+        if (!box->Parent)
+            bounds |= box->Place();
     }
     return bounds;
 }
@@ -343,7 +329,7 @@ QRect CardPreview::Bounds() const
 void CardPreview::PaintFocus(QPainter& painter, const std::vector<SeenBox>& boxes) const
 {
     for (const SeenBox& seen : boxes) {
-        if (seen.Row->Shown != m_focus)
+        if (seen.Shown != m_focus)
             continue;
         const QRectF line = QRectF(seen.Clip).adjusted(0.5, 0.5, -0.5, -0.5);
         painter.setPen(QPen(Qt::white, 0));

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "compose/PreviewBoxes.h"
+#include "compose/CardTemplates.h"
 
 #include <QTransform>
 #include <QWidget>
@@ -22,8 +22,8 @@ class CardPreview final : public QWidget {
 public:
     static constexpr int MaxZoom = 3;
 
-    /// In painting order, from PreviewBoxes().
-    explicit CardPreview(std::vector<PreviewBox> boxes, QWidget* parent = nullptr);
+    /// In painting order.
+    explicit CardPreview(const std::vector<Box*>& boxes, QWidget* parent = nullptr);
 
     /// From 1 to MaxZoom. One pixel of the card covers `zoom` by `zoom` whole pixels of the screen, so that
     /// lines stay sharp.
@@ -35,9 +35,6 @@ public:
 
     /// The topmost box under a point of the widget; null for the background.
     [[nodiscard]] const Box* BoxAt(QPointF point) const;
-
-    /// The box that contains another one; null if it lies directly on the preview.
-    [[nodiscard]] const Box* ParentOf(const Box& box) const;
 
     /// Gives the focus to a picture that can be moved.
     void FocusOn(const Box& picture);
@@ -68,22 +65,21 @@ protected:
 private:
     /// A visible box, in pixels of the card.
     struct SeenBox {
-        const PreviewBox* Row;
+        const Box* Shown;
         QRect Place;
         QRect Clip; ///< visible part inside its parents
     };
 
     [[nodiscard]] std::vector<SeenBox> SeenBoxes() const;
-    [[nodiscard]] const PreviewBox* RowAt(QPointF point) const;
     [[nodiscard]] QPoint CornerOf(const Box& box) const;
     [[nodiscard]] QPoint PixelAt(QPointF point) const;
-    void Press(const PreviewBox& row, QPointF point);
+    void Press(const Box& box, QPointF point);
     [[nodiscard]] QRect Bounds() const;
     [[nodiscard]] double Scale() const;        ///< widget coordinates per pixel of the card
     [[nodiscard]] QTransform FromCard() const; ///< from pixels of the card to widget coordinates
     void PaintFocus(QPainter& painter, const std::vector<SeenBox>& boxes) const;
 
-    std::vector<PreviewBox> m_boxes;
+    std::vector<const Box*> m_boxes;
     int m_zoom = 2;
     const Box* m_pressed = nullptr; ///< with the left button
     QPoint m_pointer;               ///< last position of the drag, in pixels of the card

@@ -19,7 +19,6 @@
 #include <QButtonGroup>
 #include <QMouseEvent>
 #include <QScreen>
-#include <algorithm>
 #include <iterator>
 
 namespace deckforge {
@@ -65,16 +64,13 @@ void CentreSmallCards(CardTemplates& t)
 }
 
 /// The boxes of the fronts of the sample cards.
-std::vector<PreviewBox> SampleBoxes(const CardTemplates& t)
+std::vector<Box*> SampleBoxes(const CardTemplates& t)
 {
-    const Box* const backs[] = {&t.Standard.picBack, &t.Large.picBackLarge, &t.Character.picCharacterBack};
-    std::vector<PreviewBox> fronts;
-    for (const auto& boxes : {PreviewBoxes(t.Standard), PreviewBoxes(t.Large), PreviewBoxes(t.Character),
-                              PreviewBoxes(t.PlayingPiece)}) {
-        std::copy_if(boxes.begin(), boxes.end(), std::back_inserter(fronts), [&](const PreviewBox& row) {
-            return std::find(std::begin(backs), std::end(backs), row.Shown) == std::end(backs);
-        });
-    }
+    std::vector<Box*> fronts = t.Boxes();
+    std::erase_if(fronts, [&](const Box* box) {
+        return box == &t.Standard.picBack || box == &t.Large.picBackLarge ||
+               box == &t.Character.picCharacterBack || &box->List == &t.NewBack;
+    });
     return fronts;
 }
 

@@ -53,8 +53,8 @@ PreviewController::PreviewController(EditorParts& parts, QWidget* window)
         m_dragStart = point;
     });
     on(&CardPreview::Dragged, std::bind_front(&PreviewController::Dragged, this));
-    on(&CardPreview::Clicked, [this](const Box* box) { LabelClicked(box, FontClicks::One); });
-    on(&CardPreview::DoubleClicked, [this](const Box* box) { LabelClicked(box, FontClicks::Two); });
+    on(&CardPreview::Clicked, [this](const Box* box) { LabelClicked(box, 1); });
+    on(&CardPreview::DoubleClicked, [this](const Box* box) { LabelClicked(box, 2); });
     on(&CardPreview::KeyPressed, std::bind_front(&PreviewController::KeyPressed, this));
     on(&CardPreview::TipWanted, std::bind_front(&PreviewController::ShowTip, this));
 }
@@ -118,19 +118,17 @@ void PreviewController::Place(const PlacementRow& row, const char* step, const s
     m_parts.Preview.update();
 }
 
-void PreviewController::LabelClicked(const Box* box, FontClicks clicks)
+void PreviewController::LabelClicked(const Box* box, int clicks)
 {
-    for (const LabelFont& row : LabelFonts(m_parts.Works.Templates)) {
-        if (row.Label != box || row.Clicks != clicks)
-            continue;
-        const SetHeader& header = m_parts.Document.Set().Header;
-        FontSpec font = header.*row.Font;
-        ChooseFont(m_parts.User, font);
-        m_parts.Document.Edit(QStringLiteral("Font"), EditScope::Settings,
-                              [&](CardSet& set) { set.Header.*row.Font = font; });
-        SetFont(m_parts.Works.Templates, header);
-        m_parts.Preview.update();
-    }
+    if (!box || !box->FontOfSet || box->FontClicks != clicks)
+        return;
+    const SetHeader& header = m_parts.Document.Set().Header;
+    FontSpec font = header.*box->FontOfSet;
+    ChooseFont(m_parts.User, font);
+    m_parts.Document.Edit(QStringLiteral("Font"), EditScope::Settings,
+                          [&](CardSet& set) { set.Header.*box->FontOfSet = font; });
+    SetFont(m_parts.Works.Templates, header);
+    m_parts.Preview.update();
 }
 
 /// A picture follows the pointer. A handle stops at its limits, so it is moved by its distance to the
@@ -167,11 +165,9 @@ void PreviewController::KeyPressed(const Box* picture, Qt::Key key, Qt::Keyboard
 void PreviewController::ShowTip(const Box* box, QPoint globalPoint)
 {
     QString tip;
-    for (const LabelFont& row : LabelFonts(m_parts.Works.Templates)) {
-        if (row.Label == box && row.Clicks != FontClicks::None)
-            tip = row.Clicks == FontClicks::One ? QStringLiteral("Click to change the font")
-                                                : QStringLiteral("Double-click to change the font");
-    }
+    if (box && box->FontOfSet && box->FontClicks > 0)
+        tip = box->FontClicks == 1 ? QStringLiteral("Click to change the font")
+                                   : QStringLiteral("Double-click to change the font");
     for (const PlacementRow& row : Placements()) {
         if (box == &row.Image)
             tip = QStringLiteral("Drag the picture, or move it with the arrow keys");

@@ -13,8 +13,6 @@ class QScrollArea;
 
 namespace deckforge {
 
-enum class FontClicks;
-
 /// Handles gestures on the preview: moves pictures, sizes frames, changes fonts, zooms.
 class PreviewController final : public QObject {
     Q_OBJECT
@@ -47,7 +45,7 @@ private:
     [[nodiscard]] std::array<PlacementRow, 4> Placements() const;
     /// Edits the record as an undo step with that name, and updates preview and frame size.
     void Place(const PlacementRow& row, const char* step, const std::function<void()>& work);
-    void LabelClicked(const Box* box, FontClicks clicks);
+    void LabelClicked(const Box* box, int clicks);
     void Dragged(const Box* box, QPoint point, QPoint moved);
     void KeyPressed(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held);
     void ShowTip(const Box* box, QPoint globalPoint);

@@ -137,7 +137,7 @@ protected:
             ShowPictureFrame(boxes, this->Current().ShowPicture);
             m_parts.Preview.SettleFocus();
         });
-        this->AddCheck(outline, &Record::Frame, [this, &frame] { frame.SetOutlined(this->Current().Frame); });
+        this->AddCheck(outline, &Record::Frame, [this, &frame] { frame.Outlined = this->Current().Frame; });
     }
 
     /// Fills the controls that no Add function has connected.

@@ -28,10 +28,10 @@ namespace deckforge {
 
 frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
     : m_document(m_works.Set, user, renewRescueAfter),
-      m_preview(new CardPreview(PreviewBoxes(m_works.Templates), this)), m_parts{.Works = m_works,
-                                                                                 .Document = m_document,
-                                                                                 .Preview = *m_preview,
-                                                                                 .User = user},
+      m_preview(new CardPreview(m_works.Templates.Boxes(), this)), m_parts{.Works = m_works,
+                                                                           .Document = m_document,
+                                                                           .Preview = *m_preview,
+                                                                           .User = user},
       tbCard(new QTabBar(this)), m_forms(new QStackedWidget(this)), m_progress(new QProgressBar(this)),
       m_hint(new QLabel(this))
 {

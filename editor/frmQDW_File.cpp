@@ -189,7 +189,7 @@ void frmQDW::dropEvent(QDropEvent* event)
 /// A box that takes no picture passes it to its parent, a label to its card for example.
 void frmQDW::DropPicture(const Box* box, const QString& path)
 {
-    for (; box; box = m_preview->ParentOf(*box)) {
+    for (; box; box = box->Parent) {
         for (const auto& page : m_pages) {
             if (page->TakeDrop(*box, path))
                 return;

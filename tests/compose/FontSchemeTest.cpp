@@ -21,7 +21,7 @@ TEST(FontScheme, AppliesTheFontOfEveryLabel)
     SetFont(templates, header);
     const auto expect = [&](const FontSpec& font, std::initializer_list<const Box*> labels) {
         for (const Box* label : labels)
-            EXPECT_EQ(label->Font.Size, font.Size) << label->Name.toStdString();
+            EXPECT_EQ(label->Font.Size, font.Size);
     };
     expect(header.FontTitle, {&card.lblTitle});
     expect(header.FontType, {&card.lblType[0], &card.lblType[1], &card.lblType[2], &card.lblType[3]});

@@ -75,7 +75,9 @@ TEST(TextFitting, EmptyLinesHaveTheLineHeightAndCentredOnesAreCentred)
 
 TEST(TextFitting, OneLineIsCentredOnWholePixelsAndExtendsPastBothSides)
 {
-    const Box box{.Name = {}, .Left = 10, .Width = 20};
+    BoxList boxes(1);
+    Box card(boxes, {}, {});
+    const Box box(card, {10, 0, 20, 0});
     EXPECT_EQ(Centred(box, 5), 17); // 7.5 is rounded down
     EXPECT_EQ(Centred(box, 25), 7); // -2.5 is rounded down, too
     EXPECT_EQ(RightAligned(box, 25), 5);

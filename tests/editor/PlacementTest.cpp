@@ -101,7 +101,7 @@ TEST_F(PlacementTest, ADroppedPictureIsUsedWhereItIsDropped)
     const QString path = folder.WritePicture("imp.bmp");
     const auto expectDropped = [&](const QString& field, const Box& box, QPoint inBox = {1, 1}) {
         Drop(path, box, inBox);
-        EXPECT_EQ(field, path) << box.Name.toStdString();
+        EXPECT_EQ(field, path);
     };
     expectDropped(FirstCard().Picture, Preview().picFrame, {120, 90});
     expectDropped(FirstCard().Background, Preview().lblInformation);

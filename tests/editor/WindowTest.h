@@ -103,7 +103,7 @@ protected:
     QPoint PointOn(const Box& box, QPoint inBox = {1, 1})
     {
         QPoint corner = box.Place().topLeft() + inBox;
-        for (const Box* parent = View().ParentOf(box); parent; parent = View().ParentOf(*parent))
+        for (const Box* parent = box.Parent; parent; parent = parent->Parent)
             corner += parent->Place().topLeft() + QPoint(parent->BorderWidth(), parent->BorderWidth());
         const QPoint origin = Preview().picCard.Place().topLeft();
         return (corner - origin) * View().Zoom() + QPoint(View().Zoom() / 2, View().Zoom() / 2);
