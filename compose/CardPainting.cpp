@@ -9,27 +9,26 @@ namespace deckforge {
 
 namespace {
 
-void PaintClipped(PictureBox& surface, const Picture& white, const FramedPicture& picture, const QRect& frame)
+void PrintWrapped(PictureBox& surface, const Box& label)
 {
-    surface.PaintStretched(white, frame);
-    if (!picture.IsSet)
-        return;
-    if (const std::optional<Clip> clip = ClipPicture(picture.Clip))
-        surface.PaintPart(picture.Image.Surface->GetPicture(), frame.topLeft() + clip->Target, clip->Source);
+    const QPoint corner = label.OnCard();
+    const bool isCentred = label.Align == Alignment::Centre;
+    const TextColumn column = {.Left = corner.x(),
+                               .Top = corner.y(),
+                               .Width = label.Width,
+                               .Form = isCentred ? LineForm::Centred : LineForm::Plain};
+    IgnoreFailure([&] { WrapAndPrint(surface, label.Caption, column); });
 }
 
 } // namespace
 
-void PaintPictureBlock(PictureBox& surface, const Picture& white, const FramedPicture& picture)
+ClipInput ClipInFrame(const Box& frame, const Box& image, double left, double top)
 {
-    if (!picture.IsShown)
-        return;
-    const QRect frame = picture.Frame.Place().translated(picture.Origin);
-    IgnoreFailure([&] { PaintClipped(surface, white, picture, frame); });
-    if (picture.Clip.FrameInset > 0) {
-        surface.LineBox(frame.left(), frame.top(), frame.left() + frame.width() - 1,
-                        frame.top() + frame.height() - 1);
-    }
+    return {.Frame = {frame.Width, frame.Height},
+            .Picture = {image.Width, image.Height},
+            .PictureLeft = left,
+            .PictureTop = top,
+            .FrameInset = frame.BorderWidth()};
 }
 
 void BeginCard(PictureBox& surface, const Box& preview, const FontSpec& pen)
@@ -39,55 +38,45 @@ void BeginCard(PictureBox& surface, const Box& preview, const FontSpec& pen)
     UseFont(surface, pen);
 }
 
-void PaintBackground(Workshop& workshop, const Box& preview, const QString& path, Colour colour,
-                     const FontSpec& pen)
+void PrintLine(PictureBox& surface, const Box& label)
 {
-    PictureBox& picACard = workshop.Surfaces.picACard;
-    BeginCard(picACard, preview, pen);
-    IgnoreFailure([&] { picACard.SetPicture(workshop.Pictures.LoadPicture(path)); });
-    picACard.SetBackColor(colour);
+    PrintAt(surface, Aligned(label, surface.TextWidth(label.Caption)), label.OnCard().y(), label.Caption);
 }
 
-void PaintSymbol(Workshop& workshop, const Box& symbol, QPoint origin)
+void PrintTexts(PictureBox& surface, const BoxList& boxes, const SetHeader& header)
 {
-    if (workshop.Set.Header.Symbol.isEmpty())
-        return;
-    const QPoint place = symbol.Place().topLeft() + origin;
-    workshop.Surfaces.picACard.PaintPicture(symbol.Surface->GetPicture(), place.x(), place.y());
+    for (const Box* label : boxes.Boxes) {
+        if (label->Form == TextForm::None)
+            continue;
+        if (label->FontOfSet)
+            UseFont(surface, header.*label->FontOfSet);
+        if (label->Form == TextForm::Line)
+            PrintLine(surface, *label);
+        else
+            PrintWrapped(surface, *label);
+    }
 }
 
-void PrintCentred(PictureBox& surface, const Box& box, const QString& text, QPoint origin)
-{
-    PrintAt(surface, Centred(box, surface.TextWidth(text)) + origin.x(), box.Top + origin.y(), text);
-}
-
-void PrintWrapped(PictureBox& surface, const Box& box, const QString& text, LineForm form, QPoint origin)
-{
-    const TextColumn column = {
-        .Left = box.Left + origin.x(), .Top = box.Top + origin.y(), .Width = box.Width, .Form = form};
-    IgnoreFailure([&] { WrapAndPrint(surface, text, column); });
-}
-
-void PrintIndex(PictureBox& surface, double x, double y, int16 index)
-{
-    surface.CurrentX = x;
-    surface.CurrentY = y;
-    surface.PrintNumber(index);
-}
-
-void PrintWatermark(PictureBox& surface, const Box& watermark, QPoint origin)
+void PrintWatermark(PictureBox& surface, const Box& watermark)
 {
     UseFont(surface, watermark.Font);
-    PrintCentred(surface, watermark, watermark.Caption, origin);
+    PrintLine(surface, watermark);
 }
 
-void ShowRun::ReportMissingOn(Box& reporter, const QString& path, const char* message)
+Composer::Composer(Workshop& workshop, int16 index)
+    : m_index(index), m_header(workshop.Set.Header), m_standard(workshop.Templates.Standard),
+      m_surfaces(workshop.Surfaces), m_picACard(workshop.Surfaces.picACard), m_pens(workshop.Carried),
+      m_art(workshop.Art), m_pictures(workshop.Pictures), m_problems(workshop.Problems)
+{
+}
+
+void Composer::ReportMissingOn(Box& reporter, const QString& path, const char* message)
 {
     m_reporter = &reporter;
     m_message = QLatin1String(message) + QStringLiteral("\r\n") + path;
 }
 
-void ShowRun::Handle(const RunTimeError& error)
+void Composer::Handle(const RunTimeError& error)
 {
     if (error.IsMissingFile() && m_reporter != nullptr) {
         PictureBox& surface = *m_reporter->Surface;
@@ -99,12 +88,62 @@ void ShowRun::Handle(const RunTimeError& error)
     }
 }
 
-void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QString& path)
+void Composer::LoadFramedPicture(Box& image, const QString& path)
 {
-    run([&] { image.ShowAtNaturalSize(workshop.Pictures.LoadPicture(path)); });
+    Load([&] { image.ShowAtNaturalSize(m_pictures.LoadPicture(path)); });
     if (image.Surface->GetPicture().IsEmpty())
         image.ShowAtNaturalSize({});
     image.Surface->Refresh();
+}
+
+void Composer::LoadBackground(Box& card, const QString& path, Colour colour)
+{
+    ReportMissingOn(m_standard.picCard, path);
+    Load([&] { card.Surface->SetPicture(m_pictures.LoadPicture(path)); });
+    card.Surface->SetBackColor(colour); // also removes an earlier message
+}
+
+void Composer::PaintBackground(const Box& preview, const QString& path, Colour colour)
+{
+    BeginCard(m_picACard, preview, m_pens.Card);
+    IgnoreFailure([&] { m_picACard.SetPicture(m_pictures.LoadPicture(path)); });
+    m_picACard.SetBackColor(colour);
+}
+
+void Composer::PaintFramed(PictureBox& surface, const Box& frame, const Box& image, const ClipInput& clip)
+{
+    const QRect place(frame.OnCard(), clip.Frame);
+    IgnoreFailure([&] {
+        surface.PaintStretched(m_surfaces.picWhite, place);
+        if (const std::optional<Clip> seen = ClipPicture(clip))
+            surface.PaintPart(image.Surface->GetPicture(), place.topLeft() + seen->Target, seen->Source);
+    });
+    if (clip.FrameInset > 0)
+        surface.LineBox(place.left(), place.top(), place.right(), place.bottom());
+}
+
+void Composer::PaintSymbol(const Box& symbol)
+{
+    if (m_header.Symbol.isEmpty())
+        return;
+    const QPoint corner = symbol.OnCard();
+    m_picACard.PaintPicture(symbol.Surface->GetPicture(), corner.x(), corner.y());
+}
+
+void Composer::PrintIndex(const Box& number, int top)
+{
+    if (!m_header.Autonumber)
+        return;
+    UseFont(m_picACard, m_header.FontAutonumber);
+    m_picACard.CurrentX = Aligned(number, m_picACard.TextWidth(QString::number(m_index)));
+    m_picACard.CurrentY = top;
+    m_picACard.PrintNumber(m_index);
+}
+
+void Composer::FinishCard(const Box& watermark)
+{
+    PrintWatermark(m_picACard, watermark);
+    m_pens.Card = m_picACard.Pen();
 }
 
 } // namespace deckforge

@@ -8,71 +8,36 @@
 
 namespace deckforge {
 
-// Composition shared by all kinds of card. An origin is the position of the boxes' parent on the surface: (0,
-// 0), or the corner of the panel of a character card.
+// Composition shared by all kinds of card.
 
-/// A picture behind its frame.
-struct FramedPicture {
-    const Box& Frame;
-    const Box& Image;
-    ClipInput Clip;
-    bool IsShown; ///< if false, the white background is not painted either
-    bool IsSet;   ///< the record names a picture
-    QPoint Origin = {};
-};
-
-/// For records with the common picture fields. An outline insets the picture by a pixel.
-template <class Record>
-FramedPicture FramedPictureOf(const Record& record, const Box& frame, const Box& image)
-{
-    return {.Frame = frame,
-            .Image = image,
-            .Clip = {.Frame = {frame.Width, frame.Height},
-                     .Picture = {image.Width, image.Height},
-                     .PictureLeft = record.PictureLeft,
-                     .PictureTop = record.PictureTop,
-                     .FrameInset = record.Frame ? 1 : 0},
-            .IsShown = record.ShowPicture,
-            .IsSet = !record.Picture.isEmpty()};
-}
-
-/// Fills the frame with white, paints the visible part of the picture, and draws the outline.
-/// Kept: the outline has the surface's current colour, left by the card before.
-void PaintPictureBlock(PictureBox& surface, const Picture& white, const FramedPicture& picture);
+/// The picture in its frame. The frame's border insets it by a pixel.
+[[nodiscard]] ClipInput ClipInFrame(const Box& frame, const Box& image, double left, double top);
 
 /// Clears the surface and gives it the size of the preview and the carried pen.
 void BeginCard(PictureBox& surface, const Box& preview, const FontSpec& pen);
 
-/// Clears picACard and paints the background, or the colour if the file is missing.
-void PaintBackground(Workshop& workshop, const Box& preview, const QString& path, Colour colour,
-                     const FontSpec& pen);
+/// Prints the caption of a label on one line, aligned in its box.
+void PrintLine(PictureBox& surface, const Box& label);
 
-/// Paints the symbol of the set, if it has one.
-void PaintSymbol(Workshop& workshop, const Box& symbol, QPoint origin);
+/// Prints the captions of all labels with a TextForm, in their fonts of the set.
+void PrintTexts(PictureBox& surface, const BoxList& boxes, const SetHeader& header);
 
-/// Prints a line centred in its box.
-void PrintCentred(PictureBox& surface, const Box& box, const QString& text, QPoint origin = {});
+void PrintWatermark(PictureBox& surface, const Box& watermark);
 
-/// Prints a text wrapped to the width of its box, from the top of the box.
-void PrintWrapped(PictureBox& surface, const Box& box, const QString& text, LineForm form = LineForm::Plain,
-                  QPoint origin = {});
+/// Composes one card, with the steps that all kinds share. A missing file is reported on the preview of the
+/// standard card, and the next step runs. Any other failure is thrown.
+class Composer {
+protected:
+    Composer(Workshop& workshop, int16 index);
 
-/// Prints a card's number in the set.
-void PrintIndex(PictureBox& surface, double x, double y, int16 index);
+    // Preview
 
-void PrintWatermark(PictureBox& surface, const Box& watermark, QPoint origin = {});
-
-/// Runs the steps of a Show function. A missing file is reported on the preview and an invalid property value
-/// is ignored; the next step runs. Any other failure is thrown.
-class ShowRun {
-public:
     /// From now on reports a missing file on this box, with this message and path.
     void ReportMissingOn(Box& reporter, const QString& path, const char* message = "Missing picture.");
 
-    [[nodiscard]] const std::vector<PictureProblem>& Problems() const { return m_problems; }
-
+    /// Runs a step that loads a picture. Ignores an invalid property value.
     template <class Step>
-    void operator()(Step&& step)
+    void Load(Step&& step)
     {
         try {
             WithMemoryAsFailure(step);
@@ -81,32 +46,58 @@ public:
         }
     }
 
+    /// Loads the picture of a frame and repaints its box, which removes an earlier message about a missing
+    /// file.
+    void LoadFramedPicture(Box& image, const QString& path);
+    void LoadBackground(Box& card, const QString& path, Colour colour);
+
+    // Composition. Steps that fail are skipped.
+
+    /// Clears picACard and paints the background, or the colour if the file is missing.
+    void PaintBackground(const Box& preview, const QString& path, Colour colour);
+
+    /// Fills the frame with white, paints the visible part of the picture, and draws the outline.
+    /// Kept: the outline has the surface's current colour, left by the card before.
+    void PaintFramed(PictureBox& surface, const Box& frame, const Box& image, const ClipInput& clip);
+
+    /// Paints the symbol of the set, if it has one.
+    void PaintSymbol(const Box& symbol);
+
+    /// Prints the card's number in the set, if the set shows it.
+    void PrintIndex(const Box& number, int top);
+
+    /// Prints the version mark, and carries the pen to the next card.
+    void FinishCard(const Box& watermark);
+
+    const int16 m_index;
+    const SetHeader& m_header;
+    CardTemplate& m_standard;
+    WorkSurfaces& m_surfaces;
+    PictureBox& m_picACard;
+    CarriedPens& m_pens;
+    BuiltInArt& m_art;
+    PictureLoader& m_pictures;
+
 private:
     void Handle(const RunTimeError& error);
 
+    std::vector<PictureProblem>& m_problems;
     Box* m_reporter = nullptr;
     QString m_message;
-    std::vector<PictureProblem> m_problems;
 };
 
-/// Loads the picture of a frame and repaints its box, which removes an earlier message about a missing file.
-void LoadFramedPicture(ShowRun& run, Workshop& workshop, Box& image, const QString& path);
-
-/// Runs a Show function and returns the failure that ended it. Sets the problems of the workshop.
-template <class Routine>
-[[nodiscard]] CompositionFailure RunShow(Workshop& workshop, Routine&& routine)
+/// Composes a card and returns the failure that ended it. Sets the problems of the workshop.
+template <class KindComposer>
+[[nodiscard]] CompositionFailure Compose(Workshop& workshop, int16 index)
 {
-    ShowRun run;
-    CompositionFailure failure;
     workshop.Problems.clear();
     try {
-        WithMemoryAsFailure([&] { routine(run); });
+        WithMemoryAsFailure([&] { KindComposer(workshop, index).Compose(); });
     } catch (const RunTimeError& error) {
         workshop.Problems.push_back({error.Place(), error.Description()});
-        failure = error;
+        return error;
     }
-    workshop.Problems.insert(workshop.Problems.begin(), run.Problems().begin(), run.Problems().end());
-    return failure;
+    return std::nullopt;
 }
 
 } // namespace deckforge

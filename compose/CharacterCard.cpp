@@ -16,13 +16,11 @@ constexpr int FramedHeight = 218;
 constexpr int UnframedHeight = 220;
 constexpr int TextRight = 272;
 
-// Preview
-
-void PlaceFrame(ShowRun& run, CharacterTemplate& t, const Character& character)
+void PlaceFrame(CharacterTemplate& t, const Character& character)
 {
     t.picFrameCharacter.SetHeight(character.Frame ? FramedHeight : UnframedHeight);
     t.picFrameCharacter.Outlined = character.Frame;
-    run([&] { t.picFrameCharacter.SetWidth(character.FrameHeight); });
+    IgnoreFailure([&] { t.picFrameCharacter.SetWidth(character.FrameHeight); });
 }
 
 /// Places the texts at the right of the handle. A box without room keeps its width.
@@ -35,46 +33,6 @@ void PlaceTexts(CharacterTemplate& t)
     t.lblStart.Left = t.lblStartTitle.Left + t.lblStartTitle.Width;
     for (Box* label : {&t.lblAlignment, &t.lblStart, &t.lblSpecialTitle, &t.lblSpecial})
         IgnoreFailure([&] { label->SetWidth(TextRight - label->Left); });
-}
-
-void ShowTexts(Workshop& workshop, const Character& character, int16 index)
-{
-    CharacterTemplate& t = workshop.Templates.Character;
-    t.lblCharacter.Caption = character.Name;
-    t.lblAlignment.Caption = character.Alignment;
-    t.lblStart.Caption = character.StartArea;
-    t.lblSpecial.Caption = character.SpecialAbilities;
-    t.lblAutonumberCharacter.Caption = QString::number(index);
-}
-
-/// The first back if the index is not in the list.
-Picture BackOf(Workshop& workshop, const Character& character)
-{
-    if (character.CardBack == UserDefinedCharacterBack)
-        return workshop.Pictures.LoadPicture(character.CardBackPicture);
-    const bool isListed = character.CardBack >= 0 && character.CardBack < UserDefinedCharacterBack;
-    return workshop.Art.imgChB(isListed ? character.CardBack : 0);
-}
-
-void LoadPictures(ShowRun& run, Workshop& workshop, const Character& character)
-{
-    CardTemplate& standard = workshop.Templates.Standard;
-    CharacterTemplate& t = workshop.Templates.Character;
-    run.ReportMissingOn(standard.picImage, character.Picture);
-    LoadFramedPicture(run, workshop, t.picImageCharacter, character.Picture);
-    t.picImageCharacter.MoveToTwips(character.PictureLeft, character.PictureTop);
-
-    // Kept: a missing back or playing piece is reported as a missing background, too.
-    run.ReportMissingOn(standard.picCard, character.Background, "Missing background.");
-    run([&] {
-        t.picBackgroundChar.Surface->SetPicture(workshop.Pictures.LoadPicture(character.Background));
-    });
-    t.picBackgroundChar.Surface->Refresh();
-    run([&] { t.picCharacterBack.Surface->SetPicture(BackOf(workshop, character)); });
-    PlayingPieceTemplate& piece = workshop.Templates.PlayingPiece;
-    LoadFramedPicture(run, workshop, piece.picPlayingPieceImage, character.PlayingPiece);
-    piece.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft, character.PlayingPieceTop);
-    piece.lblPlayingPieceName.Caption = character.Name;
 }
 
 struct AttributeStrip {
@@ -95,133 +53,125 @@ QString AttributeText(const QString& word, const QString& value)
     return value.startsWith(QLatin1Char('+')) ? word + value : word + QLatin1Char(' ') + value;
 }
 
-// Composition of the card
-
-void PaintPictures(Workshop& workshop, const Character& character, QPoint panel)
-{
-    const CharacterTemplate& t = workshop.Templates.Character;
-    PictureBox& picACard = workshop.Surfaces.picACard;
-    for (const Box& strip : t.picCharAttrDisp)
-        picACard.PaintPicture(strip.Surface->Image(), strip.Left, strip.Top);
-    if (!character.Background.isEmpty())
-        picACard.PaintPicture(t.picBackgroundChar.Surface->Image(), panel.x(), panel.y());
-    FramedPicture picture = FramedPictureOf(character, t.picFrameCharacter, t.picImageCharacter);
-    picture.Origin = panel;
-    PaintPictureBlock(picACard, workshop.Surfaces.picWhite, picture);
-    PaintSymbol(workshop, t.picSymbolCharacter, panel);
-}
-
-/// Prints a title and its value, each at the left of its box.
-void PrintPair(PictureBox& surface, QPoint panel, const Box& title, const Box& box, const QString& text)
-{
-    PrintAt(surface, title.Left + panel.x(), title.Top + panel.y(), title.Caption);
-    PrintAt(surface, box.Left + panel.x(), box.Top + panel.y(), text);
-}
-
-void PrintTexts(Workshop& workshop, const Character& character, int16 index, QPoint panel)
-{
-    const CharacterTemplate& t = workshop.Templates.Character;
-    const SetHeader& header = workshop.Set.Header;
-    PictureBox& picACard = workshop.Surfaces.picACard;
-    UseFont(picACard, header.FontCharacter);
-    for (const Box* label : {&t.lblCharacter, &t.lblObjects, &t.lblFollowers})
-        PrintCentred(picACard, *label, label->Caption);
-    UseFont(picACard, header.FontAlignment);
-    PrintPair(picACard, panel, t.lblAlignmentTitle, t.lblAlignment, character.Alignment);
-    PrintPair(picACard, panel, t.lblStartTitle, t.lblStart, character.StartArea);
-    UseFont(picACard, header.FontSpecialTitle);
-    PrintCentred(picACard, t.lblSpecialTitle, t.lblSpecialTitle.Caption, panel);
-    UseFont(picACard, header.FontSpecial);
-    PrintWrapped(picACard, t.lblSpecial, character.SpecialAbilities, LineForm::Plain, panel);
-    if (header.Autonumber) {
-        UseFont(picACard, header.FontAutonumber);
-        PrintIndex(picACard, t.lblAutonumberCharacter.Left + panel.x(),
-                   t.lblAutonumberCharacter.Top + panel.y(), index);
+class CharacterComposer final : Composer {
+public:
+    CharacterComposer(Workshop& workshop, int16 index)
+        : Composer(workshop, index), m_character(workshop.Set.Characters[index]),
+          m_boxes(workshop.Templates.Character), m_piece(workshop.Templates.PlayingPiece)
+    {
     }
-    PrintWatermark(picACard, t.lblWatermark, panel);
-}
 
-void DrawCharacterCard(Workshop& workshop, int16 index, FontSpec& pen)
-{
-    const CharacterTemplate& t = workshop.Templates.Character;
-    const Character& character = workshop.Set.Characters[index];
-    const QPoint panel = t.picBackgroundChar.Place().topLeft();
-    BeginCard(workshop.Surfaces.picACard, t.picCharacter, pen);
-    workshop.Surfaces.picACard.SetPicture(t.picCharacter.Surface->GetPicture());
-    PaintPictures(workshop, character, panel);
-    PrintTexts(workshop, character, index, panel);
-    pen = workshop.Surfaces.picACard.Pen();
-}
+    void Compose()
+    {
+        ShowTexts();
+        PlaceFrame(m_boxes, m_character);
+        ShowPictureFrame(m_boxes, m_character.ShowPicture);
+        LoadPictures();
+        for (int i = 0; const auto attribute : CharacterAttributes)
+            DrawCharAttribute(m_boxes, m_surfaces.picCharAttribute, i++, m_character.*attribute);
+        DrawCard();
+        DrawPlayingPiece();
+    }
 
-// Composition of the playing piece
+private:
+    void ShowTexts()
+    {
+        m_boxes.lblCharacter.Caption = m_character.Name;
+        m_boxes.lblAlignment.Caption = m_character.Alignment;
+        m_boxes.lblStart.Caption = m_character.StartArea;
+        m_boxes.lblSpecial.Caption = m_character.SpecialAbilities;
+        m_boxes.lblAutonumberCharacter.Caption = QString::number(m_index);
+    }
 
-FramedPicture PiecePicture(const PlayingPieceTemplate& t, const Character& character)
-{
-    const Box& frame = t.picPlayingPieceFrame;
-    const Box& image = t.picPlayingPieceImage;
-    const bool isSet = !character.PlayingPiece.isEmpty();
-    return {.Frame = frame,
-            .Image = image,
-            .Clip = {.Frame = {frame.Width, frame.Height},
-                     .Picture = {image.Width, image.Height},
-                     .PictureLeft = character.PlayingPieceLeft,
-                     .PictureTop = character.PlayingPieceTop},
-            .IsShown = isSet,
-            .IsSet = isSet};
-}
+    void LoadPictures()
+    {
+        ReportMissingOn(m_standard.picImage, m_character.Picture);
+        LoadFramedPicture(m_boxes.picImageCharacter, m_character.Picture);
+        m_boxes.picImageCharacter.MoveToTwips(m_character.PictureLeft, m_character.PictureTop);
+        // Kept: a missing back or playing piece is reported as a missing background, too.
+        ReportMissingOn(m_standard.picCard, m_character.Background, "Missing background.");
+        PictureBox& panel = *m_boxes.picBackgroundChar.Surface;
+        Load([&] { panel.SetPicture(m_pictures.LoadPicture(m_character.Background)); });
+        panel.Refresh();
+        Load([&] { m_boxes.picCharacterBack.Surface->SetPicture(Back()); });
+        LoadFramedPicture(m_piece.picPlayingPieceImage, m_character.PlayingPiece);
+        PlacePlayingPiecePicture(m_piece, m_character);
+        m_piece.lblPlayingPieceName.Caption = m_character.Name;
+    }
 
-void DrawPlayingPiece(Workshop& workshop, int16 index, CarriedPens& pens)
-{
-    const PlayingPieceTemplate& t = workshop.Templates.PlayingPiece;
-    PictureBox& picACardPP = workshop.Surfaces.picACardPP;
-    BeginCard(picACardPP, t.picPlayingPiece, pens.Piece);
-    PaintPictureBlock(picACardPP, workshop.Surfaces.picWhite,
-                      PiecePicture(t, workshop.Set.Characters[index]));
-    const QRect cutLine = t.CutLine.Place();
-    picACardPP.LineBox(cutLine.left(), cutLine.top(), cutLine.right(), cutLine.bottom());
-    // Kept: sets the piece's font on the card surface instead of picACardPP. So the name is printed in the
-    // font of the version mark before it, and the outline of the next card has the colour of this font.
-    UseFont(workshop.Surfaces.picACard, workshop.Set.Header.FontPlayingPiece);
-    PrintCentred(picACardPP, t.lblPlayingPieceName, t.lblPlayingPieceName.Caption);
-    PrintWatermark(picACardPP, t.lblWatermark);
-    pens = {.Card = workshop.Surfaces.picACard.Pen(), .Piece = picACardPP.Pen()};
-}
+    /// The first back if the index is not in the list.
+    [[nodiscard]] Picture Back()
+    {
+        const int16 back = m_character.CardBack;
+        if (back == UserDefinedCharacterBack)
+            return m_pictures.LoadPicture(m_character.CardBackPicture);
+        return m_art.imgChB(back >= 0 && back < UserDefinedCharacterBack ? back : 0);
+    }
+
+    void DrawCard()
+    {
+        BeginCard(m_picACard, m_boxes.picCharacter, m_pens.Card);
+        m_picACard.SetPicture(m_boxes.picCharacter.Surface->GetPicture());
+        for (const Box& strip : m_boxes.picCharAttrDisp)
+            m_picACard.PaintPicture(strip.Surface->Image(), strip.Left, strip.Top);
+        const Box& panel = m_boxes.picBackgroundChar;
+        if (!m_character.Background.isEmpty())
+            m_picACard.PaintPicture(panel.Surface->Image(), panel.Left, panel.Top);
+        const Box& frame = m_boxes.picFrameCharacter;
+        const Box& image = m_boxes.picImageCharacter;
+        if (m_character.ShowPicture)
+            PaintFramed(m_picACard, frame, image,
+                        ClipInFrame(frame, image, m_character.PictureLeft, m_character.PictureTop));
+        PaintSymbol(m_boxes.picSymbolCharacter);
+        PrintTexts(m_picACard, m_boxes, m_header);
+        PrintIndex(m_boxes.lblAutonumberCharacter, m_boxes.lblAutonumberCharacter.OnCard().y());
+        FinishCard(m_boxes.lblWatermark);
+    }
+
+    void DrawPlayingPiece()
+    {
+        PictureBox& picACardPP = m_surfaces.picACardPP;
+        BeginCard(picACardPP, m_piece.picPlayingPiece, m_pens.Piece);
+        const Box& frame = m_piece.picPlayingPieceFrame;
+        const Box& image = m_piece.picPlayingPieceImage;
+        if (!m_character.PlayingPiece.isEmpty())
+            PaintFramed(picACardPP, frame, image,
+                        ClipInFrame(frame, image, m_character.PlayingPieceLeft, m_character.PlayingPieceTop));
+        const QRect cutLine = m_piece.CutLine.Place();
+        picACardPP.LineBox(cutLine.left(), cutLine.top(), cutLine.right(), cutLine.bottom());
+        // Kept: sets the piece's font on the card surface instead of picACardPP. So the name is printed in
+        // the font of the version mark before it, and the outline of the next card has the colour of this
+        // font.
+        UseFont(m_picACard, m_header.FontPlayingPiece);
+        PrintLine(picACardPP, m_piece.lblPlayingPieceName);
+        PrintWatermark(picACardPP, m_piece.lblWatermark);
+        m_pens = {.Card = m_picACard.Pen(), .Piece = picACardPP.Pen()};
+    }
+
+    const Character& m_character;
+    CharacterTemplate& m_boxes;
+    PlayingPieceTemplate& m_piece;
+};
 
 } // namespace
 
 CompositionFailure ShowCharacter(Workshop& workshop, int16 index)
 {
-    return RunShow(workshop, [&](ShowRun& run) {
-        CharacterTemplate& t = workshop.Templates.Character;
-        const Character& character = workshop.Set.Characters[index];
-        ShowTexts(workshop, character, index);
-        PlaceFrame(run, t, character);
-        ShowPictureFrame(t, character.ShowPicture);
-        LoadPictures(run, workshop, character);
-        for (int i = 0; const auto attribute : CharacterAttributes)
-            DrawCharAttribute(workshop, i++, character.*attribute);
-        DrawCharacterCard(workshop, index, workshop.Carried.Card);
-        DrawPlayingPiece(workshop, index, workshop.Carried);
-    });
+    return Compose<CharacterComposer>(workshop, index);
 }
 
-void PlaceCharacterPicture(Workshop& workshop, int16 index)
+void PlaceCharacterPicture(CharacterTemplate& t, const Character& character)
 {
-    CharacterTemplate& t = workshop.Templates.Character;
-    const Character& character = workshop.Set.Characters[index];
-    ShowRun run;
-    PlaceFrame(run, t, character);
+    PlaceFrame(t, character);
     t.lblPicSizeCharacter.Left = t.picFrameCharacter.Left + t.picFrameCharacter.Width;
     PlaceTexts(t);
     t.picImageCharacter.Surface->Refresh();
     t.picImageCharacter.MoveToTwips(character.PictureLeft, character.PictureTop);
 }
 
-void PlacePlayingPiecePicture(Workshop& workshop, int16 index)
+void PlacePlayingPiecePicture(PlayingPieceTemplate& t, const Character& character)
 {
-    const Character& character = workshop.Set.Characters[index];
-    workshop.Templates.PlayingPiece.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft,
-                                                                     character.PlayingPieceTop);
+    t.picPlayingPieceImage.MoveToTwips(character.PlayingPieceLeft, character.PlayingPieceTop);
 }
 
 void PlaceHandle(CharacterTemplate& t, int left)
@@ -239,19 +189,17 @@ void ShowPictureFrame(CharacterTemplate& t, bool visible)
     PlaceTexts(t);
 }
 
-void DrawCharAttribute(Workshop& workshop, int index, const QString& value)
+void DrawCharAttribute(CharacterTemplate& t, PictureBox& picCharAttribute, int index, const QString& value)
 {
     const auto row = static_cast<std::size_t>(index);
     const AttributeStrip& strip = AttributeStrips[row];
-    PictureBox& picCharAttribute = workshop.Surfaces.picCharAttribute;
     const QString text = AttributeText(QString::fromLatin1(strip.Word), value);
     picCharAttribute.SetPicture({});
     picCharAttribute.ForeColor = strip.ForeColor;
     PrintAt(picCharAttribute, picCharAttribute.Width() / 2.0 - picCharAttribute.TextWidth(text) / 2,
             picCharAttribute.Height() / 2.0 - picCharAttribute.TextHeight(text) / 2, text);
     picCharAttribute.Freeze();
-    RotatePicture(picCharAttribute, *workshop.Templates.Character.picCharAttrDisp[row].Surface,
-                  strip.Direction);
+    RotatePicture(picCharAttribute, *t.picCharAttrDisp[row].Surface, strip.Direction);
 }
 
 QString CharacterFrameSizeText(const Box& frame)

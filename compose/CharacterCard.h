@@ -14,10 +14,10 @@ namespace deckforge {
 [[nodiscard]] CompositionFailure ShowCharacter(Workshop& workshop, int16 index);
 
 /// Updates the positions of frame, picture and texts without loading the picture again.
-void PlaceCharacterPicture(Workshop& workshop, int16 index);
+void PlaceCharacterPicture(CharacterTemplate& t, const Character& character);
 
 /// Updates the position of the playing piece's picture.
-void PlacePlayingPiecePicture(Workshop& workshop, int16 index);
+void PlacePlayingPiecePicture(PlayingPieceTemplate& t, const Character& character);
 
 /// Moves the handle, and with it the right edge of the frame and the texts beside it.
 void PlaceHandle(CharacterTemplate& t, int left);
@@ -26,8 +26,8 @@ void PlaceHandle(CharacterTemplate& t, int left);
 void ShowPictureFrame(CharacterTemplate& t, bool visible);
 
 /// Draws an attribute (0 to 3: strength, craft, gold, lives) rotated into its strip of the preview: "CRAFT
-/// 3", "CRAFT+1", or "CRAFT" for "---".
-void DrawCharAttribute(Workshop& workshop, int index, const QString& value);
+/// 3", "CRAFT+1", or "CRAFT" for "---". `picCharAttribute` is the attribute before rotation.
+void DrawCharAttribute(CharacterTemplate& t, PictureBox& picCharAttribute, int index, const QString& value);
 
 /// "(100W*220H)"
 [[nodiscard]] QString CharacterFrameSizeText(const Box& frame);

@@ -3,7 +3,6 @@
 #include "compose/LargeCard.h"
 
 #include "compose/CardPainting.h"
-#include "compose/FontScheme.h"
 #include "compose/IgnoreFailure.h"
 #include "platform/Twips.h"
 
@@ -18,14 +17,12 @@ constexpr int TextRight = 296;
 
 constexpr int DefaultBack = 3;
 
-// Preview
-
-void PlaceFrame(ShowRun& run, LargeCardTemplate& t, const LargeCard& card)
+void PlaceFrame(LargeCardTemplate& t, const LargeCard& card)
 {
     t.picFrameLarge.Visible = card.ShowPicture;
     t.lblPicSizeLarge.Visible = card.ShowPicture;
     t.picFrameLarge.Outlined = card.Frame;
-    run([&] { t.picFrameLarge.SetWidth(card.FrameHeight); });
+    IgnoreFailure([&] { t.picFrameLarge.SetWidth(card.FrameHeight); });
 }
 
 int HandleLeftAtFrame(const LargeCardTemplate& t)
@@ -56,84 +53,71 @@ void PlacePictureInFrame(LargeCardTemplate& t, const LargeCard& card)
     }
 }
 
-void LoadPictures(ShowRun& run, Workshop& workshop, const LargeCard& card)
-{
-    CardTemplate& standard = workshop.Templates.Standard;
-    LargeCardTemplate& t = workshop.Templates.Large;
-    run.ReportMissingOn(standard.picImage, card.Picture);
-    LoadFramedPicture(run, workshop, t.picImageLarge, card.Picture);
-    PlacePictureInFrame(t, card);
-
-    run.ReportMissingOn(standard.picCard, card.Background);
-    run([&] { t.picCardLarge.Surface->SetPicture(workshop.Pictures.LoadPicture(card.Background)); });
-    t.picCardLarge.Surface->SetBackColor(card.Color);
-
-    run.ReportMissingOn(standard.picBack, card.CardBack);
-    run([&] {
-        t.picBackLarge.Surface->SetPicture(card.CardBack.isEmpty()
-                                               ? workshop.Art.imgChB(DefaultBack)
-                                               : workshop.Pictures.LoadPicture(card.CardBack));
-    });
-}
-
-// Composition
-
-void PrintTexts(Workshop& workshop, const LargeCard& card, int16 index)
-{
-    const LargeCardTemplate& t = workshop.Templates.Large;
-    const SetHeader& header = workshop.Set.Header;
-    PictureBox& picACard = workshop.Surfaces.picACard;
-    UseFont(picACard, header.FontTitleLarge);
-    PrintWrapped(picACard, t.lblTitleLarge, card.Title, LineForm::Centred);
-    UseFont(picACard, header.FontInformationLarge);
-    // Kept: always at the top of its box, even if a long title overlaps it.
-    PrintWrapped(picACard, t.lblInformationLarge, card.Info);
-    if (header.Autonumber) {
-        UseFont(picACard, header.FontAutonumber);
-        // Kept: at the height of the standard card's number, a pixel above the large card's own box.
-        PrintIndex(picACard, t.lblAutonumberLarge.Left, workshop.Templates.Standard.lblAutonumber.Top, index);
+class LargeComposer final : Composer {
+public:
+    LargeComposer(Workshop& workshop, int16 index)
+        : Composer(workshop, index), m_card(workshop.Set.LargeCards[index]), m_boxes(workshop.Templates.Large)
+    {
     }
-    PrintWatermark(picACard, t.lblWatermark);
-}
 
-/// Composes the card at the positions of the boxes. Steps that fail are skipped.
-void DrawLargeCard(Workshop& workshop, int16 index, FontSpec& pen)
-{
-    const LargeCardTemplate& t = workshop.Templates.Large;
-    const LargeCard& card = workshop.Set.LargeCards[index];
-    PaintBackground(workshop, t.picCardLarge, card.Background, card.Color, pen);
-    FramedPicture picture = FramedPictureOf(card, t.picFrameLarge, t.picImageLarge);
-    picture.Clip.FrameHugsHeight = card.Resize;
-    PaintPictureBlock(workshop.Surfaces.picACard, workshop.Surfaces.picWhite, picture);
-    PaintSymbol(workshop, t.picSymbolLarge, {0, 0});
-    PrintTexts(workshop, card, index);
-    pen = workshop.Surfaces.picACard.Pen();
-}
+    void Compose()
+    {
+        m_boxes.lblTitleLarge.Caption = m_card.Title;
+        m_boxes.lblInformationLarge.Caption = m_card.Info;
+        PlaceFrame(m_boxes, m_card);
+        m_boxes.lblPicSizeLarge.Left =
+            m_card.ShowPicture ? HandleLeftAtFrame(m_boxes) : HandleLeftWithoutPicture;
+        PlaceTexts(m_boxes);
+        m_boxes.lblAutonumberLarge.Caption = QString::number(m_index);
+        LoadPictures();
+        Draw();
+    }
+
+private:
+    void LoadPictures()
+    {
+        ReportMissingOn(m_standard.picImage, m_card.Picture);
+        LoadFramedPicture(m_boxes.picImageLarge, m_card.Picture);
+        PlacePictureInFrame(m_boxes, m_card);
+        LoadBackground(m_boxes.picCardLarge, m_card.Background, m_card.Color);
+        ReportMissingOn(m_standard.picBack, m_card.CardBack);
+        Load([&] {
+            m_boxes.picBackLarge.Surface->SetPicture(m_card.CardBack.isEmpty()
+                                                         ? m_art.imgChB(DefaultBack)
+                                                         : m_pictures.LoadPicture(m_card.CardBack));
+        });
+    }
+
+    void Draw()
+    {
+        PaintBackground(m_boxes.picCardLarge, m_card.Background, m_card.Color);
+        if (m_card.ShowPicture) {
+            ClipInput clip = ClipInFrame(m_boxes.picFrameLarge, m_boxes.picImageLarge, m_card.PictureLeft,
+                                         m_card.PictureTop);
+            clip.FrameHugsHeight = m_card.Resize;
+            PaintFramed(m_picACard, m_boxes.picFrameLarge, m_boxes.picImageLarge, clip);
+        }
+        PaintSymbol(m_boxes.picSymbolLarge);
+        PrintTexts(m_picACard, m_boxes, m_header);
+        // Kept: at the height of the standard card's number, a pixel above the large card's own box.
+        PrintIndex(m_boxes.lblAutonumberLarge, m_standard.lblAutonumber.Top);
+        FinishCard(m_boxes.lblWatermark);
+    }
+
+    const LargeCard& m_card;
+    LargeCardTemplate& m_boxes;
+};
 
 } // namespace
 
 CompositionFailure ShowLargeCard(Workshop& workshop, int16 index)
 {
-    return RunShow(workshop, [&](ShowRun& run) {
-        LargeCardTemplate& t = workshop.Templates.Large;
-        const LargeCard& card = workshop.Set.LargeCards[index];
-        t.lblTitleLarge.Caption = card.Title;
-        t.lblInformationLarge.Caption = card.Info;
-        PlaceFrame(run, t, card);
-        t.lblPicSizeLarge.Left = card.ShowPicture ? HandleLeftAtFrame(t) : HandleLeftWithoutPicture;
-        PlaceTexts(t);
-        t.lblAutonumberLarge.Caption = QString::number(index);
-        LoadPictures(run, workshop, card);
-        DrawLargeCard(workshop, index, workshop.Carried.Card);
-    });
+    return Compose<LargeComposer>(workshop, index);
 }
 
-void PlaceLargePicture(Workshop& workshop, int16 index)
+void PlaceLargePicture(LargeCardTemplate& t, const LargeCard& card)
 {
-    LargeCardTemplate& t = workshop.Templates.Large;
-    const LargeCard& card = workshop.Set.LargeCards[index];
-    ShowRun run;
-    PlaceFrame(run, t, card);
+    PlaceFrame(t, card);
     t.lblPicSizeLarge.Left = HandleLeftAtFrame(t);
     t.picImageLarge.Surface->Refresh();
     PlacePictureInFrame(t, card);

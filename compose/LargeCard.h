@@ -14,7 +14,7 @@ namespace deckforge {
 [[nodiscard]] CompositionFailure ShowLargeCard(Workshop& workshop, int16 index);
 
 /// Updates the positions of frame and picture without loading the picture again.
-void PlaceLargePicture(Workshop& workshop, int16 index);
+void PlaceLargePicture(LargeCardTemplate& t, const LargeCard& card);
 
 /// Moves the handle, and with it the right edge of the frame and the texts beside it.
 void PlaceHandle(LargeCardTemplate& t, int left);

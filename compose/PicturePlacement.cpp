@@ -19,40 +19,32 @@ struct PictureRow {
     const Box& Measured; ///< the picture whose size End and Page Down use
     double& Left;
     double& Top;
-    void (*Place)(Workshop&, int16);
-    int16 Index;
-
-    void Apply(Workshop& workshop) const { Place(workshop, Index); }
 };
 
-PictureRow RowOf(Workshop& workshop, PlacedPicture which)
+/// Calls the function with the picture of the current card, and places it.
+template <class Change>
+void ChangePlace(CardTemplates& t, CardSet& set, PlacedPicture which, Change&& change)
 {
-    CardTemplates& t = workshop.Templates;
-    CardSet& set = workshop.Set;
-    switch (which) {
-    case PlacedPicture::Standard: {
-        Card& card = set.Cards[set.Cards.Current];
-        return {t.Standard.picFrame, t.Standard.picImage, card.PictureLeft,
-                card.PictureTop,     &PlaceCardPicture,   set.Cards.Current};
-    }
-    case PlacedPicture::Large: {
-        LargeCard& card = set.LargeCards[set.LargeCards.Current];
+    if (which == PlacedPicture::Standard) {
+        Card& card = set.Cards.CurrentRecord();
+        change(PictureRow{t.Standard.picFrame, t.Standard.picImage, card.PictureLeft, card.PictureTop});
+        PlaceCardPicture(t.Standard, card);
+    } else if (which == PlacedPicture::Large) {
+        LargeCard& card = set.LargeCards.CurrentRecord();
         // Kept: End and Page Down use the size of the standard card's picture.
-        return {t.Large.picFrameLarge, t.Standard.picImage, card.PictureLeft,
-                card.PictureTop,       &PlaceLargePicture,  set.LargeCards.Current};
+        change(PictureRow{t.Large.picFrameLarge, t.Standard.picImage, card.PictureLeft, card.PictureTop});
+        PlaceLargePicture(t.Large, card);
+    } else if (which == PlacedPicture::Character) {
+        Character& character = set.Characters.CurrentRecord();
+        change(PictureRow{t.Character.picFrameCharacter, t.Character.picImageCharacter, character.PictureLeft,
+                          character.PictureTop});
+        PlaceCharacterPicture(t.Character, character);
+    } else {
+        Character& character = set.Characters.CurrentRecord();
+        change(PictureRow{t.PlayingPiece.picPlayingPieceFrame, t.PlayingPiece.picPlayingPieceImage,
+                          character.PlayingPieceLeft, character.PlayingPieceTop});
+        PlacePlayingPiecePicture(t.PlayingPiece, character);
     }
-    case PlacedPicture::Character: {
-        Character& character = set.Characters[set.Characters.Current];
-        return {t.Character.picFrameCharacter, t.Character.picImageCharacter, character.PictureLeft,
-                character.PictureTop,          &PlaceCharacterPicture,        set.Characters.Current};
-    }
-    case PlacedPicture::PlayingPiece:
-        break;
-    }
-    Character& character = set.Characters[set.Characters.Current];
-    return {t.PlayingPiece.picPlayingPieceFrame, t.PlayingPiece.picPlayingPieceImage,
-            character.PlayingPieceLeft,          character.PlayingPieceTop,
-            &PlacePlayingPiecePicture,           set.Characters.Current};
 }
 
 /// The range of a handle in pixels of the card.
@@ -70,26 +62,14 @@ int Clamped(int position, int pixels, HandleRange range)
     return std::clamp(position + pixels, range.Min, range.Max);
 }
 
-void MoveStandardHandle(Workshop& workshop, int top)
+void MoveStandardHandle(CardTemplate& t, Card& card, int top)
 {
-    CardTemplate& t = workshop.Templates.Standard;
     PlaceHandle(t, top);
-    workshop.Set.Cards[workshop.Set.Cards.Current].FrameHeight = static_cast<int16>(t.picFrame.Height);
+    card.FrameHeight = static_cast<int16>(t.picFrame.Height);
 }
 
-} // namespace
-
-void MovePicture(Workshop& workshop, PlacedPicture which, double right, double down)
+void MoveByKey(const PictureRow& row, Qt::Key key)
 {
-    const PictureRow row = RowOf(workshop, which);
-    row.Left += right;
-    row.Top += down;
-    row.Apply(workshop);
-}
-
-void MovePictureByKey(Workshop& workshop, PlacedPicture which, Qt::Key key)
-{
-    const PictureRow row = RowOf(workshop, which);
     switch (key) {
     case Qt::Key_PageUp:
         row.Top = 0;
@@ -118,34 +98,40 @@ void MovePictureByKey(Workshop& workshop, PlacedPicture which, Qt::Key key)
     default:
         break;
     }
-    row.Apply(workshop);
 }
 
-void MoveHandle(Workshop& workshop, PlacedPicture which, int pixels)
+} // namespace
+
+void MovePicture(CardTemplates& t, CardSet& set, PlacedPicture which, double right, double down)
 {
-    CardTemplates& t = workshop.Templates;
-    CardSet& set = workshop.Set;
-    switch (which) {
-    case PlacedPicture::Standard:
-        MoveStandardHandle(workshop, Clamped(t.Standard.lblPicSize.Top, pixels, StandardHandle));
-        break;
-    case PlacedPicture::Large:
+    ChangePlace(t, set, which, [&](const PictureRow& row) {
+        row.Left += right;
+        row.Top += down;
+    });
+}
+
+void MovePictureByKey(CardTemplates& t, CardSet& set, PlacedPicture which, Qt::Key key)
+{
+    ChangePlace(t, set, which, [&](const PictureRow& row) { MoveByKey(row, key); });
+}
+
+void MoveHandle(CardTemplates& t, CardSet& set, PlacedPicture which, int pixels)
+{
+    if (which == PlacedPicture::Standard) {
+        MoveStandardHandle(t.Standard, set.Cards.CurrentRecord(),
+                           Clamped(t.Standard.lblPicSize.Top, pixels, StandardHandle));
+    } else if (which == PlacedPicture::Large) {
         PlaceHandle(t.Large, Clamped(t.Large.lblPicSizeLarge.Left, pixels, LargeHandle));
-        set.LargeCards[set.LargeCards.Current].FrameHeight = static_cast<int16>(t.Large.picFrameLarge.Width);
-        break;
-    case PlacedPicture::Character:
+        set.LargeCards.CurrentRecord().FrameHeight = static_cast<int16>(t.Large.picFrameLarge.Width);
+    } else if (which == PlacedPicture::Character) {
         PlaceHandle(t.Character, Clamped(t.Character.lblPicSizeCharacter.Left, pixels, CharacterHandle));
-        set.Characters[set.Characters.Current].FrameHeight =
-            static_cast<int16>(t.Character.picFrameCharacter.Width);
-        break;
-    case PlacedPicture::PlayingPiece:
-        break;
+        set.Characters.CurrentRecord().FrameHeight = static_cast<int16>(t.Character.picFrameCharacter.Width);
     }
 }
 
-void MoveHandleByKey(Workshop& workshop, Qt::Key key)
+void MoveHandleByKey(CardTemplate& t, Card& card, Qt::Key key)
 {
-    int top = workshop.Templates.Standard.lblPicSize.Top;
+    int top = t.lblPicSize.Top;
     if (key == Qt::Key_Up && top > StandardHandle.Min)
         --top;
     else if (key == Qt::Key_Down && top < StandardHandle.Max)
@@ -154,15 +140,14 @@ void MoveHandleByKey(Workshop& workshop, Qt::Key key)
         top = StandardHandle.Max;
     else if (key == Qt::Key_Home)
         top = StandardHandle.Min;
-    MoveStandardHandle(workshop, top);
+    MoveStandardHandle(t, card, top);
 }
 
-void CentrePicture(Workshop& workshop)
+void CentrePicture(const CardTemplate& t, Card& card)
 {
     constexpr int margins = 10;
-    const CardTemplate& t = workshop.Templates.Standard;
     const double room = t.picCard.Width - margins - t.picImage.Width;
-    workshop.Set.Cards[workshop.Set.Cards.Current].PictureLeft = room / 2 * TwipsPerPixelX;
+    card.PictureLeft = room / 2 * TwipsPerPixelX;
 }
 
 } // namespace deckforge

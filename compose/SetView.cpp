@@ -60,7 +60,7 @@ std::optional<RunTimeError> ShowSet(Workshop& workshop)
     PlaceSymbols(workshop.Templates, symbol,
                  {character.picSymbolCharacter, character.picBackgroundChar, true, SymbolMargin});
     ApplyOpenedSetFonts(card, workshop.Set.Header);
-    ShowNumbers(workshop);
+    ShowNumbers(workshop.Templates, workshop.Set);
     card.picBack.Visible = !workshop.Set.Header.NoBack;
     return failure;
 }
@@ -80,10 +80,8 @@ void HideSymbol(CardTemplates& templates)
     }
 }
 
-void ShowNumbers(Workshop& workshop)
+void ShowNumbers(CardTemplates& templates, const CardSet& set)
 {
-    CardTemplates& templates = workshop.Templates;
-    const CardSet& set = workshop.Set;
     const auto show = [&](Box& label, int16 current) {
         label.Caption = QString::number(current);
         label.Visible = set.Header.Autonumber;

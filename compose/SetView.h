@@ -26,7 +26,7 @@ void ShowChosenSymbol(CardTemplates& templates, const Picture& symbol);
 void HideSymbol(CardTemplates& templates);
 
 /// Shows the numbers of the current cards on the previews, if the set has Autonumber.
-void ShowNumbers(Workshop& workshop);
+void ShowNumbers(CardTemplates& templates, const CardSet& set);
 
 /// Shows a set that was just read, with the first cards current.
 [[nodiscard]] ViewFailures ShowOpenedSet(Workshop& workshop);

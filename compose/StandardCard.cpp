@@ -18,8 +18,6 @@ constexpr int FrameWidth = 139;
 constexpr int InformationBottom = 241;
 constexpr int HandleHeight = 3;
 
-// Preview
-
 void ShowTypeLines(CardTemplate& t, const Card& card)
 {
     constexpr int oneLineWidth = 139;
@@ -60,12 +58,12 @@ void PlaceTextsBelowHandle(CardTemplate& t)
     PlaceInformation(t);
 }
 
-void PlaceFrame(ShowRun& run, CardTemplate& t, const Card& card)
+void PlaceFrame(CardTemplate& t, const Card& card)
 {
     t.picFrame.Visible = card.ShowPicture;
     t.lblPicSize.Visible = card.ShowPicture;
     t.picFrame.Outlined = card.Frame;
-    run([&] { t.picFrame.SetHeight(card.FrameHeight); });
+    IgnoreFailure([&] { t.picFrame.SetHeight(card.FrameHeight); });
     t.lblPicSize.Top = t.picFrame.Top + t.picFrame.Height;
     PlaceTextsBelowHandle(t);
 }
@@ -84,30 +82,9 @@ void PlacePictureInFrame(CardTemplate& t, const Card& card)
     }
 }
 
-void LoadBackground(ShowRun& run, Workshop& workshop, const Card& card)
-{
-    Box& picCard = workshop.Templates.Standard.picCard;
-    run.ReportMissingOn(picCard, card.Background);
-    run([&] { picCard.Surface->SetPicture(workshop.Pictures.LoadPicture(card.Background)); });
-    picCard.Surface->SetBackColor(card.Color); // also removes an earlier message
-}
-
-void LoadBack(ShowRun& run, Workshop& workshop, Card& card)
-{
-    CardSet& set = workshop.Set;
-    ReplaceUnknownBack(set, card);
-    const CardBack& back = set.CardBacks[card.CardBack];
-    Box& picBack = workshop.Templates.Standard.picBack;
-    run.ReportMissingOn(picBack, back.Picture);
-    run([&] { picBack.Surface->SetPicture(PictureOfBack(workshop, card.CardBack)); });
-}
-
 /// Copies the card's background to the strip of the credit, so that it has no white bar.
-void ReadArtistBackground(Workshop& workshop, int16 index)
+void ReadArtistBackground(const CardTemplate& t, PictureBox& picArtist, const Card& card)
 {
-    const CardTemplate& t = workshop.Templates.Standard;
-    PictureBox& picArtist = workshop.Surfaces.picArtist;
-    const Card& card = workshop.Set.Cards[index];
     picArtist.SetPicture({});
     if (card.Background.isEmpty()) {
         picArtist.SetBackColor(card.Color);
@@ -119,107 +96,100 @@ void ReadArtistBackground(Workshop& workshop, int16 index)
     RotatePicture(strip, picArtist, Turn::CounterClockwise);
 }
 
-// Composition
-
-void PaintPictures(Workshop& workshop, const Card& card)
-{
-    const CardTemplate& t = workshop.Templates.Standard;
-    PictureBox& picACard = workshop.Surfaces.picACard;
-    FramedPicture picture = FramedPictureOf(card, t.picFrame, t.picImage);
-    picture.Clip.FrameHugsWidth = card.Resize;
-    PaintPictureBlock(picACard, workshop.Surfaces.picWhite, picture);
-    PaintSymbol(workshop, t.picSymbol, {0, 0});
-    if (!card.Artist.isEmpty())
-        picACard.PaintPicture(t.picArtistDest.Surface->Image(), t.picArtistDest.Left, t.picArtistDest.Top);
-}
-
-/// Kept: the title is centred by its width in the font of the preview's surface, not in its own font.
-void PrintTitle(Workshop& workshop, const Card& card)
-{
-    const CardTemplate& t = workshop.Templates.Standard;
-    PictureBox& picACard = workshop.Surfaces.picACard;
-    UseFont(picACard, workshop.Set.Header.FontTitle);
-    const double width = t.picCard.Surface->TextWidth(card.Title);
-    PrintAt(picACard, Centred(t.lblTitle, width), t.lblTitle.Top, card.Title);
-}
-
-void PrintType(Workshop& workshop, const Card& card)
-{
-    const auto& lblType = workshop.Templates.Standard.lblType;
-    PictureBox& picACard = workshop.Surfaces.picACard;
-    UseFont(picACard, workshop.Set.Header.FontType);
-    if (card.OneLine) {
-        // Kept: prints only the first part, at the position where the reversed text would be centred.
-        const double width = picACard.TextWidth(card.TypeReversed);
-        PrintAt(picACard, Centred(lblType[0], width), lblType[0].Top, card.Type);
-        return;
+class StandardComposer final : Composer {
+public:
+    StandardComposer(Workshop& workshop, int16 index)
+        : Composer(workshop, index), m_set(workshop.Set), m_card(workshop.Set.Cards[index]),
+          m_boxes(m_standard)
+    {
     }
-    const auto printRight = [&](const Box& box, const QString& text) {
-        PrintAt(picACard, RightAligned(box, picACard.TextWidth(text)), box.Top, text);
-    };
-    PrintAt(picACard, lblType[0].Left, lblType[0].Top, card.Type);
-    PrintAt(picACard, lblType[2].Left, lblType[2].Top, card.SubType);
-    printRight(lblType[1], card.TypeReversed);
-    printRight(lblType[3], card.SubTypeReversed);
-}
 
-void PrintTexts(Workshop& workshop, const Card& card, int16 index)
-{
-    const CardTemplate& t = workshop.Templates.Standard;
-    const SetHeader& header = workshop.Set.Header;
-    PictureBox& picACard = workshop.Surfaces.picACard;
-    PrintTitle(workshop, card);
-    PrintType(workshop, card);
-    UseFont(picACard, header.FontNumber);
-    PrintCentred(picACard, t.lblNumber, card.Number);
-    UseFont(picACard, header.FontBold);
-    PrintCentred(picACard, t.lblBold, card.BoldText);
-    UseFont(picACard, header.FontInformation);
-    PrintWrapped(picACard, t.lblInformation, card.Info);
-    if (header.Autonumber) {
-        UseFont(picACard, header.FontAutonumber);
-        const double width = picACard.TextWidth(QString::number(index));
-        PrintIndex(picACard, RightAligned(t.lblAutonumber, width), t.lblAutonumber.Top, index);
+    void Compose()
+    {
+        ShowTexts(m_boxes, m_card, m_index);
+        PlaceFrame(m_boxes, m_card);
+        ReportMissingOn(m_boxes.picImage, m_card.Picture);
+        LoadFramedPicture(m_boxes.picImage, m_card.Picture);
+        PlacePictureInFrame(m_boxes, m_card);
+        LoadBackground(m_boxes.picCard, m_card.Background, m_card.Color);
+        LoadBack();
+        DrawArtistCredit(m_boxes, m_surfaces.picArtist, m_card, m_header.ArtistColor);
+        Draw();
     }
-    PrintWatermark(picACard, t.lblWatermark);
-}
 
-/// Composes the card at the positions of the boxes. Steps that fail are skipped.
-void DrawCard(Workshop& workshop, int16 index, FontSpec& pen)
-{
-    const Card& card = workshop.Set.Cards[index];
-    PaintBackground(workshop, workshop.Templates.Standard.picCard, card.Background, card.Color, pen);
-    PaintPictures(workshop, card);
-    PrintTexts(workshop, card, index);
-    workshop.Surfaces.picACard.Freeze();
-    pen = workshop.Surfaces.picACard.Pen();
-}
+private:
+    void LoadBack()
+    {
+        ReplaceUnknownBack(m_set, m_card);
+        ReportMissingOn(m_boxes.picBack, m_set.CardBacks[m_card.CardBack].Picture);
+        Load([&] {
+            m_boxes.picBack.Surface->SetPicture(PictureOfBack(m_set, m_card.CardBack, m_art, m_pictures));
+        });
+    }
+
+    void Draw()
+    {
+        PaintBackground(m_boxes.picCard, m_card.Background, m_card.Color);
+        PaintPictures();
+        PrintTitle();
+        PrintType();
+        PrintTexts(m_picACard, m_boxes, m_header);
+        PrintIndex(m_boxes.lblAutonumber, m_boxes.lblAutonumber.Top);
+        FinishCard(m_boxes.lblWatermark);
+        m_picACard.Freeze();
+    }
+
+    void PaintPictures()
+    {
+        if (m_card.ShowPicture) {
+            ClipInput clip =
+                ClipInFrame(m_boxes.picFrame, m_boxes.picImage, m_card.PictureLeft, m_card.PictureTop);
+            clip.FrameHugsWidth = m_card.Resize;
+            PaintFramed(m_picACard, m_boxes.picFrame, m_boxes.picImage, clip);
+        }
+        PaintSymbol(m_boxes.picSymbol);
+        const Box& artist = m_boxes.picArtistDest;
+        if (!m_card.Artist.isEmpty())
+            m_picACard.PaintPicture(artist.Surface->Image(), artist.Left, artist.Top);
+    }
+
+    /// Kept: the title is centred by its width in the font of the preview's surface, not in its own font.
+    void PrintTitle()
+    {
+        UseFont(m_picACard, m_header.FontTitle);
+        const double width = m_boxes.picCard.Surface->TextWidth(m_card.Title);
+        PrintAt(m_picACard, Aligned(m_boxes.lblTitle, width), m_boxes.lblTitle.Top, m_card.Title);
+    }
+
+    void PrintType()
+    {
+        const auto& lblType = m_boxes.lblType;
+        UseFont(m_picACard, m_header.FontType);
+        if (m_card.OneLine) {
+            // Kept: prints only the first part, at the position where the reversed text would be centred.
+            const double width = m_picACard.TextWidth(m_card.TypeReversed);
+            PrintAt(m_picACard, Aligned(lblType[0], width), lblType[0].Top, m_card.Type);
+            return;
+        }
+        for (const std::size_t label : {0, 2, 1, 3})
+            PrintLine(m_picACard, lblType[label]);
+    }
+
+    const CardSet& m_set;
+    Card& m_card;
+    CardTemplate& m_boxes;
+};
 
 } // namespace
 
 CompositionFailure ShowCard(Workshop& workshop, int16 index)
 {
-    return RunShow(workshop, [&](ShowRun& run) {
-        CardTemplate& t = workshop.Templates.Standard;
-        Card& card = workshop.Set.Cards[index];
-        ShowTexts(t, card, index);
-        PlaceFrame(run, t, card);
-        run.ReportMissingOn(t.picImage, card.Picture);
-        LoadFramedPicture(run, workshop, t.picImage, card.Picture);
-        PlacePictureInFrame(t, card);
-        LoadBackground(run, workshop, card);
-        LoadBack(run, workshop, card);
-        DrawArtistCredit(workshop, index);
-        DrawCard(workshop, index, workshop.Carried.Card);
-    });
+    return Compose<StandardComposer>(workshop, index);
 }
 
-void PlaceCardPicture(Workshop& workshop, int16 index)
+void PlaceCardPicture(CardTemplate& t, const Card& card)
 {
-    CardTemplate& t = workshop.Templates.Standard;
-    const Card& card = workshop.Set.Cards[index];
-    ShowRun run;
-    PlaceFrame(run, t, card);
+    PlaceFrame(t, card);
     t.picImage.Surface->Refresh();
     PlacePictureInFrame(t, card);
 }
@@ -230,10 +200,10 @@ void ReplaceUnknownBack(const CardSet& set, Card& card)
         card.CardBack = 1;
 }
 
-Picture PictureOfBack(Workshop& workshop, int16 row)
+Picture PictureOfBack(const CardSet& set, int16 row, BuiltInArt& art, PictureLoader& pictures)
 {
-    const CardBack& back = workshop.Set.CardBacks[row];
-    return back.BuiltIn ? workshop.Art.imgCB(row - 1) : workshop.Pictures.LoadPicture(back.Picture);
+    const CardBack& back = set.CardBacks[row];
+    return back.BuiltIn ? art.imgCB(row - 1) : pictures.LoadPicture(back.Picture);
 }
 
 void ShowTypeNames(CardTemplate& t, const Card& card)
@@ -270,20 +240,17 @@ void ShowPictureFrame(CardTemplate& t, bool visible)
         t.lblInformation.Top = InformationBottom + 1;
 }
 
-void DrawArtistCredit(Workshop& workshop, int16 index)
+void DrawArtistCredit(CardTemplate& t, PictureBox& picArtist, const Card& card, Colour colour)
 {
     constexpr int cutAbove = -2; // crops the text, with the strip's height of five pixels
-    const QString& artist = workshop.Set.Cards[index].Artist;
-    PictureBox& picArtist = workshop.Surfaces.picArtist;
-    Box& picArtistDest = workshop.Templates.Standard.picArtistDest;
-    picArtistDest.Visible = !artist.isEmpty();
-    if (!picArtistDest.Visible)
+    t.picArtistDest.Visible = !card.Artist.isEmpty();
+    if (!t.picArtistDest.Visible)
         return;
-    ReadArtistBackground(workshop, index);
-    picArtist.ForeColor = workshop.Set.Header.ArtistColor;
-    PrintAt(picArtist, 0, cutAbove, artist);
+    ReadArtistBackground(t, picArtist, card);
+    picArtist.ForeColor = colour;
+    PrintAt(picArtist, 0, cutAbove, card.Artist);
     picArtist.Freeze();
-    RotatePicture(picArtist, *picArtistDest.Surface, Turn::Clockwise);
+    RotatePicture(picArtist, *t.picArtistDest.Surface, Turn::Clockwise);
 }
 
 QString FrameSizeText(const Box& frame)

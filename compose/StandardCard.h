@@ -13,13 +13,13 @@ namespace deckforge {
 [[nodiscard]] CompositionFailure ShowCard(Workshop& workshop, int16 index);
 
 /// Updates the positions of frame, picture and texts without loading the picture again.
-void PlaceCardPicture(Workshop& workshop, int16 index);
+void PlaceCardPicture(CardTemplate& t, const Card& card);
 
 /// Replaces a back that is not in the table by row 1.
 void ReplaceUnknownBack(const CardSet& set, Card& card);
 
 /// The art of a built-in row of the table of backs, or the picture file of any other row.
-[[nodiscard]] Picture PictureOfBack(Workshop& workshop, int16 row);
+[[nodiscard]] Picture PictureOfBack(const CardSet& set, int16 row, BuiltInArt& art, PictureLoader& pictures);
 
 /// Sets the four captions of the type.
 void ShowTypeNames(CardTemplate& card, const Card& record);
@@ -34,8 +34,8 @@ void PlaceHandle(CardTemplate& card, int top);
 void ShowPictureFrame(CardTemplate& card, bool visible);
 
 /// Draws the rotated credit of the artist over the background on the preview; hides it if the card has no
-/// artist.
-void DrawArtistCredit(Workshop& workshop, int16 index);
+/// artist. `picArtist` is the credit before rotation.
+void DrawArtistCredit(CardTemplate& t, PictureBox& picArtist, const Card& card, Colour colour);
 
 /// "139W * 105H"
 [[nodiscard]] QString FrameSizeText(const Box& frame);

@@ -54,14 +54,18 @@ void WrapAndPrint(PictureBox& surface, const QString& text, const TextColumn& co
     }
 }
 
-double RightAligned(const Box& box, double textWidth)
+double Aligned(const Box& box, double textWidth)
 {
-    return box.Left + box.Width - textWidth;
-}
-
-double Centred(const Box& box, double textWidth)
-{
-    return std::floor(box.Width / 2.0 - textWidth / 2) + box.Left;
+    const int left = box.OnCard().x();
+    switch (box.Align) {
+    case Alignment::Right:
+        return left + box.Width - textWidth;
+    case Alignment::Centre:
+        return std::floor(box.Width / 2.0 - textWidth / 2) + left;
+    case Alignment::Left:
+        break;
+    }
+    return left;
 }
 
 void PrintAt(PictureBox& surface, double x, double y, const QString& text)

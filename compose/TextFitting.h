@@ -26,10 +26,8 @@ void WrapAndPrint(PictureBox& surface, const QString& text, const TextColumn& co
 /// The number of characters before the line breaks; at least one unless the line is empty.
 [[nodiscard]] qsizetype BreakPosition(const PictureBox& surface, QStringView line, int width);
 
-// For one line that is not wrapped. A text wider than its box extends past its sides.
-
-[[nodiscard]] double RightAligned(const Box& box, double textWidth);
-[[nodiscard]] double Centred(const Box& box, double textWidth);
+/// The left edge on the card of a line that is not wrapped. A text wider than its box extends past its sides.
+[[nodiscard]] double Aligned(const Box& box, double textWidth);
 
 void PrintAt(PictureBox& surface, double x, double y, const QString& text);
 

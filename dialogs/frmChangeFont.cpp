@@ -121,7 +121,7 @@ private:
         static_cast<void>(deckforge::ShowCard(m_samples, 1));
         static_cast<void>(deckforge::ShowLargeCard(m_samples, 1));
         static_cast<void>(deckforge::ShowCharacter(m_samples, 1));
-        ShowNumbers(m_samples);
+        ShowNumbers(m_samples.Templates, m_samples.Set);
         CentreSmallCards(m_samples.Templates);
         m_preview = new CardPreview(SampleBoxes(m_samples.Templates), this);
         m_preview->setAccessibleName(QStringLiteral("Sample card"));
@@ -138,8 +138,8 @@ private:
     void SetDemoFont()
     {
         SetFont(m_samples.Templates, m_header);
-        m_samples.Set.Header.ArtistColor = m_header.ArtistColor;
-        DrawArtistCredit(m_samples, 1);
+        DrawArtistCredit(m_samples.Templates.Standard, m_samples.Surfaces.picArtist, m_samples.Set.Cards[1],
+                         m_header.ArtistColor);
         m_form.picArtistColor->SetColour(QColor(ToRgb(m_header.ArtistColor)));
         m_preview->update();
     }

@@ -197,7 +197,8 @@ private:
         if (row < 1 || row > m_set.CardBacks.Count())
             m_form.picCB->ShowPicture({});
         else
-            Show(*m_form.picCB, [&] { return PictureOfBack(m_workshop, row); });
+            Show(*m_form.picCB,
+                 [&] { return PictureOfBack(m_set, row, m_workshop.Art, m_workshop.Pictures); });
     }
 
     void ShowOwnBack()

@@ -97,7 +97,8 @@ private:
         const auto lists = AttributeLists();
         for (std::size_t i = 0; i < lists.size(); ++i) {
             const auto draw = [this, i] {
-                DrawCharAttribute(m_parts.Works, static_cast<int>(i), Current().*CharacterAttributes[i]);
+                DrawCharAttribute(m_boxes, m_parts.Works.Surfaces.picCharAttribute, static_cast<int>(i),
+                                  Current().*CharacterAttributes[i]);
             };
             AddText(lists[i], CharacterAttributes[i], {.Changed = draw});
         }

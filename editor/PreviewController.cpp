@@ -135,30 +135,34 @@ void PreviewController::LabelClicked(const Box* box, int clicks)
 /// pointer.
 void PreviewController::Dragged(const Box* box, QPoint point, QPoint moved)
 {
+    Workshop& works = m_parts.Works;
     const QPoint toPointer = point - m_dragStart;
     for (const PlacementRow& row : Placements()) {
         if (box == &row.Image) {
             Place(row, "Move picture", [&] {
-                MovePicture(m_parts.Works, row.Picture, moved.x() * TwipsPerPixelX,
+                MovePicture(works.Templates, works.Set, row.Picture, moved.x() * TwipsPerPixelX,
                             moved.y() * TwipsPerPixelY);
             });
         } else if (box == row.Handle) {
             const int pixels = row.Picture == PlacedPicture::Standard ? toPointer.y() : toPointer.x();
-            Place(row, "Size frame", [&] { MoveHandle(m_parts.Works, row.Picture, pixels); });
+            Place(row, "Size frame", [&] { MoveHandle(works.Templates, works.Set, row.Picture, pixels); });
         }
     }
 }
 
 void PreviewController::KeyPressed(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held)
 {
+    Workshop& works = m_parts.Works;
     held.setFlag(Qt::KeypadModifier, false);
     for (const PlacementRow& row : Placements()) {
         if (picture != &row.Image)
             continue;
         if (held == Qt::NoModifier)
-            Place(row, "Move picture", [&] { MovePictureByKey(m_parts.Works, row.Picture, key); });
+            Place(row, "Move picture",
+                  [&] { MovePictureByKey(works.Templates, works.Set, row.Picture, key); });
         else if (held == Qt::ShiftModifier && row.Picture == PlacedPicture::Standard)
-            Place(row, "Size frame", [&] { MoveHandleByKey(m_parts.Works, key); });
+            Place(row, "Size frame",
+                  [&] { MoveHandleByKey(works.Templates.Standard, works.Set.Cards.CurrentRecord(), key); });
     }
 }
 

@@ -15,7 +15,8 @@ SetInfoPanel::SetInfoPanel(EditorParts& parts, QWidget* parent) : RecordForm(par
     FillList(*m_form.cboSaveFormat, SaveFormats());
     AddText(m_form.txtSetname, &SetHeader::SetName, {.Changed = [this] { NameChanged(); }});
     AddText(m_form.txtFilenamePrefix, &SetHeader::FilenamePrefix);
-    AddCheck(m_form.chkAutonumber, &SetHeader::Autonumber, [this] { ShowNumbers(m_parts.Works); });
+    AddCheck(m_form.chkAutonumber, &SetHeader::Autonumber,
+             [this] { ShowNumbers(m_parts.Works.Templates, m_parts.Works.Set); });
     AddCheck(m_form.chkFileNr, &SetHeader::FileNr);
     AddCheck(m_form.chkNoBack, &SetHeader::NoBack, [this] { NoBackClicked(); });
     AddCheck(m_form.chkReplaceSpace, &SetHeader::ReplaceSpace);

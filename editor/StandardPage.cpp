@@ -80,7 +80,8 @@ private:
     {
         // The credit is drawn on the background.
         const auto showArtist = [this] {
-            DrawArtistCredit(m_parts.Works, m_parts.Document.Set().Cards.Current);
+            DrawArtistCredit(m_boxes, m_parts.Works.Surfaces.picArtist, Current(),
+                             m_parts.Document.Set().Header.ArtistColor);
         };
         AddText(m_form.txtTitle, &Card::Title, {.Preview = &m_boxes.lblTitle});
         AddText(m_form.cboNumber, &Card::Number, {.Preview = &m_boxes.lblNumber});
@@ -148,7 +149,7 @@ private:
     void ResizeClicked()
     {
         if (Current().Resize)
-            Edit(m_form.chkResize, [this](Card&) { CentrePicture(m_parts.Works); });
+            Edit(m_form.chkResize, [this](Card& card) { CentrePicture(m_boxes, card); });
         ShowCurrent();
     }
 
@@ -192,7 +193,9 @@ private:
         }
         const auto row = static_cast<int16>(list.currentIndex() + 1);
         Edit(&list, &Card::CardBack, row);
-        if (const auto picture = PictureIfAny([&] { return PictureOfBack(m_parts.Works, row); }))
+        Workshop& works = m_parts.Works;
+        const auto load = [&] { return PictureOfBack(works.Set, row, works.Art, works.Pictures); };
+        if (const auto picture = PictureIfAny(load))
             m_boxes.picBack.Surface->SetPicture(*picture);
         m_parts.Preview.update();
     }

@@ -231,7 +231,8 @@ void frmQDW::ShowFonts()
 {
     const CardSet& set = m_document.Set();
     SetFont(m_works.Templates, set.Header);
-    DrawArtistCredit(m_works, m_document.Set().Cards.Current);
+    DrawArtistCredit(m_works.Templates.Standard, m_works.Surfaces.picArtist, set.Cards[set.Cards.Current],
+                     set.Header.ArtistColor);
     m_preview->update();
 }
 

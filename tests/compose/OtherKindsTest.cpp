@@ -132,8 +132,8 @@ TEST_F(OtherKindsTest, APictureThatIsMovedLeavesTheHandleAtItsFrame)
     CharacterTemplate& character = Shop.Templates.Character;
     Shop.Set.LargeCards[1].FrameHeight = Hero().FrameHeight = 100;
     large.lblPicSizeLarge.Left = character.lblPicSizeCharacter.Left = 0;
-    PlaceLargePicture(Shop, 1);
-    PlaceCharacterPicture(Shop, 1);
+    PlaceLargePicture(Shop.Templates.Large, Shop.Set.LargeCards[1]);
+    PlaceCharacterPicture(Shop.Templates.Character, Shop.Set.Characters[1]);
     EXPECT_EQ(large.lblPicSizeLarge.Left, large.picFrameLarge.Left + 100);
     EXPECT_EQ(character.lblPicSizeCharacter.Left, character.picFrameCharacter.Left + 100);
 }

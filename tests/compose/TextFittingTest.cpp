@@ -77,10 +77,11 @@ TEST(TextFitting, OneLineIsCentredOnWholePixelsAndExtendsPastBothSides)
 {
     BoxList boxes(1);
     Box card(boxes, {}, {});
-    const Box box(card, {10, 0, 20, 0});
-    EXPECT_EQ(Centred(box, 5), 17); // 7.5 is rounded down
-    EXPECT_EQ(Centred(box, 25), 7); // -2.5 is rounded down, too
-    EXPECT_EQ(RightAligned(box, 25), 5);
+    Box box(card, {10, 0, 20, 0}, {.Align = Alignment::Centre});
+    EXPECT_EQ(Aligned(box, 5), 17); // 7.5 is rounded down
+    EXPECT_EQ(Aligned(box, 25), 7); // -2.5 is rounded down, too
+    box.Align = Alignment::Right;
+    EXPECT_EQ(Aligned(box, 25), 5);
 }
 
 } // namespace deckforge
