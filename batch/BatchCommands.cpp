@@ -241,7 +241,7 @@ ExitStatus RunBacks(const QStringList& paths, const QCommandLineParser& /*parser
 {
     return RunOnNewSet(1, [&](Workshop& workshop, UserPort& /*user*/) {
         QDir().mkpath(paths[0]);
-        WriteCardBacks(workshop, AbsolutePath(paths[0]));
+        WriteCardBacks(workshop.Set, workshop.Art, AbsolutePath(paths[0]));
         return true;
     });
 }

@@ -190,12 +190,12 @@ bool CreateHtml(const CardSet& set, ShownRun& run, HtmlPages pages)
     return true;
 }
 
-void ExportCardBacks(Workshop& workshop, UserPort& user)
+void ExportCardBacks(const CardSet& set, BuiltInArt& art, UserPort& user)
 {
     const std::optional<QString> folder = user.BrowseForFolder();
     if (!folder)
         return;
-    WriteCardBacks(workshop, *folder);
+    WriteCardBacks(set, art, *folder);
     ShowBox(user, BoxStyle::Information, "Export", QStringLiteral("All card backs are exported."));
 }
 

@@ -44,7 +44,7 @@ void CreateSheets(Workshop& workshop, ShownRun& run, CardKind kind, std::optiona
 bool CreateHtml(const CardSet& set, ShownRun& run, HtmlPages pages);
 
 /// Writes the built-in backs to a folder chosen by the user; nothing if cancelled.
-void ExportCardBacks(Workshop& workshop, UserPort& user);
+void ExportCardBacks(const CardSet& set, BuiltInArt& art, UserPort& user);
 
 /// Prints the page of the current card on the default printer. Error 482 if there is none.
 void PrintCard(Workshop& workshop, ShownRun& run, PrintedPage page);

@@ -30,10 +30,12 @@ int HandleLeftAtFrame(const LargeCardTemplate& t)
     return t.picFrameLarge.Left + t.picFrameLarge.Width;
 }
 
-/// Places title and information at the right of the handle. A box without room keeps its width.
+/// Places the texts at the right of the handle. A box without room keeps its width.
 void PlaceTexts(LargeCardTemplate& t)
 {
-    for (Box* label : {&t.lblTitleLarge, &t.lblInformationLarge}) {
+    for (Box* label : t.Boxes) {
+        if (label->Form == TextForm::None)
+            continue;
         label->Left = t.lblPicSizeLarge.Left + t.lblPicSizeLarge.Width;
         IgnoreFailure([&] { label->SetWidth(TextRight - label->Left); });
     }

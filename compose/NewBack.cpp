@@ -142,6 +142,7 @@ void ShowNewCardBack(Workshop& workshop, int16 index)
 
 void DrawNewCardBack(Workshop& workshop, int16 index)
 {
+    ShowNewCardBack(workshop, index);
     const NewBackTemplate& t = workshop.Templates.NewBack;
     const NewCardBack& back = workshop.Set.NewCardBacks[index];
     PictureBox& picACardPP = workshop.Surfaces.picACardPP;

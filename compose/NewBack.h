@@ -12,7 +12,7 @@ namespace deckforge {
 /// Draws the design on picNewBack and lays out its title. Failures are thrown, including a missing picture.
 void ShowNewCardBack(Workshop& workshop, int16 index);
 
-/// Composes the back from the design and rotates it into picACard. Call after ShowNewCardBack.
+/// The same, and composes the back from the design and rotates it into picACard.
 void DrawNewCardBack(Workshop& workshop, int16 index);
 
 } // namespace deckforge

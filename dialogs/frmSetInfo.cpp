@@ -29,8 +29,9 @@ int SelectedRow(const QListView& list)
 
 class SetInfoDialog final : public QDialog {
 public:
-    SetInfoDialog(Workshop& workshop, UserPort& user, QString& lastBackFile, QWidget* window)
-        : QDialog(window), m_workshop(workshop), m_user(user), m_set(workshop.Set),
+    SetInfoDialog(CardSet& set, BuiltInArt& art, PictureLoader& pictures, UserPort& user,
+                  QString& lastBackFile, QWidget* window)
+        : QDialog(window), m_set(set), m_art(art), m_pictures(pictures), m_user(user),
           m_lastBackFile(lastBackFile)
     {
         m_form.setupUi(this);
@@ -169,7 +170,7 @@ private:
 
     void ShowFile(PictureView& view, const QString& path)
     {
-        Show(view, [&] { return m_workshop.Pictures.LoadPicture(path); });
+        Show(view, [&] { return m_pictures.LoadPicture(path); });
     }
 
     void DeleteSelected(const QListView& list, void (*deleteRow)(CardSet&, int))
@@ -197,8 +198,7 @@ private:
         if (row < 1 || row > m_set.CardBacks.Count())
             m_form.picCB->ShowPicture({});
         else
-            Show(*m_form.picCB,
-                 [&] { return PictureOfBack(m_set, row, m_workshop.Art, m_workshop.Pictures); });
+            Show(*m_form.picCB, [&] { return PictureOfBack(m_set, row, m_art, m_pictures); });
     }
 
     void ShowOwnBack()
@@ -295,9 +295,10 @@ private:
         ShowFile(*m_form.picBackground, *path);
     }
 
-    Workshop& m_workshop;
-    UserPort& m_user;
     CardSet& m_set;
+    BuiltInArt& m_art;
+    PictureLoader& m_pictures;
+    UserPort& m_user;
     QString& m_lastBackFile; ///< where the next file dialog starts
     Ui::frmSetInfo m_form;
     QStringListModel m_ownBacks;
@@ -308,9 +309,10 @@ private:
 
 } // namespace
 
-void EditSetInfo(Workshop& workshop, UserPort& user, QString& lastBackFile, QWidget* window)
+void EditSetInfo(CardSet& set, BuiltInArt& art, PictureLoader& pictures, UserPort& user,
+                 QString& lastBackFile, QWidget* window)
 {
-    SetInfoDialog dialog(workshop, user, lastBackFile, window);
+    SetInfoDialog dialog(set, art, pictures, user, lastBackFile, window);
     dialog.Initialize();
     dialog.exec();
 }

@@ -7,13 +7,16 @@ class QWidget;
 
 namespace deckforge {
 
-struct Workshop;
+class BuiltInArt;
+class PictureLoader;
 class UserPort;
+struct CardSet;
 
 /// Lets the user add card backs and card types to the set, and choose the values of new cards. Changes are
 /// written to the set at once; the caller fills its lists again.
 ///
 /// lastBackFile is the last file chosen for a back: the next file dialog starts there.
-void EditSetInfo(Workshop& workshop, UserPort& user, QString& lastBackFile, QWidget* window);
+void EditSetInfo(CardSet& set, BuiltInArt& art, PictureLoader& pictures, UserPort& user,
+                 QString& lastBackFile, QWidget* window);
 
 } // namespace deckforge

@@ -69,7 +69,7 @@ private:
             {"choosefont", "Set card fonts", [this] { ChangeFonts(); }},
             {},
             {"exportback", "Export cardbacks to disk",
-             [this] { ExportCardBacks(m_parts.Works, m_parts.User); }},
+             [this] { ExportCardBacks(m_parts.Works.Set, m_parts.Works.Art, m_parts.User); }},
             {"createone", "Create one card", [this] { CreateOne(); }},
             {"createall", "Create all cards", [this] { CreateAll(); }},
             {"createsheet", "Create card sheets", [this] { CreateSheets(); }},
@@ -134,8 +134,9 @@ private:
 
     void SetInfo()
     {
-        m_parts.Document.Edit(QStringLiteral("Customize Set"), [this](CardSet&) {
-            EditSetInfo(m_parts.Works, m_parts.User, m_lastBackFile, &m_window);
+        m_parts.Document.Edit(QStringLiteral("Customize Set"), [this](CardSet& set) {
+            EditSetInfo(set, m_parts.Works.Art, m_parts.Works.Pictures, m_parts.User, m_lastBackFile,
+                        &m_window);
         });
         m_window.ShowTables();
     }

@@ -135,34 +135,33 @@ void PreviewController::LabelClicked(const Box* box, int clicks)
 /// pointer.
 void PreviewController::Dragged(const Box* box, QPoint point, QPoint moved)
 {
-    Workshop& works = m_parts.Works;
+    CardTemplates& t = m_parts.Works.Templates;
+    CardSet& set = m_parts.Works.Set;
     const QPoint toPointer = point - m_dragStart;
     for (const PlacementRow& row : Placements()) {
         if (box == &row.Image) {
             Place(row, "Move picture", [&] {
-                MovePicture(works.Templates, works.Set, row.Picture, moved.x() * TwipsPerPixelX,
-                            moved.y() * TwipsPerPixelY);
+                MovePicture(t, set, row.Picture, moved.x() * TwipsPerPixelX, moved.y() * TwipsPerPixelY);
             });
         } else if (box == row.Handle) {
             const int pixels = row.Picture == PlacedPicture::Standard ? toPointer.y() : toPointer.x();
-            Place(row, "Size frame", [&] { MoveHandle(works.Templates, works.Set, row.Picture, pixels); });
+            Place(row, "Size frame", [&] { MoveHandle(t, set, row.Picture, pixels); });
         }
     }
 }
 
 void PreviewController::KeyPressed(const Box* picture, Qt::Key key, Qt::KeyboardModifiers held)
 {
-    Workshop& works = m_parts.Works;
+    CardTemplates& t = m_parts.Works.Templates;
+    CardSet& set = m_parts.Works.Set;
     held.setFlag(Qt::KeypadModifier, false);
     for (const PlacementRow& row : Placements()) {
         if (picture != &row.Image)
             continue;
         if (held == Qt::NoModifier)
-            Place(row, "Move picture",
-                  [&] { MovePictureByKey(works.Templates, works.Set, row.Picture, key); });
+            Place(row, "Move picture", [&] { MovePictureByKey(t, set, row.Picture, key); });
         else if (held == Qt::ShiftModifier && row.Picture == PlacedPicture::Standard)
-            Place(row, "Size frame",
-                  [&] { MoveHandleByKey(works.Templates.Standard, works.Set.Cards.CurrentRecord(), key); });
+            Place(row, "Size frame", [&] { MoveHandleByKey(t.Standard, set.Cards.CurrentRecord(), key); });
     }
 }
 

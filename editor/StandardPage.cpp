@@ -193,8 +193,9 @@ private:
         }
         const auto row = static_cast<int16>(list.currentIndex() + 1);
         Edit(&list, &Card::CardBack, row);
-        Workshop& works = m_parts.Works;
-        const auto load = [&] { return PictureOfBack(works.Set, row, works.Art, works.Pictures); };
+        const auto load = [&] {
+            return PictureOfBack(m_parts.Document.Set(), row, m_parts.Works.Art, m_parts.Works.Pictures);
+        };
         if (const auto picture = PictureIfAny(load))
             m_boxes.picBack.Surface->SetPicture(*picture);
         m_parts.Preview.update();

@@ -43,7 +43,6 @@ void ShowAll(Workshop& workshop)
     if (workshop.Set.Characters.Count() > 0)
         (void)ShowCharacter(workshop, 1);
     if (workshop.Set.NewCardBacks.Count() > 0) {
-        ShowNewCardBack(workshop, 1);
         DrawNewCardBack(workshop, 1);
     }
 }

@@ -9,6 +9,16 @@
 
 namespace deckforge {
 
+/// The number of copies of a card on sheets and pages.
+template <class Record>
+[[nodiscard]] int CopiesOf(const Record& record)
+{
+    if constexpr (requires { record.Copies; })
+        return record.Copies;
+    else
+        return 1;
+}
+
 /// Composes a card. Not for user-designed backs.
 [[nodiscard]] inline CompositionFailure Compose(Workshop& workshop, CardKind kind, int16 index)
 {

@@ -2,26 +2,26 @@
 
 #include "output/HtmlSheets.h"
 
-#include "core/modInfo.h"
+#include "output/CardWalk.h"
 #include "output/ImageNames.h"
 #include "platform/LineWriter.h"
 #include "platform/Numbers.h"
 
 #include <QStringList>
-#include <array>
 
 namespace deckforge {
 
 namespace {
 
-constexpr int MaxSlots = 6;
+constexpr int SmallSlots = 6; ///< images on a page of standard cards or playing pieces
+constexpr int LargeSlots = 3;
 
-/// A page and its images; an empty slot has none.
+/// A page and its images.
 struct Page {
     const SetHeader& Header;
     const char* NamePrefix;
     QString Title;
-    std::array<QString, MaxSlots> Images;
+    QStringList Images = {};
     int Number = 0;
     int Count = 0;
     QStringList Links = {}; ///< to each page
@@ -96,11 +96,11 @@ void WriteImage(LineWriter& out, const Page& page, const QString& image)
 /// Kept: empty slots have a table cell, and the gaps between the rows differ.
 void WriteSix(LineWriter& out, const Page& page)
 {
-    const auto image = [&](std::size_t slot) {
-        if (slot == 0 || !page.Images[slot].isEmpty())
+    const auto image = [&](qsizetype slot) {
+        if (slot < page.Images.size())
             WriteImage(out, page, page.Images[slot]);
     };
-    const auto row = [&](std::size_t first) {
+    const auto row = [&](qsizetype first) {
         WriteLines(out, {"<TR>", "<TD>"});
         image(first);
         WriteLines(out, {"</TD>", "<TD>&nbsp;&nbsp;</TD>", "<TD>"});
@@ -118,82 +118,57 @@ void WriteSix(LineWriter& out, const Page& page)
 /// Up to three images, one below the other, without empty slots.
 void WriteThree(LineWriter& out, const Page& page)
 {
-    constexpr std::size_t slots = 3;
-    for (std::size_t slot = 0; slot < slots; ++slot) {
-        if (slot > 0 && page.Images[slot].isEmpty())
-            continue;
+    for (const QString& image : page.Images) {
         WriteLines(out, {"<TR>", "<TD>"});
-        WriteImage(out, page, page.Images[slot]);
+        WriteImage(out, page, image);
         WriteLines(out, {"</TD>", "</TR><TR><TD><BR>&nbsp;</TD></TR>"});
     }
 }
 
 /// What differs between the pages of the kinds.
-template <class Record>
 struct HtmlRow {
-    int (*Copies)(const Record&);
+    CardKind Kind;
     int Slots;
-    void (*WriteBody)(LineWriter&, const Page&);
     const char* PagePrefix;  ///< before the set's name in file names
     const char* TitlePrefix; ///< before the set's name in file names and titles
-    QString (*Image)(const SetHeader&, const QString& fileName, int index, int count);
+    const char* ImagePrefix; ///< of image names; empty for standard cards
 };
 
-/// The prefix of image names and, if the set has FileNr, the number.
-QString NumberPrefix(const SetHeader& header, int index, int count)
+const HtmlRow& RowOf(HtmlPages pages)
 {
-    if (!header.FileNr)
-        return header.FilenamePrefix;
-    return header.FilenamePrefix + QLatin1Char(' ') + PaddedNumber(index, count);
+    static constexpr HtmlRow rows[] = {{.Kind = CardKind::Standard,
+                                        .Slots = SmallSlots,
+                                        .PagePrefix = "",
+                                        .TitlePrefix = "",
+                                        .ImagePrefix = ""},
+                                       {.Kind = CardKind::Large,
+                                        .Slots = LargeSlots,
+                                        .PagePrefix = "Large ",
+                                        .TitlePrefix = "",
+                                        .ImagePrefix = "Large "},
+                                       {.Kind = CardKind::Character,
+                                        .Slots = LargeSlots,
+                                        .PagePrefix = "Character ",
+                                        .TitlePrefix = "",
+                                        .ImagePrefix = "Character "},
+                                       {.Kind = CardKind::Character,
+                                        .Slots = SmallSlots,
+                                        .PagePrefix = "",
+                                        .TitlePrefix = "Character Piece ",
+                                        .ImagePrefix = "Character Piece "}};
+    return rows[static_cast<std::size_t>(pages)];
 }
 
-QString WithExtension(const SetHeader& header, const QString& name)
+/// The name of a saved image.
+/// Kept: of a standard card without the number there is no space between prefix and name, and outer spaces
+/// stay, unlike in the saved image's name.
+QString ImageOf(const SetHeader& header, const HtmlRow& row, const QString& fileName, int index, int count)
 {
-    return name + QLatin1Char('.') + ImageExtension(header.SaveFormat);
+    if (row.Kind != CardKind::Standard)
+        return ImageName(header, QLatin1String(row.ImagePrefix), fileName, index, count);
+    const QString number = header.FileNr ? QStringLiteral(" %1 ").arg(PaddedNumber(index, count)) : QString();
+    return header.FilenamePrefix + number + fileName + QLatin1Char('.') + ImageExtension(header.SaveFormat);
 }
-
-/// Kept: without the number there is no space between prefix and name, unlike in the saved image's name.
-QString StandardImageName(const SetHeader& header, const QString& fileName, int index, int count)
-{
-    const QString gap = header.FileNr ? QStringLiteral(" ") : QString();
-    return WithExtension(header, NumberPrefix(header, index, count) + gap + fileName);
-}
-
-template <const char* KindOfImage>
-QString KindImageName(const SetHeader& header, const QString& fileName, int index, int count)
-{
-    return WithExtension(header, QLatin1String(KindOfImage) + NumberPrefix(header, index, count) +
-                                     QLatin1Char(' ') + fileName);
-}
-
-constexpr char LargeImages[] = "Large ";
-constexpr char CharacterImages[] = "Character ";
-constexpr char PieceImages[] = "Character Piece ";
-
-constexpr HtmlRow<Card> CardPages = {.Copies = [](const Card& card) { return int{card.Copies}; },
-                                     .Slots = 6,
-                                     .WriteBody = WriteSix,
-                                     .PagePrefix = "",
-                                     .TitlePrefix = "",
-                                     .Image = StandardImageName};
-constexpr HtmlRow<LargeCard> LargePages = {.Copies = [](const LargeCard& card) { return int{card.Copies}; },
-                                           .Slots = 3,
-                                           .WriteBody = WriteThree,
-                                           .PagePrefix = "Large ",
-                                           .TitlePrefix = "",
-                                           .Image = KindImageName<LargeImages>};
-constexpr HtmlRow<Character> CharacterPages = {.Copies = [](const Character&) { return 1; },
-                                               .Slots = 3,
-                                               .WriteBody = WriteThree,
-                                               .PagePrefix = "Character ",
-                                               .TitlePrefix = "",
-                                               .Image = KindImageName<CharacterImages>};
-constexpr HtmlRow<Character> PiecePages = {.Copies = [](const Character&) { return 1; },
-                                           .Slots = 6,
-                                           .WriteBody = WriteSix,
-                                           .PagePrefix = "",
-                                           .TitlePrefix = "Character Piece ",
-                                           .Image = KindImageName<PieceImages>};
 
 FilePath PathOf(const Page& page)
 {
@@ -201,12 +176,15 @@ FilePath PathOf(const Page& page)
 }
 
 /// A page that cannot be written is reported.
-void WritePage(const Page& page, RunReport& report, void (*writeBody)(LineWriter&, const Page&))
+void WritePage(const Page& page, RunReport& report, const HtmlRow& row)
 {
     const auto write = [&](const QString& path) {
         LineWriter out(path);
         WriteHead(out, page);
-        writeBody(out, page);
+        if (row.Slots == SmallSlots)
+            WriteSix(out, page);
+        else
+            WriteThree(out, page);
         WriteFoot(out);
         out.Close();
         return true;
@@ -223,55 +201,44 @@ void WritePage(const Page& page, RunReport& report, void (*writeBody)(LineWriter
 
 /// The number of images with all copies; nothing if a card has no file name yet.
 template <class Record>
-std::optional<qint64> ImageCount(const CardSet& set, const HtmlRow<Record>& row)
+std::optional<qint64> ImageCount(const CardList<Record>& cards)
 {
     qint64 sum = 0;
-    const CardList<Record>& cards = ListOf<Record>(set);
     for (int i = 1; i <= cards.Count(); ++i) {
-        const Record& record = cards[i];
-        if (record.Filename.isEmpty())
+        if (cards[i].Filename.isEmpty())
             return std::nullopt;
-        sum += row.Copies(record);
+        sum += CopiesOf(cards[i]);
     }
     return sum;
 }
 
 template <class Record>
-std::optional<int> WritePages(const CardSet& set, RunReport& report, const HtmlRow<Record>& row)
+std::optional<int> WritePages(const CardSet& set, RunReport& report, const HtmlRow& row,
+                              const CardList<Record>& cards)
 {
-    const std::optional<qint64> imageCount = ImageCount(set, row);
+    const std::optional<qint64> imageCount = ImageCount(cards);
     if (!imageCount)
         return std::nullopt;
-    const CardList<Record>& cards = ListOf<Record>(set);
     const int count = cards.Count();
-    const qint64 pageCount = *imageCount / row.Slots + 1;
     Page page{.Header = set.Header,
               .NamePrefix = row.PagePrefix,
               .Title = QLatin1String(row.TitlePrefix) + set.Header.SetName,
-              .Images = {},
-              .Number = 0,
-              .Count = ToInt16(static_cast<double>(pageCount))};
+              .Count = ToInt16(static_cast<double>(*imageCount / row.Slots + 1))};
     page.Links = LinksOf(page);
-    int slot = 0;
     for (int i = 1; i <= count; ++i) {
-        const Record& record = cards[i];
-        const int copies = row.Copies(record);
-        report.Begin(set, KindOf<Record>, static_cast<int16>(i));
+        const int copies = CopiesOf(cards[i]);
+        report.Begin(set, row.Kind, static_cast<int16>(i));
         for (int k = 1; k <= copies; ++k) {
-            ++slot;
-            if (slot == 1) {
+            if (page.Images.isEmpty())
                 ++page.Number;
-                page.Images = {};
-            }
-            page.Images[static_cast<std::size_t>(slot) - 1] =
-                row.Image(set.Header, record.Filename, i, count);
-            if (slot == row.Slots || (i == count && k == copies)) {
-                WritePage(page, report, row.WriteBody);
-                slot = 0;
+            page.Images += ImageOf(set.Header, row, cards[i].Filename, i, count);
+            if (page.Images.size() == row.Slots || (i == count && k == copies)) {
+                WritePage(page, report, row);
+                page.Images.clear();
             }
         }
     }
-    if (slot > 0) {
+    if (!page.Images.isEmpty()) {
         report.Add(FixFileName(page.Header, PathOf(page).Full()),
                    QStringLiteral("Not written, since the last card has no copies"));
     }
@@ -282,17 +249,8 @@ std::optional<int> WritePages(const CardSet& set, RunReport& report, const HtmlR
 
 std::optional<int> WriteHtml(const CardSet& set, RunReport& report, HtmlPages pages)
 {
-    switch (pages) {
-    case HtmlPages::LargeCards:
-        return WritePages(set, report, LargePages);
-    case HtmlPages::Characters:
-        return WritePages(set, report, CharacterPages);
-    case HtmlPages::Pieces:
-        return WritePages(set, report, PiecePages);
-    case HtmlPages::Cards:
-        break;
-    }
-    return WritePages(set, report, CardPages);
+    const HtmlRow& row = RowOf(pages);
+    return WithListOf(set, row.Kind, [&](const auto& cards) { return WritePages(set, report, row, cards); });
 }
 
 } // namespace deckforge

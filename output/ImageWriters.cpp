@@ -16,92 +16,40 @@ constexpr int32 JpegQuality = 90;
 
 enum SaveFormat : int16 { Bmp = 0, Jpeg = 1, Gif = 2 };
 
-/// What is painted at the right of the card.
-enum class Beside { Back, Copy, None };
-
 /// What differs between the final pictures of the kinds.
 struct FinalPicture {
-    PictureBox WorkSurfaces::*Source;
-    int OutlineWidth; ///< of the card and of its companion, in pixels
-    Beside Companion;
-    const Box* (*Back)(const CardTemplates&); ///< null without Beside::Back
+    int OutlineWidth; ///< of the card and of what is beside it, in pixels
+    const Box* Back;  ///< null if there is none
     const char* FailureTitle;
     const char* GifFailureTitle; ///< Kept: some name another kind of card
 };
 
-const FinalPicture& RowOf(FinalImage image)
+FinalPicture RowOf(const CardTemplates& templates, FinalImage image)
 {
-    static constexpr FinalPicture rows[] = {
-        {.Source = &WorkSurfaces::picACard,
-         .OutlineWidth = CardSize.width(),
-         .Companion = Beside::Back,
-         .Back = [](const CardTemplates& t) { return &t.Standard.picBack; },
-         .FailureTitle = "Saving the card",
-         .GifFailureTitle = "Saving the card"},
-        {.Source = &WorkSurfaces::picACard,
-         .OutlineWidth = DoubleCardSize.width(),
-         .Companion = Beside::Back,
-         .Back = [](const CardTemplates& t) { return &t.Large.picBackLarge; },
-         .FailureTitle = "Saving the large card",
-         .GifFailureTitle = "Saving the large card"},
-        {.Source = &WorkSurfaces::picACard,
-         .OutlineWidth = DoubleCardSize.width(),
-         .Companion = Beside::Back,
-         .Back = [](const CardTemplates& t) { return &t.Character.picCharacterBack; },
-         .FailureTitle = "Saving the character card",
-         .GifFailureTitle = "Saving the large card"},
-        {.Source = &WorkSurfaces::picACardPP,
-         .OutlineWidth = CardSize.width(),
-         .Companion = Beside::Copy,
-         .Back = nullptr,
-         .FailureTitle = "Saving the playing piece card",
-         .GifFailureTitle = "Saving the large card"},
-        {.Source = &WorkSurfaces::picACard,
-         .OutlineWidth = CardSize.width(),
-         .Companion = Beside::None,
-         .Back = nullptr,
-         .FailureTitle = "Saving the card",
-         .GifFailureTitle = "Saving the card"}};
+    const FinalPicture rows[] = {{.OutlineWidth = CardSize.width(),
+                                  .Back = &templates.Standard.picBack,
+                                  .FailureTitle = "Saving the card",
+                                  .GifFailureTitle = "Saving the card"},
+                                 {.OutlineWidth = DoubleCardSize.width(),
+                                  .Back = &templates.Large.picBackLarge,
+                                  .FailureTitle = "Saving the large card",
+                                  .GifFailureTitle = "Saving the large card"},
+                                 {.OutlineWidth = DoubleCardSize.width(),
+                                  .Back = &templates.Character.picCharacterBack,
+                                  .FailureTitle = "Saving the character card",
+                                  .GifFailureTitle = "Saving the large card"},
+                                 {.OutlineWidth = CardSize.width(),
+                                  .Back = nullptr,
+                                  .FailureTitle = "Saving the card",
+                                  .GifFailureTitle = "Saving the card"},
+                                 {.OutlineWidth = CardSize.width(),
+                                  .Back = nullptr,
+                                  .FailureTitle = "Saving the playing piece card",
+                                  .GifFailureTitle = "Saving the large card"}};
     return rows[static_cast<std::size_t>(image)];
 }
 
 constexpr int OutlineBottom = CardSize.height() - 1;
-
-/// What is painted beside the card, if anything.
-std::optional<Picture> CompanionOf(const Workshop& workshop, const FinalPicture& kind)
-{
-    switch (kind.Companion) {
-    case Beside::Back:
-        if (workshop.Set.Header.NoBack)
-            break;
-        return kind.Back(workshop.Templates)->Surface->GetPicture();
-    case Beside::Copy:
-        return (workshop.Surfaces.*kind.Source).Image();
-    case Beside::None:
-        break;
-    }
-    return std::nullopt;
-}
-
-/// The card and its companion, each inside its outline of one pixel.
-Picture BuildFinalPicture(Workshop& workshop, const FinalPicture& kind)
-{
-    PictureBox& source = workshop.Surfaces.*kind.Source;
-    PictureBox& picDone = workshop.Surfaces.picDone;
-    const int width = source.Width();
-    source.Freeze();
-    const std::optional<Picture> companion = CompanionOf(workshop, kind);
-    picDone.SetPicture({});
-    picDone.SetSize({companion ? 2 * width : width, source.Height()});
-    if (companion)
-        picDone.PaintPicture(*companion, width + 1, 1);
-    picDone.PaintPicture(source.Image(), 1, 1);
-    picDone.ForeColor = Black;
-    picDone.LineBox(0, 0, kind.OutlineWidth - 1, OutlineBottom);
-    if (kind.Companion != Beside::None)
-        picDone.LineBox(kind.OutlineWidth, 0, 2 * kind.OutlineWidth - 1, OutlineBottom);
-    return picDone.Image();
-}
 
 /// Returns why the conversion failed, or nothing. Other failures are thrown.
 std::optional<QString> WriteGif(const Picture& picture, const QString& path)
@@ -128,33 +76,54 @@ void WriteJpeg(const Picture& picture, const QString& path)
 
 Picture FinalPictureOf(Workshop& workshop, FinalImage image)
 {
-    return BuildFinalPicture(workshop, RowOf(image));
+    const FinalPicture row = RowOf(workshop.Templates, image);
+    const bool isPiece = image == FinalImage::PlayingPiece;
+    PictureBox& source = isPiece ? workshop.Surfaces.picACardPP : workshop.Surfaces.picACard;
+    PictureBox& picDone = workshop.Surfaces.picDone;
+    const int width = source.Width();
+    source.Freeze();
+    std::optional<Picture> beside;
+    if (isPiece)
+        beside = source.Image();
+    else if (row.Back && !workshop.Set.Header.NoBack)
+        beside = row.Back->Surface->GetPicture();
+    picDone.SetPicture({});
+    picDone.SetSize({beside ? 2 * width : width, source.Height()});
+    if (beside)
+        picDone.PaintPicture(*beside, width + 1, 1);
+    picDone.PaintPicture(source.Image(), 1, 1);
+    picDone.ForeColor = Black;
+    picDone.LineBox(0, 0, row.OutlineWidth - 1, OutlineBottom);
+    if (isPiece || row.Back)
+        picDone.LineBox(row.OutlineWidth, 0, 2 * row.OutlineWidth - 1, OutlineBottom);
+    return picDone.Image();
 }
 
 void WriteFinalPicture(Workshop& workshop, RunReport& report, FinalImage image, const FilePath& path)
 {
-    const FinalPicture& row = RowOf(image);
-    WriteOrReport(workshop, report, path, row.FailureTitle, [&] {
-        WriteInFormat(workshop, report, BuildFinalPicture(workshop, row), path, row.GifFailureTitle);
+    const SetHeader& header = workshop.Set.Header;
+    const FinalPicture row = RowOf(workshop.Templates, image);
+    WriteOrReport(header, report, path, row.FailureTitle, [&] {
+        WriteInFormat(header, report, FinalPictureOf(workshop, image), path, row.GifFailureTitle);
     });
 }
 
-void WriteOrReport(Workshop& workshop, RunReport& report, const FilePath& path, const char* failureTitle,
+void WriteOrReport(const SetHeader& header, RunReport& report, const FilePath& path, const char* failureTitle,
                    const std::function<void()>& step)
 {
     try {
         WithMemoryAsFailure(step);
     } catch (const RunTimeError& error) {
-        report.AddNotWritten(FixFileName(workshop.Set.Header, path.Full()), error.Description());
+        report.AddNotWritten(FixFileName(header, path.Full()), error.Description());
         report.ShowNotWritten(failureTitle, {});
     }
 }
 
-void WriteInFormat(Workshop& workshop, RunReport& report, const Picture& picture, const FilePath& path,
+void WriteInFormat(const SetHeader& header, RunReport& report, const Picture& picture, const FilePath& path,
                    const char* gifFailureTitle)
 {
-    const int16 format = workshop.Set.Header.SaveFormat;
-    const QString target = PathToWrite(workshop.Set.Header, path);
+    const int16 format = header.SaveFormat;
+    const QString target = PathToWrite(header, path);
     if (ImageExtension(format).isEmpty()) {
         report.Add(target, QStringLiteral("There is no save format %1").arg(format));
         return;

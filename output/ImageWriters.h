@@ -12,7 +12,12 @@ namespace deckforge {
 
 /// The final pictures: the composed card in its outline, with its back unless the set has NoBack. A playing
 /// piece is always painted twice, a user-designed back once.
-enum class FinalImage { Card, LargeCard, Character, PlayingPiece, NewBack };
+enum class FinalImage { Card, LargeCard, Character, NewBack, PlayingPiece };
+
+[[nodiscard]] constexpr FinalImage FinalImageOf(CardKind kind)
+{
+    return static_cast<FinalImage>(kind); // in the same order
+}
 
 [[nodiscard]] Picture FinalPictureOf(Workshop& workshop, FinalImage image);
 
@@ -21,12 +26,12 @@ void WriteFinalPicture(Workshop& workshop, RunReport& report, FinalImage image, 
 
 /// Runs a step that builds and writes a picture. A failure is reported with the path and shown with the
 /// title.
-void WriteOrReport(Workshop& workshop, RunReport& report, const FilePath& path, const char* failureTitle,
+void WriteOrReport(const SetHeader& header, RunReport& report, const FilePath& path, const char* failureTitle,
                    const std::function<void()>& step);
 
 /// Writes the picture in the set's format. Failures of the GIF writer are reported and shown with their own
 /// title, other failures are thrown. An unknown format is only reported.
-void WriteInFormat(Workshop& workshop, RunReport& report, const Picture& picture, const FilePath& path,
+void WriteInFormat(const SetHeader& header, RunReport& report, const Picture& picture, const FilePath& path,
                    const char* gifFailureTitle);
 
 } // namespace deckforge

@@ -64,23 +64,6 @@ private:
     int m_currentY = Margin;
 };
 
-/// What differs between the pages.
-struct PageRow {
-    CardKind Kind;
-    FinalImage Front;
-    bool HasPiece;
-};
-
-const PageRow& RowOf(PrintedPage page)
-{
-    static constexpr PageRow rows[] = {
-        {.Kind = CardKind::Standard, .Front = FinalImage::Card, .HasPiece = false},
-        {.Kind = CardKind::Large, .Front = FinalImage::LargeCard, .HasPiece = false},
-        {.Kind = CardKind::Character, .Front = FinalImage::Character, .HasPiece = true},
-        {.Kind = CardKind::Character, .Front = FinalImage::Character, .HasPiece = false}};
-    return rows[static_cast<std::size_t>(page)];
-}
-
 /// The position of a symbol depends on whether it was chosen or its set was opened.
 void CopySymbolPlaces(CardTemplates& fine, const CardTemplates& shown)
 {
@@ -110,7 +93,7 @@ bool ComposeAtPrintScale(Workshop& fine, const Workshop& workshop, PrintedPage p
 
 CardKind KindOnPage(PrintedPage page)
 {
-    return RowOf(page).Kind;
+    return page == PrintedPage::CharacterAlone ? CardKind::Character : static_cast<CardKind>(page);
 }
 
 CompositionFailure ShowForPage(Workshop& workshop, PrintedPage page, int16 index)
@@ -123,7 +106,7 @@ void ReportPage(Workshop& workshop, RunReport& report, PrintedPage page)
 {
     const CardKind kind = KindOnPage(page);
     report.Begin(workshop.Set, kind, CurrentOf(workshop.Set, kind));
-    report.AddPictures(workshop);
+    report.AddPictures(workshop.Problems, workshop.Pictures, workshop.Set.Header);
 }
 
 QString PageTitle(const CardSet& set, PrintedPage page)
@@ -161,11 +144,11 @@ void WritePdf(Workshop& workshop, RunReport& report, PrintedPage page, const QSt
 
 bool PaintPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
 {
-    const PageRow& row = RowOf(page);
+    const bool hasPiece = page == PrintedPage::Character;
     // Built first, so that a failure does not leave half a page.
     const QString title = PageTitle(workshop.Set, page);
-    const Picture card = FinalPictureOf(workshop, row.Front);
-    const Picture piece = row.HasPiece ? FinalPictureOf(workshop, FinalImage::PlayingPiece) : Picture();
+    const Picture card = FinalPictureOf(workshop, FinalImageOf(KindOnPage(page)));
+    const Picture piece = hasPiece ? FinalPictureOf(workshop, FinalImage::PlayingPiece) : Picture();
 
     Page paper(device);
     paper.PrintLine(QStringLiteral("Varnhelm Deck Forge"));
@@ -174,7 +157,7 @@ bool PaintPage(Workshop& workshop, PrintedPage page, QPaintDevice& device)
     // Kept: the piece is moved down by its height in twips, taken for device pixels. At 600 per inch it is
     // well below the card and still on the paper.
     const int pieceGap = GapAbovePiece + piece.Size().height() * TwipsPerPixelY;
-    const bool isWhole = !row.HasPiece || paper.PaintPicture(piece, pieceGap);
+    const bool isWhole = !hasPiece || paper.PaintPicture(piece, pieceGap);
     paper.Send();
     return isWhole;
 }

@@ -9,7 +9,7 @@ class QPaintDevice;
 namespace deckforge {
 
 /// What is printed: the current card of a kind with its back; a character with or without its playing piece.
-/// The order is that of the tabs.
+/// The order is that of the tabs, and the first three are those of CardKind.
 /// Kept: the tab of user-designed backs prints the current character.
 enum class PrintedPage { Card, LargeCard, Character, CharacterAlone };
 

@@ -47,21 +47,17 @@ void RunReport::Add(const QString& file, const QString& reason)
             reason);
 }
 
-void RunReport::AddPictures(Workshop& workshop)
+void RunReport::AddPictures(std::vector<PictureProblem>& problems, PictureLoader& pictures,
+                            const SetHeader& header)
 {
-    for (const PictureProblem& problem : std::exchange(workshop.Problems, {}))
+    for (const PictureProblem& problem : std::exchange(problems, {}))
         Add(problem.Path, problem.Reason);
-    AddSymbol(workshop);
-}
-
-void RunReport::AddSymbol(Workshop& workshop)
-{
     if (std::exchange(m_isSymbolChecked, true))
         return;
     try {
-        WithMemoryAsFailure([&] { (void)workshop.Pictures.LoadPicture(workshop.Set.Header.Symbol); });
+        WithMemoryAsFailure([&] { (void)pictures.LoadPicture(header.Symbol); });
     } catch (const RunTimeError& error) {
-        AddForSet(workshop.Set.Header, workshop.Set.Header.Symbol, error.Description());
+        AddForSet(header, header.Symbol, error.Description());
     }
 }
 

@@ -32,8 +32,8 @@ public:
     /// Adds `card 12 "Wolf": FILE: reason`, unless it is there already. The file may be empty.
     void Add(const QString& file, const QString& reason);
 
-    /// Adds the missing pictures of the last composition, and a missing symbol of the set.
-    void AddPictures(Workshop& workshop);
+    /// Adds the problems of the last composition and clears them. Adds a missing symbol of the set once.
+    void AddPictures(std::vector<PictureProblem>& problems, PictureLoader& pictures, const SetHeader& header);
 
     /// Adds a problem of the set as a whole.
     void AddForSet(const SetHeader& header, const QString& file, const QString& reason);
@@ -59,7 +59,6 @@ private:
     void MakeFolderOf(const QString& path);
     [[nodiscard]] QString TakeWriter(const QString& path);
     void RecordWritten(const QString& path, const QString& replaced);
-    void AddSymbol(Workshop& workshop);
     void AddLine(const QString& line);
 
     QString m_element;

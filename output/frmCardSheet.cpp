@@ -19,115 +19,154 @@ constexpr char GifFailureTitle[] = "Saving the card";
 constexpr int CardOutline =
     CardSize.width(); ///< width of the outlines; a back's begins a pixel further right
 
-QPoint CellCorner(const SheetState& sheet)
-{
-    return {(sheet.SheetCol - 1) * sheet.SheetCardWidth, (sheet.SheetRow - 1) * sheet.SheetCardHeight};
-}
-
-/// Whether to write the sheet: its grid is full, or this is the last card.
-bool IsDue(SheetState& sheet, const FilePath& path)
-{
-    const bool isFull = sheet.SheetCol == sheet.SheetCols && sheet.SheetRow == sheet.SheetRows;
-    const bool isDue = isFull || sheet.SheetLast;
-    sheet.Unwritten = isDue ? QString() : path.Full();
-    return isDue;
-}
-
-void PlaceCardOnSheet(Workshop& workshop)
-{
-    const SheetState& sheet = workshop.Sheet;
-    const QPoint cell = CellCorner(sheet);
-    PictureBox& picDone = workshop.Surfaces.picDone;
-    picDone.PaintPicture(workshop.Surfaces.picACard.GetPicture(), cell.x(), cell.y());
-    if (!workshop.Set.Header.NoBack) {
-        picDone.PaintPicture(workshop.Templates.Standard.picBack.Surface->GetPicture(),
-                             cell.x() + sheet.SheetCardWidth / 2, cell.y());
+/// The sheet being filled.
+class CardSheet {
+public:
+    explicit CardSheet(Workshop& workshop)
+        : m_state(workshop.Sheet), m_header(workshop.Set.Header), m_boxes(workshop.Templates),
+          m_surfaces(workshop.Surfaces), m_picACard(workshop.Surfaces.picACard),
+          m_picDone(workshop.Surfaces.picDone), m_hasBack(!m_header.NoBack)
+    {
     }
-}
 
-void SizeCardSheet(Workshop& workshop)
-{
-    SheetState& sheet = workshop.Sheet;
-    const PictureBox& picACard = workshop.Surfaces.picACard;
-    const int cellWidth = workshop.Set.Header.NoBack ? picACard.Width() : 2 * picACard.Width();
-    sheet.SheetCardHeight = ToInt16(workshop.Templates.Standard.picCard.Height);
-    sheet.SheetCardWidth = ToInt16(cellWidth);
-    workshop.Surfaces.picDone.SetSize({sheet.SheetCols * cellWidth, sheet.SheetRows * picACard.Height()});
-}
-
-/// Draws the grid over the outer pixels of the cards.
-void DrawGrid(Workshop& workshop)
-{
-    const SheetState& sheet = workshop.Sheet;
-    PictureBox& picDone = workshop.Surfaces.picDone;
-    picDone.ForeColor = Black;
-    for (int row = 0; row < sheet.SheetRows; ++row) {
-        for (int col = 0; col < sheet.SheetCols; ++col) {
-            const int x = col * sheet.SheetCardWidth - 1;
-            const int y = row * sheet.SheetCardHeight - 1;
-            const int bottom = y + sheet.SheetCardHeight;
-            picDone.LineBox(x, y, x + CardOutline, bottom);
-            if (!workshop.Set.Header.NoBack)
-                picDone.LineBox(x + CardOutline + 1, y, x + 2 * CardOutline, bottom);
+    void Begin(CardKind kind, SheetGrid grid)
+    {
+        m_state = {.SheetCols = grid.Cols,
+                   .SheetRows = grid.Rows,
+                   .SheetRow = 1,
+                   .SheetLast = m_state.SheetLast,
+                   .Unwritten = {}};
+        Clear();
+        if (kind == CardKind::Large) {
+            SizeCells(m_boxes.Large.picCardLarge.Width, m_boxes.Large.picCardLarge.Height);
+            m_surfaces.picLargeSheet.SetSize(GridSize());
         }
     }
-}
 
-void PrepareLargeSheet(Workshop& workshop, const Box& card)
-{
-    SheetState& sheet = workshop.Sheet;
-    sheet.SheetCardWidth = ToInt16(workshop.Set.Header.NoBack ? card.Width : 2 * card.Width);
-    sheet.SheetCardHeight = ToInt16(card.Height);
-    PictureBox& picLargeSheet = workshop.Surfaces.picLargeSheet;
-    picLargeSheet.SetSize({sheet.SheetCols * sheet.SheetCardWidth, sheet.SheetRows * sheet.SheetCardHeight});
-    picLargeSheet.SetPicture({});
-}
-
-/// Copies the composed card to picDone and to the clipboard.
-void CaptureLargeCard(Workshop& workshop, QSize size)
-{
-    PictureBox& picDone = workshop.Surfaces.picDone;
-    picDone.SetPicture({});
-    picDone.SetSize(size);
-    picDone.PaintPicture(workshop.Surfaces.picACard.Image(), 0, 0);
-    picDone.Freeze();
-    cDIBSection card;
-    card.CreateFromPicture(picDone.Image());
-    card.CopyToClipboard();
-}
-
-/// Paints the card, and below it its back with a black outline, on picStore.
-void StackLargeCard(Workshop& workshop, QSize size)
-{
-    PictureBox& picStore = workshop.Surfaces.picStore;
-    const bool hasBack = !workshop.Set.Header.NoBack;
-    const int w = size.width();
-    const int h = size.height();
-    picStore.SetPicture({});
-    picStore.SetSize({w, hasBack ? 2 * h : h});
-    if (hasBack) {
-        picStore.PaintPicture(workshop.Templates.Large.picBackLarge.Surface->GetPicture(), 0, h);
-        picStore.ForeColor = Black;
-        picStore.LineBox(0, h, w - 1, 2 * h - 1);
+    void Clear()
+    {
+        for (PictureBox* surface : {&m_picDone, &m_surfaces.picLargeSheet, &m_surfaces.picStore}) {
+            surface->SetPicture({});
+            surface->SetSize({1, 1});
+        }
     }
-    picStore.PaintPicture(workshop.Surfaces.picDone.GetPicture(), 0, 0);
-    picStore.Freeze();
-}
 
-/// The box with the size of the cells on a large sheet; null for standard cards.
-const Box* LargeSheetCard(const CardTemplates& templates, CardKind kind)
-{
-    return kind == CardKind::Large       ? &templates.Large.picCardLarge
-           : kind == CardKind::Character ? &templates.Character.picCharacter
-                                         : nullptr;
-}
+    void WriteCard(RunReport& report, const FilePath& path)
+    {
+        PlaceCard();
+        if (!IsDue(path))
+            return;
+        const auto empty = qScopeGuard([&] { m_picDone.SetPicture({}); });
+        DrawGrid();
+        WriteInFormat(m_header, report, m_picDone.Image(), path, GifFailureTitle);
+    }
 
-int CopiesOf(const CardSet& set, CardKind kind, int16 index)
-{
-    return kind == CardKind::Standard ? set.Cards[index].Copies
-           : kind == CardKind::Large  ? set.LargeCards[index].Copies
-                                      : 1;
-}
+    void WriteLargeCard(RunReport& report, const FilePath& path)
+    {
+        PictureBox& picLargeSheet = m_surfaces.picLargeSheet;
+        CaptureLargeCard();
+        StackLargeCard();
+        const QPoint cell = CellCorner();
+        picLargeSheet.PaintPicture(m_surfaces.picStore.GetPicture(), cell.x(), cell.y());
+        if (!IsDue(path))
+            return;
+        const auto empty = qScopeGuard([&] { picLargeSheet.SetPicture({}); });
+        WriteInFormat(m_header, report, picLargeSheet.Image(), path, GifFailureTitle);
+    }
+
+private:
+    [[nodiscard]] QPoint CellCorner() const
+    {
+        return {(m_state.SheetCol - 1) * m_state.SheetCardWidth,
+                (m_state.SheetRow - 1) * m_state.SheetCardHeight};
+    }
+
+    [[nodiscard]] QSize GridSize() const
+    {
+        return {m_state.SheetCols * m_state.SheetCardWidth, m_state.SheetRows * m_state.SheetCardHeight};
+    }
+
+    void SizeCells(int width, int height)
+    {
+        m_state.SheetCardWidth = ToInt16(m_hasBack ? 2 * width : width);
+        m_state.SheetCardHeight = ToInt16(height);
+    }
+
+    /// Whether to write the sheet: its grid is full, or this is the last card.
+    [[nodiscard]] bool IsDue(const FilePath& path)
+    {
+        const bool isFull = m_state.SheetCol == m_state.SheetCols && m_state.SheetRow == m_state.SheetRows;
+        const bool isDue = isFull || m_state.SheetLast;
+        m_state.Unwritten = isDue ? QString() : path.Full();
+        return isDue;
+    }
+
+    void PlaceCard()
+    {
+        SizeCells(m_picACard.Width(), m_boxes.Standard.picCard.Height);
+        m_picDone.SetSize(GridSize());
+        m_picACard.Refresh();
+        const QPoint cell = CellCorner();
+        m_picDone.PaintPicture(m_picACard.GetPicture(), cell.x(), cell.y());
+        if (m_hasBack)
+            m_picDone.PaintPicture(m_boxes.Standard.picBack.Surface->GetPicture(),
+                                   cell.x() + m_state.SheetCardWidth / 2, cell.y());
+    }
+
+    /// Draws the grid over the outer pixels of the cards.
+    void DrawGrid()
+    {
+        m_picDone.ForeColor = Black;
+        for (int row = 0; row < m_state.SheetRows; ++row) {
+            for (int col = 0; col < m_state.SheetCols; ++col) {
+                const int x = col * m_state.SheetCardWidth - 1;
+                const int y = row * m_state.SheetCardHeight - 1;
+                const int bottom = y + m_state.SheetCardHeight;
+                m_picDone.LineBox(x, y, x + CardOutline, bottom);
+                if (m_hasBack)
+                    m_picDone.LineBox(x + CardOutline + 1, y, x + 2 * CardOutline, bottom);
+            }
+        }
+    }
+
+    /// Copies the composed card to picDone and to the clipboard.
+    void CaptureLargeCard()
+    {
+        const Box& box = m_boxes.Large.picCardLarge;
+        m_picDone.SetPicture({});
+        m_picDone.SetSize({box.Width, box.Height});
+        m_picDone.PaintPicture(m_picACard.Image(), 0, 0);
+        m_picDone.Freeze();
+        cDIBSection card;
+        card.CreateFromPicture(m_picDone.Image());
+        card.CopyToClipboard();
+    }
+
+    /// Paints the card, and below it its back with a black outline, on picStore.
+    void StackLargeCard()
+    {
+        PictureBox& picStore = m_surfaces.picStore;
+        const int w = m_picDone.Width();
+        const int h = m_picDone.Height();
+        picStore.SetPicture({});
+        picStore.SetSize({w, m_hasBack ? 2 * h : h});
+        if (m_hasBack) {
+            picStore.PaintPicture(m_boxes.Large.picBackLarge.Surface->GetPicture(), 0, h);
+            picStore.ForeColor = Black;
+            picStore.LineBox(0, h, w - 1, 2 * h - 1);
+        }
+        picStore.PaintPicture(m_picDone.GetPicture(), 0, 0);
+        picStore.Freeze();
+    }
+
+    SheetState& m_state;
+    const SetHeader& m_header;
+    CardTemplates& m_boxes;
+    WorkSurfaces& m_surfaces;
+    PictureBox& m_picACard;
+    PictureBox& m_picDone;
+    bool m_hasBack;
+};
 
 /// Advances to the next cell. Returns the number of its sheet.
 int16 NextCell(SheetState& sheet, int16 number)
@@ -143,50 +182,29 @@ int16 NextCell(SheetState& sheet, int16 number)
     return CheckedAdd(number, 1);
 }
 
-void ClearSheets(Workshop& workshop)
-{
-    WorkSurfaces& surfaces = workshop.Surfaces;
-    for (PictureBox* surface : {&surfaces.picDone, &surfaces.picLargeSheet, &surfaces.picStore}) {
-        surface->SetPicture({});
-        surface->SetSize({1, 1});
-    }
-}
-
 /// Reports an incomplete sheet that was not written, or that no sheet was written.
-void ReportUnwritten(const Workshop& workshop, RunReport& report, CardKind kind)
+void ReportUnwritten(const CardSet& set, const QString& unwritten, RunReport& report, CardKind kind)
 {
-    const CardSet& set = workshop.Set;
-    if (!workshop.Sheet.Unwritten.isEmpty()) {
+    if (!unwritten.isEmpty()) {
         report.Begin(set, kind, CountOf(set, kind));
-        report.Add(FixFileName(set.Header, workshop.Sheet.Unwritten),
+        report.Add(FixFileName(set.Header, unwritten),
                    QStringLiteral("Not written, since the last card has no copies"));
     } else if (!report.HasWritten()) {
         report.AddForSet(set.Header, {}, QStringLiteral("No sheet is written"));
     }
 }
 
-void BeginSheets(Workshop& workshop, CardKind kind, SheetGrid grid)
-{
-    SheetState& sheet = workshop.Sheet;
-    sheet.SheetCols = grid.Cols;
-    sheet.SheetRows = grid.Rows;
-    sheet.SheetCol = 0;
-    sheet.SheetRow = 1;
-    sheet.Unwritten.clear();
-    ClearSheets(workshop);
-    if (const Box* const card = LargeSheetCard(workshop.Templates, kind))
-        PrepareLargeSheet(workshop, *card);
-}
-
 } // namespace
 
 int16 SaveSheets(Workshop& workshop, RunReport& report, CardKind kind, SheetGrid grid)
 {
-    BeginSheets(workshop, kind, grid);
+    CardSheet sheet(workshop);
+    sheet.Begin(kind, grid);
     int16 number = 1;
     const int16 count = CountOf(workshop.Set, kind);
     ForEachShown(workshop, report, kind, [&](int16 index) {
-        const int copies = CopiesOf(workshop.Set, kind, index);
+        const int copies =
+            WithListOf(workshop.Set, kind, [&](const auto& list) { return CopiesOf(list[index]); });
         for (int k = 1; k <= copies; ++k) {
             number = NextCell(workshop.Sheet, number);
             if (index == count && k == copies)
@@ -194,40 +212,21 @@ int16 SaveSheets(Workshop& workshop, RunReport& report, CardKind kind, SheetGrid
             SaveImage(workshop, report, kind, index, {.Sheet = number});
         }
     });
-    ClearSheets(workshop);
-    ReportUnwritten(workshop, report, kind);
+    sheet.Clear();
+    ReportUnwritten(workshop.Set, workshop.Sheet.Unwritten, report, kind);
     return number;
 }
 
-void SaveCardSheet(Workshop& workshop, RunReport& report, const FilePath& path)
+void PlaceOnSheet(Workshop& workshop, RunReport& report, CardKind kind, const FilePath& path)
 {
-    WriteOrReport(workshop, report, path, FailureTitle, [&] {
-        PictureBox& picDone = workshop.Surfaces.picDone;
-        SizeCardSheet(workshop);
-        workshop.Surfaces.picACard.Refresh();
-        PlaceCardOnSheet(workshop);
-        if (!IsDue(workshop.Sheet, path))
-            return;
-        const auto empty = qScopeGuard([&] { picDone.SetPicture({}); });
-        DrawGrid(workshop);
-        WriteInFormat(workshop, report, picDone.Image(), path, GifFailureTitle);
-    });
-}
-
-void SaveLargeCardSheet(Workshop& workshop, RunReport& report, const FilePath& path)
-{
-    WriteOrReport(workshop, report, path, FailureTitle, [&] {
-        const Box& picCardLarge = workshop.Templates.Large.picCardLarge;
-        const QSize size(picCardLarge.Width, picCardLarge.Height);
-        PictureBox& picLargeSheet = workshop.Surfaces.picLargeSheet;
-        CaptureLargeCard(workshop, size);
-        StackLargeCard(workshop, size);
-        const QPoint cell = CellCorner(workshop.Sheet);
-        picLargeSheet.PaintPicture(workshop.Surfaces.picStore.GetPicture(), cell.x(), cell.y());
-        if (!IsDue(workshop.Sheet, path))
-            return;
-        const auto empty = qScopeGuard([&] { picLargeSheet.SetPicture({}); });
-        WriteInFormat(workshop, report, picLargeSheet.Image(), path, GifFailureTitle);
+    if (kind == CardKind::Character) // Kept: its sheets are counted but not written
+        return;
+    WriteOrReport(workshop.Set.Header, report, path, FailureTitle, [&] {
+        CardSheet sheet(workshop);
+        if (kind == CardKind::Large)
+            sheet.WriteLargeCard(report, path);
+        else
+            sheet.WriteCard(report, path);
     });
 }
 

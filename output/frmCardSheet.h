@@ -29,11 +29,9 @@ int16 SaveSheets(Workshop& workshop, RunReport& report, CardKind kind, SheetGrid
 
 /// Places the composed card and its back on the sheet, and writes the sheet if it is due. A failure is
 /// reported.
-void SaveCardSheet(Workshop& workshop, RunReport& report, const FilePath& path);
-
-/// The same for a large card.
-/// Kept: the card is above its back although the cell is as wide as both, and each card is copied to the
-/// clipboard.
-void SaveLargeCardSheet(Workshop& workshop, RunReport& report, const FilePath& path);
+///
+/// Kept: a large card is above its back although the cell is as wide as both, and each large card is copied
+/// to the clipboard.
+void PlaceOnSheet(Workshop& workshop, RunReport& report, CardKind kind, const FilePath& path);
 
 } // namespace deckforge

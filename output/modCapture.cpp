@@ -16,56 +16,15 @@ namespace {
 
 /// What differs between the images of the kinds.
 struct ImageRow {
-    FinalImage Image;
     const char* NamePrefix;
     const char* SheetPart; ///< of a sheet's name
-    CardKind SheetKind;    ///< the kind whose count sets the digits of sheet numbers
 };
 
 const ImageRow& RowOf(CardKind kind)
 {
     static constexpr ImageRow rows[] = {
-        {FinalImage::Card, "", " Sheet ", CardKind::Standard},
-        {FinalImage::LargeCard, "Large ", " Sheet Large ", CardKind::Large},
-        {FinalImage::Character, "Character ", " Sheet Large ", CardKind::Character},
-        {FinalImage::NewBack, "", " Sheet ", CardKind::Standard}};
+        {"", " Sheet "}, {"Large ", " Sheet Large "}, {"Character ", " Sheet Large "}, {"", " Sheet "}};
     return rows[static_cast<std::size_t>(kind)];
-}
-
-void ComposeNewBack(Workshop& workshop, int16 index)
-{
-    ShowNewCardBack(workshop, index);
-    DrawNewCardBack(workshop, index);
-}
-
-void WriteImageOf(Workshop& workshop, RunReport& report, CardKind kind, int16 index, const FilePath& path)
-{
-    if (kind == CardKind::NewBack)
-        ComposeNewBack(workshop, index);
-    WriteFinalPicture(workshop, report, RowOf(kind).Image, path);
-    if (kind == CardKind::Character) {
-        const CardSet& set = workshop.Set;
-        const QString piece = ImageName(set.Header, QStringLiteral("Character Piece "),
-                                        set.Characters[index].Filename, index, set.Characters.Count());
-        WriteFinalPicture(workshop, report, FinalImage::PlayingPiece, {path.Folder, piece});
-    }
-}
-
-void PlaceOnSheet(Workshop& workshop, RunReport& report, CardKind kind, int16 index, const FilePath& path)
-{
-    switch (kind) {
-    case CardKind::Character: // Kept: its sheets are counted but not written
-        return;
-    case CardKind::Large:
-        SaveLargeCardSheet(workshop, report, path);
-        return;
-    case CardKind::NewBack:
-        ComposeNewBack(workshop, index);
-        break;
-    case CardKind::Standard:
-        break;
-    }
-    SaveCardSheet(workshop, report, path);
 }
 
 struct CardNames {
@@ -93,28 +52,60 @@ QString ApplyTarget(const SetHeader& header, const ImageTarget& target, const Ca
     return header.SaveTo;
 }
 
-FilePath SaveElement(Workshop& workshop, RunReport& report, CardKind kind, int16 index,
-                     const ImageTarget& target)
-{
-    CardSet& set = workshop.Set;
-    const ImageRow& row = RowOf(kind);
-    const CardNames names = NamesOf(set, kind, index);
-    auto restoreName = qScopeGuard([&, before = names.FileName] { names.FileName = before; });
-    const QString folder = ApplyTarget(set.Header, target, names);
-    FilePath path = {folder, ImageName(set.Header, QString::fromLatin1(row.NamePrefix), names.FileName, index,
-                                       CountOf(set, kind))};
-    if (target.Sheet) {
-        const int cardsPerSheet = workshop.Sheet.SheetRows * workshop.Sheet.SheetCols;
-        const QString name = SheetName(set.Header, QString::fromLatin1(row.SheetPart), *target.Sheet,
-                                       CountOf(set, row.SheetKind), cardsPerSheet);
-        PlaceOnSheet(workshop, report, kind, index, {folder, name});
-    } else {
-        WriteImageOf(workshop, report, kind, index, path);
+/// Saves the image of one card.
+class ImageSaver {
+public:
+    ImageSaver(Workshop& workshop, RunReport& report, CardKind kind, int16 index)
+        : m_workshop(workshop), m_set(workshop.Set), m_report(report), m_kind(kind), m_index(index),
+          m_count(CountOf(m_set, kind))
+    {
     }
-    restoreName.dismiss();
-    report.AddPictures(workshop);
-    return path;
-}
+
+    [[nodiscard]] FilePath Save(const ImageTarget& target)
+    {
+        const ImageRow& row = RowOf(m_kind);
+        const CardNames names = NamesOf(m_set, m_kind, m_index);
+        auto restoreName = qScopeGuard([&, before = names.FileName] { names.FileName = before; });
+        const QString folder = ApplyTarget(m_set.Header, target, names);
+        FilePath path = {folder, NameOfImage(row.NamePrefix, names.FileName)};
+        if (target.Sheet)
+            PlaceOnSheet(m_workshop, m_report, m_kind, {folder, NameOfSheet(row.SheetPart, *target.Sheet)});
+        else
+            Write(path, names.FileName);
+        restoreName.dismiss();
+        m_report.AddPictures(m_workshop.Problems, m_workshop.Pictures, m_set.Header);
+        return path;
+    }
+
+private:
+    [[nodiscard]] QString NameOfImage(const char* prefix, const QString& fileName) const
+    {
+        return ImageName(m_set.Header, QString::fromLatin1(prefix), fileName, m_index, m_count);
+    }
+
+    [[nodiscard]] QString NameOfSheet(const char* part, int16 sheet) const
+    {
+        const int cardsPerSheet = m_workshop.Sheet.SheetRows * m_workshop.Sheet.SheetCols;
+        return SheetName(m_set.Header, QString::fromLatin1(part), sheet, m_count, cardsPerSheet);
+    }
+
+    void Write(const FilePath& path, const QString& fileName)
+    {
+        if (m_kind == CardKind::NewBack)
+            DrawNewCardBack(m_workshop, m_index);
+        WriteFinalPicture(m_workshop, m_report, FinalImageOf(m_kind), path);
+        if (m_kind == CardKind::Character)
+            WriteFinalPicture(m_workshop, m_report, FinalImage::PlayingPiece,
+                              {path.Folder, NameOfImage("Character Piece ", fileName)});
+    }
+
+    Workshop& m_workshop;
+    CardSet& m_set;
+    RunReport& m_report;
+    CardKind m_kind;
+    int16 m_index;
+    int m_count;
+};
 
 } // namespace
 
@@ -124,7 +115,7 @@ std::optional<FilePath> SaveImage(Workshop& workshop, RunReport& report, CardKin
     report.Begin(workshop.Set, kind, index);
     std::optional<FilePath> path;
     try {
-        WithMemoryAsFailure([&] { path = SaveElement(workshop, report, kind, index, target); });
+        WithMemoryAsFailure([&] { path = ImageSaver(workshop, report, kind, index).Save(target); });
     } catch (const RunTimeError& error) {
         report.Add(error.Place(), error.Description());
     }
@@ -136,7 +127,7 @@ void SaveImages(Workshop& workshop, RunReport& report, CardKind kind)
     ForEachShown(workshop, report, kind, [&](int16 index) { SaveImage(workshop, report, kind, index); });
 }
 
-void WriteCardBacks(Workshop& workshop, const QString& folder)
+void WriteCardBacks(const CardSet& set, BuiltInArt& art, const QString& folder)
 {
     constexpr int lastBack = 26; // without the blank one behind it
     constexpr int characterBacks = 3;
@@ -145,12 +136,12 @@ void WriteCardBacks(Workshop& workshop, const QString& folder)
         WithPlace(path, [&] { SavePicture(picture, path); });
     };
     for (int i = 1; i <= lastBack; ++i) {
-        const CardBack& back = workshop.Set.CardBacks[i];
+        const CardBack& back = set.CardBacks[i];
         if (back.BuiltIn)
-            save(workshop.Art.imgCB(i - 1), back.Name);
+            save(art.imgCB(i - 1), back.Name);
     }
     for (int j = 0; j < characterBacks; ++j)
-        save(workshop.Art.imgChB(j), QStringLiteral("character back %1").arg(j));
+        save(art.imgChB(j), QStringLiteral("character back %1").arg(j));
 }
 
 } // namespace deckforge

@@ -28,6 +28,6 @@ void SaveImages(Workshop& workshop, RunReport& report, CardKind kind);
 
 /// Writes the built-in backs (except the blank one) and those of characters as BMP files. Failures are
 /// thrown.
-void WriteCardBacks(Workshop& workshop, const QString& folder);
+void WriteCardBacks(const CardSet& set, BuiltInArt& art, const QString& folder);
 
 } // namespace deckforge

@@ -17,7 +17,7 @@ TEST_F(BuiltInArtTest, ExportedBacksKeepTheirDepth)
         constexpr qsizetype placeInBmp = 28;
         return qFromLittleEndian<quint16>(Folder.Read(name).constData() + placeInBmp);
     };
-    WriteCardBacks(Shop, Folder.Path());
+    WriteCardBacks(Shop.Set, Shop.Art, Folder.Path());
     for (const char* name : {"Adventure.bmp", "character back 0.bmp"})
         EXPECT_EQ(bitsOfPixel(name), 24) << name;
     for (const char* name : {"Diablo II.bmp", "Diablo II Artifact.bmp", "Transformations.bmp"})

@@ -57,7 +57,6 @@ protected:
                      : kind == OnBack  ? std::nullopt
                                        : ShowCharacter(Shop, 1));
         if (kind == OnBack) {
-            ShowNewCardBack(Shop, 1);
             DrawNewCardBack(Shop, 1);
         }
         return (kind >= OnPiece ? Shop.Surfaces.picACardPP : Surface()).Image().Pixels();

@@ -117,7 +117,6 @@ TEST_F(OtherKindsTest, ABackIsRotatedAndShiftedLeftByTwoPixels)
     Back().BackText.clear();
     Back().UsePicture = true;
     Back().Picture = Places;
-    ShowNewCardBack(Shop, 1);
     DrawNewCardBack(Shop, 1);
     EXPECT_EQ(Surface().Size(), QSize(152, 256));
     EXPECT_EQ(Surface().GetPixel(152 - 10 - 3, 20), ColourOfPlace(20, 10));

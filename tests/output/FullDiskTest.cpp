@@ -36,7 +36,7 @@ TEST_F(FullDiskTest, AnImageThatCouldNotBeWrittenIsReported)
     const FullDisk full(100); // pages and backs are reported as well
     (void)CreateHtml(Shop.Set, TheRun, HtmlPages::Cards);
     EXPECT_TRUE(TheRun.Problems().last().endsWith("New set 1.htm: Disk full"));
-    EXPECT_EQ(FailureOf([&] { WriteCardBacks(Shop, Folder.Path()); }), 61);
+    EXPECT_EQ(FailureOf([&] { WriteCardBacks(Shop.Set, Shop.Art, Folder.Path()); }), 61);
 }
 
 } // namespace deckforge
