@@ -2,7 +2,6 @@
 
 #include "commands/OutputCommands.h"
 
-#include "commands/Messages.h"
 #include "output/Statistics.h"
 #include "output/modCapture.h"
 
@@ -103,7 +102,6 @@ FileDialogRequest ImageDialog(const char* dialogTitle, const QString& title, con
     return {.Title = QString::fromLatin1(dialogTitle),
             .FileName = title + QLatin1Char('.') + extension,
             .Filter = QStringLiteral("All files(*.*)|*.*|Picture (*.%1)|*.%1").arg(extension),
-            .FilterIndex = 2,
             .DefaultExtension = extension};
 }
 

@@ -2,7 +2,6 @@
 
 #include "commands/SetCommands.h"
 
-#include "commands/Messages.h"
 #include "files/modFile.h"
 
 namespace deckforge {
@@ -14,7 +13,6 @@ FileDialogRequest SetFileDialog(const char* title, const QString& fileName)
     return {.Title = QString::fromLatin1(title),
             .FileName = fileName,
             .Filter = QStringLiteral("All files(*.*)|*.*|Deck Foundry (*.dkf)|*.dkf"),
-            .FilterIndex = 2,
             .DefaultExtension = QStringLiteral("dkf")};
 }
 
@@ -147,7 +145,6 @@ void ExportText(const CardSet& set, UserPort& user)
         user.AskSaveFile({.Title = QStringLiteral("Save set as text"),
                           .FileName = set.Header.SetName + QStringLiteral(".txt"),
                           .Filter = QStringLiteral("All files(*.*)|*.*|Text file (*.txt)|*.txt"),
-                          .FilterIndex = 2,
                           .DefaultExtension = QStringLiteral("txt")});
     if (path)
         WriteListing(set, *path, user);
