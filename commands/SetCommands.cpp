@@ -48,23 +48,6 @@ void ShowSafetyCopies(UserPort& user, const QStringList& copies)
                 .arg(copies.join(QLatin1String("\r\n"))));
 }
 
-/// The names of an element in message boxes.
-/// Kept: a deleted large card is called a card.
-struct Words {
-    QLatin1String Deleted;
-    QLatin1String Copied;
-};
-
-const Words& WordsOf(CardKind kind)
-{
-    static constexpr Words words[] = {
-        {.Deleted = QLatin1String("card"), .Copied = QLatin1String("card")},
-        {.Deleted = QLatin1String("card"), .Copied = QLatin1String("large card")},
-        {.Deleted = QLatin1String("character"), .Copied = QLatin1String("character card")},
-        {.Deleted = QLatin1String("card back"), .Copied = QLatin1String("card back")}};
-    return words[static_cast<std::size_t>(kind)];
-}
-
 /// Runs `write` and shows the failure, or the message `written`.
 template <class Write>
 bool WriteAndShow(UserPort& user, const char* title, const QString& written, Write&& write)
@@ -165,9 +148,11 @@ bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name)
         }
         return false;
     }
+    // Kept: a large card is called a card here.
+    static constexpr const char* names[] = {"card", "card", "character", "card back"};
     const Answer answer =
         user.ShowMessage({.Text = QStringLiteral("Are you sure you want to delete the %1 \"%2\"?")
-                                      .arg(WordsOf(kind).Deleted, name),
+                                      .arg(names[static_cast<std::size_t>(kind)], name),
                           .Title = QStringLiteral("Confirm delete"),
                           .Style = BoxStyle::Question,
                           .Buttons = BoxButtons::YesNo});
@@ -176,8 +161,9 @@ bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name)
 
 void ShowCopied(UserPort& user, CardKind kind)
 {
+    static constexpr const char* names[] = {"card", "large card", "character card", "card back"};
     ShowBox(user, BoxStyle::Information, "Copy",
-            QStringLiteral("The %1 is copied.").arg(WordsOf(kind).Copied));
+            QStringLiteral("The %1 is copied.").arg(names[static_cast<std::size_t>(kind)]));
 }
 
 } // namespace deckforge
