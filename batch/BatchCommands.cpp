@@ -67,19 +67,6 @@ ExitStatus RunOnSet(const QString& path, int scale, Task&& task)
     });
 }
 
-/// The settings hold for the time of the task, and are not stored.
-template <class Task>
-void WithSettings(SetHeader& header, const RunSettings& settings, Task&& task)
-{
-    const QString saveTo = header.SaveTo;
-    const int16 saveFormat = header.SaveFormat;
-    header.SaveTo = settings.SaveTo.value_or(saveTo);
-    header.SaveFormat = settings.SaveFormat.value_or(saveFormat);
-    task();
-    header.SaveTo = saveTo;
-    header.SaveFormat = saveFormat;
-}
-
 /// Nobody is there to be asked: a set is replaced only by the commands that save it.
 void RejectExisting(const QString& path)
 {
@@ -151,7 +138,9 @@ ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
     const int scale = NumberOption(parser, "scale", MaxScale);
     const RunSettings settings = SettingsFrom(parser);
     return RunOnSet(paths[0], scale, [&](Workshop& workshop, UserPort& user) {
-        WithSettings(workshop.Set.Header, settings, [&] {
+        const SetHeader stored = workshop.Set.Header;
+        settings.ApplyTo(workshop.Set.Header);
+        {
             ShownRun run(user);
             for (const CardKind kind : kinds) {
                 if (kind == CardKind::NewBack)
@@ -159,7 +148,8 @@ ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
                 else
                     CreateImages(workshop, run, kind);
             }
-        });
+        }
+        workshop.Set.Header = stored;
         return !parser.isSet(QStringLiteral("save")) || WriteSetTo(workshop.Set, paths[0], user);
     });
 }
@@ -174,10 +164,9 @@ ExitStatus RunSheets(const QStringList& paths, const QCommandLineParser& parser)
     grid.Rows = static_cast<int16>(NumberOption(parser, "rows", SheetGrid::MaxRows));
     const RunSettings settings = SettingsFrom(parser);
     return RunOnSet(paths[0], 1, [&](Workshop& workshop, UserPort& user) {
-        WithSettings(workshop.Set.Header, settings, [&] {
-            ShownRun run(user);
-            CreateSheets(workshop, run, kinds.front(), grid);
-        });
+        settings.ApplyTo(workshop.Set.Header);
+        ShownRun run(user);
+        CreateSheets(workshop, run, kinds.front(), grid);
         return true;
     });
 }
@@ -187,12 +176,11 @@ ExitStatus RunHtml(const QStringList& paths, const QCommandLineParser& parser)
     const auto kinds = KindsFrom(parser, HtmlKinds);
     const RunSettings settings = SettingsFrom(parser);
     return RunOnTexts(paths[0], [&](CardSet& set, UserPort& user) {
+        settings.ApplyTo(set.Header);
+        ShownRun run(user);
         bool done = true;
-        WithSettings(set.Header, settings, [&] {
-            ShownRun run(user);
-            for (const HtmlPages pages : kinds)
-                done = CreateHtml(set, run, pages) && done;
-        });
+        for (const HtmlPages pages : kinds)
+            done = CreateHtml(set, run, pages) && done;
         return done;
     });
 }

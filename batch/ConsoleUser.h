@@ -2,14 +2,14 @@
 
 #pragma once
 
-#include "platform/SilentUser.h"
+#include "platform/UserPort.h"
 
 namespace deckforge {
 
 /// The user of a run without a window: message boxes are written to standard error as "TITLE: text",
 /// questions are answered with No, and dialogs are cancelled. Problems are written there as well, one per
 /// line. On a terminal long runs show their progress.
-class ConsoleUser final : public SilentUser {
+class ConsoleUser final : public UserPort {
 public:
     Answer ShowMessage(const MessageBoxRequest& request) override;
     void ReportProblems(const QStringList& problems) override;

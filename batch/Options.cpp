@@ -72,6 +72,12 @@ int16 FormatNamed(const QString& name)
 
 } // namespace
 
+void RunSettings::ApplyTo(SetHeader& header) const
+{
+    header.SaveTo = SaveTo.value_or(header.SaveTo);
+    header.SaveFormat = SaveFormat.value_or(header.SaveFormat);
+}
+
 RunSettings SettingsFrom(const QCommandLineParser& parser)
 {
     RunSettings settings;

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "platform/Types.h"
+#include "core/Records.h"
 
 #include <QCommandLineParser>
 #include <QString>
@@ -32,6 +32,8 @@ void AddOptions(QCommandLineParser& parser);
 struct RunSettings {
     std::optional<QString> SaveTo;
     std::optional<int16> SaveFormat;
+
+    void ApplyTo(SetHeader& header) const;
 };
 
 [[nodiscard]] RunSettings SettingsFrom(const QCommandLineParser& parser);

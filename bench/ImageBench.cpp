@@ -10,7 +10,7 @@
 #include "imaging/mIntelJPEGLibrary.h"
 #include "output/frmCardSheet.h"
 #include "output/modCapture.h"
-#include "platform/SilentUser.h"
+#include "platform/UserPort.h"
 
 #include <QTemporaryDir>
 #include <cmath>
@@ -82,7 +82,7 @@ struct OneCard {
     }
 
     QTemporaryDir Folder;
-    SilentUser User;
+    UserPort User;
     Workshop Shop;
     ShownRun TheRun{User};
 };

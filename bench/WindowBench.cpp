@@ -4,7 +4,7 @@
 #include "commands/SetCommands.h"
 #include "core/modInfo.h"
 #include "editor/frmQDW.h"
-#include "platform/SilentUser.h"
+#include "platform/UserPort.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -65,7 +65,7 @@ struct OpenWindow {
     static void Settle() { QCoreApplication::processEvents(); }
 
     QTemporaryDir Folder;
-    SilentUser User;
+    UserPort User;
     frmQDW Window{User};
 };
 

@@ -2,7 +2,6 @@
 
 #include "commands/OutputCommands.h"
 
-#include "commands/Messages.h"
 #include "output/Statistics.h"
 #include "output/modCapture.h"
 
@@ -12,90 +11,35 @@ namespace deckforge {
 
 namespace {
 
-/// Texts of the dialogs and message boxes. User-designed backs have only those for saving one.
-/// Kept: some titles for characters are those of large cards.
-struct KindTexts {
+/// Words of the dialogs and message boxes.
+struct KindWords {
     const char* SaveTitle;
-    const char* SavedTitle;
-    const char* Saved;
-    const char* ImagesTitle = nullptr;
-    const char* OneImage = nullptr;
-    const char* Images = nullptr;
-    const char* SheetsTitle = nullptr;
-    const char* OneSheet = nullptr;
-    const char* Sheets = nullptr;
+    const char* One;
+    const char* Several; ///< not for user-designed backs, which are saved one by one
 };
 
-const KindTexts& TextsOf(CardKind kind)
+const KindWords& WordsOf(CardKind kind)
 {
-    static constexpr KindTexts texts[] = {{.SaveTitle = "Save Card",
-                                           .SavedTitle = "Save card",
-                                           .Saved = "The card is saved to the filename:",
-                                           .ImagesTitle = "Create cards",
-                                           .OneImage = " card is created.",
-                                           .Images = " cards are created.",
-                                           .SheetsTitle = "Create cardsheets",
-                                           .OneSheet = " cardsheet is created.",
-                                           .Sheets = " cardsheets are created."},
-                                          {.SaveTitle = "Save Large Card",
-                                           .SavedTitle = "Save large card",
-                                           .Saved = "The large card is saved to the filename:",
-                                           .ImagesTitle = "Create large cards",
-                                           .OneImage = " large card is created.",
-                                           .Images = " large cards are created.",
-                                           .SheetsTitle = "Create large cardsheets",
-                                           .OneSheet = " large cardsheet is created.",
-                                           .Sheets = " large cardsheets are created."},
-                                          {.SaveTitle = "Save Character Card",
-                                           .SavedTitle = "Save character card",
-                                           .Saved = "The character card is saved to the filename:",
-                                           .ImagesTitle = "Create large cards",
-                                           .OneImage = " character card is created.",
-                                           .Images = " characters cards are created.",
-                                           .SheetsTitle = "Create large cardsheets",
-                                           .OneSheet = " character cardsheet is created.",
-                                           .Sheets = " character cardsheets are created."},
-                                          {.SaveTitle = "Save New Card Back",
-                                           .SavedTitle = "Save card",
-                                           .Saved = "The card is saved to the filename:"}};
-    return texts[static_cast<std::size_t>(kind)];
+    static constexpr KindWords words[] = {{"Save Card", "card", "cards"},
+                                          {"Save Large Card", "large card", "large cards"},
+                                          {"Save Character Card", "character card", "characters cards"},
+                                          {"Save New Card Back", "card", nullptr}};
+    return words[static_cast<std::size_t>(kind)];
 }
 
-struct HtmlTexts {
-    const char* Missing;
-    const char* OnePage;
-    const char* Pages;
-};
-
-const HtmlTexts& TextsOf(HtmlPages pages)
+/// Shows "1 card is created." or "2 cards are created."
+void ShowCreated(UserPort& user, const QString& title, int count, const QString& one, const QString& several)
 {
-    static constexpr char missingCharacters[] =
-        "Some character cards are missing their filenames. Please save all "
-        "character cards before creating the HTML sheets.";
-    static constexpr HtmlTexts texts[] = {
-        {.Missing = "Some cards are missing their filenames. Please save all cards before creating the HTML "
-                    "sheets.",
-         .OnePage = "1 HTML sheet is created.",
-         .Pages = " HTML sheets are created."},
-        {.Missing =
-             "Some large cards are missing their filenames. Please save all large cards before creating "
-             "the HTML sheets.",
-         .OnePage = "1 large HTML sheet is created.",
-         .Pages = " large HTML sheets are created."},
-        {.Missing = missingCharacters,
-         .OnePage = "1 character HTML sheet is created.",
-         .Pages = " character HTML sheets are created."},
-        {.Missing = missingCharacters,
-         .OnePage = "1 character playing piece HTML sheet is created.",
-         .Pages = " character playing piece HTML sheets are created."}};
-    return texts[static_cast<std::size_t>(pages)];
+    const QString created = count == 1
+                                ? QStringLiteral("1 %1 is created.").arg(one)
+                                : QStringLiteral("%1 %2 are created.").arg(QString::number(count), several);
+    ShowBox(user, BoxStyle::Information, title, created);
 }
 
-/// "1 card is created.", "2 cards are created."
-void ShowCreated(UserPort& user, const char* title, int count, const char* one, const char* others)
+/// Kept: titles for characters are those of large cards.
+QString CreateTitle(CardKind kind, const char* what)
 {
-    ShowBox(user, BoxStyle::Information, title,
-            QString::number(count) + QLatin1String(count == 1 ? one : others));
+    return QStringLiteral("Create %1%2").arg(kind == CardKind::Standard ? "" : "large ", what);
 }
 
 FileDialogRequest ImageDialog(const char* dialogTitle, const QString& title, const QString& extension)
@@ -103,7 +47,6 @@ FileDialogRequest ImageDialog(const char* dialogTitle, const QString& title, con
     return {.Title = QString::fromLatin1(dialogTitle),
             .FileName = title + QLatin1Char('.') + extension,
             .Filter = QStringLiteral("All files(*.*)|*.*|Picture (*.%1)|*.%1").arg(extension),
-            .FilterIndex = 2,
             .DefaultExtension = extension};
 }
 
@@ -145,14 +88,14 @@ void ShownRun::ShowNotWritten(const char* title, const QString& reason)
 void SaveImageAs(Workshop& workshop, ShownRun& run, CardKind kind, int16 index)
 {
     const CardSet& set = workshop.Set;
-    const KindTexts& texts = TextsOf(kind);
+    const KindWords& words = WordsOf(kind);
     const auto chosen = run.User.AskSaveFile(
-        ImageDialog(texts.SaveTitle, NameOf(set, kind, index), ImageExtension(set.Header.SaveFormat)));
+        ImageDialog(words.SaveTitle, NameOf(set, kind, index), ImageExtension(set.Header.SaveFormat)));
     if (!chosen)
         return;
     if (const auto path = SaveImage(workshop, run, kind, index, {.Chosen = *chosen}))
-        ShowBox(run.User, BoxStyle::Information, texts.SavedTitle,
-                QLatin1String(texts.Saved) + QStringLiteral("\r\n\r\n") + path->Full());
+        ShowBox(run.User, BoxStyle::Information, QStringLiteral("Save %1").arg(words.One),
+                QStringLiteral("The %1 is saved to the filename:\r\n\r\n").arg(words.One) + path->Full());
 }
 
 void CreateImages(Workshop& workshop, ShownRun& run, CardKind kind)
@@ -161,8 +104,8 @@ void CreateImages(Workshop& workshop, ShownRun& run, CardKind kind)
         const HourglassScope hourglass(run.User);
         SaveImages(workshop, run, kind);
     }
-    const KindTexts& texts = TextsOf(kind);
-    ShowCreated(run.User, texts.ImagesTitle, CountOf(workshop.Set, kind), texts.OneImage, texts.Images);
+    const KindWords& words = WordsOf(kind);
+    ShowCreated(run.User, CreateTitle(kind, "cards"), CountOf(workshop.Set, kind), words.One, words.Several);
 }
 
 void CreateSheets(Workshop& workshop, ShownRun& run, CardKind kind, std::optional<SheetGrid> grid)
@@ -172,21 +115,31 @@ void CreateSheets(Workshop& workshop, ShownRun& run, CardKind kind, std::optiona
         const HourglassScope hourglass(run.User);
         number = SaveSheets(workshop, run, kind, *grid);
     }
-    const KindTexts& texts = TextsOf(kind);
-    ShowCreated(run.User, texts.SheetsTitle, number, texts.OneSheet, texts.Sheets);
+    const QString sheet = WordsOf(kind).One + QStringLiteral("sheet");
+    ShowCreated(run.User, CreateTitle(kind, "cardsheets"), number, sheet, sheet + QLatin1Char('s'));
 }
 
 bool CreateHtml(const CardSet& set, ShownRun& run, HtmlPages pages)
 {
-    const HtmlTexts& texts = TextsOf(pages);
+    struct Words {
+        const char* Cards;
+        const char* Sheet;
+    };
+    static constexpr Words words[] = {{"cards", "HTML sheet"},
+                                      {"large cards", "large HTML sheet"},
+                                      {"character cards", "character HTML sheet"},
+                                      {"character cards", "character playing piece HTML sheet"}};
+    const Words& shown = words[static_cast<std::size_t>(pages)];
     const std::optional<int> count = WriteHtml(set, run, pages);
     if (!count) {
-        ShowBox(run.User, BoxStyle::Exclamation, "Missing information", QString::fromLatin1(texts.Missing));
+        ShowBox(run.User, BoxStyle::Exclamation, "Missing information",
+                QStringLiteral("Some %1 are missing their filenames. Please save all %1 before creating the "
+                               "HTML sheets.")
+                    .arg(shown.Cards));
         return false;
     }
-    ShowBox(run.User, BoxStyle::Information, "Save HTML",
-            *count == 1 ? QString::fromLatin1(texts.OnePage)
-                        : QString::number(*count) + QLatin1String(texts.Pages));
+    const QString sheet = shown.Sheet;
+    ShowCreated(run.User, "Save HTML", *count, sheet, sheet + QLatin1Char('s'));
     return true;
 }
 

@@ -2,7 +2,6 @@
 
 #include "commands/SetCommands.h"
 
-#include "commands/Messages.h"
 #include "files/modFile.h"
 
 namespace deckforge {
@@ -14,7 +13,6 @@ FileDialogRequest SetFileDialog(const char* title, const QString& fileName)
     return {.Title = QString::fromLatin1(title),
             .FileName = fileName,
             .Filter = QStringLiteral("All files(*.*)|*.*|Deck Foundry (*.dkf)|*.dkf"),
-            .FilterIndex = 2,
             .DefaultExtension = QStringLiteral("dkf")};
 }
 
@@ -48,23 +46,6 @@ void ShowSafetyCopies(UserPort& user, const QStringList& copies)
                            "\r\n\r\nIf anything is missing here, open that file and save it "
                            "under this name. Delete it when all is well.")
                 .arg(copies.join(QLatin1String("\r\n"))));
-}
-
-/// The names of an element in message boxes.
-/// Kept: a deleted large card is called a card.
-struct Words {
-    QLatin1String Deleted;
-    QLatin1String Copied;
-};
-
-const Words& WordsOf(CardKind kind)
-{
-    static constexpr Words words[] = {
-        {.Deleted = QLatin1String("card"), .Copied = QLatin1String("card")},
-        {.Deleted = QLatin1String("card"), .Copied = QLatin1String("large card")},
-        {.Deleted = QLatin1String("character"), .Copied = QLatin1String("character card")},
-        {.Deleted = QLatin1String("card back"), .Copied = QLatin1String("card back")}};
-    return words[static_cast<std::size_t>(kind)];
 }
 
 /// Runs `write` and shows the failure, or the message `written`.
@@ -147,7 +128,6 @@ void ExportText(const CardSet& set, UserPort& user)
         user.AskSaveFile({.Title = QStringLiteral("Save set as text"),
                           .FileName = set.Header.SetName + QStringLiteral(".txt"),
                           .Filter = QStringLiteral("All files(*.*)|*.*|Text file (*.txt)|*.txt"),
-                          .FilterIndex = 2,
                           .DefaultExtension = QStringLiteral("txt")});
     if (path)
         WriteListing(set, *path, user);
@@ -168,9 +148,11 @@ bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name)
         }
         return false;
     }
+    // Kept: a large card is called a card here.
+    static constexpr const char* names[] = {"card", "card", "character", "card back"};
     const Answer answer =
         user.ShowMessage({.Text = QStringLiteral("Are you sure you want to delete the %1 \"%2\"?")
-                                      .arg(WordsOf(kind).Deleted, name),
+                                      .arg(names[static_cast<std::size_t>(kind)], name),
                           .Title = QStringLiteral("Confirm delete"),
                           .Style = BoxStyle::Question,
                           .Buttons = BoxButtons::YesNo});
@@ -179,8 +161,9 @@ bool MayDelete(UserPort& user, CardKind kind, int16 count, const QString& name)
 
 void ShowCopied(UserPort& user, CardKind kind)
 {
+    static constexpr const char* names[] = {"card", "large card", "character card", "card back"};
     ShowBox(user, BoxStyle::Information, "Copy",
-            QStringLiteral("The %1 is copied.").arg(WordsOf(kind).Copied));
+            QStringLiteral("The %1 is copied.").arg(names[static_cast<std::size_t>(kind)]));
 }
 
 } // namespace deckforge

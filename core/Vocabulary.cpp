@@ -39,69 +39,59 @@ constexpr std::array<TypeRow, BuiltInTypeCount> TypeRows = {{
 }};
 
 // The art of row r is the picture with number r - 1.
-constexpr std::array<const char*, BuiltInBackCount> BackNames = {"Adventure",
-                                                                 "City",
-                                                                 "Dungeon 1",
-                                                                 "Dungeon 2",
-                                                                 "Loan",
-                                                                 "Purchase",
-                                                                 "Spell",
-                                                                 "Varnhelm",
-                                                                 "Timescape",
-                                                                 "Purchase Timescape",
-                                                                 "Warrant",
-                                                                 "Faeries",
-                                                                 "Island",
-                                                                 "Mystic Brew",
-                                                                 "Contract",
-                                                                 "Diablo II",
-                                                                 "Diablo II Artifact",
-                                                                 "Cursed Swamp",
-                                                                 "Transformations",
-                                                                 "Space Hulk",
-                                                                 "Realm Of Chaos",
-                                                                 "Trolls",
-                                                                 "Trolls Treasure",
-                                                                 "Sea Realm",
-                                                                 "Desert",
-                                                                 "Warlock's Maze",
-                                                                 "Blank"};
+constexpr char BackNames[] =
+    "Adventure|City|Dungeon 1|Dungeon 2|Loan|Purchase|Spell|Varnhelm|Timescape|Purchase Timescape|"
+    "Warrant|Faeries|Island|Mystic Brew|Contract|Diablo II|Diablo II Artifact|Cursed Swamp|"
+    "Transformations|Space Hulk|Realm Of Chaos|Trolls|Trolls Treasure|Sea Realm|Desert|"
+    "Warlock's Maze|Blank";
 
 constexpr int TypeOfNewCards = 2;
 
-} // namespace
+/// The places of a region; an area is "REGION-PLACE".
+struct Region {
+    const char* Name;
+    const char* Places;
+};
 
-CardType GetCardType(int row)
-{
-    if (row < 1 || row > BuiltInTypeCount)
-        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-    const TypeRow& entry = TypeRows[static_cast<std::size_t>(row) - 1];
-    return {.Name = entry.Name,
-            .SubName = entry.SubName,
-            .ReversedName = entry.ReversedName,
-            .ReversedSubName = entry.ReversedSubName,
-            .Number = entry.Number,
-            .BuiltIn = true};
-}
+// Kept: three places of the city have a typographic apostrophe.
+constexpr Region Regions[] = {
+    {"MAIN",
+     "VILLAGE|FIELDS|GRAVEYARD|WOODS|SENTINEL|HILLS|CHAPEL|CRAGS|PLAINS|CITY|TAVERN|RUINS|FOREST|"
+     "PORTAL OF POWER|BLACK KNIGHT|HIDDEN VALLEY|CURSED GLADE|RUNES|CHASM|WARLOCK'S CAVE|DESERT|OASIS|"
+     "TEMPLE|CASTLE|PLAIN OF PERIL|MINES|CRYPT|VAMPIRE'S TOWER|DICE WITH DEATH|PITS|WEREWOLF DEN|"
+     "VALLEY OF FIRE|CROWN OF COMMAND"},
+    {"CITY", "HIGH TEMPLE|HIGH TEMPLE SQUARE|APOTHECARY|THE BANK|THE WHARF|THE PENTAGRAM|MAGIC EMPORIUM|"
+             "FLASK STREET|GOLD LANE|THE 6 FATES INN|NORTH SIDE ALLEY|SOUTH SIDE ALLEY|ENCHANTRESS|DONJON|"
+             "ROYAL CASTLE|IMPERIAL AVENUE|TOWN SQUARE|SPEAKERS’ CORNER|STREET OF TEMPLES|STABLES|"
+             "ANARCHISTS GUILD|GUILDS’ STREET|CITY GATE|DOCTOR’S SURGERY|DROPPINGS LANE|ARMOURY"},
+    {"DUNGEON", "TUNNEL|VAULT|CORRIDOR|CELL|LIBRARY|KITCHEN|TREASURE CHAMBER|CAVERN|CHAMBER OF DARKNESS|"
+                "TORTURE CHAMBER|GUARD ROOM|ENTRANCE"},
+    {"TIMESCAPE",
+     "FOURTH DIMENSION|WARP GATE|WARP DEMON|LIMBO|NEGATIVE ZONE|TIME LOOP|ASTRAL PLANE|VORTEX|NEXUS|"
+     "RAD ZONE|PLANET-FALL|REALM OF CHAOS|DEATH WORLD|THE VOID|SPACE FORTRESS|SENTINEL OUTPOST"},
+};
+
+} // namespace
 
 void InitCardTypes(CardSet& set)
 {
     set.CardTypes.Clear();
-    set.CardTypes.Resize(BuiltInTypeCount);
-    for (int row = 1; row <= BuiltInTypeCount; ++row)
-        set.CardTypes[row] = GetCardType(row);
-
+    for (const TypeRow& row : TypeRows) {
+        set.CardTypes.Add() = {.Name = row.Name,
+                               .SubName = row.SubName,
+                               .ReversedName = row.ReversedName,
+                               .ReversedSubName = row.ReversedSubName,
+                               .Number = row.Number,
+                               .BuiltIn = true};
+    }
     ChooseDefaultType(set, TypeOfNewCards);
 }
 
 void InitCardBacks(CardSet& set)
 {
     set.CardBacks.Clear();
-    set.CardBacks.Resize(BuiltInBackCount);
-    for (int row = 1; row <= BuiltInBackCount; ++row) {
-        set.CardBacks[row] = {
-            .Name = BackNames[static_cast<std::size_t>(row) - 1], .Picture = {}, .BuiltIn = true};
-    }
+    for (const QString& name : QString::fromLatin1(BackNames).split(QLatin1Char('|')))
+        set.CardBacks.Add() = {.Name = name, .Picture = {}, .BuiltIn = true};
     set.LastCardBack = 1;
 }
 
@@ -120,6 +110,19 @@ const QStringList& CharacterBackNames()
 const QStringList& Alignments()
 {
     static const QStringList list = {"AS BEFORE", "GOOD", "EVIL", "NEUTRAL"};
+    return list;
+}
+
+const QStringList& StartAreas()
+{
+    static const QStringList list = [] {
+        QStringList areas;
+        for (const Region& region : Regions) {
+            for (const QString& place : QString(region.Places).split(QLatin1Char('|')))
+                areas += QLatin1String(region.Name) + QLatin1Char('-') + place;
+        }
+        return areas;
+    }();
     return list;
 }
 

@@ -13,9 +13,6 @@ namespace deckforge {
 inline constexpr int16 BuiltInTypeCount = 15;
 inline constexpr int16 BuiltInBackCount = 27;
 
-/// A built-in card type, from 1 to BuiltInTypeCount. Error 9 for any other row.
-[[nodiscard]] CardType GetCardType(int row);
-
 /// Resets the table to the built-in types. New cards take row 2.
 void InitCardTypes(CardSet& set);
 

@@ -55,12 +55,8 @@ void InitSet(CardSet& set)
     set.Characters.Current = 0;
 }
 
-void InitCard(CardSet& set, int16 n)
+void InitElement(const CardSet& set, Card& card, int16 n)
 {
-    Card& card = set.Cards[n];
-    const int16 typeIndex = card.TypeIndex; // Kept: not reset
-    card = {};
-    card.TypeIndex = typeIndex;
     card.Title = QStringLiteral("CARD %1").arg(n);
     card.Copies = 1;
     card.Type = set.LastType;
@@ -76,10 +72,8 @@ void InitCard(CardSet& set, int16 n)
     card.Color = White;
 }
 
-void InitLargeCard(CardSet& set, int16 n)
+void InitElement(const CardSet& /*set*/, LargeCard& card, int16 n)
 {
-    LargeCard& card = set.LargeCards[n];
-    card = {};
     card.Title = QStringLiteral("LARGE CARD %1").arg(n);
     card.Copies = 1;
     card.ShowPicture = true;
@@ -88,10 +82,8 @@ void InitLargeCard(CardSet& set, int16 n)
     card.Color = White;
 }
 
-void InitCharacter(CardSet& set, int16 n)
+void InitElement(const CardSet& /*set*/, Character& character, int16 n)
 {
-    Character& character = set.Characters[n];
-    character = {};
     character.Name = QStringLiteral("CHARACTER %1").arg(n);
     character.StartArea = QStringLiteral("VILLAGE");
     character.Alignment = QStringLiteral("NEUTRAL");
@@ -103,10 +95,8 @@ void InitCharacter(CardSet& set, int16 n)
     character.ShowPicture = true;
 }
 
-void InitNewCardBack(CardSet& set, int16 n)
+void InitElement(const CardSet& set, NewCardBack& back, int16 /*n*/)
 {
-    NewCardBack& back = set.NewCardBacks[n];
-    back = {};
     back.Name = QStringLiteral("Back 1"); // Kept: every new back has this name
     back.BackText = set.Header.SetName;
     back.Font = {.Name = QStringLiteral("Arial"), .Size = 18, .Bold = true, .Italic = false, .Color = White};

@@ -18,32 +18,19 @@ void SetDefaultFont(SetHeader& header);
 /// Kept: user-designed backs stay in the set.
 void InitSet(CardSet& set);
 
-// Resets element n to default values; its name contains n. Error 9 if there is no element n.
-void InitCard(CardSet& set, int16 n);
-void InitLargeCard(CardSet& set, int16 n);
-void InitCharacter(CardSet& set, int16 n);
-void InitNewCardBack(CardSet& set, int16 n);
-
-template <class Record>
-void InitElement(CardSet& set, int16 n)
-{
-    if constexpr (std::is_same_v<Record, Card>)
-        InitCard(set, n);
-    else if constexpr (std::is_same_v<Record, LargeCard>)
-        InitLargeCard(set, n);
-    else if constexpr (std::is_same_v<Record, Character>)
-        InitCharacter(set, n);
-    else
-        InitNewCardBack(set, n);
-}
+// Give a new element the default values of number n, which its name contains.
+void InitElement(const CardSet& set, Card& card, int16 n);
+void InitElement(const CardSet& set, LargeCard& card, int16 n);
+void InitElement(const CardSet& set, Character& character, int16 n);
+void InitElement(const CardSet& set, NewCardBack& back, int16 n);
 
 /// Adds an element at the end and makes it the current one. Error 6 past 32,767, with the set unchanged.
 template <class Record>
 void AddElement(CardSet& set)
 {
     CardList<Record>& list = ListOf<Record>(set);
-    list.Add();
-    InitElement<Record>(set, list.Count());
+    Record& added = list.Add();
+    InitElement(set, added, list.Count());
     list.Current = list.Count();
 }
 

@@ -14,7 +14,6 @@ namespace deckforge {
             .FileName = {},
             .Filter = QStringLiteral("All files(*.*)|*.*|Picture files (*.bmp;*.jpg;*.gif;*.wmf)"
                                      "|*.bmp;*.jpg;*.gif;*.wmf"),
-            .FilterIndex = 2,
             .DefaultExtension = QStringLiteral("bmp")};
 }
 

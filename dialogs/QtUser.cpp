@@ -34,32 +34,18 @@ namespace {
 
 QMessageBox::Icon IconOf(BoxStyle style)
 {
-    switch (style) {
-    case BoxStyle::Information:
-        return QMessageBox::Information;
-    case BoxStyle::Question:
-        return QMessageBox::Question;
-    case BoxStyle::Exclamation:
-        return QMessageBox::Warning;
-    case BoxStyle::Critical:
-        return QMessageBox::Critical;
-    case BoxStyle::Plain:
-        break;
-    }
-    return QMessageBox::NoIcon;
+    static constexpr QMessageBox::Icon icons[] = {QMessageBox::NoIcon, QMessageBox::Information,
+                                                  QMessageBox::Question, QMessageBox::Warning,
+                                                  QMessageBox::Critical};
+    return icons[static_cast<std::size_t>(style)];
 }
 
 QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons)
 {
-    switch (buttons) {
-    case BoxButtons::YesNo:
-        return QMessageBox::Yes | QMessageBox::No;
-    case BoxButtons::YesNoCancel:
-        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    case BoxButtons::Ok:
-        break;
-    }
-    return QMessageBox::Ok;
+    if (buttons == BoxButtons::Ok)
+        return QMessageBox::Ok;
+    const QMessageBox::StandardButtons answers = QMessageBox::Yes | QMessageBox::No;
+    return buttons == BoxButtons::YesNo ? answers : answers | QMessageBox::Cancel;
 }
 
 Answer AnswerOf(int button)
@@ -69,8 +55,6 @@ Answer AnswerOf(int button)
         return Answer::Yes;
     case QMessageBox::No:
         return Answer::No;
-    case QMessageBox::Cancel:
-        return Answer::Cancel;
     case QMessageBox::Ok:
         return Answer::Ok;
     default:
@@ -94,6 +78,21 @@ protected:
 
     void closeEvent(QCloseEvent* /*event*/) override { done(QMessageBox::NoButton); }
 };
+
+/// Converts "All files(*.*)|*.*|Pictures (*.bmp;*.jpg)|*.bmp;*.jpg" to the name filters of QFileDialog. "*.*"
+/// becomes "*", which also matches files without an extension.
+QStringList NameFilters(const QString& filter)
+{
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString description = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
+        QStringList patterns = parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts);
+        patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+        filters += QStringLiteral("%1 (%2)").arg(description, patterns.join(QLatin1Char(' ')));
+    }
+    return filters;
+}
 
 /// A size in characters of the dialog's font.
 QSize Letters(const QWidget& dialog, int across, int down)
@@ -154,19 +153,6 @@ int RunBox(const MessageBoxRequest& request, QMessageBox::StandardButton default
 }
 
 } // namespace
-
-QStringList NameFilters(const QString& filter)
-{
-    const QStringList parts = filter.split(QLatin1Char('|'));
-    QStringList filters;
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        const QString description = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
-        QStringList patterns = parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts);
-        patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
-        filters += QStringLiteral("%1 (%2)").arg(description, patterns.join(QLatin1Char(' ')));
-    }
-    return filters;
-}
 
 QString ReplaceQuestion(const QString& path, const FileDialogRequest& request)
 {
@@ -314,7 +300,7 @@ void QtUser::Prepare(QFileDialog& dialog, const FileDialogRequest& request) cons
     if (!request.Filter.isEmpty()) {
         const QStringList filters = NameFilters(request.Filter);
         dialog.setNameFilters(filters);
-        dialog.selectNameFilter(filters.value(request.FilterIndex - 1));
+        dialog.selectNameFilter(filters.value(1));
     }
     dialog.resize(Letters(dialog, 120, 30).expandedTo(dialog.sizeHint()));
     WidenColumns(dialog);

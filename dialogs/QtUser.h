@@ -51,8 +51,4 @@ private:
 /// The question before a save dialog replaces the existing file at the path.
 [[nodiscard]] QString ReplaceQuestion(const QString& path, const FileDialogRequest& request);
 
-/// Converts "All files(*.*)|*.*|Pictures (*.bmp;*.jpg)|*.bmp;*.jpg" to the name filters of QFileDialog. "*.*"
-/// becomes "*", which also matches files without an extension.
-[[nodiscard]] QStringList NameFilters(const QString& filter);
-
 } // namespace deckforge

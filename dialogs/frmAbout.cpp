@@ -31,7 +31,7 @@ public:
                                        .arg(VersionMajor)
                                        .arg(VersionMinor)
                                        .arg(VersionRevision));
-        m_form.lblContact->setText(ContactAddress());
+        m_form.lblContact->setText(QStringLiteral("contact@") + QUrl(QLatin1String(WebAddress)).host());
         // Nothing to report if there is no browser.
         connect(m_form.lblURL, &QLabel::linkActivated, this,
                 [](const QString& link) { QDesktopServices::openUrl(QUrl(link)); });
@@ -50,11 +50,6 @@ void ShowAbout(QWidget* window)
 {
     AboutDialog dialog(window);
     dialog.exec();
-}
-
-QString ContactAddress()
-{
-    return QStringLiteral("contact@") + QUrl(QString::fromLatin1(WebAddress)).host();
 }
 
 } // namespace deckforge

@@ -2,16 +2,11 @@
 
 #pragma once
 
-#include <QString>
-
 class QWidget;
 
 namespace deckforge {
 
 /// Shows the program, its version and its authors. The link opens in the web browser.
 void ShowAbout(QWidget* window);
-
-/// The authors' e-mail address, at the host of their web site.
-[[nodiscard]] QString ContactAddress();
 
 } // namespace deckforge

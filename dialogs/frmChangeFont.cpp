@@ -10,7 +10,6 @@
 #include "core/modInfo.h"
 #include "dialogs/CardPreview.h"
 #include "dialogs/Choices.h"
-#include "dialogs/FontOptions.h"
 #include "dialogs/Handlers.h"
 #include "dialogs/TabKeys.h"
 #include "platform/Version.h"
@@ -19,11 +18,49 @@
 #include <QButtonGroup>
 #include <QMouseEvent>
 #include <QScreen>
+#include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace deckforge {
 
 namespace {
+
+/// A font that the dialog offers for a sample card.
+struct FontOption {
+    const char* Caption;
+    FontSpec SetHeader::*Font;
+};
+
+/// A sample card with its fonts, in the order of their option buttons.
+struct FontSample {
+    const char* Caption; ///< of its tab
+    std::vector<FontOption> Options;
+};
+
+constexpr int PlayingPieceSample = 3;
+
+const std::array<FontSample, 4>& FontSamples()
+{
+    static const std::array<FontSample, 4> samples = {{
+        {"Card",
+         {{"Card &Type", &SetHeader::FontType},
+          {"Card &Name", &SetHeader::FontTitle},
+          {"&Bold text", &SetHeader::FontBold},
+          {"&Information text", &SetHeader::FontInformation},
+          {"&Autonumber", &SetHeader::FontAutonumber}}},
+        {"Large Card",
+         {{"Card &Title", &SetHeader::FontTitleLarge},
+          {"&Information text", &SetHeader::FontInformationLarge}}},
+        {"Character",
+         {{"Character &Name", &SetHeader::FontCharacter},
+          {"&Information", &SetHeader::FontAlignment},
+          {"Special &title", &SetHeader::FontSpecialTitle},
+          {"&Special abilities", &SetHeader::FontSpecial}}},
+        {"Playing Piece", {{"Character &Name", &SetHeader::FontPlayingPiece}}},
+    }};
+    return samples;
+}
 
 constexpr char Information[] = "Gloamlink - Varnhelm is the website for you when you would like more "
                                "information about this Varnhelm Deck Forge.\r\n"
@@ -166,11 +203,17 @@ private:
         m_preview->update();
     }
 
+    /// Kept: the checked option may belong to another sample. The playing piece then has no font to change,
+    /// and all other samples change the font of the autonumber.
     void ChangeFont()
     {
-        const auto font = FontToChange(m_form.tbCard->currentIndex(), m_options.checkedId());
-        if (font)
-            ChooseFont(m_user, m_header.*font);
+        const int sample = m_form.tbCard->currentIndex();
+        const auto& options = FontSamples().at(static_cast<std::size_t>(sample)).Options;
+        const auto option = static_cast<std::size_t>(m_options.checkedId());
+        if (option < options.size())
+            ChooseFont(m_user, m_header.*options[option].Font);
+        else if (sample != PlayingPieceSample)
+            ChooseFont(m_user, m_header.FontAutonumber);
         SetDemoFont();
     }
 

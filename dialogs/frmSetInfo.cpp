@@ -146,9 +146,7 @@ private:
 
     void ShowMissing(const char* text)
     {
-        m_user.ShowMessage({.Text = QString::fromLatin1(text),
-                            .Title = QStringLiteral("Missing information"),
-                            .Style = BoxStyle::Exclamation});
+        ShowBox(m_user, BoxStyle::Exclamation, "Missing information", QString::fromLatin1(text));
     }
 
     static void ShowPath(QLineEdit& box, const QString& path)

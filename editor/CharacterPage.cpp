@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "editor/Pages.h"
+#include "editor/Page.h"
 
 #include "commands/OutputCommands.h"
 #include "compose/CharacterCard.h"

@@ -4,6 +4,7 @@
 
 #include "core/CardKind.h"
 
+#include <memory>
 #include <vector>
 
 class QString;
@@ -12,6 +13,7 @@ class QWidget;
 namespace deckforge {
 
 struct Box;
+struct EditorParts;
 
 /// Interface of one tab to the window and its commands.
 class Page {
@@ -56,5 +58,10 @@ public:
     /// Takes a picture dropped on a box of the preview; false if the box does not belong to the page.
     virtual bool TakeDrop(const Box& box, const QString& path) = 0;
 };
+
+std::unique_ptr<Page> MakeStandardPage(EditorParts& parts, QWidget* parent);
+std::unique_ptr<Page> MakeLargePage(EditorParts& parts, QWidget* parent);
+std::unique_ptr<Page> MakeCharacterPage(EditorParts& parts, QWidget* parent);
+std::unique_ptr<Page> MakeBackPage(EditorParts& parts, QWidget* parent);
 
 } // namespace deckforge

@@ -76,7 +76,7 @@ protected:
 
     void AddText(QWidget* control, QString Record::*field, TextOptions options = {})
     {
-        m_texts.emplace_back(control, field);
+        m_fills.emplace_back([control, field](const Record& record) { SetTextOf(*control, record.*field); });
         const auto changed = [this, control, field, options = std::move(options)] {
             if (m_isFilling && options.QuietOnFill)
                 return;
@@ -97,7 +97,7 @@ protected:
 
     void AddCheck(QCheckBox* control, bool Record::*field, Handler changed = DoNothing)
     {
-        m_checks.emplace_back(control, field);
+        m_fills.emplace_back([control, field](const Record& record) { control->setChecked(record.*field); });
         On(control, &QCheckBox::clicked, [this, control, field, changed = std::move(changed)] {
             Edit(control, field, control->isChecked());
             changed();
@@ -107,7 +107,7 @@ protected:
 
     void AddCount(QSpinBox* control, int16 Record::*field)
     {
-        m_counts.emplace_back(control, field);
+        m_fills.emplace_back([control, field](const Record& record) { control->setValue(record.*field); });
         On(control, &QSpinBox::valueChanged, [this, control, field](int value) {
             if (!m_isFilling)
                 Edit(control, field, static_cast<int16>(value));
@@ -116,6 +116,8 @@ protected:
 
     void AddPicture(PictureControls controls, QString Record::*field, PictureOptions options)
     {
+        m_fills.emplace_back(
+            [controls, field](const Record& record) { ShowPath(*controls.PathBox, record.*field); });
         const PictureRow& row = m_pictures.emplace_back(PictureRow{controls, field, std::move(options)});
         On(controls.Choose, &QAbstractButton::clicked, [this, &row] {
             if (const auto path = AskPicture(row.Options.Title, row.Controls.Choose))
@@ -126,7 +128,8 @@ protected:
 
     void AddColour(ColourControls controls, ColourField field, ColourOptions options)
     {
-        m_colours.emplace_back(controls.Swatch, field);
+        m_fills.emplace_back(
+            [controls, field](Record record) { controls.Swatch->SetColour(QColor(ToRgb(field(record)))); });
         const auto choose = [this, controls, field, options = std::move(options)] {
             Record record = Current();
             if (const auto colour =
@@ -164,17 +167,8 @@ protected:
     void FillFields()
     {
         const QScopedValueRollback filling(m_isFilling, true);
-        Record record = Current(); // a copy, since ColourField takes a non-const record
-        for (const auto& [control, field] : m_texts)
-            SetTextOf(*control, record.*field);
-        for (const auto& [control, field] : m_checks)
-            control->setChecked(record.*field);
-        for (const auto& [control, field] : m_counts)
-            control->setValue(record.*field);
-        for (const PictureRow& row : m_pictures)
-            ShowPath(*row.Controls.PathBox, record.*row.Field);
-        for (const auto& [swatch, field] : m_colours)
-            swatch->SetColour(QColor(ToRgb(field(record))));
+        for (const auto& fill : m_fills)
+            fill(Current());
     }
 
     [[nodiscard]] const Record& Current() const { return RecordIn(m_parts.Document.Set()); }
@@ -237,9 +231,6 @@ private:
             return ListOf<Record>(set)[ListOf<Record>(set).Current];
     }
 
-    template <class Control, class Value>
-    using Fields = std::vector<std::pair<Control*, Value Record::*>>;
-
     struct PictureRow {
         PictureControls Controls;
         QString Record::*Field;
@@ -287,12 +278,9 @@ private:
         m_parts.Preview.update();
     }
 
-    Fields<QWidget, QString> m_texts;
-    Fields<QCheckBox, bool> m_checks;
-    Fields<QSpinBox, int16> m_counts;
-    std::deque<PictureRow> m_pictures; // a deque, since handlers refer to its elements
-    std::vector<std::pair<ColourSwatch*, ColourField>> m_colours;
-    QMap<const QAbstractButton*, QString> m_folders; ///< last folder of each button
+    std::vector<std::function<void(const Record&)>> m_fills; ///< show the record in each control
+    std::deque<PictureRow> m_pictures;                       // a deque, since handlers refer to its elements
+    QMap<const QAbstractButton*, QString> m_folders;         ///< last folder of each button
 };
 
 } // namespace deckforge

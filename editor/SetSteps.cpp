@@ -2,7 +2,8 @@
 
 #include "editor/SetSteps.h"
 
-#include "files/modFile.h"
+#include "files/SetFields.h"
+#include "files/SetWriter.h"
 
 #include <algorithm>
 #include <utility>
@@ -119,12 +120,13 @@ std::optional<CardKind> SetStep::Kind() const
 
 void SetStep::CheckSavable() const
 {
+    SetWriter out(Unwritable::Fail);
     if (!(m_before.Header == m_after.Header))
-        deckforge::CheckSavable(m_after.Header);
-    deckforge::CheckSavable(m_after.NewCards);
-    ForEachRun(m_after, [](const auto& run) {
+        setFile::Fields(out, m_after.Header);
+    setFile::Fields(out, m_after.NewCards);
+    ForEachRun(m_after, [&](const auto& run) {
         for (const auto& element : run.Elements)
-            deckforge::CheckSavable(element);
+            setFile::Fields(out, element);
     });
 }
 

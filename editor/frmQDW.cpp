@@ -10,7 +10,7 @@
 #include "dialogs/TabKeys.h"
 #include "dialogs/WheelGuard.h"
 #include "editor/Commands.h"
-#include "editor/Pages.h"
+#include "editor/Page.h"
 #include "editor/PreviewController.h"
 #include "editor/SetInfoPanel.h"
 

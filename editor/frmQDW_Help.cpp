@@ -52,17 +52,14 @@ void frmQDW::mouseDoubleClickEvent(QMouseEvent* event)
 
 void frmQDW::ShowHelp()
 {
-    m_parts.User.ShowMessage({.Text = QString::fromLatin1(HelpText),
-                              .Title = QStringLiteral("Help"),
-                              .Style = BoxStyle::Information});
+    ShowBox(m_parts.User, BoxStyle::Information, "Help", QString::fromLatin1(HelpText));
 }
 
 void frmQDW::ShowVersion()
 {
     const QString version = QStringLiteral("Version %1.%2.%3");
-    m_parts.User.ShowMessage({.Text = version.arg(VersionMajor).arg(VersionMinor).arg(VersionRevision),
-                              .Title = QStringLiteral("Hello!"),
-                              .Style = BoxStyle::Information});
+    ShowBox(m_parts.User, BoxStyle::Information, "Hello!",
+            version.arg(VersionMajor).arg(VersionMinor).arg(VersionRevision));
 }
 
 /// Shows size of the window and position of the card, in twips and pixels.
@@ -73,14 +70,13 @@ void frmQDW::ShowOffsets()
     const QString text = QStringLiteral("Form height (Twip):%1, Form width (Twip):%2\r\n"
                                         "Form height:%3, Form width:%4\r\n"
                                         "Offset top:%5, Offset left:%6");
-    m_parts.User.ShowMessage({.Text = text.arg(window.height() * TwipsPerPixelY)
-                                          .arg(window.width() * TwipsPerPixelX)
-                                          .arg(window.height())
-                                          .arg(window.width())
-                                          .arg(picCard.Top)
-                                          .arg(picCard.Left),
-                              .Title = QStringLiteral("Offset info"),
-                              .Style = BoxStyle::Plain});
+    ShowBox(m_parts.User, BoxStyle::Plain, "Offset info",
+            text.arg(window.height() * TwipsPerPixelY)
+                .arg(window.width() * TwipsPerPixelX)
+                .arg(window.height())
+                .arg(window.width())
+                .arg(picCard.Top)
+                .arg(picCard.Left));
 }
 
 /// Labels, bars and the card ignore clicks, which then reach the window; they are not background.

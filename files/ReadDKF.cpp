@@ -20,40 +20,6 @@ namespace deckforge {
 
 namespace {
 
-/// Reads the fields of a section from a file of any version.
-class FieldReader {
-public:
-    FieldReader(SetReader& in, int16 version) : m_in(in), m_version(version) {}
-
-    void Text(QString& field) { field = m_in.Text(); }
-    void Text(QString& field, setFile::Since since, const QString& before = {})
-    {
-        field = Has(since) ? m_in.Text() : before;
-    }
-    void Flattened(QString& field) { field = m_in.Flattened(); }
-    void Path(QString& field) { field = m_in.Path(); }
-    void Boolean(bool& field) { field = m_in.Boolean(); }
-    void Boolean(bool& field, setFile::Since since) { field = Has(since) && m_in.Boolean(); }
-    void Integer(int16& field) { field = m_in.Int16(); }
-    void Integer(int16& field, setFile::Since since, int16 before = 0)
-    {
-        field = Has(since) ? m_in.Int16() : before;
-    }
-    void Integer(int32& field) { field = m_in.Int32(); }
-    void Integer(int32& field, setFile::Since since, int32 before)
-    {
-        field = Has(since) ? m_in.Int32() : before;
-    }
-    void Real(double& field) { field = m_in.Real(); }
-    [[nodiscard]] bool Has(setFile::Since since) const { return m_version >= since.Version; }
-
-    [[nodiscard]] int16 Count() { return m_in.Int16(); }
-
-private:
-    SetReader& m_in;
-    int16 m_version;
-};
-
 /// Before version 6 a type was one text. Takes the two parts from the table, by the card's row or its text.
 void ConvertType(const CardSet& set, TypeFinder& types, Card& card)
 {
@@ -68,57 +34,38 @@ void ConvertType(const CardSet& set, TypeFinder& types, Card& card)
 /// Reads the own rows of a table.
 /// Kept: if the file has none, the own rows of the set that was open before stay.
 template <class Record>
-void ReadOwnRows(FieldReader& in, OneBasedArray<Record>& table, int16 builtIn,
-                 void (*read)(FieldReader&, Record&))
+void ReadOwnRows(SetReader& in, OneBasedArray<Record>& table, int16 builtIn)
 {
     int16 own = in.Count();
-    if (!in.Has(setFile::Since{6}))
+    if (!in.Has({6}))
         own = CheckedAdd(own, static_cast<int16>(-builtIn)); // old files count the built-in rows, too
     if (own <= 0)
         return;
     table.Resize(CheckedAdd(builtIn, own));
     for (int row = builtIn + 1; row <= table.Count(); ++row)
-        read(in, table[row]);
+        setFile::Fields(in, table[row]);
 }
 
 /// Reads a list that was added in the given version.
 template <class Record>
-void ReadSection(FieldReader& in, setFile::Since since, OneBasedArray<Record>& records,
-                 void (*read)(FieldReader&, Record&))
+void ReadSection(SetReader& in, setFile::Since since, OneBasedArray<Record>& records)
 {
-    if (!in.Has(since)) {
-        records.Clear();
-        return;
-    }
-    records.Resize(in.Count());
+    records.Resize(in.Has(since) ? in.Count() : 0);
     for (int i = 1; i <= records.Count(); ++i)
-        read(in, records[i]);
+        setFile::Fields(in, records[i]);
 }
 
-void ReadCards(FieldReader& in, CardSet& set)
+void ReadCards(SetReader& in, CardSet& set)
 {
     set.Cards.Resize(in.Count());
     std::optional<TypeFinder> types;
-    if (!in.Has(setFile::Since{6}))
+    if (!in.Has({6}))
         types.emplace(set);
     for (int i = 1; i <= set.Cards.Count(); ++i) {
-        setFile::CardFields(in, set.Cards[i]);
+        setFile::Fields(in, set.Cards[i]);
         if (types)
             ConvertType(set, *types, set.Cards[i]);
     }
-}
-
-void ReadSet(FieldReader& in, CardSet& set)
-{
-    using namespace setFile;
-    HeaderFields(in, set.Header);
-    ReadOwnRows(in, set.CardTypes, BuiltInTypeCount, CardTypeFields);
-    ReadOwnRows(in, set.CardBacks, BuiltInBackCount, CardBackFields);
-    ReadSection(in, Since{10}, set.NewCardBacks, NewCardBackFields);
-    ReadCards(in, set);
-    ReadSection(in, Since{4}, set.LargeCards, LargeCardFields);
-    ReadSection(in, Since{6}, set.Characters, CharacterFields);
-    ClosingFields(in, set);
 }
 
 /// The 10 of "Version 10".
@@ -127,28 +74,33 @@ int16 VersionOf(QByteArrayView line)
     return ToInt16(NumberFromText(line.sliced(line.indexOf(' ') + 1)));
 }
 
-/// Reads signature and version; nothing if the file is rejected.
-std::optional<int16> ReadVersion(SetReader& in, ReadOutcome& outcome)
+/// Reads signature and version; false if the file is rejected.
+[[nodiscard]] bool ReadVersion(SetReader& in, ReadOutcome& outcome)
 {
     if (in.Line() != setFile::Signature) {
         outcome.Rejected = ReadOutcome::Rejection::NoCardSet;
-        return std::nullopt;
+        return false;
     }
     const int16 version = VersionOf(in.Line());
+    in.SetVersion(version);
     outcome.IsConverted = version < setFile::CurrentVersion;
-    if (version > setFile::CurrentVersion) {
+    if (version > setFile::CurrentVersion)
         outcome.Rejected = ReadOutcome::Rejection::NewerVersion;
-        return std::nullopt;
-    }
-    return version;
+    return version <= setFile::CurrentVersion;
 }
 
 /// Reads everything behind the version; false if the last line is not the end line.
-[[nodiscard]] bool ReadBody(SetReader& in, int16 version, CardSet& set)
+[[nodiscard]] bool ReadBody(SetReader& in, CardSet& set)
 {
     in.Line(); // the start line; its text does not matter
-    FieldReader fields(in, version);
-    ReadSet(fields, set);
+    setFile::Fields(in, set.Header);
+    ReadOwnRows(in, set.CardTypes, BuiltInTypeCount);
+    ReadOwnRows(in, set.CardBacks, BuiltInBackCount);
+    ReadSection(in, {10}, set.NewCardBacks);
+    ReadCards(in, set);
+    ReadSection(in, {4}, set.LargeCards);
+    ReadSection(in, {6}, set.Characters);
+    setFile::Fields(in, static_cast<NewCardValues&>(set));
     return in.Line() == setFile::End;
 }
 
@@ -180,14 +132,13 @@ void ReadFile(CardSet& set, const QString& path, ReadOutcome& outcome)
     SetReader in(ReadWholeFile(path, setFile::MaxBytes));
     const auto place = [&] { return path + QLatin1Char(':') + QString::number(in.LineNumber()); };
     try {
-        const std::optional<int16> version = ReadVersion(in, outcome);
-        if (!version)
+        if (!ReadVersion(in, outcome))
             return;
         const auto finish = qScopeGuard([&] {
             MakeValid(set);
             set.File = std::move(file);
         });
-        if (!ReadBody(in, *version, set))
+        if (!ReadBody(in, set))
             outcome.UnmatchedEnd = place();
     } catch (const RunTimeError& error) {
         throw error.At(place());
@@ -202,8 +153,7 @@ void CheckReadable(const QByteArray& bytes)
         SetReader in(bytes, SetReader::Texts::Skip);
         ReadOutcome outcome;
         CardSet scratch;
-        const std::optional<int16> version = ReadVersion(in, outcome);
-        if (!version || !ReadBody(in, *version, scratch))
+        if (!ReadVersion(in, outcome) || !ReadBody(in, scratch))
             throw RunTimeError(ErrorNumber::InvalidCall);
     } catch (const RunTimeError& error) {
         throw RunTimeError(error.Number(),

@@ -150,7 +150,8 @@ QString UnsavedWork::WriteTo(const QString& folder, const QByteArray& bytes, con
     auto removeUnfinished = qScopeGuard([&] { QFile::remove(unfinished); });
     OutputFile file(unfinished);
     file.Write(bytes);
-    file.CloseOnDisk();
+    file.Sync();
+    file.Close();
     QString target = m_own && m_own->Folder == folder ? PathOfOwn() : QString();
     if (target.isEmpty())
         target = FreeName(folder, toOpen);

@@ -5,24 +5,21 @@
 #include "core/CardSet.h"
 #include "files/SetFileFormat.h"
 
+#include <concepts>
+
 namespace deckforge::setFile {
 
 // The fields of each section in file order, one line of code per line of the file, for reader and writer. A
 // field that older files lack has the version that added it, and its value for older files if that is not
 // empty.
 //
-// File is the reader or writer: Text, Flattened (several lines), Path, Boolean, Integer and Real transfer a
-// field. Has returns whether the file's version includes what the given version added.
-
-struct Since {
-    int16 Version;
-};
+// File is SetReader or SetWriter, for which the record is const.
 
 /// The number of new cards in files without one.
 inline constexpr int16 DefaultLastNumber = 2;
 
-template <class File, class Record>
-void FontFields(File& file, Record& font)
+template <class File, std::derived_from<FontSpec> Record>
+void Fields(File& file, Record& font)
 {
     file.Text(font.Name);
     file.Real(font.Size);
@@ -31,8 +28,8 @@ void FontFields(File& file, Record& font)
     file.Integer(font.Color);
 }
 
-template <class File, class Record>
-void HeaderFields(File& file, Record& header)
+template <class File, std::derived_from<SetHeader> Record>
+void Fields(File& file, Record& header)
 {
     file.Text(header.SetName);
     file.Path(header.FileName);
@@ -48,11 +45,11 @@ void HeaderFields(File& file, Record& header)
     // Kept: fonts that an old file lacks are those of the set that was open before.
     const std::size_t fontCount = file.Has(Since{9}) ? Fonts.size() : FontCountBefore9;
     for (std::size_t i = 0; i < fontCount; ++i)
-        FontFields(file, header.*Fonts[i]);
+        Fields(file, header.*Fonts[i]);
 }
 
-template <class File, class Record>
-void CardTypeFields(File& file, Record& type)
+template <class File, std::derived_from<CardType> Record>
+void Fields(File& file, Record& type)
 {
     file.Text(type.Name);
     file.Text(type.SubName, Since{6});
@@ -62,16 +59,16 @@ void CardTypeFields(File& file, Record& type)
     file.Boolean(type.BuiltIn);
 }
 
-template <class File, class Record>
-void CardBackFields(File& file, Record& back)
+template <class File, std::derived_from<CardBack> Record>
+void Fields(File& file, Record& back)
 {
     file.Text(back.Name);
     file.Path(back.Picture);
     file.Boolean(back.BuiltIn);
 }
 
-template <class File, class Record>
-void NewCardBackFields(File& file, Record& back)
+template <class File, std::derived_from<NewCardBack> Record>
+void Fields(File& file, Record& back)
 {
     file.Text(back.BackText);
     file.Text(back.Filename);
@@ -81,11 +78,11 @@ void NewCardBackFields(File& file, Record& back)
     file.Integer(back.BackColor);
     file.Path(back.Picture);
     file.Boolean(back.UsePicture);
-    FontFields(file, back.Font);
+    Fields(file, back.Font);
 }
 
-template <class File, class Record>
-void CardFields(File& file, Record& card)
+template <class File, std::derived_from<Card> Record>
+void Fields(File& file, Record& card)
 {
     file.Text(card.Title);
     file.Integer(card.Copies, Since{3}, 1);
@@ -112,8 +109,8 @@ void CardFields(File& file, Record& card)
     file.Text(card.Filename);
 }
 
-template <class File, class Record>
-void LargeCardFields(File& file, Record& card)
+template <class File, std::derived_from<LargeCard> Record>
+void Fields(File& file, Record& card)
 {
     file.Text(card.Title);
     file.Integer(card.Copies);
@@ -131,8 +128,8 @@ void LargeCardFields(File& file, Record& card)
     file.Text(card.Filename);
 }
 
-template <class File, class Record>
-void CharacterFields(File& file, Record& character)
+template <class File, std::derived_from<Character> Record>
+void Fields(File& file, Record& character)
 {
     file.Text(character.Name);
     file.Flattened(character.SpecialAbilities);
@@ -157,17 +154,16 @@ void CharacterFields(File& file, Record& character)
     file.Real(character.PlayingPieceTop);
 }
 
-/// The values of new cards.
-template <class File, class Record>
-void ClosingFields(File& file, Record& set)
+template <class File, std::derived_from<NewCardValues> Record>
+void Fields(File& file, Record& values)
 {
-    file.Integer(set.LastCardBack);
-    file.Text(set.LastType);
-    file.Text(set.LastTypeReversed, Since{2}, set.LastType);
-    file.Text(set.LastSubType, Since{7});
-    file.Text(set.LastSubTypeReversed, Since{7});
-    file.Integer(set.LastNumber, Since{2}, DefaultLastNumber);
-    file.Path(set.LastBackground);
+    file.Integer(values.LastCardBack);
+    file.Text(values.LastType);
+    file.Text(values.LastTypeReversed, Since{2}, values.LastType);
+    file.Text(values.LastSubType, Since{7});
+    file.Text(values.LastSubTypeReversed, Since{7});
+    file.Integer(values.LastNumber, Since{2}, DefaultLastNumber);
+    file.Path(values.LastBackground);
 }
 
 } // namespace deckforge::setFile

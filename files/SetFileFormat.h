@@ -7,6 +7,7 @@
 
 #include <QByteArrayView>
 #include <array>
+#include <limits>
 
 namespace deckforge::setFile {
 
@@ -22,6 +23,11 @@ inline constexpr char FlattenedBreak = '|'; ///< replaces the line ends of a tex
 // is far below them.
 inline constexpr qint64 MaxBytes = qint64(1) << 30;
 inline constexpr qsizetype MaxLineBytes = qsizetype(1) << 16; ///< without the line end
+
+/// The version that added a field; by default it is in files of all versions.
+struct Since {
+    int16 Version = std::numeric_limits<int16>::min();
+};
 
 [[noreturn]] inline void ThrowLongLine()
 {

@@ -2,7 +2,7 @@
 
 #include "files/SetReader.h"
 
-#include "files/SetFileFormat.h"
+#include "files/StoredPath.h"
 #include "platform/CodePage.h"
 #include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
@@ -31,45 +31,57 @@ QByteArrayView SetReader::Line()
     return line;
 }
 
-QString SetReader::Text()
-{
-    const QByteArrayView line = Line();
-    return line.isEmpty() || m_skipsTexts ? QString() : FromCodePage(line);
-}
-
-QString SetReader::Flattened()
-{
-    QByteArrayView rest = Line();
-    if (m_skipsTexts)
-        return {};
-    QByteArray lines;
-    for (qsizetype end = 0; (end = rest.indexOf(setFile::FlattenedBreak)) >= 0; rest = rest.sliced(end + 1)) {
-        lines.append(rest.first(end));
-        lines.append(setFile::LineEnd, sizeof(setFile::LineEnd) - 1);
-    }
-    if (lines.isEmpty())
-        return rest.isEmpty() ? QString() : FromCodePage(rest);
-    return FromCodePage(lines.append(rest));
-}
-
-bool SetReader::Boolean()
-{
-    return BooleanFromText(Line());
-}
-
-int16 SetReader::Int16()
+int16 SetReader::Count()
 {
     return ToInt16(NumberFromText(Line()));
 }
 
-int32 SetReader::Int32()
+void SetReader::Text(QString& field, setFile::Since since, const QString& before)
 {
-    return ToInt32(NumberFromText(Line()));
+    if (!Has(since)) {
+        field = before;
+        return;
+    }
+    const QByteArrayView line = Line();
+    field = line.isEmpty() || m_skipsTexts ? QString() : FromCodePage(line);
 }
 
-double SetReader::Real()
+void SetReader::Flattened(QString& field)
 {
-    return NumberFromText(Line());
+    QByteArrayView rest = Line();
+    field.clear();
+    if (m_skipsTexts)
+        return;
+    QByteArray lines;
+    for (qsizetype end = 0; (end = rest.indexOf(setFile::FlattenedBreak)) >= 0; rest = rest.sliced(end + 1))
+        lines.append(rest.first(end)).append(setFile::LineEnd, sizeof(setFile::LineEnd) - 1);
+    field = FromCodePage(lines.append(rest));
+}
+
+void SetReader::Path(QString& field)
+{
+    Text(field);
+    field = PathFromStored(field);
+}
+
+void SetReader::Boolean(bool& field, setFile::Since since)
+{
+    field = Has(since) && BooleanFromText(Line());
+}
+
+void SetReader::Integer(int16& field, setFile::Since since, int16 before)
+{
+    field = Has(since) ? ToInt16(NumberFromText(Line())) : before;
+}
+
+void SetReader::Integer(int32& field, setFile::Since since, int32 before)
+{
+    field = Has(since) ? ToInt32(NumberFromText(Line())) : before;
+}
+
+void SetReader::Real(double& field)
+{
+    field = NumberFromText(Line());
 }
 
 } // namespace deckforge

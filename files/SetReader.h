@@ -2,8 +2,7 @@
 
 #pragma once
 
-#include "files/StoredPath.h"
-#include "platform/Types.h"
+#include "files/SetFileFormat.h"
 
 #include <QByteArray>
 #include <QString>
@@ -23,22 +22,29 @@ public:
     /// Error 7 for more than MaxBytes.
     explicit SetReader(QByteArray bytes, Texts texts = Texts::Decode);
 
-    [[nodiscard]] QString Text();
-    [[nodiscard]] QString Flattened(); ///< every "|" becomes CR LF
-    [[nodiscard]] QString Path() { return PathFromStored(Text()); }
-    [[nodiscard]] bool Boolean();
-    [[nodiscard]] int16 Int16();
-    [[nodiscard]] int32 Int32();
-    [[nodiscard]] double Real();
-
     /// The undecoded line, valid as long as the reader.
     QByteArrayView Line();
+    [[nodiscard]] int16 Count();
 
     /// The number of the line read last, from 1.
     [[nodiscard]] int LineNumber() const { return m_lineNumber; }
 
+    void SetVersion(int16 version) { m_version = version; }
+
+    // For setFile::Fields. A field that the file's version lacks gets the value `before` and reads no line.
+
+    [[nodiscard]] bool Has(setFile::Since since) const { return m_version >= since.Version; }
+    void Text(QString& field, setFile::Since since = {}, const QString& before = {});
+    void Flattened(QString& field); ///< every "|" becomes CR LF
+    void Path(QString& field);
+    void Boolean(bool& field, setFile::Since since = {});
+    void Integer(int16& field, setFile::Since since = {}, int16 before = 0);
+    void Integer(int32& field, setFile::Since since = {}, int32 before = 0);
+    void Real(double& field);
+
 private:
     int m_lineNumber = 0;
+    int16 m_version = setFile::CurrentVersion;
     QByteArray m_bytes;
     bool m_skipsTexts;
     bool m_hasBareLineEnds; ///< LF alone

@@ -6,19 +6,7 @@
 #include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
 
-#include <QStringList>
-
 namespace deckforge {
-
-namespace {
-
-QString JoinedLines(const QString& text, char separator)
-{
-    const QLatin1String lineEnd(setFile::LineEnd);
-    return text.contains(lineEnd) ? text.split(lineEnd).join(QLatin1Char(separator)) : text;
-}
-
-} // namespace
 
 void SetWriter::Literal(const char* text)
 {
@@ -39,26 +27,21 @@ void SetWriter::Line(const QString& text)
     EndLine();
 }
 
-void SetWriter::Text(const QString& text)
+void SetWriter::Text(const QString& text, setFile::Since /*since*/, const QString& /*before*/)
 {
     if (m_unwritable == Unwritable::Fail && text.contains(QLatin1String(setFile::LineEnd))) {
         throw RunTimeError(ErrorNumber::InvalidCall,
                            QStringLiteral("The text \"%1\" holds a line break").arg(text));
     }
-    Line(JoinedLines(text, ' '));
+    Line(QString(text).replace(QLatin1String(setFile::LineEnd), QLatin1String(" ")));
 }
 
 void SetWriter::Flattened(const QString& text)
 {
-    Line(JoinedLines(text, setFile::FlattenedBreak));
+    Line(QString(text).replace(QLatin1String(setFile::LineEnd), QString(setFile::FlattenedBreak)));
 }
 
-void SetWriter::Boolean(bool value)
-{
-    Literal(value ? "True" : "False");
-}
-
-void SetWriter::Integer(int32 value)
+void SetWriter::Integer(int32 value, setFile::Since /*since*/, int32 /*before*/)
 {
     AppendNumber(m_bytes, value);
     EndLine();

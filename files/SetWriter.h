@@ -21,11 +21,15 @@ public:
     explicit SetWriter(Unwritable unwritable) : m_unwritable(unwritable) {}
 
     void Literal(const char* text);
-    void Text(const QString& text);
+
+    // For setFile::Fields. The file is of the current version, which has all fields.
+
+    [[nodiscard]] static bool Has(setFile::Since /*since*/) { return true; }
+    void Text(const QString& text, setFile::Since /*since*/ = {}, const QString& /*before*/ = {});
     void Flattened(const QString& text);                       ///< every CR LF becomes "|"
     void Path(const QString& path) { Text(StoredPath(path)); } ///< can hold any path
-    void Boolean(bool value);
-    void Integer(int32 value);
+    void Boolean(bool value, setFile::Since /*since*/ = {}) { Literal(value ? "True" : "False"); }
+    void Integer(int32 value, setFile::Since /*since*/ = {}, int32 /*before*/ = 0);
     void Real(double value);
 
     [[nodiscard]] QByteArray TakeBytes() { return std::move(m_bytes); }

@@ -21,16 +21,6 @@ void WriteDKF(const CardSet& set, const QString& path);
 /// The contents of the set's file.
 [[nodiscard]] QByteArray SetFileBytes(const CardSet& set, Unwritable unwritable);
 
-// Fail as writing a set with this part would.
-void CheckSavable(const SetHeader& header);
-void CheckSavable(const NewCardValues& values);
-void CheckSavable(const CardType& type);
-void CheckSavable(const CardBack& back);
-void CheckSavable(const Card& card);
-void CheckSavable(const LargeCard& card);
-void CheckSavable(const Character& character);
-void CheckSavable(const NewCardBack& back);
-
 /// Fails as opening a file with these contents would.
 void CheckReadable(const QByteArray& bytes);
 

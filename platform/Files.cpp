@@ -9,20 +9,6 @@
 
 namespace deckforge {
 
-namespace {
-
-FileAttributes AttributesIn(const struct stat& status)
-{
-    constexpr mode_t permissionBits = 07777;
-    return {.Id = {.Device = status.st_dev, .Inode = status.st_ino},
-            .Size = status.st_size,
-            .LastAccess = status.st_atim,
-            .LastWrite = status.st_mtim,
-            .Permissions = status.st_mode & permissionBits};
-}
-
-} // namespace
-
 void TakeSizeLimitAsFullDisk()
 {
     ::signal(SIGXFSZ, SIG_IGN);
@@ -46,7 +32,12 @@ std::optional<FileAttributes> AttributesOf(const QString& path)
     struct stat status = {};
     if (::stat(NameForSystem(path).constData(), &status) != 0)
         return std::nullopt;
-    return AttributesIn(status);
+    constexpr mode_t permissionBits = 07777;
+    return FileAttributes{.Id = {.Device = status.st_dev, .Inode = status.st_ino},
+                          .Size = status.st_size,
+                          .LastAccess = status.st_atim,
+                          .LastWrite = status.st_mtim,
+                          .Permissions = status.st_mode & permissionBits};
 }
 
 bool HaveSameContents(const FileAttributes& before, const FileAttributes& now)
@@ -55,19 +46,11 @@ bool HaveSameContents(const FileAttributes& before, const FileAttributes& now)
            before.LastWrite.tv_nsec == now.LastWrite.tv_nsec;
 }
 
-OutputFile::OutputFile(const QString& path) : m_file(path, O_WRONLY | O_CREAT | O_TRUNC) {}
-
 void OutputFile::TakeTimesAndPermissions(const FileAttributes& from)
 {
     const timespec times[] = {from.LastAccess, from.LastWrite};
-    (void)::futimens(m_file.Descriptor(), times);
-    (void)!::fchmod(m_file.Descriptor(), from.Permissions);
-}
-
-void OutputFile::CloseOnDisk()
-{
-    m_file.Sync();
-    m_file.Close();
+    (void)::futimens(Descriptor(), times);
+    (void)!::fchmod(Descriptor(), from.Permissions);
 }
 
 void CheckWritable(const QString& path)

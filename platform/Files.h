@@ -47,20 +47,13 @@ struct FileAttributes {
 [[nodiscard]] std::optional<FileAttributes> AttributesOf(const QString& path);
 
 /// A file being written. The destructor closes it, keeps what was written, and reports no failure.
-class OutputFile {
+class OutputFile : public FileHandle {
 public:
     /// Truncates an existing file or creates a new one.
-    explicit OutputFile(const QString& path);
+    explicit OutputFile(const QString& path) : FileHandle(path, O_WRONLY | O_CREAT | O_TRUNC) {}
 
-    void Write(QByteArrayView bytes) { m_file.Write(bytes); }
     /// As far as the file system allows.
     void TakeTimesAndPermissions(const FileAttributes& from);
-
-    void Close() { m_file.Close(); }
-    void CloseOnDisk(); ///< waits until the data is on the disk
-
-private:
-    FileHandle m_file;
 };
 
 /// Fails as opening an existing file for writing would. Does not change it.

@@ -3,28 +3,15 @@
 #include "platform/LineWriter.h"
 
 #include "platform/CodePage.h"
-#include "platform/RunTimeError.h"
 
-#include <QScopeGuard>
+#include <utility>
 
 namespace deckforge {
-
-namespace {
-
-constexpr qsizetype PieceBytes = 1 << 18;
-constexpr qsizetype RoomForOneLine = 1 << 12;
-
-} // namespace
-
-LineWriter::LineWriter(const QString& path) : m_file(path)
-{
-    m_gathered.reserve(PieceBytes + RoomForOneLine);
-}
 
 LineWriter::~LineWriter()
 {
     try {
-        Flush();
+        m_file.Write(m_bytes);
     } catch (const RunTimeError&) {
         // The failure that ended the writing has been reported already.
     }
@@ -32,23 +19,14 @@ LineWriter::~LineWriter()
 
 void LineWriter::Line(const QString& text)
 {
-    AppendInCodePage(m_gathered, text);
-    m_gathered.append("\r\n", 2);
-    if (m_gathered.size() >= PieceBytes)
-        Flush();
+    AppendInCodePage(m_bytes, text);
+    m_bytes.append("\r\n");
 }
 
 void LineWriter::Close()
 {
-    Flush();
+    m_file.Write(std::exchange(m_bytes, {}));
     m_file.Close();
-}
-
-void LineWriter::Flush()
-{
-    // Also on failure: what was partly written must not be written again.
-    const auto clear = qScopeGuard([this] { m_gathered.resize(0); });
-    m_file.Write(m_gathered);
 }
 
 } // namespace deckforge

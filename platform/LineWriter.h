@@ -11,12 +11,12 @@ namespace deckforge {
 
 /// Writes a text file line by line, with CR LF, in the single-byte code page.
 ///
-/// Output is buffered, so any call may report a failure of the file. A character that cannot be encoded is
-/// error 5, and its line is not written.
+/// The file is written when it is closed. A character that cannot be encoded is error 5, and its line is not
+/// written.
 class LineWriter {
 public:
-    explicit LineWriter(const QString& path);
-    /// Writes the buffer even after a failed line, as far as the disk allows.
+    explicit LineWriter(const QString& path) : m_file(path) {}
+    /// Writes the lines before a failed one, as far as the disk allows.
     ~LineWriter();
     LineWriter(const LineWriter&) = delete;
     LineWriter& operator=(const LineWriter&) = delete;
@@ -27,10 +27,8 @@ public:
     void Close();
 
 private:
-    void Flush();
-
     OutputFile m_file;
-    QByteArray m_gathered;
+    QByteArray m_bytes; ///< still to be written
 };
 
 } // namespace deckforge

@@ -4,23 +4,16 @@
 
 #include <QDir>
 #include <QStandardPaths>
+#include <algorithm>
 
 namespace deckforge {
 
 namespace {
 
-bool IsSeparator(QChar c)
-{
-    return c == QLatin1Char('\\') || c == QLatin1Char('/');
-}
-
 /// The length of the folder part, with its separator.
 qsizetype FolderLength(const QString& path)
 {
-    qsizetype length = path.size();
-    while (length > 0 && !IsSeparator(path[length - 1]))
-        --length;
-    return length;
+    return std::max(path.lastIndexOf(QLatin1Char('\\')), path.lastIndexOf(QLatin1Char('/'))) + 1;
 }
 
 } // namespace
@@ -42,9 +35,8 @@ bool HoldsSeparator(const QString& text)
 
 QString WithSeparator(const QString& folder)
 {
-    if (!folder.isEmpty() && IsSeparator(folder.back()))
-        return folder;
-    return folder + QDir::separator();
+    const bool hasSeparator = !folder.isEmpty() && FolderLength(folder) == folder.size();
+    return hasSeparator ? folder : folder + QDir::separator();
 }
 
 QString PathToOpen(QString path)

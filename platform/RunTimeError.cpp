@@ -6,50 +6,42 @@ namespace deckforge {
 
 namespace {
 
-QString UsualDescription(ErrorNumber number)
+struct Row {
+    ErrorNumber Number;
+    const char* Description;
+};
+
+constexpr Row DefaultDescriptions[] = {
+    {ErrorNumber::InvalidCall, "Invalid procedure call or argument"},
+    {ErrorNumber::Overflow, "Overflow"},
+    {ErrorNumber::OutOfMemory, "Out of memory"},
+    {ErrorNumber::SubscriptOutOfRange, "Subscript out of range"},
+    {ErrorNumber::TypeMismatch, "Type mismatch"},
+    {ErrorNumber::BadFileName, "Bad file name or number"},
+    {ErrorNumber::FileNotFound, "File not found"},
+    {ErrorNumber::DeviceIo, "Device I/O error"},
+    {ErrorNumber::DiskFull, "Disk full"},
+    {ErrorNumber::InputPastEnd, "Input past end of file"},
+    {ErrorNumber::PermissionDenied, "Permission denied"},
+    {ErrorNumber::PathFileAccess, "Path/File access error"},
+    {ErrorNumber::PathNotFound, "Path not found"},
+    {ErrorNumber::InvalidPropertyValue, "Invalid property value"},
+    {ErrorNumber::InvalidPicture, "Invalid picture"},
+    {ErrorNumber::PrinterError, "Printer error"},
+};
+
+QString DefaultDescription(ErrorNumber number)
 {
-    switch (number) {
-    case ErrorNumber::InvalidCall:
-        return QStringLiteral("Invalid procedure call or argument");
-    case ErrorNumber::Overflow:
-        return QStringLiteral("Overflow");
-    case ErrorNumber::OutOfMemory:
-        return QStringLiteral("Out of memory");
-    case ErrorNumber::SubscriptOutOfRange:
-        return QStringLiteral("Subscript out of range");
-    case ErrorNumber::TypeMismatch:
-        return QStringLiteral("Type mismatch");
-    case ErrorNumber::BadFileName:
-        return QStringLiteral("Bad file name or number");
-    case ErrorNumber::FileNotFound:
-        return QStringLiteral("File not found");
-    case ErrorNumber::DeviceIo:
-        return QStringLiteral("Device I/O error");
-    case ErrorNumber::DiskFull:
-        return QStringLiteral("Disk full");
-    case ErrorNumber::InputPastEnd:
-        return QStringLiteral("Input past end of file");
-    case ErrorNumber::PermissionDenied:
-        return QStringLiteral("Permission denied");
-    case ErrorNumber::PathFileAccess:
-        return QStringLiteral("Path/File access error");
-    case ErrorNumber::PathNotFound:
-        return QStringLiteral("Path not found");
-    case ErrorNumber::InvalidPropertyValue:
-        return QStringLiteral("Invalid property value");
-    case ErrorNumber::InvalidPicture:
-        return QStringLiteral("Invalid picture");
-    case ErrorNumber::PrinterError:
-        return QStringLiteral("Printer error");
-    case ErrorNumber::JpegLibrary:
-        break;
+    for (const Row& row : DefaultDescriptions) {
+        if (row.Number == number)
+            return QString::fromLatin1(row.Description);
     }
     return QStringLiteral("Application-defined or object-defined error");
 }
 
 } // namespace
 
-RunTimeError::RunTimeError(ErrorNumber number) : RunTimeError(number, UsualDescription(number)) {}
+RunTimeError::RunTimeError(ErrorNumber number) : RunTimeError(number, DefaultDescription(number)) {}
 
 RunTimeError::RunTimeError(ErrorNumber number, QString description)
     : m_number(number), m_description(std::move(description)), m_text(NumberAndDescription().toUtf8())

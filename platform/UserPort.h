@@ -6,11 +6,10 @@
 #include "platform/FontSpec.h"
 #include "platform/RunTimeError.h"
 
+#include <QPagedPaintDevice>
 #include <QStringList>
 #include <memory>
 #include <optional>
-
-class QPagedPaintDevice;
 
 namespace deckforge {
 
@@ -26,13 +25,12 @@ struct MessageBoxRequest {
     BoxButtons Buttons = BoxButtons::Ok;
 };
 
-/// Request for an open or save dialog. Filter has "description|pattern" pairs joined by "|"; FilterIndex
-/// counts them from 1. Files to open must exist; a save dialog asks before it replaces a file.
+/// Request for an open or save dialog. Filter has "description|pattern" pairs joined by "|", of which the
+/// second is selected. Files to open must exist; a save dialog asks before it replaces a file.
 struct FileDialogRequest {
     QString Title;
     QString FileName;
     QString Filter;
-    int FilterIndex = 1;
     QString DefaultExtension;
     QString Folder = {}; ///< where the dialog starts; empty for its default
     /// The file at FileName as the program last read or wrote it; the save dialog warns if it has changed
@@ -40,7 +38,8 @@ struct FileDialogRequest {
     std::optional<FileAttributes> Known = {};
 };
 
-/// Everything that the program asks or shows its user, independent of windows.
+/// Everything that the program asks or shows its user, independent of windows. By default nothing is shown
+/// and every dialog is cancelled.
 class UserPort {
 public:
     UserPort() = default;
@@ -49,35 +48,37 @@ public:
     UserPort& operator=(const UserPort&) = delete;
 
     /// Cancel if the message box was closed without an answer, even if it has no such button.
-    virtual Answer ShowMessage(const MessageBoxRequest& request) = 0;
+    virtual Answer ShowMessage(const MessageBoxRequest& /*request*/) { return Answer::Ok; }
 
     /// Shows what a run could not do, one line per problem with card and file, without interrupting the user.
     /// An empty list means no problems.
-    virtual void ReportProblems(const QStringList& problems) = 0;
+    virtual void ReportProblems(const QStringList& /*problems*/) {}
 
-    /// The full path; nothing if cancelled.
-    virtual std::optional<QString> AskOpenFile(const FileDialogRequest& request) = 0;
-    virtual std::optional<QString> AskSaveFile(const FileDialogRequest& request) = 0;
+    // Nothing if the dialog was cancelled.
 
-    /// The folder with a trailing separator; nothing if cancelled.
-    virtual std::optional<QString> BrowseForFolder() = 0;
-
-    // The dialogs start with the given colour or font. Nothing if cancelled.
-    virtual std::optional<Colour> AskColour(const QString& title, Colour colour) = 0;
-    virtual std::optional<FontSpec> AskFont(const QString& title, const FontSpec& font) = 0;
-
-    /// A line of text, initially `text`; nothing if cancelled.
-    virtual std::optional<QString> AskText(const QString& prompt, const QString& title,
-                                           const QString& text) = 0;
+    /// The full path.
+    virtual std::optional<QString> AskOpenFile(const FileDialogRequest& /*request*/) { return {}; }
+    virtual std::optional<QString> AskSaveFile(const FileDialogRequest& /*request*/) { return {}; }
+    /// The folder with a trailing separator.
+    virtual std::optional<QString> BrowseForFolder() { return {}; }
+    /// The dialog starts with the given colour.
+    virtual std::optional<Colour> AskColour(const QString& /*title*/, Colour /*colour*/) { return {}; }
+    virtual std::optional<FontSpec> AskFont(const QString& /*title*/, const FontSpec& /*font*/) { return {}; }
+    /// A line of text, initially `text`.
+    virtual std::optional<QString> AskText(const QString& /*prompt*/, const QString& /*title*/,
+                                           const QString& /*text*/)
+    {
+        return {};
+    }
 
     /// The default printer with a new document, at the printer's resolution and with the origin at the corner
     /// of the printable area; null if there is none. The document is sent when painting ends.
-    virtual std::unique_ptr<QPagedPaintDevice> OpenPrinter(const QString& document) = 0;
+    virtual std::unique_ptr<QPagedPaintDevice> OpenPrinter(const QString& /*document*/) { return nullptr; }
 
-    virtual void SetPointer(Pointer pointer) = 0;
+    virtual void SetPointer(Pointer /*pointer*/) {}
 
     /// Progress of a long run. The last call has done equal to total.
-    virtual void ShowProgress(int done, int total) = 0;
+    virtual void ShowProgress(int /*done*/, int /*total*/) {}
 };
 
 /// Shows the hourglass pointer in its scope.
@@ -91,6 +92,9 @@ public:
 private:
     UserPort& m_user;
 };
+
+/// Shows a message box without a question.
+void ShowBox(UserPort& user, BoxStyle style, const QString& title, const QString& text);
 
 /// Shows a failure that no other code has handled. The program continues with the set in memory.
 void ShowUnhandledError(UserPort& user, const RunTimeError& error);

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The folders, each with those whose headers it may include beside its own, as the build declares them.
+/// For each folder the others whose headers it may include, as the build declares them.
 std::map<QString, QStringList> Layers()
 {
     QFile file(DECKFORGE_LAYERS);
@@ -36,7 +36,7 @@ QStringList IncludesOf(const QString& path)
 
 } // namespace
 
-/// Each includes only layers below it. Only dialogs and above use widgets.
+/// Folders include only layers below them. Only dialogs and above use widgets.
 TEST(Layers, IncludeOnlyLayersBelowThem)
 {
     const auto isWidgetHeader = [](const QString& header) {

@@ -10,7 +10,7 @@
 
 namespace deckforge {
 
-/// The built window program in a process and a home of its own.
+/// Runs the window program in a separate process with its own home folder.
 class ProgramTest : public testing::Test {
 protected:
     void Start()
@@ -24,7 +24,7 @@ protected:
         EXPECT_TRUE(Program.waitForStarted());
         EXPECT_TRUE(QTest::qWaitFor([&] { return Catches(SIGTERM); }, TimeoutMilliseconds))
             << Program.readAllStandardError().toStdString();
-        // A crash in the middle of its work is rescued by luck.
+        // Wait until it is idle: after a crash in the middle of its work a rescue may fail.
         EXPECT_TRUE(QTest::qWaitFor([&] { return IsAtRest(); }, TimeoutMilliseconds));
     }
     void Kill(int signal) { ::kill(static_cast<pid_t>(Program.processId()), signal); }
@@ -67,7 +67,7 @@ private:
 
 TEST_F(ProgramTest, RescuesItsSetWhenTheSessionEndsItOrItCrashes)
 {
-#ifndef __SANITIZE_ADDRESS__ // which handles crashes itself
+#ifndef __SANITIZE_ADDRESS__ // the sanitizer handles crashes itself
     const std::initializer_list<int> signals = {SIGTERM, SIGHUP, SIGINT, SIGSEGV, SIGABRT};
 #else
     const std::initializer_list<int> signals = {SIGTERM, SIGHUP, SIGINT};

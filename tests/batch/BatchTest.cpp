@@ -12,8 +12,8 @@
 
 namespace deckforge {
 
-/// The built program in a process of its own; in its command lines "SET" is a set that it makes first, and
-/// "DIR" the folder of that.
+/// Runs the batch program in a separate process. In command lines, "SET" is a set that was created before,
+/// and "DIR" its folder.
 class Batch : public testing::Test {
 protected:
     /// Its exit status and output; arguments are separated by spaces.
@@ -115,7 +115,7 @@ TEST_F(Batch, ReportsAFailureByItsExitStatus)
     EXPECT_TRUE(Error.contains("Saving the card: Something went wrong.\n"));
     {
         const FullDisk full(100);
-        ::signal(SIGXFSZ, SIG_DFL); // as a session starts its programs
+        ::signal(SIGXFSZ, SIG_DFL); // the default for programs of a session
         EXPECT_EQ(Run("convert SET DIR/b.dkf"), 1);
     }
     EXPECT_TRUE(Error.contains("61, Disk full\n")) << Error.toStdString();

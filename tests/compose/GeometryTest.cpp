@@ -27,7 +27,7 @@ QImage WithText(const QImage& ground, const FontSpec& font, At place, QRect box,
 {
     PictureBox surface = SurfaceIn(font, ground.size());
     surface.SetPicture(Picture(ground));
-    // The title of a standard card is centred by its width in the font of a new surface.
+    // The title of a standard card is centred by its width in the default font of a new surface.
     const double width = place == MiddleOfTitle ? PictureBox().TextWidth(text) : surface.TextWidth(text);
     const double room = box.width() - width;
     const double middle = place == MiddleUnrounded ? room / 2 : std::floor(room / 2);
@@ -37,7 +37,7 @@ QImage WithText(const QImage& ground, const FontSpec& font, At place, QRect box,
     return surface.Image().Pixels();
 }
 
-/// The rotated strip, from the text printed upright.
+/// The expected strip: the text printed upright, then rotated.
 QImage TurnedStrip(PictureBox& strip, double x, double y, const QString& text, int degrees)
 {
     strip.CurrentX = x;
@@ -53,12 +53,12 @@ TEST_F(GeometryTest, EachTextHasItsPlaceAndFont)
     const SetHeader& set = Header();
     CharacterTemplate& hero = Boxes.Character;
     const struct {
-        QString Name; ///< in capitals it is the text itself, which is fixed
+        QString Name; ///< a name in capitals is a fixed text
         On Kind;
         QString& Text;
         const FontSpec& Font;
         At Place;
-        QRect Box; ///< of the surface; the panel of a character card lies at 13, 13
+        QRect Box; ///< on the surface; the panel of a character card is at (13, 13)
     } rows[] = {
         {"title", OnCard, Standard.Title, set.FontTitle, MiddleOfTitle, {5, 28, 139, 13}},
         {"type", OnCard, Standard.Type, set.FontType, Left, {5, 3, 57, 12}},
@@ -97,7 +97,7 @@ TEST_F(GeometryTest, EachTextHasItsPlaceAndFont)
         EXPECT_EQ(row.Text, fixed);
         row.Text.clear();
         const QImage without = Composed(row.Kind);
-        for (const char* text : {"Egx", "Eg", "xi"}) { // of several widths, for what is rounded
+        for (const char* text : {"Egx", "Eg", "xi"}) { // different widths, to test rounding
             row.Text = text;
             const QImage with = Composed(row.Kind);
             const QImage expected = WithText(without, row.Font, row.Place, row.Box, row.Text);
@@ -140,7 +140,7 @@ TEST_F(GeometryTest, TheTextsOfAStandardCardFollowItsOptions)
     Standard.BoldText = "E";
     EXPECT_EQ(topOfInfo() - top, 11);
 
-    // On one line: the first part alone, where the reversed one would be centred, and the number below.
+    // With OneLine, the first part is where the reversed type would be centred, with the number below.
     Clear(Standard);
     Standard.OneLine = true;
     Standard.TypeReversed = "Reversed type";
@@ -166,7 +166,7 @@ TEST_F(GeometryTest, TheTextOfABackIsCentredAndBreaksAtBarsIfItHasLines)
     for (const auto& [text, lines] : rows) {
         Back.BackText = text;
         const int pitch = static_cast<int>(SurfaceIn(Back.Font, {}).TextHeight(u"E"));
-        // Bars have no part in the height.
+        // Bars do not add to the height.
         int y = static_cast<int>(
             std::nearbyint(76 - static_cast<double>(QString(text).count('\n') + 1) * pitch / 2));
         QImage expected = without;

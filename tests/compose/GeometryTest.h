@@ -14,13 +14,13 @@ namespace deckforge {
 
 enum On { OnCard, OnLarge, OnHero, OnPiece, OnBack };
 
-/// The area in which the pixels differ.
+/// The bounding rectangle of the pixels that differ.
 inline QRect Changed(const QImage& before, const QImage& after)
 {
     return Where(after.rect(), [&](int x, int y) { return before.pixel(x, y) != after.pixel(x, y); });
 }
 
-/// One element of each kind without texts and pictures, in thirteen fonts that all differ.
+/// One element of each kind without texts and pictures, with thirteen different fonts.
 class GeometryTest : public WorkshopTest {
 protected:
     GeometryTest()
@@ -39,7 +39,7 @@ protected:
         }
         Back.Font = SmallFont(16, true, Red);
         for (const On kind : {OnCard, OnLarge, OnHero, OnBack})
-            Composed(kind); // the first outlines have the colour of a new surface
+            Composed(kind); // once before: the first outlines have the colour of a new surface
     }
 
     static void Clear(Card& card)

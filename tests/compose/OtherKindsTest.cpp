@@ -55,7 +55,7 @@ TEST_F(OtherKindsTest, MissingFilesOfOtherKindsAreReportedOnTheStandardCard)
     }
 }
 
-TEST_F(OtherKindsTest, ThePieceNameHasTheFontBeforeItAndThePieceFontIsSetOnTheCard)
+TEST_F(OtherKindsTest, ThePieceNameIsPrintedInThePreviousFontAndThePieceFontIsSetOnTheCard)
 {
     Header().FontPlayingPiece.Color = Red;
     ASSERT_FALSE(ShowCharacter(Shop, 1));
@@ -77,7 +77,7 @@ TEST_F(OtherKindsTest, ThePieceNameHasTheFontBeforeItAndThePieceFontIsSetOnTheCa
                  {{9, 24, ColourOfPlace(0, 20)}, {9 + 131, 24 + 221, ColourOfPlace(131, 241)}});
 }
 
-TEST_F(OtherKindsTest, ABackHasItsThreeColoursAndNoOtherAtEveryScale)
+TEST_F(OtherKindsTest, ABackHasOnlyItsThreeColoursAtEveryScale)
 {
     Back().BackText.clear();
     const QPoint pieces[] = {{17, 15},  {54, 13},  {88, 13},   {124, 13},  {160, 13},  {191, 13},
@@ -86,7 +86,9 @@ TEST_F(OtherKindsTest, ABackHasItsThreeColoursAndNoOtherAtEveryScale)
     for (const int scale : {1, 2, 3, 4, 7}) {
         Workshop shop(scale);
         (void)InitForm(shop);
-        for (const Colour outer : {0x708090, 0x405060, 0x102030}) { // alone, as the frame, as the ground
+        for (const Colour outer :
+             {0x708090, 0x405060,
+              0x102030}) { // different from both, equal to the frame, equal to the inner colour
             SCOPED_TRACE(testing::Message() << "scale " << scale << ", outer colour " << outer);
             shop.Set = Shop.Set;
             NewCardBack& back = shop.Set.NewCardBacks[1];
@@ -125,7 +127,7 @@ TEST_F(OtherKindsTest, ABackIsRotatedAndShiftedLeftByTwoPixels)
     EXPECT_EQ(FailureOf([&] { ShowNewCardBack(Shop, 1); }), 53);
 }
 
-TEST_F(OtherKindsTest, APictureThatIsMovedLeavesTheHandleAtItsFrame)
+TEST_F(OtherKindsTest, MovingThePictureDoesNotMoveTheHandle)
 {
     LargeCardTemplate& large = Shop.Templates.Large;
     CharacterTemplate& character = Shop.Templates.Character;

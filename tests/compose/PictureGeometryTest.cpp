@@ -27,7 +27,7 @@ TEST_F(GeometryTest, BackgroundAndOutlineOfThePictureFillTheFrame)
         {OnCard, Standard.ShowPicture, Standard.Frame, {5, 40, 139, 60}, 60},
         {OnLarge, Large.ShowPicture, Large.Frame, {8, 8, 100, 238}, 238},
         {OnHero, Hero.ShowPicture, Hero.Frame, {14, 14, 100, 220}, 218}};
-    // Without the boxes that move with the frame.
+    // Hide the boxes that move with the frame.
     for (Box* caption : {&Boxes.Character.lblAlignmentTitle, &Boxes.Character.lblStartTitle,
                          &Boxes.Character.lblSpecialTitle})
         caption->Caption.clear();
@@ -89,7 +89,7 @@ TEST_F(GeometryTest, APictureIsClippedByItsFrame)
         const int inset = row.Outlined != nullptr ? 1 : 0;
         const QPoint corner = row.Frame.topLeft() + QPoint(inset, inset);
         row.Path.clear();
-        Composed(row.Kind); // for the outline in the colour that the kind itself leaves
+        Composed(row.Kind); // once before: the outline takes the colour of the composition before
         const QImage empty = Composed(row.Kind);
         const auto shown = [&](const QString& path, int right, int down) {
             row.Path = path;
@@ -102,12 +102,12 @@ TEST_F(GeometryTest, APictureIsClippedByItsFrame)
         EXPECT_EQ(placeOfWhole, QRect(corner + QPoint(10, 7), QSize(30, 20)));
         EXPECT_EQ(FromRgb(whole.pixel(placeOfWhole.topLeft())), ColourOfPlace(0, 0));
 
-        // Cut at the left and the top it is as large as the frame, past whose outline it then reaches.
+        // Clipped at the left and top, it is as large as the frame and extends past its outline.
         const auto [cut, placeOfCut] = shown(big, -20, -5);
         EXPECT_EQ(placeOfCut, QRect(corner, row.Frame.size().boundedTo({180, 245})));
         EXPECT_EQ(FromRgb(cut.pixel(placeOfCut.topLeft())), ColourOfPlace(20, 5));
 
-        // Cut at the right and the bottom it ends inside the outline.
+        // Clipped at the right and bottom, it ends inside the outline.
         const auto [low, placeOfLow] = shown(small, row.Frame.width() - 12, row.Frame.height() - 9);
         EXPECT_EQ(placeOfLow.size(), QSize(12 - 2 * inset, 9 - 2 * inset));
         EXPECT_EQ(FromRgb(low.pixel(placeOfLow.topLeft())), ColourOfPlace(0, 0));

@@ -18,7 +18,7 @@ protected:
     QRect InkIn(QRect area) { return deckforge::InkIn(Surface(), area, Cream); }
 };
 
-TEST_F(StandardCardTest, WithoutRoomTheTextBoxKeepsItsHeight)
+TEST_F(StandardCardTest, TheTextBoxKeepsItsHeightIfThereIsNoRoom)
 {
     FirstCard().BoldText = "STRENGTH 3";
     for (const auto& [height, top] : {std::pair{int16{60}, 115}, {int16{300}, 355}}) {
@@ -28,7 +28,7 @@ TEST_F(StandardCardTest, WithoutRoomTheTextBoxKeepsItsHeight)
     }
 }
 
-TEST_F(StandardCardTest, AFontWithoutSizeKeepsTheSizeOfTheTextBefore)
+TEST_F(StandardCardTest, AFontWithoutSizeUsesThePreviousSize)
 {
     FirstCard().ShowPicture = false;
     Header().FontInformation.Size = 0;

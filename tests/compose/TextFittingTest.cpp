@@ -22,7 +22,7 @@ QStringList Broken(const QString& text, int letters)
     return lines;
 }
 
-/// The lines of a surface with ink, each with its first inked column.
+/// The inked lines of a surface, each with its first inked column.
 std::vector<std::pair<int, int>> InkedLines(const PictureBox& surface, int pitch)
 {
     std::vector<std::pair<int, int>> lines;
@@ -38,7 +38,7 @@ std::vector<std::pair<int, int>> InkedLines(const PictureBox& surface, int pitch
 
 TEST(TextFitting, LinesBreakBehindTheLastBreakCharacterThatFits)
 {
-    const std::tuple<const char*, int, const char*, const char*> rows[] = // of lines, parted by bars
+    const std::tuple<const char*, int, const char*, const char*> rows[] = // lines are separated by bars
         {{"mm mmm", 5, "mm |mmm", "at a blank"},
          {"mm-mm-mm", 6, "mm-mm-|mm", "at the last hyphen"},
          {"mmm mmm", 3 + 1, "mmm |mmm", "the blank itself fits"},
@@ -73,7 +73,7 @@ TEST(TextFitting, EmptyLinesHaveTheLineHeightAndCentredOnesAreCentred)
     EXPECT_NEAR(centred[1].second, 60 - wide.TextWidth(u"HHHHH") / 2, 1.5);
 }
 
-TEST(TextFitting, OneLineIsCentredOnWholePixelsAndExtendsPastBothSides)
+TEST(TextFitting, ASingleLineIsCentredOnWholePixelsAndMayExceedBothSides)
 {
     BoxList boxes(1);
     Box card(boxes, {}, {});

@@ -6,7 +6,7 @@
 
 namespace deckforge {
 
-/// Two records of each kind and one card back of its own, each with a text that names its field.
+/// A set with two records of each kind and one own card back. Each text names its field.
 class PicturePathsTest : public SetTest {
 protected:
     PicturePathsTest()

@@ -76,7 +76,7 @@ TEST_F(SetLifecycle, ANewSetKeepsNothingButTheDesignedBacks)
     EXPECT_EQ(SetFileBytes(Set, Unwritable::Fail), before);
 }
 
-TEST_F(SetLifecycle, TheVocabularyIsThatOfThePrintedGame)
+TEST_F(SetLifecycle, TheVocabularyMatchesThePrintedGame)
 {
     const QStringList types =
         QString("ENEMY-|Alien|-ENEMY|Alien|2;ENEMY-|Animal|-ENEMY|Animal|2;ENEMY-|Dragon|-ENEMY|Dragon|2;"

@@ -37,7 +37,7 @@ protected:
     }
     QString Note() { return window.statusBar()->currentMessage(); }
 
-    /// A set with one card with this title.
+    /// A set with one card of this title.
     QString WriteSet(const QString& file, const QString& title)
     {
         CardSet set;
@@ -60,7 +60,7 @@ protected:
     }
 };
 
-TEST_F(ClosingTest, EveryWayToLoseUnsavedWorkLeavesARescuedSet)
+TEST_F(ClosingTest, UnsavedWorkIsRescuedHoweverTheSetIsClosed)
 {
     const QString other = WriteSet("other.dkf", "Other");
     QByteArray half = folder.Read("other.dkf");
@@ -108,7 +108,7 @@ TEST_F(ClosingTest, TheWindowStaysWithASetThatCannotBeRescued)
     RunAndAnswer("new", Answer::No);
     Open(other);
     EXPECT_EQ(FirstCard().Title, "Bear");
-    Line("txtTitle").setText("медведь"); // which no file can hold
+    Line("txtTitle").setText("медведь"); // cannot be encoded in a set file
     RunAndAnswer("exit", Answer::No);
     EXPECT_FALSE(window.isVisible()) << "the user was asked";
     window.show();
@@ -164,7 +164,7 @@ TEST_F(ClosingTest, TheStartShowsARescuedSet)
     EXPECT_TRUE(Note().contains(day)) << Note().toStdString();
 }
 
-TEST_F(ClosingTest, TheHintAtUnsavableTextStaysUntilItIsChanged)
+TEST_F(ClosingTest, TheHintAboutUnsavableTextStaysUntilItIsChanged)
 {
     window.show();
     const auto& hint = Find<QLabel>("hint");

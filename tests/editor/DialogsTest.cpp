@@ -19,7 +19,7 @@ class DialogsTest : public WindowTest {
 protected:
     DialogsTest() { window.show(); }
 
-    /// Runs a command, and the steps on the dialog that it opens; Esc then closes that.
+    /// Runs a command and the steps in the dialog that it opens, then presses Esc.
     template <class Steps>
     void WithDialog(const char* opener, Steps&& steps)
     {
@@ -89,7 +89,7 @@ TEST_F(DialogsTest, CheckedPicturesMoveToTheTypedFolder)
         auto& list = List("lviewPath");
         Click("cmdSelectAll");
         Click("optCard6");
-        Click("optCard0"); // another choice drops the checks
+        Click("optCard0"); // selecting another field clears the check marks
         ChoosePicture("cmdBrowse", "/new/");
         QTest::keyClick(&Line("txtNewPath"), Qt::Key_Return);
         EXPECT_EQ(Cell(list, 0, 1), "/old/one.bmp") << "nothing is checked";
@@ -114,7 +114,7 @@ TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedImmediately)
         Type("txtCBName", "Caves");
         QTest::keyClick(&Line("txtCBName"), Qt::Key_Return);
         EXPECT_EQ(Set().CardBacks.Count(), 28);
-        Click("cmdCBAdd"); // the same again
+        Click("cmdCBAdd"); // adds a second row with the same values
         user.WillCancelDialog();
         DoubleClick(list, 0);
         user.WillType("Deep Caves");
@@ -124,7 +124,7 @@ TEST_F(DialogsTest, OwnBacksAreAddedRenamedAndDeletedImmediately)
         Select(list, 1);
         EXPECT_EQ(Text("txtCBName"), "Caves");
         Click("cmdCBDelete");
-        Click("cmdCBDelete"); // the next row is not selected
+        Click("cmdCBDelete"); // no row is selected after the first deletion
         EXPECT_EQ(Set().CardBacks.Count(), 28);
         ChooseLast("cboCBDefault");
         EXPECT_EQ(Set().LastCardBack, 28);
@@ -147,7 +147,7 @@ TEST_F(DialogsTest, ReversedNamesOfOwnTypesFollowTheirNames)
         EXPECT_EQ(user.LastMessageText(), "Missing information|You must give the type a reversed name.");
         QTest::keyClick(&txtCTName, Qt::Key_Tab);
         EXPECT_EQ(txtCTNameRev.text(), "OMEN-");
-        QTest::keyClicks(&txtCTNameRev, "-OMEN"); // it was selected
+        QTest::keyClicks(&txtCTNameRev, "-OMEN"); // replaces the selected text
         Line("txtCTName2").setText("Dark");
         Line("txtCTNameRev2").setText("kraD");
         Line("txtCTNumber").setText("no number");

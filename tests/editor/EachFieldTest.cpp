@@ -105,7 +105,7 @@ protected:
         return {};
     }
 
-    /// Changes the control like a user and returns the expected value of the field, or nothing for a
+    /// Changes the control as a user would, and returns the expected value of the field, or nothing for a
     /// read-only control.
     std::optional<QString> Edit(const Row& row)
     {

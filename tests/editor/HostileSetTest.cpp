@@ -21,7 +21,7 @@ enum class Failure { None, Shown };
 /// Untrusted sets with two elements of every kind, of which the first is changed.
 class HostileSetTest : public WindowTest {
 protected:
-    /// Opens the set, shows everything in it, steps, and creates all images and sheets.
+    /// Opens the set, shows every record, and creates all images and sheets.
     void Try(const char* what, const std::function<void(CardSet&)>& change, Failure mayFail = Failure::None)
     {
         SCOPED_TRACE(what);
@@ -53,7 +53,7 @@ protected:
     }
 };
 
-/// Makes the same change to the first of each kind that has a picture.
+/// Changes the first element of each kind with a picture in the same way.
 template <class Change>
 void ChangeEach(CardSet& set, Change&& change)
 {

@@ -31,12 +31,12 @@ TEST_F(KindsTest, AfterANewSetNoHiddenControlHasTheFocus)
         Run("new");
         ASSERT_NE(window.focusWidget(), nullptr) << box;
         EXPECT_TRUE(window.focusWidget()->isVisible()) << box;
-        QTest::keyClick(&window, Qt::Key_N, Qt::ControlModifier); // the tab adds a character
+        QTest::keyClick(&window, Qt::Key_N, Qt::ControlModifier); // adds a character on this tab
         EXPECT_TRUE(window.focusWidget()->isVisible()) << box;
     }
 }
 
-TEST_F(KindsTest, ANewSetLeavesTheTabAndItsCardsToTheNextClick)
+TEST_F(KindsTest, ANewSetUpdatesTheSelectedTabOnlyAtTheNextClick)
 {
     SelectTab(4);
     Type("txtNewCardBackName", "Owls");
@@ -56,7 +56,7 @@ TEST_F(KindsTest, ANewSetLeavesTheTabAndItsCardsToTheNextClick)
     EXPECT_EQ(Text("txtNewCardBackName"), "Owls");
 }
 
-TEST_F(KindsTest, OnlyCancelAFailedSaveAndARunKeepTheWindowOpen)
+TEST_F(KindsTest, OnlyCancelOrAFailedSaveOrARunKeepsTheWindowOpen)
 {
     window.show();
     Type("txtTitle", "Imp");
@@ -116,7 +116,7 @@ TEST_F(KindsTest, TheWheelChangesOnlyTheFocusedControl)
     EXPECT_EQ(Set().LargeCards.Count(), 0);
 }
 
-/// Accessibility.
+/// For screen readers and keyboard users.
 TEST_F(KindsTest, ControlsAreNamedAndTheTabOrderRunsDownOrRight)
 {
     window.show();

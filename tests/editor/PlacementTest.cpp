@@ -83,7 +83,7 @@ TEST_F(PlacementTest, KeysMoveThePictureToTheEdgesOfItsFrame)
     EXPECT_EQ(Offset(FirstCard()), QPointF(1, 0));
 }
 
-TEST_F(PlacementTest, CharacterAndPieceMoveEachTheirOwnPicture)
+TEST_F(PlacementTest, CharacterAndPieceHaveSeparatePictures)
 {
     SelectTab(3);
     const QString path = folder.WritePicture("hero.bmp", PictureOfPlaces({60, 60}));

@@ -53,7 +53,7 @@ protected:
             ExpectPlain(where);
         }
     }
-    /// Opens a dialog, looks at it and closes it.
+    /// Opens a dialog, checks its widgets and closes it.
     template <class Open>
     void Look(const char* name, Open&& open)
     {
@@ -69,7 +69,7 @@ protected:
         EXPECT_TRUE(isSeen) << name;
     }
 
-    int tips = 0; ///< that showed the text
+    int tips = 0; ///< number of tool tips that showed the text
 };
 
 } // namespace

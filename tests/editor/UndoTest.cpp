@@ -26,7 +26,7 @@ TEST_F(UndoTest, TypingIntoAFieldIsOneStepUntilTheFocusMoves)
     EXPECT_EQ(StepCount(), 3);
     Document().Undo();
     EXPECT_EQ(Text("txtArtist"), "Ann");
-    for (int more = 0; more < 3; ++more) // one more than there are
+    for (int more = 0; more < 3; ++more) // one more than there are steps
         Document().Undo();
     EXPECT_EQ(Preview().lblTitle.Caption, "CARD 1");
     Document().Redo();
@@ -67,7 +67,7 @@ TEST_F(UndoTest, UndoSelectsTheTabAndCardOfTheStep)
     Type("txtCharName", "Hero");
     Document().Undo();
     EXPECT_EQ(Find<QTabBar>("tbCard").currentIndex(), 2);
-    Document().Undo(); // the first character
+    Document().Undo(); // undoes the creation of the first character
     EXPECT_EQ(Find<QTabBar>("tbCard").currentIndex(), 0) << "there is no character any more";
     Slide("hsbCard", 1);
     Document().Undo();

@@ -39,7 +39,7 @@ protected:
     }
 
     // Controls
-    /// The contents of controls, separated by bars: their texts, or value and maximum of a slider: "1 (2)".
+    /// The texts of controls, separated by bars; for a slider its value and maximum, "1 (2)".
     QString Text(const std::vector<const char*>& names)
     {
         QStringList texts;
@@ -65,7 +65,7 @@ protected:
         Line(name).selectAll();
         QTest::keyClicks(&Line(name), text);
     }
-    /// Chooses an entry like the user.
+    /// Selects an entry as the user would.
     void Choose(const char* name, int entry)
     {
         auto& list = Find<QComboBox>(name);
@@ -99,7 +99,7 @@ protected:
     const CardTemplate& Preview() const { return Boxes().Standard; }
     CardPreview& View() { return *window.findChild<CardPreview*>(); }
 
-    /// The position of a box's pixel on the preview, at any zoom.
+    /// Converts a pixel of a box to a position on the preview, at the current zoom.
     QPoint PointOn(const Box& box, QPoint inBox = {1, 1})
     {
         QPoint corner = box.Place().topLeft() + inBox;
@@ -124,7 +124,7 @@ protected:
         QCoreApplication::sendEvent(&View(), &move);
     }
 
-    /// Drops a file on a place of the window.
+    /// Drops a file at a position of the window.
     void Drop(const QString& path, QPoint place = {1, 1})
     {
         QMimeData file;
@@ -137,7 +137,7 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    /// Answers the dialog of a picture button, and clicks it.
+    /// Clicks a picture button and chooses a file in its dialog.
     void ChoosePicture(const char* button, const QString& path)
     {
         user.WillChoose(path);

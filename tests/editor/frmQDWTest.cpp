@@ -13,7 +13,7 @@ TEST_F(frmQDWTest, OpeningASetDoesNotChangeItsRecords)
         set.Header.NoBack = true;
         AddElement<Card>(set);
         set.Cards[1].Info = "One\r\n\u00A0two  ";
-        Card& odd = set.Cards[2]; // in values that no control holds
+        Card& odd = set.Cards[2]; // with values that no control can hold
         odd.Info = "a\nb\rc";
         odd.Copies = -7;
         odd.CardBack = 0;

@@ -14,7 +14,7 @@ constexpr int FirstWithOwnRowsOnly = 6; ///< older files count the built-in rows
 struct Row {
     QByteArray Field;
     int Since;         ///< the first version that has the line
-    QByteArray Before; ///< what older files give; "-" if they lack the whole section
+    QByteArray Before; ///< value for older files; "-" if they lack the whole section
     QByteArray Line;
 
     /// The value in the set, without the spaces of a number.
@@ -165,7 +165,7 @@ TEST_F(GoldenSetTest, FieldsThatAnOlderVersionLacksGetTheirDefaults)
 {
     for (int version = 1; version < CurrentVersion; ++version) {
         SCOPED_TRACE(version);
-        Read(FileOf(Golden)); // so that no field has its default by chance; fonts are kept
+        Read(FileOf(Golden)); // so that no field already has its default; fonts are kept
         Read(FileOf(Golden, version));
         const QStringList fields = FieldsOf(Set);
         for (std::size_t i = 0; i < Golden.size(); ++i) {

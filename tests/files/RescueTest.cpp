@@ -72,7 +72,7 @@ TEST_F(RescueTest, ARunReplacesItsOwnFileWhateverItsNumber)
     RescueAs("other", other);
     EXPECT_EQ(RescueAs("one at last", one), Folder.Path("rescued-1.dkf"));
     EXPECT_EQ(Names(), "other|one at last|before");
-    one.Keep(Set); // it is saved
+    one.Keep(Set); // as after saving
     EXPECT_EQ(Names(), "other||before");
 
     Folder.Write("rescued.dkf", "somebody's");
@@ -87,7 +87,7 @@ TEST_F(RescueTest, IsRenewedIfItIsDueAndTheSetDiffers)
     UnsavedWork run(Folder.WithSeparator(), {});
     idle.Keep(Set);
     run.Keep(Set);
-    run.Renew(Set); // nothing differs
+    run.Renew(Set); // unchanged
     Set.Header.SetName = "changed";
     idle.Renew(Set); // not yet due
     EXPECT_FALSE(Folder.Has("rescued.dkf"));
@@ -95,7 +95,7 @@ TEST_F(RescueTest, IsRenewedIfItIsDueAndTheSetDiffers)
     EXPECT_EQ(Names(), "changed||");
 }
 
-TEST_F(RescueTest, TheFileOfASetThatWasLeftStaysUntilTheSetIsReturnedTo)
+TEST_F(RescueTest, TheFileOfALeftSetStaysUntilTheSetIsReturnedTo)
 {
     UnsavedWork run(Folder.WithSeparator(), {});
     run.Keep(Set);
@@ -114,7 +114,7 @@ TEST_F(RescueTest, TheFileOfASetThatWasLeftStaysUntilTheSetIsReturnedTo)
     EXPECT_EQ(Names(), "|left|");
 }
 
-TEST_F(RescueTest, ARescuedSetThatIsToBeOpenedStays)
+TEST_F(RescueTest, ARescuedSetAboutToBeOpenedIsKept)
 {
     for (int i = 1; i <= 10; ++i)
         RescueAs(QString::number(i));
@@ -152,7 +152,7 @@ TEST_F(RescueTest, IsWrittenBesideTheSetOrToTheTemporaryFolderIfNecessary)
     EXPECT_EQ(QFile::permissions(temporary) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
 
     QDir(temporary).removeRecursively();
-    ASSERT_TRUE(QFile::link(Folder.Path("set"), temporary)); // somebody else's work
+    ASSERT_TRUE(QFile::link(Folder.Path("set"), temporary)); // as another user could have made
     testing::internal::CaptureStderr();
     run.RescueAtExit(Set);
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
@@ -160,7 +160,7 @@ TEST_F(RescueTest, IsWrittenBesideTheSetOrToTheTemporaryFolderIfNecessary)
     EXPECT_TRUE(QDir(Folder.Path("set")).isEmpty());
 }
 
-TEST_F(RescueTest, UnwritableTextsLoseNothingElse)
+TEST_F(RescueTest, OnlyUnwritableTextsAreChanged)
 {
     Set.Cards[1].Title = "two\r\nlines";
     Set.Cards[1].Info = "Łódź\r\n€";
@@ -172,7 +172,7 @@ TEST_F(RescueTest, UnwritableTextsLoseNothingElse)
     EXPECT_EQ(NameIn("rescued.dkf"), "mended");
 }
 
-TEST_F(RescueTest, ASetDiffersIfItsFileWould)
+TEST_F(RescueTest, ASetDiffersIfItsFileContentsDiffer)
 {
     UnsavedWork kept(Folder.WithSeparator(), {});
     kept.Keep(Set);
@@ -194,10 +194,10 @@ TEST(TerminationGuardDeathTest, RunsOnceBeforeUnhandledFailures)
         way();
     };
     const auto fail = [] { throw RunTimeError(ErrorNumber::DeviceIo); };
-    const auto wait = [] { (void)std::raise(SIGALRM); }; // longer than the session
+    const auto wait = [] { (void)std::raise(SIGALRM); }; // as if the session did not wait
     const auto loseDisplay = [] {
         qWarning("The Wayland connection broke. Did the Wayland compositor die?");
-        ::_exit(1); // like the graphics library
+        ::_exit(1); // as the Wayland client library does
     };
     EXPECT_DEATH(end(fail), "^last act. terminate called.*\n.*57, Device I/O error");
     EXPECT_EXIT(end([] { std::exit(3); }), testing::ExitedWithCode(3), "^last act. $");

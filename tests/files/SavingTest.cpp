@@ -29,7 +29,7 @@ static bool KillAtCall(pid_t child, int number)
     return true;
 }
 
-/// Saving a set over an older one, which must always be on the disk: under its name or as its safety copy.
+/// Saves a set over an older one. The disk must always have a complete set, as the file or its safety copy.
 class SavingTest : public SetTest {
 protected:
     SavingTest()
@@ -120,7 +120,7 @@ TEST_P(SavingEitherWayTest, AFullDiskAtAnyByteChangesNothing)
 
 TEST_P(SavingEitherWayTest, ASaveThatIsKilledAtAnySystemCallLosesNothing)
 {
-    // Each continues with the files of the one before, as after a restart of the program.
+    // Each save starts with the files that the one before left, as after a restart.
     int calls = 0;
     for (bool isKilled = true; isKilled; ++calls) {
         isKilled = SaveKilledAt(calls);
@@ -135,7 +135,7 @@ TEST_P(SavingEitherWayTest, ASaveThatIsKilledAtAnySystemCallLosesNothing)
 TEST_P(SavingEitherWayTest, ConcurrentSavesLeaveOneCompleteSet)
 {
     Set.Cards.Resize(3000);
-    CardSet larger = Set; // takes about as long to write, so that both compete for the file
+    CardSet larger = Set; // takes about as long to write, so both saves compete for the file
     larger.Cards.Resize(3100);
     const QByteArray both[] = {SetFileBytes(Set, Unwritable::Fail), SetFileBytes(larger, Unwritable::Fail)};
     for (int round = 0; round < 20; ++round) {
@@ -181,7 +181,7 @@ TEST_F(SavingTest, AForeignFileIsOverwrittenAndKeepsItsOwner)
     EXPECT_EQ(Files(), QStringList{Name});
 }
 
-TEST_F(SavingTest, TheLongestNameIsSavedAgainAndAgain)
+TEST_F(SavingTest, AFileNameOfMaximumLengthCanBeSavedRepeatedly)
 {
     const QString longest = QString(251, 'x') + ".dkf";
     for (int i = 0; i < 2; ++i)
@@ -259,10 +259,10 @@ TEST_F(SavingTest, WithoutWritePermissionTheOldSetStays)
     Permit(0700, {});
 }
 
-TEST_F(SavingTest, ALinkStaysALink)
+TEST_F(SavingTest, ASymbolicLinkIsKept)
 {
     const QString link = Folder.Path("link.dkf");
-    for (const QString& target : {Name, QString("new.dkf")}) { // one that is there, one that is not
+    for (const QString& target : {Name, QString("new.dkf")}) { // an existing file and a missing one
         QFile::remove(link);
         ASSERT_TRUE(QFile::link(Folder.Path(target), link));
         EXPECT_TRUE(WriteSet(Set, link, User));

@@ -24,7 +24,7 @@ QByteArray HeadOf(const QByteArray& version)
     return LinesOf("Amber Gnome - Varnhelm Deck Foundry;" + version + ";-- START --;");
 }
 
-/// A set of version 1 with one card; the type line and its row as given.
+/// A set file of version 1 with one card that has this type text and row.
 QByteArray VersionOne(const QByteArray& type, const QByteArray& typeIndex, const QByteArray& typeCount = "15")
 {
     return HeadOf("Version 1") +
@@ -176,7 +176,8 @@ TEST_F(SetFileTest, ASetThatCouldNotBeReadAgainIsNotWritten)
     EXPECT_TRUE(User.LastMessageText().startsWith(failure + "5, "));
     EXPECT_TRUE(User.LastBox().Text.contains("Ł"));
     Set.Cards[1].Info.clear();
-    Set.Cards[1].PictureTop = std::numeric_limits<double>::quiet_NaN(); // nothing else is known that fails
+    Set.Cards[1].PictureTop =
+        std::numeric_limits<double>::quiet_NaN(); // the only known value that is written but cannot be read
     EXPECT_FALSE(Write());
     EXPECT_EQ(User.LastMessageText(), failure + "13, The set could not be opened again: Type mismatch");
     EXPECT_EQ(Folder.Read("written.dkf"), old);
@@ -243,7 +244,7 @@ TEST_F(SetFileTest, FoldersNamedInAnyLanguageAreSavedAndReadAgain)
     Set.Header.FileName = "/home/иван/набор.dkf";
     Set.Cards[1].Picture = "/data/Ελλάδα/two\r\nlines.bmp";
     Set.Cards[1].Background = "/home/josé/bär €.bmp"; // in the code page, so unchanged
-    Set.LastBackground = "file:///home/%41.bmp";      // looks like an address, and is none
+    Set.LastBackground = "file:///home/%41.bmp";      // starts like an encoded path but is none
     const CardSet before = Set;
     const QByteArray written = Written();
     EXPECT_TRUE(written.contains("file:///data/%CE%95%CE%BB%CE%BB%CE%AC%CE%B4%CE%B1/two%0D%0Alines.bmp\r\n"));

@@ -14,7 +14,7 @@ TEST(PictureBox, PicturesAreClippedAtItsEdges)
         {{1, 1}, {0, 0, 3, 2}, {"....", ".rgb", ".###"}},
         {{-1, 0}, {0, 0, 3, 2}, {"gb..", "##..", "...."}},
         {{2, 2}, {0, 0, 3, 2}, {"....", "....", "..rg"}},
-        {{0, 0}, {1, 0, 5, 1}, {"gb..", "....", "...."}}, // the source reaches past the picture
+        {{0, 0}, {1, 0, 5, 1}, {"gb..", "....", "...."}}, // the source extends past the picture
         {{0, 0}, {-1, 0, 2, 1}, {".r..", "....", "...."}},
         {{0, 0}, {3, 0, 2, 2}, {"....", "....", "...."}}};
     for (const auto& [target, source, expected] : cases) {
@@ -66,7 +66,7 @@ TEST(PictureBox, PositionsAreTheSameAtEveryScale)
     EXPECT_EQ(RowsOf(fine), (PixelRows{"###.", "#.#r", "###r"}));
     EXPECT_EQ(fine.Image().Pixels().size(), QSize(12, 9));
     EXPECT_EQ(fine.Image().Size(), QSize(4, 3));
-    // A picture of the finer surface is as large as it was on it.
+    // A picture taken from the finer surface keeps its logical size.
     PictureBox coarse(QSize(4, 3));
     coarse.PaintPicture(fine.Image(), 0, 0);
     EXPECT_EQ(coarse.GetPixel(3, 2), 0x0000FF);

@@ -28,7 +28,7 @@ QByteArray Encoded(const char* format)
     return bytes;
 }
 
-/// A file that the fuzzer begins with.
+/// A file of the fuzzer's seed corpus.
 QByteArray Seed(const QString& name)
 {
     QFile file(DECKFORGE_SOURCE_DIR "/fuzz/corpus/" + name);
@@ -62,8 +62,8 @@ QByteArray PlaceableHeader(int left, int top, int right, int bottom, int unitsPe
     return header + Words({checksum});
 }
 
-/// A placeable metafile of 96 x 48 units of 1/96 inch: black in its left half, and a black dot in the lower
-/// right corner, since the converter scales what is drawn to the whole picture.
+/// A placeable metafile of 96 x 48 units of 1/96 inch, with a black left half. The converter scales the
+/// drawing to fill the picture, so a black dot in the lower right corner sets its extent.
 QByteArray Metafile()
 {
     const int recordWords = 5 + 5 + 7 + 4 + 7 + 7 + 3;
@@ -76,7 +76,7 @@ QByteArray Metafile()
            Words({7, 0, 0x041B, 48, 96, 47, 95}) + Words({3, 0, 0}); // end
 }
 
-/// Pixels of 32 bits with masks of their own; all are red at full, green at half, and no blue.
+/// A BMP with 32-bit pixels and custom masks; all pixels have full red, half green and no blue.
 QByteArray BmpWithMasks(quint32 red, quint32 green, quint32 blue, quint32 pixel)
 {
     QByteArray bmp = With<qint16>(With<qint32>(Encoded("BMP"), 30, 3), 28, 32).first(54);
@@ -86,10 +86,10 @@ QByteArray BmpWithMasks(quint32 red, quint32 green, quint32 blue, quint32 pixel)
     return With<quint32>(bmp, 10, 54 + 12);
 }
 
-// Pictures of a few pixels that keep a decoder busy for as long as they have bytes.
+// Small pictures whose decoding time grows with the size of the file.
 
-/// A picture of 1 x 1 pixels whose codes take so many bytes. Each code is the one before and one pixel
-/// more, up to thousands.
+/// A GIF of 1 x 1 pixels with this many bytes of codes. Each code stands for one pixel more than the one
+/// before, up to thousands.
 QByteArray GifOfOnePixel(qsizetype codeBytes)
 {
     QByteArray codes;
@@ -115,7 +115,7 @@ QByteArray GifOfOnePixel(qsizetype codeBytes)
     return bytes.append("\0;", 2);
 }
 
-/// The last scan of a progressive picture again and again, until it has so many.
+/// A progressive JPEG whose last scan is repeated until there are this many.
 QByteArray JpegOfScans(int count)
 {
     QByteArray bytes = Seed("jpeg/progressive");
@@ -186,7 +186,7 @@ TEST_F(PictureFiles, InvalidFilesAreRejectedAndUnusualOnesRead)
     const QByteArray bmp = Encoded("BMP");
     const QByteArray jpeg = Encoded("JPEG");
     const QByteArray gif = EncodedGif();
-    const QByteArray runs = Seed("bmp/rle8"); // no number of bytes follows from its size
+    const QByteArray runs = Seed("bmp/rle8"); // its number of bytes does not follow from its size
     const QByteArray mono = Seed("gif/mono");
     const qsizetype frame = jpeg.indexOf("\xFF\xC0") + 5;
     const std::tuple<const char*, QByteArray, int> rows[] = {
@@ -278,7 +278,7 @@ TEST_F(PictureFiles, AJpegMayHaveStrayBytesBetweenItsSegments)
     }
 }
 
-TEST_F(PictureFiles, AMetafileIsDrawnAndMayCountItsPlaceableHeaderAsItsOwn)
+TEST_F(PictureFiles, AMetafileIsDrawnAndItsSizeMayIncludeThePlaceableHeader)
 {
     PictureBox surface(QSize(96, 48));
     const Picture drawn = Decode(Metafile());
@@ -299,7 +299,7 @@ TEST_F(PictureFiles, AMetafileHasTheSizeOfItsPlaceableHeader)
     EXPECT_EQ(PlaceableWmfSize(Metafile().sliced(22)), std::nullopt);
 }
 
-TEST_F(PictureFiles, AMissingConverterIsNamedAndFoundOnceInstalled)
+TEST_F(PictureFiles, AMissingConverterIsReportedByNameAndFoundOnceInstalled)
 {
     const QString path = Folder.Write("a.wmf", Metafile());
     {

@@ -13,7 +13,7 @@ namespace deckforge {
 
 namespace {
 
-/// Grey levels as a palette, with memory that was used before behind each row.
+/// Grey levels with a palette. The padding of each row has old memory contents.
 Picture PaletteOf(int colours, QSize size)
 {
     QImage image(size, QImage::Format_Indexed8);
@@ -27,7 +27,7 @@ Picture PaletteOf(int colours, QSize size)
     return Picture(image);
 }
 
-/// The colours as their bytes in hexadecimal.
+/// The bytes of the colours in hexadecimal.
 QList<QByteArray> PaletteOfGif(const QByteArray& gif)
 {
     QList<QByteArray> colours;

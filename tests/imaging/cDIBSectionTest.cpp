@@ -69,7 +69,7 @@ TEST(cDIBSection, CopiesAreClippedToBothSurfaces)
              std::tuple{0, 0, -1, -1, 0, 0, PixelRows{"rg.", "b#."}},
              {0, 0, -1, 1, 0, 0, {"rg.", "..."}}, // the full width of a strip
              {0, 0, 1, -1, 0, 0, {"r..", "b.."}},
-             {0, 0, 0, -1, 0, 0, {"...", "..."}}, // no extent is none, not all
+             {0, 0, 0, -1, 0, 0, {"...", "..."}}, // extent 0 copies nothing
              {0, 0, -1, 0, 0, 0, {"...", "..."}},
              {2, 1, -1, -1, 0, 0, {"...", "..r"}},
              {-1, 0, -1, -1, 0, 0, {"g..", "#.."}},
@@ -91,7 +91,7 @@ TEST(cDIBSection, CopiesAreClippedToBothSurfaces)
     EXPECT_EQ(RowsOf(taken), (PixelRows{"r..", "#.."}));
 }
 
-TEST(cDIBSection, ResampleBlendsBetweenNeighboursAndNeverReachesTheLast)
+TEST(cDIBSection, ResampleInterpolatesAndNeverReachesTheLastPixel)
 {
     cDIBSection section;
     ASSERT_TRUE(section.Create(2, 1));
@@ -100,7 +100,7 @@ TEST(cDIBSection, ResampleBlendsBetweenNeighboursAndNeverReachesTheLast)
     std::fill_n(bits + 3, 3, std::uint8_t{101});
     const auto wider = section.Resample(1, 4);
     ASSERT_NE(wider, nullptr);
-    // Steps of (2 - 1) / 4: 0, 25.25, 50.5 to the even neighbour, 75.75.
+    // Steps of (2 - 1) / 4: 0, 25.25, 50.5 (rounded to even), 75.75.
     EXPECT_EQ(BytesOf(*wider), (std::vector<int>{0, 0, 0, 25, 25, 25, 50, 50, 50, 76, 76, 76}));
     const auto same = SectionOf({"rg", "b#"}).Resample(2, 2);
     EXPECT_EQ(RowsOf(*same), (PixelRows{"rg", "b#"}));
@@ -112,7 +112,7 @@ TEST(cDIBSection, TestPatternsReachItsLastColumnWithoutBlueOrInGrey)
 {
     cDIBSection section;
     ASSERT_TRUE(section.Create(8, 4));
-    for (const bool isGrey : {true, false}) { // over what was there before
+    for (const bool isGrey : {true, false}) { // the second pattern overwrites the first
         section.RandomiseBits(isGrey);
         int found = 0;
         for (int y = 0; y < 4; ++y) {

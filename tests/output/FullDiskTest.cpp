@@ -10,7 +10,7 @@ namespace deckforge {
 
 using FullDiskTest = WorkshopTest;
 
-TEST_F(FullDiskTest, AnImageThatCouldNotBeWrittenIsReported)
+TEST_F(FullDiskTest, AnUnwritableImageIsReported)
 {
     FirstCard().Filename = "card";
     for (int16 format = 0; format < 3; ++format) {

@@ -53,7 +53,7 @@ TEST_F(PagesTest, PagesAreLinkedAndCopiesAreRepeatedImages)
     Set.Cards[1].Copies = 6;
     Set.Header.ReplaceSpace = true;
     EXPECT_TRUE(CreateHtml(Set, TheRun, HtmlPages::Cards));
-    // Twelve copies are linked as three pages and fill two.
+    // Twelve copies fill two pages, but three are linked.
     const QByteArray second = Folder.Read("My_Set_2.htm");
     EXPECT_TRUE(
         second.contains("<P>Pages:&nbsp;&nbsp;<A HREF=\"My_Set_1.htm\">1</A>&nbsp;&nbsp;<B>2</B>&nbsp;&nbsp;"

@@ -16,7 +16,7 @@ protected:
         AddElement<Character>(Shop.Set);
     }
 
-    /// A printer's page as pixels, large enough for the place of a playing piece.
+    /// A printer page as an image, large enough for the position of a playing piece.
     QImage Painted(PrintedPage page, int dotsPerInch)
     {
         QImage paper(2500, 4800, QImage::Format_RGB32);
@@ -28,9 +28,9 @@ protected:
     }
 };
 
-TEST_F(PrintingTest, PicturesKeepTheirSizeAndMarginsTheirPixels)
+TEST_F(PrintingTest, PicturesKeepTheirSizeAndMarginsAreInPixels)
 {
-    // The width and the height are those of the printed picture, in pixels of the printer.
+    // Width and height of the printed picture, in printer pixels.
     const std::tuple<PrintedPage, int, bool, int, int> rows[] = {
         {PrintedPage::Card, 300, false, 950, 800},     {PrintedPage::Card, 300, true, 475, 800},
         {PrintedPage::Card, 600, true, 950, 1600},     {PrintedPage::LargeCard, 300, false, 1900, 800},

@@ -66,16 +66,16 @@ TEST_F(SheetTest, EachCellHasACardAndItsBackInAGrid)
     for (const int y : {255, 511, 767})
         EXPECT_EQ(sheet.pixel(60, y), BlackPixel) << y;
     for (int i = 0; i < 5; ++i) {
-        const QRect back(i % 2 * 304 + 152 + 1, i / 2 * 256, 149, 254); // its first column is under the grid
+        const QRect back(i % 2 * 304 + 152 + 1, i / 2 * 256, 149, 254); // the grid covers its first column
         const QImage art = Shop.Art.imgCB(i).Pixels().copy(1, 0, 149, 254);
         EXPECT_EQ(sheet.copy(back).convertToFormat(art.format()), art) << "card " << i + 1;
         const QImage card = Composed(ShowCard, i + 1).copy(0, 0, 151, 255);
-        const QRect front(i % 2 * 304, i / 2 * 256, 151, 255); // the rest is under the grid
+        const QRect front(i % 2 * 304, i / 2 * 256, 151, 255); // the grid covers the rest
         EXPECT_EQ(sheet.copy(front).convertToFormat(card.format()), card) << "card " << i + 1;
     }
 }
 
-TEST_F(SheetTest, WithoutBacksACellIsACardAndASecondRunWritesAtEveryCard)
+TEST_F(SheetTest, WithoutBacksACellIsOneCardAndASecondRunWritesAfterEveryCard)
 {
     Header().NoBack = true;
     CreateSheets(Shop, TheRun, CardKind::Standard, SheetGrid{5, 1});

@@ -66,7 +66,11 @@ TEST_F(ImageTest, CardAndBackAreSideBySideInTheirOutlines)
         rows[] = {{"card", ShowCard, FinalImage::Card, card, Shop.Art.imgCB(1)},
                   {"large card", ShowLargeCard, FinalImage::LargeCard, card, PictureOfPlaces({302, 254})},
                   {"character", ShowCharacter, FinalImage::Character, card, Shop.Art.imgChB(1)},
-                  {"piece", ShowCharacter, FinalImage::PlayingPiece, pieceSurface, {}}}; // the front again
+                  {"piece",
+                   ShowCharacter,
+                   FinalImage::PlayingPiece,
+                   pieceSurface,
+                   {}}}; // the back of a piece is its front
     for (const auto& [name, show, image, surface, back] : rows) {
         for (const bool noBack : {false, true}) {
             SCOPED_TRACE(testing::Message() << name << (noBack ? " without back" : ""));
@@ -151,7 +155,7 @@ TEST_F(ImageTest, AFailureIsReportedByTheWriterAndTheRunContinues)
         User.Boxes.clear();
         ++Header().SaveFormat;
     }
-    Header().SaveFormat = 2; // which uses a temporary file
+    Header().SaveFormat = 2; // GIF, which uses a temporary file
     EXPECT_TRUE(QFile::exists(ProgramFolder() + "qdwtemp.bmp"));
     WriteFinalPicture(Shop, TheRun, FinalImage::Card, {"/proc/none/", "card.gif"});
     EXPECT_EQ(User.LastBox().Text, "Something went wrong.\r\n\r\nPath not found");

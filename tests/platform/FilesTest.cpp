@@ -40,12 +40,12 @@ TEST(Files, APipeWithASlowReaderGetsAllBytes)
     const QByteArray fifo = folder.Path("fifo").toUtf8();
     ASSERT_EQ(::mkfifo(fifo.constData(), 0600), 0);
     const int reader = ::open(fifo.constData(), O_RDONLY | O_NONBLOCK);
-    const QByteArray text(1 << 20, 'x'); // more than a pipe holds
+    const QByteArray text(1 << 20, 'x'); // exceeds the capacity of a pipe
     OutputFile file(folder.Path("fifo"));
     qsizetype got = 0;
     std::thread reading([&] {
         QByteArray piece(4096, Qt::Uninitialized);
-        for (ssize_t size = -1; size != 0 && got < text.size();) { // less than 0 where there is nothing yet
+        for (ssize_t size = -1; size != 0 && got < text.size();) { // -1: no data yet
             size = ::read(reader, piece.data(), static_cast<size_t>(piece.size()));
             got += std::max<ssize_t>(size, 0);
         }

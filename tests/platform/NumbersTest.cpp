@@ -37,7 +37,7 @@ TEST(Numbers, AreReadWithSpacesInAnyLocaleAndAsBooleans)
     EXPECT_EQ(FailureOf([] { (void)BooleanFromText(""); }), 13);
 }
 
-TEST(Numbers, AreWrittenWithASignPositionAndATrailingSpace)
+TEST(Numbers, AreWrittenWithASignOrSpaceAndATrailingSpace)
 {
     const auto written = [](auto value) {
         QByteArray line;

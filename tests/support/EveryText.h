@@ -32,12 +32,12 @@ template <class Make>
 void SetEveryText(CardSet& set, Make&& make)
 {
     EveryText<Make&> texts = {make};
-    setFile::HeaderFields(texts, set.Header);
-    setFile::CardBackFields(texts, set.CardBacks[set.CardBacks.Count()]);
-    setFile::CardFields(texts, set.Cards[1]);
-    setFile::LargeCardFields(texts, set.LargeCards[1]);
-    setFile::CharacterFields(texts, set.Characters[1]);
-    setFile::NewCardBackFields(texts, set.NewCardBacks[1]);
+    setFile::Fields(texts, set.Header);
+    setFile::Fields(texts, set.CardBacks[set.CardBacks.Count()]);
+    setFile::Fields(texts, set.Cards[1]);
+    setFile::Fields(texts, set.LargeCards[1]);
+    setFile::Fields(texts, set.Characters[1]);
+    setFile::Fields(texts, set.NewCardBacks[1]);
 }
 
 } // namespace deckforge

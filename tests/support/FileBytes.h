@@ -40,8 +40,8 @@ inline QByteArray JpegSegments(const QByteArray& jpeg, int marker)
     return found;
 }
 
-/// The largest divisors of brightness (table 0) or colour (table 1). It shows the quality: at 90 it is a
-/// fifth of the 121 or 99 in the tables of the JPEG standard.
+/// The largest divisor for brightness (table 0) or colour (table 1). It depends on the quality: at 90 it is
+/// a fifth of the 121 or 99 in the tables of the JPEG standard.
 inline int CoarsestJpegStep(const QByteArray& jpeg, int table)
 {
     constexpr int tableBytes = 65; // with its number

@@ -13,8 +13,8 @@ namespace deckforge {
 
 /// A user who answers from a script and records all questions and messages.
 ///
-/// Message boxes with only OK need no script. Every other question needs an answer queued for it: one without
-/// fails at once, and an answer that no question took fails at the end.
+/// Message boxes with only OK need no script. Every other question takes the next queued answer: the test
+/// fails if there is none, and at the end if answers are left.
 class ScriptedUser final : public UserPort {
 public:
     ScriptedUser() = default;

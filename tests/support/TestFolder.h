@@ -11,11 +11,11 @@
 
 namespace deckforge {
 
-/// A folder of the test that is removed at its end.
+/// A temporary folder, removed at the end of the test.
 class TestFolder {
 public:
     [[nodiscard]] QString Path(const QString& name = {}) const { return m_folder.filePath(name); }
-    /// The path with its separator.
+    /// The path with a trailing separator.
     [[nodiscard]] QString WithSeparator() const { return m_folder.path() + '/'; }
     QString Write(const QString& name, const QByteArray& bytes) const;
     /// Writes a picture file; by default one in which all pixels differ.
