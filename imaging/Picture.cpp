@@ -30,6 +30,21 @@ void ClearRowPadding(QImage& image)
 
 Picture::Picture(QImage image, int scale) : m_image(std::move(image)), m_scale(scale) {}
 
+Picture::Picture(QImage image, Picture finer)
+    : m_image(std::move(image)), m_finer(std::move(finer.m_image)), m_finerScale(finer.m_scale)
+{
+}
+
+Picture Picture::ForScale(int scale) const
+{
+    return scale == 1 || m_finer.isNull() ? Picture(m_image, m_scale) : Picture(m_finer, m_finerScale);
+}
+
+qint64 Picture::Bytes() const
+{
+    return m_image.sizeInBytes() + m_finer.sizeInBytes();
+}
+
 void SavePicture(const Picture& picture, const QString& path)
 {
     if (picture.IsEmpty())

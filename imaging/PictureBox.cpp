@@ -2,6 +2,7 @@
 
 #include "imaging/PictureBox.h"
 
+#include "imaging/Resampling.h"
 #include "platform/RunTimeError.h"
 
 #include <QPainter>
@@ -22,11 +23,18 @@ void PaintOn(QImage& image, int scale, const Picture& picture, QPoint target, co
     const QRect existing = source & QRect({0, 0}, picture.Size());
     if (existing.isEmpty())
         return;
-    const QPoint place = target + existing.topLeft() - source.topLeft();
+    const QPoint shift = target - source.topLeft();
+    const QRect visible = existing.translated(shift) & QRect({0, 0}, image.size() / scale);
+    if (visible.isEmpty())
+        return;
+    const Picture drawn = picture.ForScale(scale);
+    const QRect part = InMemory(visible.translated(-shift), drawn.Scale());
+    const QSize size = visible.size() * scale;
     QPainter painter(&image);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(InMemory({place, existing.size()}, scale), picture.Pixels(),
-                      InMemory(existing, picture.Scale()));
+    if (part.size() == size)
+        painter.drawImage(visible.topLeft() * scale, drawn.Pixels(), part);
+    else
+        painter.drawImage(visible.topLeft() * scale, Resampled(drawn.Pixels(), part, size));
 }
 
 } // namespace
@@ -84,6 +92,28 @@ void PictureBox::Refresh()
 void PictureBox::Clear()
 {
     m_needsClearing = true;
+    m_isDrawnOn = false;
+}
+
+QImage& PictureBox::Drawing()
+{
+    m_isDrawnOn = true;
+    return Pixels();
+}
+
+void PictureBox::ShowOn(QPainter& painter, QPoint corner, int scale) const
+{
+    const Picture finest = m_picture.ForScale(scale);
+    if (m_isDrawnOn || finest.Scale() <= m_scale) {
+        painter.drawImage(QRect(corner, m_size), Pixels());
+        return;
+    }
+    const QRect part({0, 0}, m_size.boundedTo(finest.Size()));
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.fillRect(QRect(corner, m_size), QColor(ToRgb(m_backColor)));
+    painter.drawImage(part.translated(corner), finest.Pixels(), InMemory(part, finest.Scale()));
+    painter.restore();
 }
 
 /// Clears the image lazily: surfaces are often cleared repeatedly before they are drawn on, and some previews
@@ -162,7 +192,7 @@ void PictureBox::PrintLine(QPainter& painter, const QString& line) const
 
 void PictureBox::Print(const QString& text)
 {
-    QPainter painter(&Pixels());
+    QPainter painter(&Drawing());
     painter.scale(m_scale, m_scale);
     painter.setFont(Measures().Font());
     painter.setPen(QColor::fromRgb(ToRgb(ForeColor)));
@@ -188,20 +218,20 @@ void PictureBox::PaintStretched(const Picture& picture, const QRect& target)
 {
     if (picture.IsEmpty() || target.isEmpty())
         return;
-    QPainter painter(&Pixels());
+    QPainter painter(&Drawing());
     painter.drawImage(InMemory(target, m_scale), picture.Pixels());
 }
 
 void PictureBox::PaintPart(const Picture& picture, QPoint target, const QRect& source)
 {
-    PaintOn(Pixels(), m_scale, picture, target, source);
+    PaintOn(Drawing(), m_scale, picture, target, source);
 }
 
 void PictureBox::LineBox(int x1, int y1, int x2, int y2)
 {
     const QRect outer(QPoint(std::min(x1, x2), std::min(y1, y2)), QPoint(std::max(x1, x2), std::max(y1, y2)));
     const QColor colour = QColor::fromRgb(ToRgb(ForeColor));
-    QPainter painter(&Pixels());
+    QPainter painter(&Drawing());
     for (const QRect& side :
          {QRect(outer.topLeft(), QSize(outer.width(), 1)), QRect(outer.bottomLeft(), QSize(outer.width(), 1)),
           QRect(outer.topLeft(), QSize(1, outer.height())),
@@ -220,7 +250,7 @@ void PictureBox::SetPixel(int x, int y, Colour colour)
 {
     if (!QRect({0, 0}, m_size).contains(x, y) || colour == InvalidColour)
         return;
-    QPainter painter(&Pixels());
+    QPainter painter(&Drawing());
     painter.fillRect(InMemory({x, y, 1, 1}, m_scale), QColor::fromRgb(ToRgb(colour)));
 }
 
@@ -228,7 +258,7 @@ void PictureBox::ExtFloodFill(int x, int y, Colour areaColour)
 {
     const QRgb area = ToRgb(areaColour);
     const QRgb fill = ToRgb(FillColor);
-    QImage& image = Pixels();
+    QImage& image = Drawing();
     const auto row = [&](int at) { return reinterpret_cast<QRgb*>(image.scanLine(at)); };
     const QPoint seed = QPoint(x, y) * m_scale;
     if (!image.rect().contains(seed) || area == fill)

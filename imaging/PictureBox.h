@@ -34,9 +34,12 @@ public:
     [[nodiscard]] const Picture& GetPicture() const { return m_picture; }
     void SetPicture(const Picture& picture); ///< shows it at the top left corner, clears the drawing
     [[nodiscard]] Picture Image() const;     ///< the surface with all drawing
-    void Freeze();                           ///< makes the current image the picture
-    void SetBackColor(Colour colour);        ///< clears the drawing; the picture stays on top
-    void Refresh();                          ///< clears the drawing
+    /// Paints the surface at a place of a painter whose pixels are `scale` times as fine; as finely as the
+    /// picture is, unless something was drawn on it.
+    void ShowOn(QPainter& painter, QPoint corner, int scale) const;
+    void Freeze();                    ///< makes the current image the picture
+    void SetBackColor(Colour colour); ///< clears the drawing; the picture stays on top
+    void Refresh();                   ///< clears the drawing
 
     // Text
     [[nodiscard]] const TextFont& Font() const { return m_font; }
@@ -77,12 +80,14 @@ private:
     void PrintLine(QPainter& painter, const QString& line) const;
     void Clear();
     [[nodiscard]] QImage& Pixels() const;
+    [[nodiscard]] QImage& Drawing(); ///< the pixels, to draw on them
 
     QSize m_size;
     int m_scale;
     Picture m_picture;
     Colour m_backColor = White;
     TextFont m_font;
+    bool m_isDrawnOn = false;
     mutable bool m_needsClearing = false;
     mutable QImage m_image; ///< opaque; null if the surface has no area
     mutable QHash<TextFont, std::shared_ptr<const FontMeasures>> m_measures; ///< cache

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <bit>
 #include <gif_lib.h>
+#include <libexif/exif-data.h>
 #include <vector>
 
 namespace deckforge {
@@ -24,6 +25,7 @@ public:
 
     [[nodiscard]] bool IsPastEnd() const { return m_at > m_bytes.size(); }
     [[nodiscard]] bool IsAtEnd() const { return m_at >= m_bytes.size(); }
+    [[nodiscard]] qint64 At() const { return m_at; }
     void MoveTo(qint64 at) { m_at = at; }
     void Skip(qint64 count) { m_at += count; }
 
@@ -220,6 +222,38 @@ bool IsWholeWmf(QByteArrayView bytes)
     return hasHeader && !in.IsPastEnd() && isWhole;
 }
 
+/// Text whose first element is the drawing, or gzipped text.
+bool IsSvg(QByteArrayView bytes)
+{
+    constexpr qsizetype maxPreamble = 4096;
+    const QByteArray start = bytes.first(qMin(bytes.size(), maxPreamble)).toByteArray();
+    const QByteArray text = (start.startsWith("\xEF\xBB\xBF") ? start.sliced(3) : start).trimmed();
+    return start.startsWith("\x1F\x8B") || (text.startsWith('<') && text.contains("<svg"));
+}
+
+/// The EXIF data of a PNG or WebP file; empty if there is none.
+QByteArrayView ChunkData(QByteArrayView bytes, PictureFormat format)
+{
+    constexpr qint64 pngChunks = 8;
+    constexpr qint64 webPChunks = 12;
+    const bool isPng = format == PictureFormat::Png;
+    Scanner in(bytes);
+    in.MoveTo(isPng ? pngChunks : webPChunks);
+    while (!in.IsAtEnd()) {
+        const auto bigEndian32 = [&in] { return quint32{in.BigEndian16()} << 16 | in.BigEndian16(); };
+        const qint64 pngSize = isPng ? bigEndian32() : 0;
+        const qint64 name = in.At();
+        in.Skip(4);
+        const qint64 size = isPng ? pngSize : in.LittleEndian32();
+        if (in.At() + size > bytes.size())
+            break;
+        if (bytes.sliced(name).startsWith(isPng ? "eXIf" : "EXIF"))
+            return bytes.sliced(in.At(), size);
+        in.Skip(isPng ? size + 4 : size + size % 2); // a checksum, a byte to an even size
+    }
+    return {};
+}
+
 } // namespace
 
 std::optional<QSize> PlaceableWmfSize(QByteArrayView bytes)
@@ -241,6 +275,13 @@ std::optional<QSize> PlaceableWmfSize(QByteArrayView bytes)
     return QSize(pixels(right - left), pixels(bottom - top));
 }
 
+const QStringList& PictureSuffixes()
+{
+    static const QStringList suffixes = {"png", "jpg",  "jpeg", "jfif", "webp", "heic", "heif", "avif",
+                                         "tif", "tiff", "svg",  "svgz", "bmp",  "gif",  "wmf"};
+    return suffixes;
+}
+
 PictureFormat FormatOf(QByteArrayView bytes)
 {
     if (bytes.startsWith("BM"))
@@ -249,7 +290,39 @@ PictureFormat FormatOf(QByteArrayView bytes)
         return IsWholeJpeg(bytes) ? PictureFormat::Jpeg : PictureFormat::Unknown;
     if (bytes.startsWith("GIF8"))
         return IsWholeGif(bytes) ? PictureFormat::Gif : PictureFormat::Unknown;
+    if (bytes.startsWith("\x89PNG"))
+        return PictureFormat::Png;
+    if (bytes.startsWith("RIFF") && bytes.sliced(8).startsWith("WEBP"))
+        return PictureFormat::WebP;
+    if (bytes.startsWith(QByteArrayView("II*\0", 4)) || bytes.startsWith(QByteArrayView("MM\0*", 4)))
+        return PictureFormat::Tiff;
+    if (bytes.sliced(qMin<qsizetype>(4, bytes.size())).startsWith("ftyp"))
+        return PictureFormat::Heif;
+    if (IsSvg(bytes))
+        return PictureFormat::Svg;
     return IsWholeWmf(bytes) ? PictureFormat::Wmf : PictureFormat::Unknown;
+}
+
+QImageIOHandler::Transformations OrientationOf(QByteArrayView bytes, PictureFormat format)
+{
+    QByteArray exif("Exif\0\0", 6); // the library expects the prefix that JPEG files have
+    exif += ChunkData(bytes, format).toByteArray();
+    const Owned<ExifData> data(exif_data_new_from_data(reinterpret_cast<const uchar*>(exif.constData()),
+                                                       static_cast<uint>(exif.size())),
+                               exif_data_unref);
+    const ExifEntry* const entry =
+        data == nullptr ? nullptr : exif_data_get_entry(data, EXIF_TAG_ORIENTATION);
+    if (entry == nullptr || entry->format != EXIF_FORMAT_SHORT)
+        return QImageIOHandler::TransformationNone;
+    using enum QImageIOHandler::Transformation;
+    static constexpr QImageIOHandler::Transformation turns[] = {
+        TransformationNone,     TransformationNone,
+        TransformationMirror,   TransformationRotate180,
+        TransformationFlip,     TransformationFlipAndRotate90,
+        TransformationRotate90, TransformationMirrorAndRotate90,
+        TransformationRotate270};
+    const auto number = exif_get_short(entry->data, exif_data_get_byte_order(data.get()));
+    return number < std::size(turns) ? turns[number] : TransformationNone;
 }
 
 } // namespace deckforge

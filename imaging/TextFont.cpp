@@ -2,7 +2,12 @@
 
 #include "imaging/TextFont.h"
 
+#include "imaging/Owned.h"
+
+#include <QStringList>
+#include <algorithm>
 #include <cmath>
+#include <fontconfig/fontconfig.h>
 
 namespace deckforge {
 
@@ -10,15 +15,60 @@ namespace {
 
 constexpr double PointsPerInch = 72;
 
-const QString& Substitute()
+/// Fonts with the same widths, so that texts break where they do in programs that have the original. They are
+/// used even where the original is installed: a set gives the same cards everywhere.
+struct MetricTwin {
+    QLatin1String Name;
+    QLatin1String Twin;
+};
+constexpr QLatin1String Sans("Liberation Sans");
+constexpr MetricTwin Twins[] = {
+    {.Name = QLatin1String("Small Fonts"), .Twin = Sans},
+    {.Name = QLatin1String("Arial"), .Twin = Sans},
+    {.Name = QLatin1String("Helvetica"), .Twin = Sans},
+    {.Name = QLatin1String("Arial Narrow"), .Twin = QLatin1String("Liberation Sans Narrow")},
+    {.Name = QLatin1String("Times New Roman"), .Twin = QLatin1String("Liberation Serif")},
+    {.Name = QLatin1String("Courier New"), .Twin = QLatin1String("Liberation Mono")}};
+
+/// For letters that the fonts before them lack, in this order: Arabic and symbols, then Chinese, Japanese and
+/// Korean. The package depends on them.
+constexpr QLatin1String Fallbacks[] = {Sans, QLatin1String("DejaVu Sans"),
+                                       QLatin1String("Droid Sans Fallback")};
+
+/// The family that the system uses for a name.
+QString SystemMatch(const QString& name)
 {
-    static const QString name = QStringLiteral("Liberation Sans");
-    return name;
+    const Owned<FcPattern> wanted(FcPatternCreate(), FcPatternDestroy);
+    FcPatternAddString(wanted.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(name.toUtf8().constData()));
+    FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern);
+    FcDefaultSubstitute(wanted.get());
+    FcResult result = FcResultNoMatch;
+    const Owned<FcPattern> match(FcFontMatch(nullptr, wanted.get(), &result), FcPatternDestroy);
+    FcChar8* family = nullptr;
+    if (match == nullptr || FcPatternGetString(match.get(), FC_FAMILY, 0, &family) != FcResultMatch)
+        return {};
+    return QString::fromUtf8(reinterpret_cast<const char*>(family));
 }
 
-bool IsSubstituted(const QString& name)
+/// The families in the order in which they are searched for a letter. Without a twin a font that is not
+/// installed is replaced by the system's similar one, if it knows any: for unknown names it has a default.
+QStringList Families(const QString& name)
 {
-    return name == QLatin1String("Small Fonts") || name == QLatin1String("Arial");
+    const auto twin = std::ranges::find_if(
+        Twins, [&](const MetricTwin& entry) { return name.compare(entry.Name, Qt::CaseInsensitive) == 0; });
+    QStringList families;
+    if (twin != std::end(Twins)) {
+        families += twin->Twin;
+    } else {
+        static const QString unknown = SystemMatch(QStringLiteral("no such font"));
+        families += name;
+        if (const QString similar = SystemMatch(name); similar != unknown)
+            families += similar;
+    }
+    for (const QLatin1String& fallback : Fallbacks)
+        families += fallback;
+    families.removeDuplicates();
+    return families;
 }
 
 } // namespace
@@ -51,10 +101,7 @@ int PixelSize(double points, double pixelsPerInch)
 QFont DrawnFont(const TextFont& font, double pixelsPerInch)
 {
     QFont drawn;
-    if (IsSubstituted(font.Name))
-        drawn.setFamilies({Substitute()});
-    else
-        drawn.setFamilies({font.Name, Substitute()});
+    drawn.setFamilies(Families(font.Name));
     drawn.setPixelSize(PixelSize(font.Size, pixelsPerInch));
     drawn.setBold(font.Bold);
     drawn.setItalic(font.Italic);

@@ -39,9 +39,11 @@ inline constexpr double CardPixelsPerInch = 96;
 /// Points in whole pixels: 7 points are 9 pixels of a card.
 [[nodiscard]] int PixelSize(double points, double pixelsPerInch = CardPixelsPerInch);
 
-/// The font for QPainter. "Small Fonts" and "Arial" are replaced by Liberation Sans, which also replaces
-/// fonts that are not installed. Without hinting, so that widths scale exactly, and without kerning and
-/// ligatures, so that text width is the sum of character widths.
+/// The font for QPainter. Common fonts are replaced by those of the Liberation family with the same widths
+/// ("Small Fonts" by Liberation Sans), others that are not installed by a similar one of the system, else by
+/// Liberation Sans. Letters that a font lacks come from the same fonts on every machine. Without hinting, so
+/// that widths scale exactly, and without kerning and ligatures, so that text width is the sum of character
+/// widths.
 [[nodiscard]] QFont DrawnFont(const TextFont& font, double pixelsPerInch = CardPixelsPerInch);
 
 /// The text as it is measured and drawn: control characters, tabs included, become blanks, and soft hyphens

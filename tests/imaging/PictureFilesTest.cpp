@@ -171,7 +171,7 @@ TEST_F(PictureFiles, TheContentDecidesTheFormatNotTheName)
 TEST_F(PictureFiles, ReadsTheVariantsOfEachFormat)
 {
     // Compressed, progressive, interlaced, with old headers, bit fields, four colours, several pictures.
-    for (const QString format : {"bmp", "jpeg", "gif", "wmf"}) {
+    for (const QString format : {"bmp", "jpeg", "gif", "wmf", "png", "webp", "tiff", "svg", "heif"}) {
         QDirIterator seeds(DECKFORGE_SOURCE_DIR "/fuzz/corpus/" + format, QDir::Files);
         EXPECT_TRUE(seeds.hasNext()) << format.toStdString();
         while (seeds.hasNext()) {
@@ -192,7 +192,6 @@ TEST_F(PictureFiles, InvalidFilesAreRejectedAndUnusualOnesRead)
     const std::tuple<const char*, QByteArray, int> rows[] = {
         {"a text", "no picture at all", 481},
         {"nothing", "", 481},
-        {"a PNG", Encoded("PNG"), 481},
         {"two letters", "BM", 481},
         {"an empty JPEG", "\xFF\xD8\xFF\xD9", 481},
         {"bytes behind a BMP", bmp + QByteArray(5000, 7), 0},
