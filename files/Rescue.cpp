@@ -111,13 +111,13 @@ std::optional<QString> UnsavedWork::Leave(const CardSet& set, const QString& toO
     }
     const QString path = Rescue(set, toOpen);
     m_leftFile = std::exchange(m_own, std::nullopt);
-    m_leftHash = Hash(set, Unwritable::Replace);
+    m_leftHash = Hash(set, Unwritable::Cut);
     return path;
 }
 
 bool UnsavedWork::ReturnTo(const CardSet& set)
 {
-    if (!m_leftFile || Hash(set, Unwritable::Replace) != m_leftHash)
+    if (!m_leftFile || Hash(set, Unwritable::Cut) != m_leftHash)
         return false;
     m_own = std::exchange(m_leftFile, std::nullopt);
     return true;
@@ -128,7 +128,7 @@ QString UnsavedWork::Rescue(const CardSet& set, const QString& toOpen)
     CardSet rescued = set;
     if (set.File)
         rescued.Header.FileName = set.File->Path; // the save dialog proposes it for the rescued set
-    const QByteArray bytes = SetFileBytes(rescued, Unwritable::Replace);
+    const QByteArray bytes = SetFileBytes(rescued, Unwritable::Cut);
     for (const QString& folder : {m_programFolder, m_setFolder}) {
         try {
             if (!folder.isEmpty())

@@ -20,7 +20,7 @@ namespace deckforge {
 /// The rescue file is "rescued.dkf" in the program's folder, else in the folder of the set's file, else in a
 /// private folder below the temporary one. Earlier rescued sets are renumbered from "rescued-1.dkf" (the
 /// latest) to "rescued-9.dkf"; the tenth is removed. Writing the rescue file again replaces it even if
-/// another program has renumbered it. Texts that a set file cannot hold are changed (Unwritable::Replace).
+/// another program has renumbered it. Texts that are too long for a set file are cut.
 class UnsavedWork {
 public:
     /// The rescue file is rewritten after a change if it is older than `renewAfter`.

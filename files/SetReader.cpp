@@ -3,6 +3,7 @@
 #include "files/SetReader.h"
 
 #include "files/StoredPath.h"
+#include "files/TextEscapes.h"
 #include "platform/CodePage.h"
 #include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
@@ -43,7 +44,7 @@ void SetReader::Text(QString& field, setFile::Since since, const QString& before
         return;
     }
     const QByteArrayView line = Line();
-    field = line.isEmpty() || m_skipsTexts ? QString() : FromCodePage(line);
+    field = line.isEmpty() || m_skipsTexts ? QString() : Unescaped(FromCodePage(line));
 }
 
 void SetReader::Flattened(QString& field)
@@ -55,13 +56,12 @@ void SetReader::Flattened(QString& field)
     QByteArray lines;
     for (qsizetype end = 0; (end = rest.indexOf(setFile::FlattenedBreak)) >= 0; rest = rest.sliced(end + 1))
         lines.append(rest.first(end)).append(setFile::LineEnd, sizeof(setFile::LineEnd) - 1);
-    field = FromCodePage(lines.append(rest));
+    field = Unescaped(FromCodePage(lines.append(rest)));
 }
 
 void SetReader::Path(QString& field)
 {
-    Text(field);
-    field = PathFromStored(field);
+    field = m_skipsTexts ? (Line(), QString()) : PathFromStored(FromCodePage(Line()));
 }
 
 void SetReader::Boolean(bool& field, setFile::Since since)

@@ -2,6 +2,7 @@
 
 #include "files/SetWriter.h"
 
+#include "files/TextEscapes.h"
 #include "platform/CodePage.h"
 #include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
@@ -17,10 +18,9 @@ void SetWriter::Literal(const char* text)
 void SetWriter::Line(const QString& text)
 {
     const qsizetype start = m_bytes.size();
-    const bool canReplace = m_unwritable == Unwritable::Replace;
-    AppendInCodePage(m_bytes, text, canReplace ? Unencodable::QuestionMark : Unencodable::Reject);
+    AppendInCodePage(m_bytes, text);
     if (m_bytes.size() - start > setFile::MaxLineBytes) {
-        if (!canReplace)
+        if (m_unwritable == Unwritable::Fail)
             setFile::ThrowLongLine();
         m_bytes.truncate(start + setFile::MaxLineBytes);
     }
@@ -29,16 +29,12 @@ void SetWriter::Line(const QString& text)
 
 void SetWriter::Text(const QString& text, setFile::Since /*since*/, const QString& /*before*/)
 {
-    if (m_unwritable == Unwritable::Fail && text.contains(QLatin1String(setFile::LineEnd))) {
-        throw RunTimeError(ErrorNumber::InvalidCall,
-                           QStringLiteral("The text \"%1\" holds a line break").arg(text));
-    }
-    Line(QString(text).replace(QLatin1String(setFile::LineEnd), QLatin1String(" ")));
+    Line(Escaped(text));
 }
 
 void SetWriter::Flattened(const QString& text)
 {
-    Line(QString(text).replace(QLatin1String(setFile::LineEnd), QString(setFile::FlattenedBreak)));
+    Line(Escaped(QString(text).replace(QLatin1String(setFile::LineEnd), QString(setFile::FlattenedBreak))));
 }
 
 void SetWriter::Integer(int32 value, setFile::Since /*since*/, int32 /*before*/)

@@ -10,12 +10,10 @@
 
 namespace deckforge {
 
-/// How to write a text that a set file cannot hold: with a character outside the code page, a line break in a
-/// field of one line, or more than MaxLineBytes. Replace writes a question mark, a space, and cuts the text.
-enum class Unwritable { Fail, Replace };
+/// How to write a text that a set file cannot hold, with more than MaxLineBytes: error 6, or cut.
+enum class Unwritable { Fail, Cut };
 
-/// Builds a set file in memory, line by line. With Unwritable::Fail a text that the file cannot hold is error
-/// 5, or error 6 if it is too long.
+/// Builds a set file in memory, line by line.
 class SetWriter {
 public:
     explicit SetWriter(Unwritable unwritable) : m_unwritable(unwritable) {}
@@ -27,7 +25,7 @@ public:
     [[nodiscard]] static bool Has(setFile::Since /*since*/) { return true; }
     void Text(const QString& text, setFile::Since /*since*/ = {}, const QString& /*before*/ = {});
     void Flattened(const QString& text);                       ///< every CR LF becomes "|"
-    void Path(const QString& path) { Text(StoredPath(path)); } ///< can hold any path
+    void Path(const QString& path) { Line(StoredPath(path)); } ///< can hold any path
     void Boolean(bool value, setFile::Since /*since*/ = {}) { Literal(value ? "True" : "False"); }
     void Integer(int32 value, setFile::Since /*since*/ = {}, int32 /*before*/ = 0);
     void Real(double value);

@@ -2,8 +2,6 @@
 
 #include "platform/CodePage.h"
 
-#include "platform/RunTimeError.h"
-
 #include <algorithm>
 #include <array>
 
@@ -30,22 +28,6 @@ bool IsSpecialByte(char16_t c)
 bool IsPlain(char16_t c)
 {
     return c <= LastPlain && !IsSpecialByte(c);
-}
-
-[[noreturn]] void RejectCharacter(QStringView text, qsizetype at)
-{
-    char32_t character = text[at].unicode();
-    qsizetype length = 1;
-    if (text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) {
-        character = QChar::surrogateToUcs4(text[at], text[at + 1]);
-        length = 2;
-    }
-    constexpr qsizetype shown = 20; // enough to find the text
-    const QString around = text.sliced(std::max<qsizetype>(0, at - shown)).left(2 * shown).toString();
-    const QString code = QString::number(static_cast<uint>(character), 16).toUpper();
-    throw RunTimeError(ErrorNumber::InvalidCall,
-                       QStringLiteral("The character \"%1\" (U+%2) of \"%3\" cannot be written in this file")
-                           .arg(text.sliced(at, length), code.rightJustified(4, QLatin1Char('0')), around));
 }
 
 } // namespace
@@ -77,7 +59,7 @@ bool IsInCodePage(QStringView text)
     });
 }
 
-void AppendInCodePage(QByteArray& bytes, QStringView text, Unencodable unencodable)
+void AppendInCodePage(QByteArray& bytes, QStringView text)
 {
     const qsizetype before = bytes.size();
     bytes.resize(before + text.size());
@@ -94,14 +76,8 @@ void AppendInCodePage(QByteArray& bytes, QStringView text, Unencodable unencodab
         if (IsPlain(c))
             continue;
         const auto special = std::find(Specials.begin(), Specials.end(), c);
-        if (special != Specials.end()) {
-            out[i] = static_cast<char>(FirstSpecial + (special - Specials.begin()));
-        } else if (unencodable == Unencodable::QuestionMark) {
-            out[i] = '?';
-        } else {
-            bytes.truncate(before);
-            RejectCharacter(text, i);
-        }
+        out[i] =
+            special == Specials.end() ? '?' : static_cast<char>(FirstSpecial + (special - Specials.begin()));
     }
 }
 

@@ -17,11 +17,7 @@ namespace deckforge {
 /// Whether the code page has every character of the text.
 [[nodiscard]] bool IsInCodePage(QStringView text);
 
-/// How to handle characters that the code page does not have.
-enum class Unencodable { Reject, QuestionMark };
-
-/// Appends the text to the bytes. With Unencodable::Reject, a character that cannot be encoded is error 5
-/// with a description that names it, and the bytes are unchanged.
-void AppendInCodePage(QByteArray& bytes, QStringView text, Unencodable unencodable = Unencodable::Reject);
+/// Appends the text to the bytes, with a question mark for a character that the code page does not have.
+void AppendInCodePage(QByteArray& bytes, QStringView text);
 
 } // namespace deckforge

@@ -4,28 +4,21 @@
 
 #include "platform/CodePage.h"
 
-#include <utility>
-
 namespace deckforge {
-
-LineWriter::~LineWriter()
-{
-    try {
-        m_file.Write(m_bytes);
-    } catch (const RunTimeError&) {
-        // The failure that ended the writing has been reported already.
-    }
-}
 
 void LineWriter::Line(const QString& text)
 {
-    AppendInCodePage(m_bytes, text);
-    m_bytes.append("\r\n");
+    m_text += text + QLatin1String("\r\n");
 }
 
 void LineWriter::Close()
 {
-    m_file.Write(std::exchange(m_bytes, {}));
+    QByteArray bytes;
+    if (IsInCodePage(m_text))
+        AppendInCodePage(bytes, m_text);
+    else
+        bytes = "\xEF\xBB\xBF" + m_text.toUtf8();
+    m_file.Write(bytes);
     m_file.Close();
 }
 

@@ -9,18 +9,13 @@
 
 namespace deckforge {
 
-/// Writes a text file line by line, with CR LF, in the single-byte code page.
+/// Writes a text file line by line, with CR LF, in the single-byte code page; with any character that this
+/// does not have, in UTF-8 with a byte order mark.
 ///
-/// The file is written when it is closed. A character that cannot be encoded is error 5, and its line is not
-/// written.
+/// The file is written when it is closed.
 class LineWriter {
 public:
     explicit LineWriter(const QString& path) : m_file(path) {}
-    /// Writes the lines before a failed one, as far as the disk allows.
-    ~LineWriter();
-    LineWriter(const LineWriter&) = delete;
-    LineWriter& operator=(const LineWriter&) = delete;
-
     /// Writes the text and a line end. Line breaks in the text are written as they are.
     void Line(const QString& text);
 
@@ -28,7 +23,7 @@ public:
 
 private:
     OutputFile m_file;
-    QByteArray m_bytes; ///< still to be written
+    QString m_text;
 };
 
 } // namespace deckforge

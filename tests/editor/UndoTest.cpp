@@ -9,7 +9,7 @@ namespace deckforge {
 
 class UndoTest : public WindowTest {
 protected:
-    QByteArray Bytes() { return SetFileBytes(Set(), Unwritable::Replace); }
+    QByteArray Bytes() { return SetFileBytes(Set(), Unwritable::Cut); }
     SetDocument& Document() { return window.Document(); }
     int StepCount() { return Document().Steps().index(); }
 };

@@ -160,15 +160,15 @@ TEST_F(RescueTest, IsWrittenBesideTheSetOrToTheTemporaryFolderIfNecessary)
     EXPECT_TRUE(QDir(Folder.Path("set")).isEmpty());
 }
 
-TEST_F(RescueTest, OnlyUnwritableTextsAreChanged)
+TEST_F(RescueTest, OnlyTextsThatAreTooLongAreChanged)
 {
-    Set.Cards[1].Title = "two\r\nlines";
-    Set.Cards[1].Info = "Łódź\r\n€";
+    Set.Cards[1].Title = QString(100'000, 'x');
+    Set.Cards[1].Info = "Łódź";
     RescueAs("mended");
     const QByteArray bytes = Folder.Read("rescued.dkf");
-    EXPECT_TRUE(bytes.contains("\r\ntwo lines\r\n"));
-    EXPECT_TRUE(bytes.contains("\r\n?\xF3"
-                               "d?|\x80\r\n"));
+    EXPECT_TRUE(bytes.contains("\r\n" + QByteArray(1 << 16, 'x') + "\r\n"));
+    EXPECT_TRUE(bytes.contains("\r\n\\u{141}\xF3"
+                               "d\\u{17A}\r\n"));
     EXPECT_EQ(NameIn("rescued.dkf"), "mended");
 }
 
@@ -180,7 +180,7 @@ TEST_F(RescueTest, ASetDiffersIfItsFileContentsDiffer)
     EXPECT_FALSE(kept.Differs(Set)) << "no part of the file";
     Set.Cards[1].PictureLeft = 15;
     EXPECT_TRUE(kept.Differs(Set));
-    Set.Cards[1].Info = "ж";
+    Set.Cards[1].Info = QString(100'000, 'x');
     kept.Keep(Set);
     EXPECT_TRUE(kept.Differs(Set)) << "what cannot be written has never been";
 }
