@@ -209,8 +209,10 @@ def palette(field, dark, cuts, border_dark, ornament, ornament_deep, **emblem):
     return found
 
 
-def back(title, size, name, style, field, emblem, p, middle=None):
-    """A whole back; the emblem stands a little above the middle if there is a ribbon."""
+def back(title, size, name, style, field, emblem, p, page=None, middle=None):
+    """A whole back; the emblem stands a little above the middle if there is a ribbon.
+
+    Of a page larger than the back only the back at its top left is shown."""
     width, height = size
     centre = (width / 2, middle if middle is not None else height / 2 - (20 if name else 0))
     cut = Cut(p)
@@ -219,4 +221,6 @@ def back(title, size, name, style, field, emblem, p, middle=None):
     parts = [border(p, width, height), panel(p, width, height, centre), field(Area(width, height, centre), p), cut]
     if name:
         parts.append(ribbon(name, style, p, width, height))
-    return document(title, width, height, parts)
+    if page:
+        parts.insert(0, f'<rect width="{page[0]}" height="{page[1]}" fill="{INK}"/>')
+    return document(title, *(page or size), parts)

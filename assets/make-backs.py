@@ -63,8 +63,8 @@ WIDE_BACKS = [  # title, size, name, lettering, field, emblem, palette
      palette("#1f4f86", "#0b2448", "#123768", "#071327", "#f2d27a", "#7f7a4c", a="#f7efdc", b="#d9a93e", c="#7a4a28", e="#f0c04c", h="#b3261f")),
     ("MASTER 2", (302, 254), "Master II", "roman", backs.field_leaves, arms.oak_and_orb,
      palette("#2c6a48", "#0f3321", "#1a4a30", "#081b11", "#f0dc9a", "#7f8a4a", a="#f7efdc", b="#8fae4e", c="#6b4a2a", e="#e9b944", h="#8c2450")),
-    ("Large card", (304, 256), "", "roman", backs.field_plain, arms.great_arms,
-     palette("#8a2a24", "#8a2a24", "#8a2a24", "#2a0a0a", "#e8c060", "#a06028", a="#f2e8d0", b="#a8b0b8", c="#60442c", e="#e8c060", h="#204860")),
+    ("Large card", (302, 254), "", "roman", backs.field_plain, arms.great_arms,
+     palette("#8a2a24", "#8a2a24", "#8a2a24", "#2a0a0a", "#e8c060", "#a06028", a="#f2e8d0", b="#a8b0b8", c="#60442c", e="#e8c060", h="#204860"), (304, 256)),
 ]
 
 

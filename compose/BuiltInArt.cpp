@@ -15,7 +15,14 @@ namespace deckforge {
 
 namespace {
 
-constexpr qsizetype CacheBytes = qsizetype(32) << 20;
+/// All backs of a set at low scales, a dozen at scale 16.
+qsizetype CacheBytes(int scale)
+{
+    constexpr qsizetype least = qsizetype(32) << 20;
+    constexpr qsizetype perScale = qsizetype(3) << 19;
+    return std::max(least, perScale * scale * scale);
+}
+
 constexpr QSize CardArtSize = {150, 254};
 constexpr QSize DoubleArtSize = {302, 254};
 constexpr QSize LargeBackArtSize = DoubleCardSize;
@@ -25,7 +32,10 @@ constexpr std::array PaletteBacks = {15, 16, 18};
 
 } // namespace
 
-BuiltInArt::BuiltInArt(int scale) : m_scale(scale), m_rendered(CacheBytes) {}
+BuiltInArt::BuiltInArt(int scale, int fineness)
+    : m_scale(scale), m_fineness(fineness), m_rendered(CacheBytes(scale))
+{
+}
 
 Picture BuiltInArt::imgCB(int index)
 {
@@ -50,9 +60,10 @@ Picture BuiltInArt::picCharacter()
     return Rendered(QStringLiteral("picCharacter.svg"), DoubleArtSize);
 }
 
-Picture BuiltInArt::picBackTemplate()
+Picture BuiltInArt::picBackTemplate(int fineness)
 {
-    return Rendered(QStringLiteral("picBackTemplate.svg"), BackTemplateSize, Depth::BlackAndWhite);
+    return Rendered(QStringLiteral("picBackTemplate.svg"), BackTemplateSize, Depth::BlackAndWhite,
+                    m_scale * fineness);
 }
 
 Picture BuiltInArt::picBack()
@@ -62,15 +73,26 @@ Picture BuiltInArt::picBack()
 
 Picture BuiltInArt::Rendered(const QString& name, QSize size, Depth depth)
 {
-    if (const Picture* kept = m_rendered.object(name))
+    if (m_scale > 1)
+        return Rendered(name, size, Depth::TrueColour, m_scale);
+    const Picture natural = Rendered(name, size, depth, 1);
+    if (m_fineness == 1)
+        return natural;
+    return Picture(natural.Pixels(), Rendered(name, size, Depth::TrueColour, m_fineness));
+}
+
+Picture BuiltInArt::Rendered(const QString& name, QSize size, Depth depth, int scale)
+{
+    const QString key = name + QString::number(scale);
+    if (const Picture* kept = m_rendered.object(key))
         return *kept;
-    QImage image(size * m_scale, QImage::Format_RGB32);
+    QImage image(size * scale, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     QSvgRenderer(QStringLiteral(":/deckforge/") + name).render(&painter);
     painter.end();
-    Picture picture(AtDepth(image, depth), m_scale);
-    m_rendered.insert(name, new Picture(picture), image.sizeInBytes());
+    const Picture picture(AtDepth(image, depth), scale);
+    m_rendered.insert(key, new Picture(picture), std::min(image.sizeInBytes(), m_rendered.maxCost()));
     return picture;
 }
 

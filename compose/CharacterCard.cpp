@@ -189,6 +189,18 @@ void ShowPictureFrame(CharacterTemplate& t, bool visible)
     PlaceTexts(t);
 }
 
+namespace {
+
+/// A value of two digits is printed smaller if the strip is too short for it.
+void FitFont(PictureBox& strip, const QString& text)
+{
+    constexpr double pixel = 0.75; // in points
+    while (strip.TextWidth(text) > strip.Width() && strip.Font().Size > 2 * pixel)
+        strip.SetFontSize(strip.Font().Size - pixel);
+}
+
+} // namespace
+
 void DrawCharAttribute(CharacterTemplate& t, PictureBox& picCharAttribute, int index, const QString& value)
 {
     const auto row = static_cast<std::size_t>(index);
@@ -196,8 +208,11 @@ void DrawCharAttribute(CharacterTemplate& t, PictureBox& picCharAttribute, int i
     const QString text = AttributeText(QString::fromLatin1(strip.Word), value);
     picCharAttribute.SetPicture({});
     picCharAttribute.ForeColor = strip.ForeColor;
+    const double points = picCharAttribute.Font().Size;
+    FitFont(picCharAttribute, text);
     PrintAt(picCharAttribute, picCharAttribute.Width() / 2.0 - picCharAttribute.TextWidth(text) / 2,
             picCharAttribute.Height() / 2.0 - picCharAttribute.TextHeight(text) / 2, text);
+    picCharAttribute.SetFontSize(points);
     picCharAttribute.Freeze();
     RotatePicture(picCharAttribute, *t.picCharAttrDisp[row].Surface, strip.Direction);
 }

@@ -4,6 +4,7 @@
 
 #include "compose/CardPainting.h"
 #include "compose/FontScheme.h"
+#include "imaging/Resampling.h"
 #include "imaging/modRotatePic.h"
 #include "platform/Numbers.h"
 
@@ -83,6 +84,19 @@ void ColourTemplate(PictureBox& picNewBack, const NewCardBack& back)
     FillFrame(picNewBack, back.FrameColor, temporary.Frame);
 }
 
+/// Filling needs edges without grey. Above scale 1 the template is filled at a finer scale and reduced, so
+/// that the edges of the colours are smooth.
+Picture ColouredTemplate(BuiltInArt& art, const NewCardBack& back, QSize size, int scale)
+{
+    constexpr int finest = 16;
+    const int fineness = scale == 1 ? 1 : std::clamp(finest / scale, 1, 4);
+    PictureBox surface(size, scale * fineness);
+    surface.SetPicture(art.picBackTemplate(fineness));
+    ColourTemplate(surface, back);
+    const QImage filled = surface.Image().Pixels();
+    return Picture(fineness == 1 ? filled : Resampled(filled, filled.rect(), size * scale), scale);
+}
+
 void SizeBackTitle(Box& lblBackTitle, const PictureBox& measure)
 {
     double width = 0;
@@ -134,8 +148,7 @@ void ShowNewCardBack(Workshop& workshop, int16 index)
     if (back.UsePicture) {
         picNewBack.SetPicture(workshop.Pictures.LoadPicture(back.Picture));
     } else {
-        picNewBack.SetPicture(workshop.Art.picBackTemplate());
-        ColourTemplate(picNewBack, back);
+        picNewBack.SetPicture(ColouredTemplate(workshop.Art, back, picNewBack.Size(), picNewBack.Scale()));
     }
     picNewBack.Freeze();
 }

@@ -4,6 +4,7 @@
 
 #include "compose/FontScheme.h"
 #include "compose/StandardCard.h"
+#include "core/PictureFolders.h"
 #include "core/modInfo.h"
 
 namespace deckforge {
@@ -49,6 +50,7 @@ ViewFailures InitForm(Workshop& workshop)
 std::optional<RunTimeError> ShowSet(Workshop& workshop)
 {
     CardTemplate& card = workshop.Templates.Standard;
+    workshop.Pictures.SearchIn(FoldersOfPictures(workshop.Set));
     std::optional<RunTimeError> failure;
     Picture symbol;
     try {

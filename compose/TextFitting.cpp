@@ -4,8 +4,10 @@
 
 #include "platform/Numbers.h"
 
+#include <QTextBoundaryFinder>
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace deckforge {
 
@@ -14,6 +16,39 @@ namespace {
 constexpr QStringView BreakCharacters = u" .:,;-_!?()/&%<>+*@$[]{}";
 constexpr QStringView LineBreak = u"\r\n";
 
+/// Scripts without blanks between words.
+bool IsIdeographic(QChar c)
+{
+    switch (c.script()) {
+    case QChar::Script_Han:
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+        return true;
+    default:
+        return c.isHighSurrogate() ||
+               (c.unicode() >= 0x3000 && c.unicode() <= 0x303F); // rare ideographs, punctuation
+    }
+}
+
+/// The places where a text without blanks may break: between ideographs, but not before a full stop or
+/// closing bracket.
+std::vector<bool> IdeographicBreaks(QStringView line)
+{
+    if (std::none_of(line.begin(), line.end(), IsIdeographic))
+        return {};
+    std::vector<bool> breaks(static_cast<std::size_t>(line.size()) + 1);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, line.toString());
+    for (qsizetype at = finder.toNextBoundary(); at > 0 && at < line.size(); at = finder.toNextBoundary())
+        breaks[static_cast<std::size_t>(at)] = IsIdeographic(line[at]) || IsIdeographic(line[at - 1]);
+    return breaks;
+}
+
+/// The number of characters of the code point at a place.
+qsizetype PointLength(QStringView line, qsizetype at)
+{
+    return line[at].isHighSurrogate() && at + 1 < line.size() && line[at + 1].isLowSurrogate() ? 2 : 1;
+}
+
 } // namespace
 
 qsizetype BreakPosition(const PictureBox& surface, QStringView line, int width)
@@ -21,20 +56,24 @@ qsizetype BreakPosition(const PictureBox& surface, QStringView line, int width)
     qsizetype pos = 0;
     qsizetype brk = 0;
     double printed = 0;
+    const std::vector<bool> ideographic = IdeographicBreaks(line);
     while (pos < line.size()) {
-        ++pos;
+        if (!ideographic.empty() && ideographic[static_cast<std::size_t>(pos)])
+            brk = pos;
+        const qsizetype length = PointLength(line, pos);
+        pos += length;
         // The break test comes first, so a break character that overflows stays on the line.
         if (BreakCharacters.contains(line[pos - 1]))
             brk = pos;
-        printed += surface.TextWidth(line.sliced(pos - 1, 1));
+        printed += surface.TextWidth(line.sliced(pos - length, length));
         if (printed >= width) {
-            --pos;
+            pos -= length;
             break;
         }
     }
     if (pos == line.size() || brk == 0)
         brk = pos;
-    return std::max<qsizetype>(brk, std::min<qsizetype>(1, line.size()));
+    return brk > 0 || line.isEmpty() ? brk : PointLength(line, 0);
 }
 
 void WrapAndPrint(PictureBox& surface, const QString& text, const TextColumn& column)

@@ -2,6 +2,8 @@
 
 #include "compose/Workshop.h"
 
+#include <algorithm>
+
 namespace deckforge {
 
 namespace {
@@ -30,10 +32,10 @@ WorkSurfaces::WorkSurfaces(int scale)
     picCharAttribute.SetBackColor(Black);
 }
 
-Workshop::Workshop(int scale)
+Workshop::Workshop(int scale, int fineness)
     : Templates(scale),
       Surfaces(scale), Carried{.Card = Surfaces.picACard.Pen(), .Piece = Surfaces.picACardPP.Pen()},
-      Art(scale)
+      Art(scale, fineness), Pictures(std::max(scale, fineness))
 {
     Templates.Standard.picBack.Surface->SetPicture(Art.picBack());
     Templates.Character.picCharacter.Surface->SetPicture(Art.picCharacter());

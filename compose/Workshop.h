@@ -59,9 +59,10 @@ struct PictureProblem {
 };
 
 /// The set with its templates, surfaces, art and pictures, with or without a window. Scale is the number of
-/// physical pixels per pixel of the surfaces.
+/// physical pixels per pixel of the surfaces; art and pictures are loaded for previews of the fineness as
+/// well.
 struct Workshop {
-    explicit Workshop(int scale = 1);
+    explicit Workshop(int scale = 1, int fineness = 1);
 
     CardSet Set;
     CardTemplates Templates;

@@ -50,7 +50,7 @@ void PaintLabel(QPainter& painter, const Box& box, const QRect& place)
 
 void PaintSurface(QPainter& painter, const PictureBox& surface, const QRect& content)
 {
-    painter.drawImage(QRect(content.topLeft(), surface.Size()), surface.Image().Pixels());
+    surface.ShowOn(painter, content.topLeft(), static_cast<int>(std::ceil(painter.deviceTransform().m11())));
 }
 
 void PaintBorder(QPainter& painter, const QRect& place)

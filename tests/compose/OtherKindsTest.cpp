@@ -77,7 +77,19 @@ TEST_F(OtherKindsTest, ThePieceNameIsPrintedInThePreviousFontAndThePieceFontIsSe
                  {{9, 24, ColourOfPlace(0, 20)}, {9 + 131, 24 + 221, ColourOfPlace(131, 241)}});
 }
 
-TEST_F(OtherKindsTest, ABackHasOnlyItsThreeColoursAtEveryScale)
+TEST_F(OtherKindsTest, AnAttributeOfTwoDigitsFitsItsStrip)
+{
+    CharacterTemplate& boxes = Shop.Templates.Character;
+    for (const int strip : {0, 2}) {
+        DrawCharAttribute(boxes, Shop.Surfaces.picCharAttribute, strip, "10");
+        const QRect ink =
+            InkIn(*boxes.picCharAttrDisp[static_cast<std::size_t>(strip)].Surface, {0, 0, 12, 52}, Black);
+        EXPECT_GE(ink.top(), 1) << strip;
+        EXPECT_LE(ink.bottom(), 50) << strip;
+    }
+}
+
+TEST_F(OtherKindsTest, ABackHasItsThreeColoursAndAboveScale1SmoothEdges)
 {
     Back().BackText.clear();
     const QPoint pieces[] = {{17, 15},  {54, 13},  {88, 13},   {124, 13},  {160, 13},  {191, 13},
@@ -99,10 +111,11 @@ TEST_F(OtherKindsTest, ABackHasOnlyItsThreeColoursAtEveryScale)
             const PictureBox& design = *shop.Templates.NewBack.picNewBack.Surface;
             const QImage pixels = design.Image().Pixels();
             EXPECT_EQ(pixels.size(), QSize(254, 150) * scale);
-            EXPECT_TRUE(Where(pixels.rect(), [&](int x, int y) {
-                            const Colour colour = FromRgb(pixels.pixel(x, y));
-                            return colour != 0x102030 && colour != 0x405060 && colour != outer;
-                        }).isNull());
+            const QRect between = Where(pixels.rect(), [&](int x, int y) {
+                const Colour colour = FromRgb(pixels.pixel(x, y));
+                return colour != 0x102030 && colour != 0x405060 && colour != outer;
+            });
+            EXPECT_EQ(between.isNull(), scale == 1);
             ExpectPixels(design, {{1, 1, outer}, {50, 50, 0x102030}});
             for (const QPoint piece : pieces)
                 EXPECT_EQ(design.GetPixel(piece.x(), piece.y()), 0x405060) << piece.x();

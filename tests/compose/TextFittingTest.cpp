@@ -51,6 +51,20 @@ TEST(TextFitting, LinesBreakBehindTheLastBreakCharacterThatFits)
         EXPECT_EQ(Broken(text, letters).join('|'), lines) << why;
 }
 
+TEST(TextFitting, TextsWithoutBlanksBreakBetweenIdeographs)
+{
+    for (int letters = 2; letters < 12; ++letters) {
+        const QString text = "mm漢字、漢字漢字🐉🐉か。mm-字";
+        const QStringList lines = Broken(text, letters);
+        EXPECT_EQ(lines.join(QString()), text);
+        for (const QString& line : lines) {
+            EXPECT_FALSE(line.front().isLowSurrogate()) << "half a letter";
+            EXPECT_TRUE(letters < 4 || (line.front() != u'、' && line.front() != u'。')) << letters;
+        }
+    }
+    EXPECT_EQ(Broken("mm mm漢字", 6).front(), "mm mm漢") << "not at the blank";
+}
+
 TEST(TextFitting, EmptyLinesHaveTheLineHeightAndCentredOnesAreCentred)
 {
     PictureBox surface(QSize(40, 60));
