@@ -8,6 +8,7 @@
 #include "commands/SetCommands.h"
 #include "compose/NewBack.h"
 #include "compose/StandardCard.h"
+#include "exchange/Pack.h"
 #include "output/Statistics.h"
 #include "output/modCapture.h"
 #include "platform/Files.h"
@@ -234,6 +235,17 @@ ExitStatus RunBacks(const QStringList& paths, const QCommandLineParser& /*parser
     });
 }
 
+ExitStatus RunPack(const QStringList& paths, const QCommandLineParser& /*parser*/)
+{
+    return RunOnTexts(paths[0], [&](CardSet& set, UserPort& user) {
+        const PackOutcome outcome = PackSet(set, paths[0], AbsolutePath(paths[1]));
+        user.ReportProblems(outcome.Problems);
+        ShowBox(user, BoxStyle::Information, "Pack",
+                QStringLiteral("The set is packed with %1 pictures.").arg(outcome.Copied));
+        return true;
+    });
+}
+
 /// A command and what it takes.
 struct Command {
     const char* Name;
@@ -252,6 +264,7 @@ constexpr Command Commands[] = {
     {"statistics", 1, "", RunStatistics},
     {"print", 2, "kind index resolution", RunPrint},
     {"backs", 1, "", RunBacks},
+    {"pack", 2, "", RunPack},
 };
 
 const Command& CommandNamed(const QString& name)

@@ -20,6 +20,7 @@ const char Usage[] = R"(Usage:
   deckforge-batch statistics SET.dkf
   deckforge-batch print SET.dkf OUT.pdf --kind card|large|character --index N [--resolution DOTS]
   deckforge-batch backs DIR
+  deckforge-batch pack SET.dkf FOLDER
   deckforge-batch --help | --version
 
   new         writes a new card set with one card
@@ -31,6 +32,7 @@ const char Usage[] = R"(Usage:
   statistics  prints how many cards of each type and back there are
   print       writes the page that the window prints of one card, with its back, as a PDF file
   backs       writes the built-in card backs to a folder
+  pack        writes a copy of the set with all its pictures to an empty or new folder, which works anywhere
 
   --kind      the kind of card; all where it is not given
   --to        the folder to write to, for this run; it is made if it is not there
