@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "imaging/PictureFormats.h"
 #include "platform/UserPort.h"
 
 namespace deckforge {
@@ -12,8 +13,11 @@ namespace deckforge {
 {
     return {.Title = QString::fromLatin1(title),
             .FileName = {},
-            .Filter = QStringLiteral("All files(*.*)|*.*|Picture files (*.bmp;*.jpg;*.gif;*.wmf)"
-                                     "|*.bmp;*.jpg;*.gif;*.wmf"),
+            .Filter =
+                QStringLiteral("All pictures|%1|All files(*.*)|*.*|Picture files (*.bmp;*.jpg;*.gif;*.wmf)"
+                               "|*.bmp;*.jpg;*.gif;*.wmf")
+                    .arg(QStringLiteral("*.") + PictureSuffixes().join(QLatin1String(";*."))),
+            .FilterIndex = 1,
             .DefaultExtension = QStringLiteral("bmp")};
 }
 

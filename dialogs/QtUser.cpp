@@ -300,7 +300,7 @@ void QtUser::Prepare(QFileDialog& dialog, const FileDialogRequest& request) cons
     if (!request.Filter.isEmpty()) {
         const QStringList filters = NameFilters(request.Filter);
         dialog.setNameFilters(filters);
-        dialog.selectNameFilter(filters.value(1));
+        dialog.selectNameFilter(filters.value(request.FilterIndex - 1));
     }
     dialog.resize(Letters(dialog, 120, 30).expandedTo(dialog.sizeHint()));
     WidenColumns(dialog);

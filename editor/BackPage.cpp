@@ -54,10 +54,12 @@ private:
         AddText(m_form.txtNewCardBackName, &NewCardBack::Name);
         AddText(m_form.txtBackText, &NewCardBack::BackText, {.Changed = changed, .QuietOnFill = true});
         AddCheck(m_form.chkNewBackPicture, &NewCardBack::UsePicture, changed);
-        AddPicture({m_form.cmdGetNewBackPicture, m_form.cmdDelNewBackPicture, m_form.txtNewBackPicture},
+        AddPicture({m_form.cmdGetNewBackPicture, m_form.cmdDelNewBackPicture, m_form.txtNewBackPicture,
+                    m_form.cmdFitNewBackPicture},
                    &NewCardBack::Picture,
                    {.Title = "Choose card back picture",
                     .DropArea = &m_boxes.picNewBack,
+                    .FitSize = m_boxes.picNewBack.Surface->Size(),
                     .Changed = changed,
                     .Cleared = changed});
         AddColour({m_form.cmdColor, m_form.picInnerColor, "Choose Inner Color"},

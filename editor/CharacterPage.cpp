@@ -105,23 +105,28 @@ private:
         AddFrame(m_form.chkShowPictureCharacter, m_form.chkFrameCharacter, m_boxes,
                  m_boxes.picFrameCharacter);
         // Unlike on the other tabs the picture does not get the focus.
-        AddPicture({m_form.cmdGetCharPic, m_form.cmdDelCharPic, m_form.txtPictureCharacter},
-                   &Character::Picture,
-                   {.Title = "Choose characterpicture",
-                    .Target = &m_boxes.picImageCharacter,
-                    .Frame = &m_boxes.picFrameCharacter});
-        AddPicture({m_form.cmdBackCharPic, m_form.cmdDelBackCharPic, m_form.txtBackgroundCharacter},
+        AddPicture(
+            {m_form.cmdGetCharPic, m_form.cmdDelCharPic, m_form.txtPictureCharacter, m_form.cmdFitCharPic},
+            &Character::Picture,
+            {.Title = "Choose characterpicture",
+             .Target = &m_boxes.picImageCharacter,
+             .Frame = &m_boxes.picFrameCharacter},
+            {&Character::PictureLeft, &Character::PictureTop});
+        AddPicture({m_form.cmdBackCharPic, m_form.cmdDelBackCharPic, m_form.txtBackgroundCharacter,
+                    m_form.cmdFitBackCharPic},
                    &Character::Background,
                    {.Title = "Choose background picture",
                     .Target = &m_boxes.picBackgroundChar,
                     .DropArea = &m_boxes.picCharacter});
-        AddPicture({m_form.cmdGetPlayingPiecePic, m_form.cmdDelPlayingPiecePic, m_form.txtPlayingPiece},
+        AddPicture({m_form.cmdGetPlayingPiecePic, m_form.cmdDelPlayingPiecePic, m_form.txtPlayingPiece,
+                    m_form.cmdFitPlayingPiecePic},
                    &Character::PlayingPiece,
                    {.Title = "Choose playing piece picture",
                     .Target = &m_piece.picPlayingPieceImage,
                     .Frame = &m_piece.picPlayingPieceFrame,
                     .DropArea = &m_piece.picPlayingPiece,
-                    .StartsAtFrame = false});
+                    .StartsAtFrame = false},
+                   {&Character::PlayingPieceLeft, &Character::PlayingPieceTop});
     }
 
     void FillOthers() override

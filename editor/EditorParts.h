@@ -5,6 +5,7 @@
 #include "compose/Workshop.h"
 #include "dialogs/CardPreview.h"
 #include "dialogs/Handlers.h"
+#include "editor/FitOffer.h"
 #include "editor/SetDocument.h"
 
 namespace deckforge {
@@ -15,6 +16,7 @@ struct EditorParts {
     SetDocument& Document;
     CardPreview& Preview;
     UserPort& User;
+    FitOffer& Offer;
 };
 
 /// The result of `load`; nothing if it fails.
@@ -28,9 +30,19 @@ template <class Load>
     }
 }
 
+/// The picture of a file that the user has chosen. The status bar tells why there is none, and what to do.
 [[nodiscard]] inline std::optional<Picture> LoadedPicture(EditorParts& parts, const QString& path)
 {
-    return PictureIfAny([&] { return parts.Works.Pictures.LoadPicture(path); });
+    try {
+        return parts.Works.Pictures.LoadPicture(path);
+    } catch (const RunTimeError& error) {
+        const bool isRejected = error.Number() == ErrorNumber::InvalidPicture;
+        const QString advice =
+            isRejected ? QStringLiteral(". Open it in an image editor and save it as PNG or JPEG.")
+                       : QString();
+        parts.User.ReportProblems({error.PlaceAndDescription() + advice});
+        return std::nullopt;
+    }
 }
 
 } // namespace deckforge

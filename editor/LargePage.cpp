@@ -58,14 +58,18 @@ private:
         AddFrame(m_form.chkShowPictureLarge, m_form.chkFrameLarge, m_boxes, m_boxes.picFrameLarge);
         AddCheck(m_form.chkResizeLarge, &LargeCard::Resize, [this] { ShowCurrent(); });
         AddCount(m_form.udCopyLarge, &LargeCard::Copies);
-        AddPicture({m_form.cmdGetPicLarge, m_form.cmdDelPicLarge, m_form.txtPictureLarge},
-                   &LargeCard::Picture,
-                   {.Target = &m_boxes.picImageLarge, .Frame = &m_boxes.picFrameLarge, .Changed = [this] {
-                        m_parts.Preview.FocusOn(m_boxes.picImageLarge);
-                    }});
-        AddPicture({m_form.cmdBackPicLarge, m_form.cmdDelBackPicLarge, m_form.txtBackgroundLarge},
+        AddPicture(
+            {m_form.cmdGetPicLarge, m_form.cmdDelPicLarge, m_form.txtPictureLarge, m_form.cmdFitPicLarge},
+            &LargeCard::Picture,
+            {.Target = &m_boxes.picImageLarge,
+             .Frame = &m_boxes.picFrameLarge,
+             .Changed = [this] { m_parts.Preview.FocusOn(m_boxes.picImageLarge); }},
+            {&LargeCard::PictureLeft, &LargeCard::PictureTop});
+        AddPicture({m_form.cmdBackPicLarge, m_form.cmdDelBackPicLarge, m_form.txtBackgroundLarge,
+                    m_form.cmdFitBackPicLarge},
                    &LargeCard::Background, {.Target = &m_boxes.picCardLarge});
-        AddPicture({m_form.cmdCardbackLarge, m_form.cmdDelCardbackLarge, m_form.txtCardbackLarge},
+        AddPicture({m_form.cmdCardbackLarge, m_form.cmdDelCardbackLarge, m_form.txtCardbackLarge,
+                    m_form.cmdFitCardbackLarge},
                    &LargeCard::CardBack, {.Target = &m_boxes.picBackLarge});
         AddColour({m_form.cmdColourLarge, m_form.picColourLarge, "Choose card background colour"},
                   [](LargeCard& card) -> Colour& { return card.Color; }, {.Preview = &m_boxes.picCardLarge});

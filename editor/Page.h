@@ -55,6 +55,8 @@ public:
     virtual void Copy() = 0;
     virtual void Paste() = 0;
 
+    /// Takes a pasted picture for the picture of the current record.
+    virtual void TakePicture(const QString& path) = 0;
     /// Takes a picture dropped on a box of the preview; false if the box does not belong to the page.
     virtual bool TakeDrop(const Box& box, const QString& path) = 0;
 };

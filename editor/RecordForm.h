@@ -5,6 +5,7 @@
 #include "dialogs/Choices.h"
 #include "dialogs/ColourSwatch.h"
 #include "editor/EditorParts.h"
+#include "editor/FitPicture.h"
 #include "editor/TextControl.h"
 #include "platform/Paths.h"
 
@@ -35,6 +36,7 @@ struct PictureControls {
     QAbstractButton* Choose;
     QAbstractButton* Clear;
     QLineEdit* PathBox;
+    QAbstractButton* Fit = nullptr;
 };
 
 struct PictureOptions {
@@ -44,6 +46,7 @@ struct PictureOptions {
     const Box* Frame = nullptr;    ///< contains Target, which then takes the picture's natural size
     const Box* DropArea = nullptr; ///< accepts dropped pictures, as Target and Frame do
     bool StartsAtFrame = true;     ///< a new picture starts at the top left of its frame
+    QSize FitSize = {};            ///< what a fitted picture fills, if neither Target nor Frame tells
     Handler Changed = DoNothing;
     Handler Cleared = DoNothing;
 };
@@ -71,6 +74,12 @@ public:
 
 protected:
     using ColourField = Colour& (*)(Record&);
+
+    /// The fields of a picture's place behind its frame, in twips.
+    struct PictureOffset {
+        double Record::*Left = nullptr;
+        double Record::*Top = nullptr;
+    };
 
     // Each connects controls with a field of the record. Called by the constructor of the form.
 
@@ -114,11 +123,15 @@ protected:
         });
     }
 
-    void AddPicture(PictureControls controls, QString Record::*field, PictureOptions options)
+    void AddPicture(PictureControls controls, QString Record::*field, PictureOptions options,
+                    PictureOffset offset = {})
     {
         m_fills.emplace_back(
             [controls, field](const Record& record) { ShowPath(*controls.PathBox, record.*field); });
-        const PictureRow& row = m_pictures.emplace_back(PictureRow{controls, field, std::move(options)});
+        const PictureRow& row =
+            m_pictures.emplace_back(PictureRow{controls, field, std::move(options), offset});
+        if (controls.Fit)
+            On(controls.Fit, &QAbstractButton::clicked, [this, &row] { FitPicture(row); });
         On(controls.Choose, &QAbstractButton::clicked, [this, &row] {
             if (const auto path = AskPicture(row.Options.Title, row.Controls.Choose))
                 TakePicture(row, *path);
@@ -166,6 +179,7 @@ protected:
     /// its value.
     void FillFields()
     {
+        m_parts.Offer.hide(); // it was for another record
         const QScopedValueRollback filling(m_isFilling, true);
         for (const auto& fill : m_fills)
             fill(Current());
@@ -208,6 +222,9 @@ protected:
         return false;
     }
 
+    /// Takes a picture for the first picture field.
+    void TakeFirstPicture(const QString& path) { TakePicture(m_pictures.front(), path); }
+
     template <class Sender, class Signal, class Work>
     void On(Sender* sender, Signal signal, Work work)
     {
@@ -235,12 +252,19 @@ private:
         PictureControls Controls;
         QString Record::*Field;
         PictureOptions Options;
+        PictureOffset Offset;
     };
 
     void TakePicture(const PictureRow& row, const QString& path)
     {
         Edit(row.Controls.PathBox, row.Field, path);
         m_folders.insert(row.Controls.Choose, FolderPart(path));
+        ShowTaken(row, path);
+        OfferToFit(row, path);
+    }
+
+    void ShowTaken(const PictureRow& row, const QString& path)
+    {
         if (row.Options.Target || row.Options.Show) {
             const auto picture = LoadedPicture(m_parts, path);
             ShowOnTarget(row.Options, picture);
@@ -249,6 +273,48 @@ private:
         }
         ShowPath(*row.Controls.PathBox, path);
         row.Options.Changed();
+    }
+
+    [[nodiscard]] QSize FitSizeOf(const PictureOptions& options) const
+    {
+        if (options.Frame)
+            return options.Frame->Place().size();
+        return options.Target ? options.Target->Surface->Size() : options.FitSize;
+    }
+
+    /// If the frame shows less than a quarter of the picture.
+    void OfferToFit(const PictureRow& row, const QString& path)
+    {
+        if (!row.Controls.Fit)
+            return;
+        const auto picture = PictureIfAny([&] { return m_parts.Works.Pictures.LoadPicture(path); });
+        const QSize frame = FitSizeOf(row.Options);
+        if (picture && picture->Size().width() > 2 * frame.width() &&
+            picture->Size().height() > 2 * frame.height())
+            m_parts.Offer.Offer([this, &row] { Guarded(m_parts.User, [&] { FitPicture(row); }); });
+    }
+
+    /// The fitted picture takes its frame exactly.
+    void FitPicture(const PictureRow& row)
+    {
+        QString path = Current().*row.Field;
+        if (path.isEmpty())
+            path = AskPicture(row.Options.Title, row.Controls.Choose).value_or(QString());
+        if (path.isEmpty())
+            return;
+        const auto fitted = FitToFrame(m_parts, path, FitSizeOf(row.Options), m_widget->window());
+        if (!fitted)
+            return;
+        Edit(row.Controls.PathBox, [&](Record& record) {
+            record.*row.Field = *fitted;
+            if (row.Offset.Left) {
+                record.*row.Offset.Left = 0;
+                record.*row.Offset.Top = 0;
+            }
+        });
+        if (row.Options.Frame)
+            row.Options.Target->MoveToTwips(0, 0);
+        ShowTaken(row, *fitted);
     }
 
     void ClearPicture(const PictureRow& row)

@@ -96,6 +96,7 @@ public:
         ShowCurrent();
     }
 
+    void TakePicture(const QString& path) override { this->TakeFirstPicture(path); }
     bool TakeDrop(const Box& box, const QString& path) override { return this->TakePictureOn(box, path); }
 
 protected:

@@ -93,11 +93,13 @@ private:
         AddFrame(m_form.chkShowPicture, m_form.chkFrame, m_boxes, m_boxes.picFrame);
         AddCheck(m_form.chkResize, &Card::Resize, [this] { ResizeClicked(); });
         AddCount(m_form.udCopy, &Card::Copies);
-        AddPicture({m_form.cmdGetPic, m_form.cmdDelPic, m_form.txtPicture}, &Card::Picture,
-                   {.Target = &m_boxes.picImage, .Frame = &m_boxes.picFrame, .Changed = [this] {
-                        m_parts.Preview.FocusOn(m_boxes.picImage);
-                    }});
-        AddPicture({m_form.cmdBackPic, m_form.cmdDelBackPic, m_form.txtBackground}, &Card::Background,
+        AddPicture({m_form.cmdGetPic, m_form.cmdDelPic, m_form.txtPicture, m_form.cmdFitPic}, &Card::Picture,
+                   {.Target = &m_boxes.picImage,
+                    .Frame = &m_boxes.picFrame,
+                    .Changed = [this] { m_parts.Preview.FocusOn(m_boxes.picImage); }},
+                   {&Card::PictureLeft, &Card::PictureTop});
+        AddPicture({m_form.cmdBackPic, m_form.cmdDelBackPic, m_form.txtBackground, m_form.cmdFitBackPic},
+                   &Card::Background,
                    {.Target = &m_boxes.picCard, .Changed = showArtist, .Cleared = showArtist});
         AddColour({m_form.cmdColour, m_form.picColour, "Choose card background colour"},
                   [](Card& card) -> Colour& { return card.Color; },

@@ -10,6 +10,7 @@
 #include "dialogs/TabKeys.h"
 #include "dialogs/WheelGuard.h"
 #include "editor/Commands.h"
+#include "editor/IncomingPictures.h"
 #include "editor/Page.h"
 #include "editor/PreviewController.h"
 #include "editor/SetInfoPanel.h"
@@ -20,6 +21,7 @@
 #include <QScopeGuard>
 #include <QScreen>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabBar>
@@ -28,10 +30,12 @@ namespace deckforge {
 
 frmQDW::frmQDW(UserPort& user, std::chrono::milliseconds renewRescueAfter)
     : m_document(m_works.Set, user, renewRescueAfter),
-      m_preview(new CardPreview(m_works.Templates.Boxes(), this)), m_parts{.Works = m_works,
-                                                                           .Document = m_document,
-                                                                           .Preview = *m_preview,
-                                                                           .User = user},
+      m_preview(new CardPreview(m_works.Templates.Boxes(), this)),
+      m_offer(new FitOffer(this)), m_parts{.Works = m_works,
+                                           .Document = m_document,
+                                           .Preview = *m_preview,
+                                           .User = user,
+                                           .Offer = *m_offer},
       tbCard(new QTabBar(this)), m_forms(new QStackedWidget(this)), m_progress(new QProgressBar(this)),
       m_hint(new QLabel(this))
 {
@@ -117,6 +121,7 @@ void frmQDW::BuildStatusBar()
     m_hint->setMinimumWidth(1); // elide a long text instead of widening the window
     m_hint->hide();
     statusBar()->addPermanentWidget(m_hint);
+    statusBar()->addPermanentWidget(m_offer);
     connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QWidget::setToolTip);
     for (QAbstractButton* button : m_controller->ZoomButtons())
         statusBar()->addPermanentWidget(button);
@@ -155,6 +160,9 @@ void frmQDW::BindFocus()
     bind(m_info->BoxesToReplace());
     m_info->NameLabel()->installEventFilter(this);
     GuardFromWheel(*this);
+    qApp->installEventFilter(new PicturePasteFilter(this));
+    OnSignal(m_parts.User, new QShortcut(QKeySequence::Paste, this), &QShortcut::activated, this,
+             [this] { PastePictures(); });
 }
 
 /// The available screen, less the window frame.

@@ -11,6 +11,7 @@
 #include <memory>
 
 class QLabel;
+class QMimeData;
 class QProgressBar;
 class QStackedWidget;
 class QTabBar;
@@ -67,6 +68,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Of art and pictures on the preview: up to 3x, or 2x on a display of 200 percent.
+    static constexpr int PreviewFineness = 4;
+
     // Building
     void MakeParts();
     void BuildLayout();
@@ -96,6 +100,8 @@ private:
     // Drops
     [[nodiscard]] bool TakesDrop(const QDropEvent& event) const;
     void DropPicture(const Box* box, const QString& path);
+    void TakePictures(const QMimeData& carried, const std::function<void(const QString&)>& take);
+    void PastePictures();
 
     // Help
     void ShowHelp();
@@ -103,9 +109,10 @@ private:
     void ShowOffsets();
     [[nodiscard]] bool IsBackground(QPoint point) const;
 
-    Workshop m_works;
+    Workshop m_works = Workshop(1, PreviewFineness);
     SetDocument m_document;
     CardPreview* m_preview;
+    FitOffer* m_offer;
     EditorParts m_parts;
     std::array<std::unique_ptr<Page>, 4> m_pages; ///< in the order of CardKind
     std::unique_ptr<SetInfoPanel> m_info;

@@ -2,40 +2,38 @@
 
 #include "commands/OutputCommands.h"
 #include "compose/FontScheme.h"
+#include "editor/IncomingPictures.h"
 #include "editor/Page.h"
 #include "editor/SetInfoPanel.h"
 #include "editor/frmQDW.h"
 #include "platform/Paths.h"
 
+#include <QClipboard>
 #include <QDropEvent>
-#include <QFileInfo>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
+#include <utility>
 
 namespace deckforge {
 
 namespace {
 
-/// The dropped file; empty unless there is exactly one.
-QString DroppedFile(const QDropEvent& event)
+/// The dropped set file; empty unless it is the only file.
+QString DroppedSet(const QDropEvent& event)
 {
     const QList<QUrl> urls = event.mimeData()->urls();
-    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+    const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
+    return path.endsWith(QLatin1String(".dkf"), Qt::CaseInsensitive) ? path : QString();
 }
 
-bool IsSetFile(const QString& path)
+bool HasPictures(const QDropEvent& event)
 {
-    return path.endsWith(QLatin1String(".dkf"), Qt::CaseInsensitive);
-}
-
-bool IsPictureFile(const QString& path)
-{
-    return QStringList{"bmp", "jpg", "jpeg", "gif", "wmf"}.contains(QFileInfo(path).suffix(),
-                                                                    Qt::CaseInsensitive);
+    return !IncomingPictures(*event.mimeData()).IsEmpty();
 }
 
 } // namespace
@@ -149,15 +147,13 @@ bool frmQDW::TakesDrop(const QDropEvent& event) const
 {
     if (m_isBusy) // the run uses the set
         return false;
-    const QString path = DroppedFile(event);
     const QPointF onPreview = m_preview->mapFrom(this, event.position());
-    return IsSetFile(path) || (IsPictureFile(path) && m_preview->BoxAt(onPreview) != nullptr);
+    return !DroppedSet(event).isEmpty() || (HasPictures(event) && m_preview->BoxAt(onPreview) != nullptr);
 }
 
 void frmQDW::dragEnterEvent(QDragEnterEvent* event)
 {
-    const QString path = DroppedFile(*event);
-    if (!m_isBusy && (IsSetFile(path) || IsPictureFile(path)))
+    if (!m_isBusy && (!DroppedSet(*event).isEmpty() || HasPictures(*event)))
         event->acceptProposedAction();
 }
 
@@ -171,8 +167,7 @@ void frmQDW::dropEvent(QDropEvent* event)
     if (!TakesDrop(*event))
         return;
     event->acceptProposedAction();
-    const QString path = DroppedFile(*event);
-    if (IsSetFile(path)) {
+    if (const QString path = DroppedSet(*event); !path.isEmpty()) {
         // Otherwise the drag source would wait for the answer to the question.
         QTimer::singleShot(0, this, [this, path] {
             Guarded(m_parts.User, [&] {
@@ -182,8 +177,27 @@ void frmQDW::dropEvent(QDropEvent* event)
         });
         return;
     }
-    const QPointF onPreview = m_preview->mapFrom(this, event->position());
-    Guarded(m_parts.User, [&] { DropPicture(m_preview->BoxAt(onPreview), path); });
+    const Box* const box = m_preview->BoxAt(m_preview->mapFrom(this, event->position()));
+    TakePictures(*event->mimeData(), [&](const QString& path) { DropPicture(box, path); });
+}
+
+/// The first picture is for the current card; each further one gets a new card.
+void frmQDW::TakePictures(const QMimeData& carried, const std::function<void(const QString&)>& take)
+{
+    Guarded(m_parts.User, [&] {
+        bool isFirst = true;
+        for (const QString& path : IncomingPictures(carried).Kept(m_document.Set())) {
+            if (!std::exchange(isFirst, false))
+                SelectedPage().Add();
+            take(path);
+        }
+    });
+}
+
+void frmQDW::PastePictures()
+{
+    if (const QMimeData* const copied = QGuiApplication::clipboard()->mimeData(); copied && !m_isBusy)
+        TakePictures(*copied, [this](const QString& path) { SelectedPage().TakePicture(path); });
 }
 
 /// A box that takes no picture passes it to its parent, a label to its card for example.

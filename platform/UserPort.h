@@ -25,12 +25,13 @@ struct MessageBoxRequest {
     BoxButtons Buttons = BoxButtons::Ok;
 };
 
-/// Request for an open or save dialog. Filter has "description|pattern" pairs joined by "|", of which the
-/// second is selected. Files to open must exist; a save dialog asks before it replaces a file.
+/// Request for an open or save dialog. Filter has "description|pattern" pairs joined by "|"; FilterIndex
+/// counts them from 1. Files to open must exist; a save dialog asks before it replaces a file.
 struct FileDialogRequest {
     QString Title;
     QString FileName;
     QString Filter;
+    int FilterIndex = 2;
     QString DefaultExtension;
     QString Folder = {}; ///< where the dialog starts; empty for its default
     /// The file at FileName as the program last read or wrote it; the save dialog warns if it has changed

@@ -125,10 +125,11 @@ protected:
     }
 
     /// Drops a file at a position of the window.
-    void Drop(const QString& path, QPoint place = {1, 1})
+    void Drop(const QString& path, QPoint place = {1, 1}) { Drop(QList{QUrl::fromLocalFile(path)}, place); }
+    void Drop(const QList<QUrl>& urls, QPoint place)
     {
         QMimeData file;
-        file.setUrls({QUrl::fromLocalFile(path)});
+        file.setUrls(urls);
         QDragEnterEvent enter(place, Qt::CopyAction, &file, Qt::LeftButton, {});
         QDragMoveEvent move(place, Qt::CopyAction, &file, Qt::LeftButton, {});
         QDropEvent drop(place, Qt::CopyAction, &file, Qt::LeftButton, {});

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "editor/EditorParts.h"
+
+namespace deckforge {
+
+/// Lets the user crop a picture to a frame, and writes the result and its print twin into the set's pictures
+/// folder. A picture that was fitted before starts with its photo and the part chosen then, if the photo
+/// still exists. Returns the path of the new file; nothing if cancelled.
+[[nodiscard]] std::optional<QString> FitToFrame(EditorParts& parts, const QString& path, QSize frame,
+                                                QWidget* window);
+
+/// Writes pixels that have no file into the set's pictures folder. Returns the path of the new file.
+[[nodiscard]] QString KeepPicture(const CardSet& set, const QImage& image);
+
+} // namespace deckforge
