@@ -75,7 +75,7 @@ Picture BuiltInArt::Rendered(const QString& name, QSize size, Depth depth)
 {
     if (m_scale > 1)
         return Rendered(name, size, Depth::TrueColour, m_scale);
-    const Picture natural = Rendered(name, size, depth, 1);
+    Picture natural = Rendered(name, size, depth, 1);
     if (m_fineness == 1)
         return natural;
     return Picture(natural.Pixels(), Rendered(name, size, Depth::TrueColour, m_fineness));
@@ -91,7 +91,7 @@ Picture BuiltInArt::Rendered(const QString& name, QSize size, Depth depth, int s
     QPainter painter(&image);
     QSvgRenderer(QStringLiteral(":/deckforge/") + name).render(&painter);
     painter.end();
-    const Picture picture(AtDepth(image, depth), scale);
+    Picture picture(AtDepth(image, depth), scale);
     m_rendered.insert(key, new Picture(picture), std::min(image.sizeInBytes(), m_rendered.maxCost()));
     return picture;
 }

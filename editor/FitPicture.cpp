@@ -45,7 +45,7 @@ std::optional<QString> FitToFrame(EditorParts& parts, const QString& path, QSize
 
 QString KeepPicture(const CardSet& set, const QImage& image)
 {
-    const QString path = NewPathFor(set, QStringLiteral("Picture"));
+    QString path = NewPathFor(set, QStringLiteral("Picture"));
     WritePng(image, path);
     return path;
 }

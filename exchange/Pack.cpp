@@ -78,7 +78,7 @@ private:
             m_outcome.Problems += error.At(path).PlaceAndDescription();
             return path;
         }
-        const QString name = FreeName(QFileInfo(found));
+        QString name = FreeName(QFileInfo(found));
         CopyFile(found, m_folder + name);
         for (const PrintTwin& twin : PrintTwinsOf(found)) {
             const QString stem = PrintTwinPath(QFileInfo(name).completeBaseName(), twin.Scale);
