@@ -171,7 +171,7 @@ QString PictureLoader::Find(const QString& path) const
     if (path.isEmpty() || (!isName && AttributesOf(path)))
         return path;
     for (const QString& folder : m_folders) {
-        const QString other = WithSeparator(folder) + NamePart(path);
+        QString other = WithSeparator(folder) + NamePart(path);
         if (AttributesOf(other))
             return other;
     }

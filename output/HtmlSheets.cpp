@@ -220,10 +220,11 @@ std::optional<int> WritePages(const CardSet& set, RunReport& report, const HtmlR
     if (!imageCount)
         return std::nullopt;
     const int count = cards.Count();
+    const qint64 pages = *imageCount / row.Slots + 1;
     Page page{.Header = set.Header,
               .NamePrefix = row.PagePrefix,
               .Title = QLatin1String(row.TitlePrefix) + set.Header.SetName,
-              .Count = ToInt16(static_cast<double>(*imageCount / row.Slots + 1))};
+              .Count = ToInt16(static_cast<double>(pages))};
     page.Links = LinksOf(page);
     for (int i = 1; i <= count; ++i) {
         const int copies = CopiesOf(cards[i]);
