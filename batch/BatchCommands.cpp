@@ -9,12 +9,14 @@
 #include "compose/NewBack.h"
 #include "compose/StandardCard.h"
 #include "exchange/Pack.h"
+#include "imaging/PictureLoader.h"
 #include "output/Statistics.h"
 #include "output/modCapture.h"
 #include "platform/Files.h"
 #include "platform/Version.h"
 
 #include <QDir>
+#include <algorithm>
 #include <cstdio>
 #include <limits>
 
@@ -92,7 +94,8 @@ bool WriteSetTo(CardSet& set, const QString& path, UserPort& user)
 
 /// The images of the user-designed backs, one after the other; the window makes them one by one. A back that
 /// cannot be shown is reported here; saving it has no message box for that.
-void CreateNewCardBacks(Workshop& workshop, ShownRun& run)
+/// For a twin scale above 1 the images are print twins of those at scale 1.
+void CreateNewCardBacks(Workshop& workshop, ShownRun& run, int twinScale)
 {
     CardSet& set = workshop.Set;
     for (int i = 1; i <= set.NewCardBacks.Count(); ++i) {
@@ -102,7 +105,9 @@ void CreateNewCardBacks(Workshop& workshop, ShownRun& run)
         } catch (const RunTimeError& error) {
             ShowUnhandledError(run.User, error);
         }
-        SaveImage(workshop, run, CardKind::NewBack, set.NewCardBacks.Current);
+        const auto image = SaveImage(workshop, run, CardKind::NewBack, set.NewCardBacks.Current);
+        if (image && twinScale > 1)
+            RenameFile(image->Full(), PrintTwinPath(image->Full(), twinScale));
     }
 }
 
@@ -138,21 +143,30 @@ ExitStatus RunImages(const QStringList& paths, const QCommandLineParser& parser)
     const auto kinds = KindsFrom(parser, ImageKinds);
     const int scale = NumberOption(parser, "scale", MaxScale);
     const RunSettings settings = SettingsFrom(parser);
-    return RunOnSet(paths[0], scale, [&](Workshop& workshop, UserPort& user) {
-        const SetHeader stored = workshop.Set.Header;
-        settings.ApplyTo(workshop.Set.Header);
-        {
-            ShownRun run(user);
-            for (const CardKind kind : kinds) {
-                if (kind == CardKind::NewBack)
-                    CreateNewCardBacks(workshop, run);
-                else
-                    CreateImages(workshop, run, kind);
+    const bool hasTwins = parser.isSet(QStringLiteral("twin"));
+    if (hasTwins && (scale == 1 || kinds != std::vector{CardKind::NewBack}))
+        throw WrongUse{QStringLiteral("--twin takes --kind back and a --scale above 1.")};
+    const auto runAt = [&](int runScale) {
+        return RunOnSet(paths[0], runScale, [&](Workshop& workshop, UserPort& user) {
+            const SetHeader stored = workshop.Set.Header;
+            settings.ApplyTo(workshop.Set.Header);
+            {
+                ShownRun run(user);
+                for (const CardKind kind : kinds) {
+                    if (kind == CardKind::NewBack)
+                        CreateNewCardBacks(workshop, run, hasTwins ? runScale : 1);
+                    else
+                        CreateImages(workshop, run, kind);
+                }
             }
-        }
-        workshop.Set.Header = stored;
-        return !parser.isSet(QStringLiteral("save")) || WriteSetTo(workshop.Set, paths[0], user);
-    });
+            workshop.Set.Header = stored;
+            return !parser.isSet(QStringLiteral("save")) || WriteSetTo(workshop.Set, paths[0], user);
+        });
+    };
+    if (!hasTwins)
+        return runAt(scale);
+    const ExitStatus twins = runAt(scale); // first, since both have the same names until they are renamed
+    return std::max(twins, runAt(1));
 }
 
 ExitStatus RunSheets(const QStringList& paths, const QCommandLineParser& parser)
@@ -257,7 +271,7 @@ struct Command {
 constexpr Command Commands[] = {
     {"new", 1, "", RunNew},
     {"convert", 2, "", RunConvert},
-    {"images", 1, "kind to format scale save", RunImages},
+    {"images", 1, "kind to format scale save twin", RunImages},
     {"sheets", 1, "kind columns rows to format", RunSheets},
     {"html", 1, "kind to", RunHtml},
     {"text", 2, "", RunText},

@@ -13,7 +13,7 @@ const char Usage[] = R"(Usage:
   deckforge-batch new OUT.dkf
   deckforge-batch convert SET.dkf OUT.dkf
   deckforge-batch images SET.dkf [--kind card|large|character|back|all] [--to DIR] [--format bmp|jpg|gif]
-                         [--scale N] [--save]
+                         [--scale N] [--save] [--twin]
   deckforge-batch sheets SET.dkf --kind card|large --columns C --rows R [--to DIR] [--format bmp|jpg|gif]
   deckforge-batch html SET.dkf [--kind card|large|character|piece|all] [--to DIR]
   deckforge-batch text SET.dkf OUT.txt
@@ -41,6 +41,7 @@ const char Usage[] = R"(Usage:
   --index     the number of the card among those of its kind
   --resolution  how many dots to the inch the page has, from 72 to 2400; 600 where it is not given. Margin
               and gaps of the page count dots
+  --twin      with --kind back and a scale: also writes the images at scale 1, whose print twins the others are
   --save      writes the set back with the file names that the run gave to its cards
 
 Results go to standard output, message boxes and problems to standard error. A problem is a line such as
@@ -107,6 +108,7 @@ void AddOptions(QCommandLineParser& parser)
     option("format", "FORMAT", "");
     option("scale", "N", "1");
     option("save", "", "");
+    option("twin", "", "");
 }
 
 } // namespace deckforge

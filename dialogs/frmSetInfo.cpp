@@ -5,6 +5,7 @@
 #include "compose/StandardCard.h"
 #include "core/SetTables.h"
 #include "dialogs/Choices.h"
+#include "dialogs/FitPicture.h"
 #include "dialogs/FocusSelection.h"
 #include "dialogs/Handlers.h"
 #include "dialogs/PictureView.h"
@@ -47,6 +48,10 @@ public:
         BindBacks();
         BindTypes();
         OnClick(m_user, m_form.cmdBGPic, this, [this] { ChooseBackground(); });
+        OnClick(m_user, m_form.cmdBGFit, this, [this] {
+            if (const auto path = Fitted(m_set.LastBackground, {}))
+                TakeBackground(*path);
+        });
         for (QLineEdit* box : {m_form.txtCBName, m_form.txtCTName, m_form.txtCTName2, m_form.txtCTNameRev,
                                m_form.txtCTNameRev2, m_form.txtCTNumber})
             box->installEventFilter(this);
@@ -103,6 +108,10 @@ private:
         OnSignal(m_user, rename, &QShortcut::activated, this, [this] { RenameBack(); });
         OnSignal(m_user, m_form.cboCBDefault, &QComboBox::activated, this, [this] { DefaultBackChosen(); });
         OnClick(m_user, m_form.cmdCBPic, this, [this] { ChooseBackPicture(); });
+        OnClick(m_user, m_form.cmdCBFit, this, [this] {
+            if (const auto path = Fitted(m_form.txtCBPicture->text(), m_lastBackFile))
+                TakeBackPicture(*path);
+        });
         OnClick(m_user, m_form.cmdCBAdd, this, [this] { AddBack(); });
         OnClick(m_user, m_form.cmdCBDelete, this, [this] { DeleteSelected(*m_form.lstCB, DeleteOwnBack); });
         connect(m_form.txtCBName, &QLineEdit::textEdited, m_form.cmdCBAdd,
@@ -228,14 +237,28 @@ private:
 
     void ChooseBackPicture()
     {
-        const auto path = AskPicture(m_lastBackFile);
-        if (!path)
-            return;
-        m_lastBackFile = *path;
-        ShowFile(*m_form.picCB, *path);
-        ShowPath(*m_form.txtCBPicture, *path);
+        if (const auto path = AskPicture(m_lastBackFile)) {
+            m_lastBackFile = *path;
+            TakeBackPicture(*path);
+        }
+    }
+
+    void TakeBackPicture(const QString& path)
+    {
+        ShowFile(*m_form.picCB, path);
+        ShowPath(*m_form.txtCBPicture, path);
         m_form.txtCBName->clear();
         m_form.txtCBName->setFocus();
+    }
+
+    /// The picture, or one to be chosen, cropped to what a card shows of it; nothing if cancelled.
+    [[nodiscard]] std::optional<QString> Fitted(const QString& path, const QString& lastFile)
+    {
+        constexpr QSize shown = {150, 254};
+        const QString photo = path.isEmpty() ? AskPicture(lastFile).value_or(QString()) : path;
+        if (photo.isEmpty())
+            return std::nullopt;
+        return FitToFrame(m_set, m_pictures, photo, shown, this);
     }
 
     void AddBack()
@@ -285,12 +308,15 @@ private:
 
     void ChooseBackground()
     {
-        const auto path = AskPicture({});
-        if (!path)
-            return;
-        m_set.LastBackground = *path;
-        ShowPath(*m_form.txtBackground, *path);
-        ShowFile(*m_form.picBackground, *path);
+        if (const auto path = AskPicture({}))
+            TakeBackground(*path);
+    }
+
+    void TakeBackground(const QString& path)
+    {
+        m_set.LastBackground = path;
+        ShowPath(*m_form.txtBackground, path);
+        ShowFile(*m_form.picBackground, path);
     }
 
     CardSet& m_set;

@@ -2,7 +2,7 @@
 
 #include "editor/IncomingPictures.h"
 
-#include "editor/FitPicture.h"
+#include "dialogs/FitPicture.h"
 #include "imaging/PictureFormats.h"
 
 #include <QClipboard>

@@ -4,8 +4,8 @@
 
 #include "dialogs/Choices.h"
 #include "dialogs/ColourSwatch.h"
+#include "dialogs/FitPicture.h"
 #include "editor/EditorParts.h"
-#include "editor/FitPicture.h"
 #include "editor/TextControl.h"
 #include "platform/Paths.h"
 
@@ -302,7 +302,8 @@ private:
             path = AskPicture(row.Options.Title, row.Controls.Choose).value_or(QString());
         if (path.isEmpty())
             return;
-        const auto fitted = FitToFrame(m_parts, path, FitSizeOf(row.Options), m_widget->window());
+        const auto fitted = FitToFrame(m_parts.Document.Set(), m_parts.Works.Pictures, path,
+                                       FitSizeOf(row.Options), m_widget->window());
         if (!fitted)
             return;
         Edit(row.Controls.PathBox, [&](Record& record) {

@@ -167,4 +167,30 @@ TEST_F(Batch, RejectsAWrongCommandLineAndShowsItsUsage)
     EXPECT_TRUE(Output.startsWith("Usage:"));
 }
 
+TEST_F(Batch, BacksAreWrittenWithTheirPrintTwins)
+{
+    const QString set = DECKFORGE_SOURCE_DIR "/fuzz/corpus/set/every-kind";
+    EXPECT_EQ(Run("images " + set + " --kind back --scale 2 --twin --to DIR/out --format bmp"), 0)
+        << Error.toStdString();
+    const QStringList images = QDir(Folder.Path("out")).entryList({"*.bmp"});
+    ASSERT_GE(images.size(), 2);
+    ASSERT_EQ(images.size() % 2, 0);
+    for (const QString& name : images) {
+        if (!name.contains("@2x")) {
+            EXPECT_EQ(Folder.Image("out/" + QString(name).replace(".bmp", "@2x.bmp")).size(),
+                      Folder.Image("out/" + name).size() * 2);
+        }
+    }
+    EXPECT_EQ(Run("images SET --scale 2 --twin"), 2);
+    EXPECT_EQ(Run("images SET --kind back --twin"), 2);
+}
+
+TEST_F(Batch, PackingReportsWhatItLeavesOut)
+{
+    EXPECT_EQ(Run("pack SET DIR/packed"), 0) << Error.toStdString();
+    EXPECT_TRUE(Folder.Has("packed/a.dkf"));
+    EXPECT_EQ(Run("pack SET DIR/packed"), 1);
+    EXPECT_TRUE(Error.contains("The folder is not empty")) << Error.toStdString();
+}
+
 } // namespace deckforge

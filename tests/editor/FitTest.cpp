@@ -96,6 +96,23 @@ TEST_F(FitTest, EachPictureIsFittedToItsOwnFrame)
     }
 }
 
+TEST_F(FitTest, ABackOfTheSetIsFittedInItsDialog)
+{
+    QTimer::singleShot(0, [this] {
+        root = QApplication::activeModalWidget();
+        ASSERT_NE(root, nullptr);
+        QWidget* const setInfo = root;
+        user.WillChoose(photo);
+        Fit("cmdCBFit", Qt::Key_Return, [] {});
+        root = setInfo;
+        EXPECT_EQ(Text("txtCBPicture"), pictures + "photo.png");
+        QTest::keyClick(setInfo, Qt::Key_Escape);
+    });
+    Run("setinfo");
+    root = &window;
+    EXPECT_EQ(QImage(pictures + "photo.png").size(), QSize(150, 254));
+}
+
 TEST_F(FitTest, ARejectedPictureIsNamedInTheStatusBar)
 {
     user.WillChoose(folder.Write("notes.png", "no picture"));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "editor/FitPicture.h"
+#include "dialogs/FitPicture.h"
 
 #include "core/PictureFolders.h"
 #include "dialogs/frmFit.h"
@@ -23,9 +23,9 @@ QString NewPathFor(const CardSet& set, const QString& photo)
 
 } // namespace
 
-std::optional<QString> FitToFrame(EditorParts& parts, const QString& path, QSize frame, QWidget* window)
+std::optional<QString> FitToFrame(const CardSet& set, const PictureLoader& pictures, const QString& path,
+                                  QSize frame, QWidget* window)
 {
-    const PictureLoader& pictures = parts.Works.Pictures;
     FittedFrom from = OriginOf(pictures.Find(path)).value_or(FittedFrom{});
     if (from.Photo.isEmpty() || !AttributesOf(pictures.Find(from.Photo)))
         from = {.Photo = path, .Part = {}};
@@ -38,7 +38,7 @@ std::optional<QString> FitToFrame(EditorParts& parts, const QString& path, QSize
     const std::optional<QRectF> part = ChoosePart(photo, frame, start, window);
     if (!part)
         return std::nullopt;
-    const QString fitted = NewPathFor(parts.Document.Set(), from.Photo);
+    const QString fitted = NewPathFor(set, from.Photo);
     WriteFitted(photo, {.Photo = from.Photo, .Part = *part}, frame, fitted);
     return fitted;
 }
