@@ -49,17 +49,28 @@ std::vector<Tap> Taps(int start, int length, int count, int limit)
 std::vector<float> Across(const QImage& image, int y, const std::vector<Tap>& columns)
 {
     const uchar* const bytes = image.constScanLine(y);
-    std::vector<float> row;
-    row.reserve(columns.size() * Channels);
+    std::vector<float> row(columns.size() * Channels);
+    float* sum = row.data();
     for (const Tap& tap : columns) {
-        for (int c = 0; c < Channels; ++c) {
-            float sum = 0;
-            for (std::size_t i = 0; i < tap.At.size(); ++i)
-                sum += tap.Weight[i] * static_cast<float>(bytes[tap.At[i] * Channels + c]);
-            row.push_back(sum);
+        for (std::size_t i = 0; i < tap.At.size(); ++i) {
+            for (int c = 0; c < Channels; ++c)
+                sum[c] += tap.Weight[i] * static_cast<float>(bytes[tap.At[i] * Channels + c]);
         }
+        sum += Channels;
     }
     return row;
+}
+
+/// The weighted sum of four rows of channels.
+void Blend(const std::array<const float*, 4>& rows, const std::array<float, 4>& weights, uchar* target,
+           int count)
+{
+    const auto [first, second, third, fourth] = rows;
+    const auto [a, b, c, d] = weights;
+    for (int i = 0; i < count; ++i) {
+        const float sum = 0.5F + a * first[i] + b * second[i] + c * third[i] + d * fourth[i];
+        target[i] = static_cast<uchar>(std::min(std::max(sum, 0.0F), 255.0F));
+    }
 }
 
 /// Premultiplied colours stay at most their alpha.
@@ -76,6 +87,7 @@ QImage Enlarged(const QImage& image, const QRect& part, QSize size)
     const std::vector<Tap> rows = Taps(part.y(), part.height(), size.height(), image.height());
     std::vector<std::vector<float>> lines(static_cast<std::size_t>(image.height()));
     QImage result(size, image.format());
+    const bool hasAlpha = image.hasAlphaChannel();
     for (int y = 0; y < size.height(); ++y) {
         const Tap& tap = rows[static_cast<std::size_t>(y)];
         std::array<const float*, 4> line = {};
@@ -86,14 +98,9 @@ QImage Enlarged(const QImage& image, const QRect& part, QSize size)
             line[i] = kept.data();
         }
         uchar* const target = result.scanLine(y);
-        for (int x = 0; x < size.width() * Channels; ++x) {
-            float sum = 0.5F;
-            for (std::size_t i = 0; i < line.size(); ++i)
-                sum += tap.Weight[i] * line[i][x];
-            target[x] = static_cast<uchar>(std::clamp(sum, 0.0F, 255.0F));
-            if (x % Channels == Channels - 1)
-                ClampToAlpha(target + x - (Channels - 1));
-        }
+        Blend(line, tap.Weight, target, size.width() * Channels);
+        for (int x = 0; hasAlpha && x < size.width(); ++x)
+            ClampToAlpha(target + x * Channels);
     }
     return result;
 }
