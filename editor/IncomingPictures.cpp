@@ -29,13 +29,25 @@ QStringList IncomingPictures::Kept(const CardSet& set) const
     return Pixels.isNull() ? Files : QStringList(KeepPicture(set, Pixels));
 }
 
+bool HasPictures(const QMimeData& data)
+{
+    return !IncomingPictures(data).IsEmpty();
+}
+
+QString SetFileIn(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
+    return path.endsWith(QLatin1String(".dkf"), Qt::CaseInsensitive) ? path : QString();
+}
+
 bool PicturePasteFilter::eventFilter(QObject* /*watched*/, QEvent* event)
 {
     if (event->type() != QEvent::ShortcutOverride ||
         !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste))
         return false;
     const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
-    if (data == nullptr || data->hasText() || IncomingPictures(*data).IsEmpty())
+    if (data == nullptr || data->hasText() || !HasPictures(*data))
         return false;
     event->ignore();
     return true;

@@ -24,6 +24,11 @@ struct IncomingPictures {
     QImage Pixels;
 };
 
+[[nodiscard]] bool HasPictures(const QMimeData& data);
+
+/// The path of a set file; empty unless it is the only file.
+[[nodiscard]] QString SetFileIn(const QMimeData& data);
+
 /// Lets the window paste a picture while a text box has the focus, which would take the keys and paste
 /// nothing.
 class PicturePasteFilter final : public QObject {

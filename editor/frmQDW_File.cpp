@@ -21,23 +21,6 @@
 
 namespace deckforge {
 
-namespace {
-
-/// The dropped set file; empty unless it is the only file.
-QString DroppedSet(const QDropEvent& event)
-{
-    const QList<QUrl> urls = event.mimeData()->urls();
-    const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
-    return path.endsWith(QLatin1String(".dkf"), Qt::CaseInsensitive) ? path : QString();
-}
-
-bool HasPictures(const QDropEvent& event)
-{
-    return !IncomingPictures(*event.mimeData()).IsEmpty();
-}
-
-} // namespace
-
 void frmQDW::Exit()
 {
     const Answer answer = m_document.AskToSave(BoxButtons::YesNoCancel);
@@ -148,12 +131,13 @@ bool frmQDW::TakesDrop(const QDropEvent& event) const
     if (m_isBusy) // the run uses the set
         return false;
     const QPointF onPreview = m_preview->mapFrom(this, event.position());
-    return !DroppedSet(event).isEmpty() || (HasPictures(event) && m_preview->BoxAt(onPreview) != nullptr);
+    return !SetFileIn(*event.mimeData()).isEmpty() ||
+           (HasPictures(*event.mimeData()) && m_preview->BoxAt(onPreview) != nullptr);
 }
 
 void frmQDW::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!m_isBusy && (!DroppedSet(*event).isEmpty() || HasPictures(*event)))
+    if (!m_isBusy && (!SetFileIn(*event->mimeData()).isEmpty() || HasPictures(*event->mimeData())))
         event->acceptProposedAction();
 }
 
@@ -167,7 +151,7 @@ void frmQDW::dropEvent(QDropEvent* event)
     if (!TakesDrop(*event))
         return;
     event->acceptProposedAction();
-    if (const QString path = DroppedSet(*event); !path.isEmpty()) {
+    if (const QString path = SetFileIn(*event->mimeData()); !path.isEmpty()) {
         // Otherwise the drag source would wait for the answer to the question.
         QTimer::singleShot(0, this, [this, path] {
             Guarded(m_parts.User, [&] {
