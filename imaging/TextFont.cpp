@@ -4,6 +4,7 @@
 
 #include "imaging/Owned.h"
 
+#include <QCache>
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
@@ -71,6 +72,18 @@ QStringList Families(const QString& name)
     return families;
 }
 
+/// Asking the system takes milliseconds, and labels are painted at every key press.
+QStringList KeptFamilies(const QString& name)
+{
+    constexpr int maxNames = 100; // a malicious set can have a font on each of its card backs
+    static QCache<QString, QStringList> kept(maxNames);
+    if (const QStringList* families = kept.object(name))
+        return *families;
+    QStringList families = Families(name);
+    kept.insert(name, new QStringList(families));
+    return families;
+}
+
 } // namespace
 
 const TextFont& DefaultFont()
@@ -101,7 +114,7 @@ int PixelSize(double points, double pixelsPerInch)
 QFont DrawnFont(const TextFont& font, double pixelsPerInch)
 {
     QFont drawn;
-    drawn.setFamilies(Families(font.Name));
+    drawn.setFamilies(KeptFamilies(font.Name));
     drawn.setPixelSize(PixelSize(font.Size, pixelsPerInch));
     drawn.setBold(font.Bold);
     drawn.setItalic(font.Italic);
