@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "imaging/DrawingFormat.h"
 #include "imaging/PictureDecoders.h"
 #include "platform/LimitedProcess.h"
 
@@ -27,8 +28,7 @@ QString DecoderPath()
 
 void WriteImage(const QImage& image, QIODevice& device)
 {
-    const QImage pixels = image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                                                        : QImage::Format_RGB32);
+    const QImage pixels = ForDrawing(image);
     QDataStream out(&device);
     out << pixels.size() << static_cast<qint32>(pixels.format());
     device.write(reinterpret_cast<const char*>(pixels.constBits()), pixels.sizeInBytes());

@@ -2,6 +2,7 @@
 
 #include "imaging/PictureLoader.h"
 
+#include "imaging/DrawingFormat.h"
 #include "imaging/PictureDecoders.h"
 #include "imaging/PictureFormats.h"
 #include "imaging/WmfConverter.h"
@@ -47,13 +48,6 @@ QByteArray ReadPictureFile(const QString& path)
     }
 }
 
-/// Converts to the two formats that are drawn without conversion: one for opaque pictures, one for others.
-QImage ForDrawing(QImage image)
-{
-    return std::move(image).convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                                                    : QImage::Format_RGB32);
-}
-
 QImage DecodeWithReader(QByteArray bytes, const char* format)
 {
     QBuffer buffer(&bytes);
@@ -67,7 +61,7 @@ QImage DecodeWithReader(QByteArray bytes, const char* format)
     return size.isEmpty() ? QImage() : reader.read();
 }
 
-/// Turned as the EXIF data of the file tells.
+/// Turned by the EXIF data of the file.
 QImage Upright(QImage image, QImageIOHandler::Transformations turn)
 {
     if (turn.testFlag(QImageIOHandler::TransformationMirror) ||

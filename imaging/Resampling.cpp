@@ -2,6 +2,8 @@
 
 #include "imaging/Resampling.h"
 
+#include "imaging/DrawingFormat.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -111,11 +113,7 @@ QImage Resampled(const QImage& image, const QRect& part, QSize size)
 {
     if (size.width() < part.width())
         return image.copy(part).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    const QImage::Format format =
-        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
-    if (image.format() == format)
-        return Enlarged(image, part, size);
-    return Resampled(image.convertToFormat(format), part, size);
+    return Enlarged(ForDrawing(image), part, size);
 }
 
 } // namespace deckforge
