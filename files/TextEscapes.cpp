@@ -24,7 +24,10 @@ QString Escape(char32_t character)
 QString Escaped(const QString& text)
 {
     const QLatin1String lineEnd(setFile::LineEnd);
-    if (IsInCodePage(text) && !text.contains(Opening) && !text.contains(lineEnd))
+    // Nearly all texts need nothing, and single characters are found fast.
+    const bool hasOpening = text.contains(QLatin1Char('\\')) && text.contains(Opening);
+    const bool hasLineEnd = text.contains(QLatin1Char('\r')) && text.contains(lineEnd);
+    if (IsInCodePage(text) && !hasOpening && !hasLineEnd)
         return text;
     QString escaped;
     const QString plain = QString(text)
