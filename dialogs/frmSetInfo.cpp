@@ -254,7 +254,7 @@ private:
     /// The picture, or one to be chosen, cropped to what a card shows of it; nothing if cancelled.
     [[nodiscard]] std::optional<QString> Fitted(const QString& path, const QString& lastFile)
     {
-        constexpr QSize shown = {150, 254};
+        constexpr QSize shown = CardSize - QSize(2, 2); // inside the outline of the card
         const QString photo = path.isEmpty() ? AskPicture(lastFile).value_or(QString()) : path;
         if (photo.isEmpty())
             return std::nullopt;

@@ -30,7 +30,7 @@ template <class Load>
     }
 }
 
-/// The picture of a file that the user has chosen. The status bar tells why there is none, and what to do.
+/// The picture of a file that the user has chosen. The status bar says why there is none, and what to do.
 [[nodiscard]] inline std::optional<Picture> LoadedPicture(EditorParts& parts, const QString& path)
 {
     try {

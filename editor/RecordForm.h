@@ -46,7 +46,7 @@ struct PictureOptions {
     const Box* Frame = nullptr;    ///< contains Target, which then takes the picture's natural size
     const Box* DropArea = nullptr; ///< accepts dropped pictures, as Target and Frame do
     bool StartsAtFrame = true;     ///< a new picture starts at the top left of its frame
-    QSize FitSize = {};            ///< what a fitted picture fills, if neither Target nor Frame tells
+    QSize FitSize = {};            ///< what a fitted picture fills, without Target and Frame
     Handler Changed = DoNothing;
     Handler Cleared = DoNothing;
 };

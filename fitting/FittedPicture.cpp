@@ -70,7 +70,7 @@ void WriteFitted(const QImage& photo, const FittedFrom& from, QSize frame, const
     image.setText(PartKey(), TextOfPart(from.Part));
     if (const int scale = TwinScale(from.Part.size(), frame); scale > 1)
         WritePng(Resampled(photo, part, frame * scale), PrintTwinPath(path, scale));
-    WritePng(image, path); // last: without it the twin stands for nothing
+    WritePng(image, path); // last: a twin without its picture is not used
 }
 
 std::optional<FittedFrom> OriginOf(const QString& path)

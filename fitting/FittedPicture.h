@@ -21,9 +21,8 @@ inline constexpr int MaxTwinScale = 8;
 /// The scale of the print twin of a part in a frame: the highest one that invents no pixels; 1 for none.
 [[nodiscard]] int TwinScale(QSizeF part, QSize frame);
 
-/// Writes the part of the photo at the size of the frame as a PNG file, and its print twin beside it unless
-/// its scale is
-/// 1. The files do not exist before. Nothing is left of a file that cannot be written.
+/// Writes the part of the photo at the size of the frame as a PNG file, and its print twin unless its scale
+/// would be 1. The files must not exist. Nothing is left of a file that cannot be written.
 void WriteFitted(const QImage& photo, const FittedFrom& from, QSize frame, const QString& path);
 
 /// Writes a PNG file. Nothing is left of a file that cannot be written.

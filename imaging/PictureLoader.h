@@ -40,8 +40,8 @@ public:
     /// path.
     [[nodiscard]] Picture LoadPicture(const QString& path);
 
-    /// The file that stands for a path: the path itself, or if it does not exist a file of its name in one of
-    /// the folders.
+    /// The file that is used for a path: the path itself, or if it does not exist a file of its name in one
+    /// of the folders.
     [[nodiscard]] QString Find(const QString& path) const;
 
 private:

@@ -6,7 +6,7 @@
 
 namespace deckforge {
 
-/// The configured resolution of a print queue in dots per inch; 600 if it is not specified or the program was
+/// The configured resolution of a print queue in dots per inch; 600 if it is unknown or the program was
 /// built without CUPS. Qt reports 1200 for every queue.
 [[nodiscard]] int PrinterResolution(const QString& queue);
 

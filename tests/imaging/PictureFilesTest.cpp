@@ -88,7 +88,7 @@ QByteArray BmpWithMasks(quint32 red, quint32 green, quint32 blue, quint32 pixel)
 
 // Small pictures whose decoding time grows with the size of the file.
 
-/// A GIF of 1 x 1 pixels with this many bytes of codes. Each code stands for one pixel more than the one
+/// A GIF of 1 x 1 pixels with this many bytes of codes. Each code is for one pixel more than the one
 /// before, up to thousands.
 QByteArray GifOfOnePixel(qsizetype codeBytes)
 {
